@@ -1,0 +1,79 @@
+#include "app/plataforma/Proceso.h"
+
+#include "app/plataforma/Fallo.h"
+
+#include <QApplication>
+#include <QList>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+bool g_grabando = false;
+QList<ProcesoSeam::Aviso> g_avisos;
+int g_finales = 0;
+
+void mostrarAviso(const QString& origen, const QString& descripcion)
+{
+    if (g_grabando) {
+        g_avisos.append({origen, descripcion});
+        return;
+    }
+    std::fprintf(stderr, "%s\n%s\n", qPrintable(origen), qPrintable(descripcion));
+    if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
+        QMessageBox::critical(nullptr, QStringLiteral("Veldoria"),
+                              QStringLiteral("Error en tiempo de ejecución\n\n%1\n\n%2")
+                                  .arg(origen, descripcion));
+    }
+}
+}
+
+namespace Proceso {
+void Terminar(int codigo)
+{
+    if (g_grabando) {
+        ++g_finales;
+        throw ProcesoSeam::FinDelProceso{codigo};
+    }
+    std::fflush(nullptr);
+    // Every write of the stores is a committed transaction, so nothing is lost by ending here.
+    std::_Exit(codigo);
+}
+
+void AvisoFalloEjecucion(const cFallo& fallo)
+{
+    mostrarAviso(fallo.origen(), fallo.descripcion());
+    Terminar(1);
+}
+
+void AvisoFalloEjecucion(const std::exception& fallo)
+{
+    if (const auto* f = dynamic_cast<const cFallo*>(&fallo))
+        AvisoFalloEjecucion(*f);
+    mostrarAviso(QStringLiteral("Veldoria"), QString::fromLocal8Bit(fallo.what()));
+    Terminar(1);
+}
+
+void Protegido(const std::function<void()>& accion)
+{
+    try {
+        accion();
+    } catch (const ProcesoSeam::FinDelProceso&) {
+        throw;
+    } catch (const std::exception& e) {
+        AvisoFalloEjecucion(e);
+    }
+}
+}
+
+namespace ProcesoSeam {
+void grabar(bool activo)
+{
+    g_grabando = activo;
+    g_avisos.clear();
+    g_finales = 0;
+}
+bool grabando() { return g_grabando; }
+const QList<Aviso>& avisos() { return g_avisos; }
+int finales() { return g_finales; }
+}

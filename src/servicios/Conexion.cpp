@@ -1,0 +1,128 @@
+#include "servicios/Conexion.h"
+
+#include "app/plataforma/Fallo.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QThread>
+
+namespace {
+QString nombreConexion(const QString& ruta, bool lectura)
+{
+    const auto hilo = reinterpret_cast<quintptr>(QThread::currentThreadId());
+    return QStringLiteral("%1|%2|%3").arg(lectura ? QStringLiteral("lec") : QStringLiteral("mod"),
+                                          QFileInfo(ruta).absoluteFilePath())
+        .arg(hilo);
+}
+
+[[noreturn]] void fallar(const QString& origen, const QSqlError& error, const QString& contexto)
+{
+    const int numero = error.nativeErrorCode().toInt();
+    throw cFallo(numero ? numero : 3001, origen,
+                 contexto.isEmpty() ? error.text() : contexto + QStringLiteral(": ") + error.text());
+}
+
+void pragma(QSqlDatabase& db, const QString& sql, const QString& origen)
+{
+    QSqlQuery q(db);
+    if (!q.exec(sql))
+        fallar(origen, q.lastError(), sql);
+}
+
+QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, bool crear)
+{
+    const QString nombre = nombreConexion(ruta, lectura);
+    if (QSqlDatabase::contains(nombre)) {
+        QSqlDatabase db = QSqlDatabase::database(nombre, false);
+        if (db.isOpen() && QFileInfo::exists(ruta))
+            return db;
+        db.close();
+    }
+    if (!crear && !QFileInfo::exists(ruta))
+        throw cFallo(3024, origen, QStringLiteral("No se encuentra el archivo '%1'.").arg(ruta));
+    QSqlDatabase db = QSqlDatabase::contains(nombre)
+        ? QSqlDatabase::database(nombre, false)
+        : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
+    db.setDatabaseName(ruta);
+    db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
+                                 : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
+    if (!db.open())
+        fallar(origen, db.lastError(), ruta);
+    if (!lectura) {
+        pragma(db, QStringLiteral("PRAGMA foreign_keys = ON"), origen);
+        pragma(db, QStringLiteral("PRAGMA journal_mode = WAL"), origen);
+        pragma(db, QStringLiteral("PRAGMA synchronous = NORMAL"), origen);
+    }
+    return db;
+}
+}
+
+namespace Conexion {
+QSqlDatabase Modificable(const QString& ruta, const QString& origen, bool crear)
+{
+    return abrir(ruta, false, origen, crear);
+}
+
+QSqlDatabase Lectura(const QString& ruta, const QString& origen)
+{
+    return abrir(ruta, true, origen, false);
+}
+
+void Cerrar(const QString& ruta)
+{
+    const QString absoluta = QFileInfo(ruta).absoluteFilePath();
+    for (const QString& nombre : QSqlDatabase::connectionNames()) {
+        if (nombre.section(QLatin1Char('|'), 1, 1) == absoluta) {
+            QSqlDatabase::database(nombre, false).close();
+            QSqlDatabase::removeDatabase(nombre);
+        }
+    }
+}
+}
+
+QSqlQuery Ejecutar(const QSqlDatabase& db, const QString& sql, const QVariantList& valores,
+                   const QString& origen)
+{
+    QSqlQuery q(db);
+    q.setForwardOnly(true);
+    if (!q.prepare(sql))
+        fallar(origen, q.lastError(), sql);
+    for (const QVariant& v : valores)
+        q.addBindValue(v);
+    if (!q.exec())
+        fallar(origen, q.lastError(), sql);
+    return q;
+}
+
+QVariant Escalar(const QSqlDatabase& db, const QString& sql, const QVariantList& valores,
+                 const QString& origen, const QVariant& siVacio)
+{
+    QSqlQuery q = Ejecutar(db, sql, valores, origen);
+    return q.next() ? q.value(0) : siVacio;
+}
+
+Transaccion::Transaccion(QSqlDatabase db, QString origen)
+    : m_db(std::move(db)), m_origen(std::move(origen))
+{
+    // BEGIN IMMEDIATE takes the write lock at once, so two instances never deadlock half-way.
+    QSqlQuery q(m_db);
+    if (!q.exec(QStringLiteral("BEGIN IMMEDIATE")))
+        fallar(m_origen, q.lastError(), QStringLiteral("BEGIN"));
+    m_abierta = true;
+}
+
+Transaccion::~Transaccion()
+{
+    if (m_abierta) {
+        QSqlQuery q(m_db);
+        q.exec(QStringLiteral("ROLLBACK"));
+    }
+}
+
+void Transaccion::confirmar()
+{
+    QSqlQuery q(m_db);
+    if (!q.exec(QStringLiteral("COMMIT")))
+        fallar(m_origen, q.lastError(), QStringLiteral("COMMIT"));
+    m_abierta = false;
+}

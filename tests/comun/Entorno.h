@@ -1,0 +1,25 @@
+#pragma once
+// What every test needs: a temporary program folder with the generated reference database in
+// Tablas/, the application paths pointed at it, and the seams recording instead of showing.
+#include <QString>
+#include <QTemporaryDir>
+#include <memory>
+
+class CarpetaDePrueba {
+public:
+    // Creates the folder with Tablas/VELDOLEC.mdb (and no VELDOMOD.mdb: the first start, or
+    // Traspaso, creates it) and sets CarpetaPrograma, mdbPath, mdbmod and mdblec.
+    CarpetaDePrueba();
+    ~CarpetaDePrueba();
+
+    QString ruta() const;                      // the program folder, without closing "/"
+    QString tablas() const;                    // ruta() + "/Tablas/"
+
+private:
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+// Starts recording every message box, file dialog, failure notice and ending of the process.
+void GrabarSeams();
+// The source tree (for fixtures kept beside the tests).
+QString CarpetaFuentes();
