@@ -78,7 +78,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() < 3)
+    if (args.size() < 2)
         fallar(QStringLiteral("uso: generalec SALIDA.mdb TABLA.tsv..."));
     const QString salida = args[1];
     const QString temporal = salida + QStringLiteral(".tmp");
