@@ -33,7 +33,7 @@ void Terminar(int codigo)
 {
     if (g_grabando) {
         ++g_finales;
-        throw ProcesoSeam::FinDelProceso{codigo};
+        return;
     }
     std::fflush(nullptr);
     // Every write of the stores is a committed transaction, so nothing is lost by ending here.
@@ -48,8 +48,10 @@ void AvisoFalloEjecucion(const cFallo& fallo)
 
 void AvisoFalloEjecucion(const std::exception& fallo)
 {
-    if (const auto* f = dynamic_cast<const cFallo*>(&fallo))
+    if (const auto* f = dynamic_cast<const cFallo*>(&fallo)) {
         AvisoFalloEjecucion(*f);
+        return;
+    }
     mostrarAviso(QStringLiteral("Veldoria"), QString::fromLocal8Bit(fallo.what()));
     Terminar(1);
 }
@@ -58,8 +60,6 @@ void Protegido(const std::function<void()>& accion)
 {
     try {
         accion();
-    } catch (const ProcesoSeam::FinDelProceso&) {
-        throw;
     } catch (const std::exception& e) {
         AvisoFalloEjecucion(e);
     }
