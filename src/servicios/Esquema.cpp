@@ -1,0 +1,231 @@
+#include "servicios/Esquema.h"
+
+#include "app/plataforma/Fallo.h"
+#include "servicios/Conexion.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QUuid>
+
+namespace {
+
+QList<Esquema::Paso>& pasosDePrueba()
+{
+    static QList<Esquema::Paso> pasos;
+    return pasos;
+}
+
+void ejecutarTodas(const QSqlDatabase& db, const QStringList& sentencias, const QString& origen)
+{
+    for (const QString& sql : sentencias)
+        Ejecutar(db, sql, {}, origen);
+}
+
+// Layout 0 -> 1. On a file of layout 0 the settings are carried over into the new
+// CONFIGURACION (a language left empty becomes "C", an update setting outside -1..1 becomes
+// undecided); on an empty file the single row starts as Spanish and undecided.
+void paso1(const QSqlDatabase& db, const QString& origen)
+{
+    const bool anterior = Esquema::ExisteTabla(db, QStringLiteral("CONFIGURACION"), origen);
+    if (anterior)
+        Ejecutar(db, QStringLiteral("ALTER TABLE CONFIGURACION RENAME TO CONFIGURACION_V0"), {},
+                 origen);
+    ejecutarTodas(db, Esquema::ConfiguracionV1(), origen);
+    if (anterior) {
+        Ejecutar(db,
+                 QStringLiteral(
+                     "INSERT INTO CONFIGURACION (ID, IDIOMA, ACTONLINE) "
+                     "SELECT 1, COALESCE(NULLIF(TRIM(IDIOMA), ''), 'C'), "
+                     "CASE WHEN CAST(ACTONLINE AS INTEGER) IN (-1, 0, 1) "
+                     "THEN CAST(ACTONLINE AS INTEGER) ELSE -1 END "
+                     "FROM CONFIGURACION_V0 LIMIT 1"),
+                 {}, origen);
+        Ejecutar(db, QStringLiteral("DROP TABLE CONFIGURACION_V0"), {}, origen);
+    }
+    Ejecutar(db,
+             QStringLiteral("INSERT OR IGNORE INTO CONFIGURACION (ID, IDIOMA, ACTONLINE) "
+                            "VALUES (1, 'C', -1)"),
+             {}, origen);
+    ejecutarTodas(db, EsquemaPartesV1(), origen);
+    ejecutarTodas(db, EsquemaDeclaracionesV1(), origen);
+}
+
+bool esCabeceraSqlite(const QString& ruta)
+{
+    QFile f(ruta);
+    if (!f.open(QIODevice::ReadOnly))
+        return false;
+    static const QByteArray cabecera("SQLite format 3\0", 16);
+    return f.read(16) == cabecera;
+}
+
+// SQLite's answers for a file that is not a database, or is one no longer.
+bool esNoBaseDeDatos(const QSqlError& error)
+{
+    const int codigo = error.nativeErrorCode().toInt();
+    return codigo == 26 /*SQLITE_NOTADB*/ || codigo == 11 /*SQLITE_CORRUPT*/;
+}
+
+// A read-only connection of its own, removed on leaving the scope.
+class ConexionPrivada {
+public:
+    explicit ConexionPrivada(const QString& ruta)
+        : m_nombre(QStringLiteral("reconocer-") + QUuid::createUuid().toString(QUuid::Id128))
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
+        db.setDatabaseName(ruta);
+        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000"));
+        m_abierta = db.open();
+        m_error = db.lastError();
+    }
+    ~ConexionPrivada()
+    {
+        {
+            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
+            db.close();
+        }
+        QSqlDatabase::removeDatabase(m_nombre);
+    }
+    ConexionPrivada(const ConexionPrivada&) = delete;
+    ConexionPrivada& operator=(const ConexionPrivada&) = delete;
+
+    bool abierta() const { return m_abierta; }
+    const QSqlError& error() const { return m_error; }
+    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
+
+private:
+    QString m_nombre;
+    bool m_abierta = false;
+    QSqlError m_error;
+};
+
+int enteroDe(const QSqlDatabase& db, const QString& pragma, const QString& origen)
+{
+    return Escalar(db, pragma, {}, origen, 0).toInt();
+}
+
+}  // namespace
+
+namespace Esquema {
+
+QStringList ConfiguracionV1()
+{
+    return {
+        // One row, ID 1: the language letter ("C" Spanish, "E" Basque; any other letter is
+        // kept as given and read as Spanish by the program) and the update setting.
+        QStringLiteral("CREATE TABLE CONFIGURACION ("
+                       "ID INTEGER PRIMARY KEY CHECK (ID = 1), "
+                       "IDIOMA TEXT NOT NULL DEFAULT 'C', "
+                       "ACTONLINE INTEGER NOT NULL DEFAULT -1 CHECK (ACTONLINE IN (-1, 0, 1)))"),
+    };
+}
+
+QList<Paso> Pasos()
+{
+    QList<Paso> pasos{
+        {1, paso1},
+    };
+    pasos.append(pasosDePrueba());
+    return pasos;
+}
+
+int VersionActual()
+{
+    return Pasos().constLast().version;
+}
+
+int VersionDe(const QSqlDatabase& db, const QString& origen)
+{
+    return enteroDe(db, QStringLiteral("PRAGMA user_version"), origen);
+}
+
+qint32 MarcaDe(const QSqlDatabase& db, const QString& origen)
+{
+    return static_cast<qint32>(enteroDe(db, QStringLiteral("PRAGMA application_id"), origen));
+}
+
+int ObjetosDe(const QSqlDatabase& db, const QString& origen)
+{
+    return enteroDe(db,
+                    QStringLiteral("SELECT COUNT(*) FROM sqlite_master "
+                                   "WHERE name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"),
+                    origen);
+}
+
+bool ExisteTabla(const QSqlDatabase& db, const QString& tabla, const QString& origen)
+{
+    return Escalar(db,
+                   QStringLiteral("SELECT COUNT(*) FROM sqlite_master "
+                                  "WHERE type = 'table' AND name = ? COLLATE NOCASE"),
+                   {tabla}, origen, 0)
+               .toInt()
+        > 0;
+}
+
+Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marca)
+{
+    const QFileInfo info(ruta);
+    if (!info.exists())
+        return {Clase::Inexistente, 0};
+    if (!info.isFile())
+        return {Clase::NoEsBaseDeDatos, 0};
+    if (info.size() == 0)
+        return {Clase::Vacia, 0};
+    if (!esCabeceraSqlite(ruta))
+        return {Clase::NoEsBaseDeDatos, 0};
+
+    ConexionPrivada conexion(ruta);
+    if (!conexion.abierta()) {
+        if (esNoBaseDeDatos(conexion.error()))
+            return {Clase::NoEsBaseDeDatos, 0};
+        throw cFallo(3049, origen, ruta + QStringLiteral(": ") + conexion.error().text());
+    }
+    try {
+        const QSqlDatabase db = conexion.db();
+        // The schema is read first: a damaged file fails here, before its header is trusted.
+        const int objetos = ObjetosDe(db, origen);
+        const qint32 suMarca = MarcaDe(db, origen);
+        const int version = VersionDe(db, origen);
+        if (suMarca == marca)
+            return {Clase::Propia, version};
+        if (suMarca == 0 && version == 0 && objetos == 0)
+            return {Clase::Vacia, 0};
+        return {Clase::Ajena, 0};
+    } catch (const cFallo& f) {
+        // 26 and 11 are SQLite's "not a database" and "damaged"; anything else is a failure.
+        if (f.numero() == 26 || f.numero() == 11)
+            return {Clase::NoEsBaseDeDatos, 0};
+        throw;
+    }
+}
+
+void Migrar(const QSqlDatabase& db, int desde, const QString& origen)
+{
+    for (const Paso& paso : Pasos()) {
+        if (paso.version > desde)
+            paso.aplicar(db, origen);
+    }
+    // PRAGMA takes no bound parameters; both values are this program's own integers.
+    Ejecutar(db, QStringLiteral("PRAGMA application_id = %1").arg(MarcaAplicacion), {}, origen);
+    Ejecutar(db, QStringLiteral("PRAGMA user_version = %1").arg(VersionActual()), {}, origen);
+    QSqlQuery rotas = Ejecutar(db, QStringLiteral("PRAGMA foreign_key_check"), {}, origen);
+    if (rotas.next())
+        throw cFallo(3201, origen,
+                     QStringLiteral("La tabla %1 tiene referencias a filas que no existen en %2.")
+                         .arg(rotas.value(0).toString(), rotas.value(2).toString()));
+}
+
+}  // namespace Esquema
+
+namespace EsquemaSeam {
+void agregarPaso(Esquema::Paso paso)
+{
+    pasosDePrueba().append(std::move(paso));
+}
+void limpiar()
+{
+    pasosDePrueba().clear();
+}
+}  // namespace EsquemaSeam

@@ -1,0 +1,80 @@
+#include "servicios/cMiscelaneos.h"
+
+#include "app/plataforma/Mensaje.h"
+#include "catalogue/Catalogo.h"
+
+#include <QDesktopServices>
+#include <QUrlQuery>
+
+namespace {
+bool g_grabando = false;
+QList<bool> g_respuestas;
+QList<QUrl> g_registro;
+
+const QString kAsistencia = QStringLiteral("http://asistencia.veldoria.example/");
+
+bool euskera(int16_t idioma) { return idioma != 0; }
+}  // namespace
+
+bool AbrirEnNavegador(const QUrl& direccion)
+{
+    if (!g_grabando)
+        return QDesktopServices::openUrl(direccion);
+    g_registro.append(direccion);
+    return g_respuestas.isEmpty() ? true : g_respuestas.takeFirst();
+}
+
+namespace NavegadorSeam {
+void grabar(bool activo)
+{
+    g_grabando = activo;
+    g_respuestas.clear();
+    g_registro.clear();
+}
+void setNextResult(bool abierto) { g_respuestas.append(abierto); }
+const QList<QUrl>& registro() { return g_registro; }
+}  // namespace NavegadorSeam
+
+QUrl cMiscelaneos::DireccionAyuOnline(int16_t idioma)
+{
+    QUrl url(kAsistencia);
+    QUrlQuery consulta;
+    consulta.addQueryItem(QStringLiteral("modelo"), QStringLiteral("747"));
+    consulta.addQueryItem(QStringLiteral("idioma"),
+                          euskera(idioma) ? QStringLiteral("e") : QStringLiteral("c"));
+    url.setQuery(consulta);
+    return url;
+}
+
+void cMiscelaneos::AccesoAyuOnline() const
+{
+    if (!AbrirEnNavegador(DireccionAyuOnline(Idioma)))
+        Mensaje(TextoFila(euskera(Idioma) ? 10335 : 335), vb::Exclamation,
+                TextoFila(euskera(Idioma) ? 10336 : 336));
+}
+
+void cMiscelaneos::MostrarOnlineInfo() const
+{
+    const QString direccion = DireccionAyuOnline(Idioma).toString();
+    const QString texto = euskera(Idioma)
+        ? QStringLiteral("Arbeliako Foru Aldundiaren on-line laguntza zerbitzuak Interneten bidez "
+                         "erantzuten ditu Zenbait Garraiobideren gaineko Zerga Bereziari eta "
+                         "programa honen erabilerari buruzko galderak, astelehenetik ostiralera, "
+                         "8:00etatik 14:00etara.\n\nBertara sartzeko, aukeratu menuko «On-line "
+                         "laguntza»: zure nabigatzailean helbide hau irekiko da:\n")
+            + direccion
+        : QStringLiteral("El servicio de asistencia on-line de la Diputación Foral de Arbelia "
+                         "atiende por Internet las consultas sobre el Impuesto Especial sobre "
+                         "Determinados Medios de Transporte y sobre el uso de este programa, de "
+                         "lunes a viernes, de 8:00 a 14:00.\n\nPara acceder a él, elija "
+                         "«Asistencia on-line» en el menú: se abrirá en su navegador la "
+                         "dirección\n")
+            + direccion;
+    Mensaje(texto, vb::Information, TextoFila(euskera(Idioma) ? 10361 : 361));
+}
+
+QString cMiscelaneos::HaciendaFiscalidad() const
+{
+    return euskera(Idioma) ? QStringLiteral("Ogasun eta Finantza Saila")
+                           : QStringLiteral("Departamento de Hacienda y Finanzas");
+}
