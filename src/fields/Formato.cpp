@@ -261,3 +261,12 @@ double NumeroDeTexto(const QString& texto, bool* ok)
         *ok = true;
     return v;
 }
+
+QString ComaAPunto(const QString& valor)
+{
+    QString r = valor;
+    const qsizetype coma = r.indexOf(kComa);
+    if (coma >= 0)
+        r[coma] = kPunto;
+    return r;
+}

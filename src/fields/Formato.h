@@ -20,3 +20,6 @@ QString Formato(const QString& valor, const QString& formato);
 // "01.234.50" is 123450. `ok` (when given) tells whether the text was such a number; a text
 // that is not gives 0.
 double NumeroDeTexto(const QString& texto, bool* ok = nullptr);
+
+// The first "," of a value becomes "."; a value without one comes back as it is.
+QString ComaAPunto(const QString& valor);
