@@ -168,6 +168,9 @@ void CajaNum::focusInEvent(QFocusEvent* evento)
         PasarFoco(evento->reason() != Qt::BacktabFocusReason);
         return;
     }
+    // Back from a menu or another window: the edit goes on as it was.
+    if (m_editando)
+        return;
     m_editando = true;
     QLineEdit::setText(TextoDeEdicion(text()));
     SeleccionarTexto(this);
@@ -182,7 +185,9 @@ void CajaNum::focusInEvent(QFocusEvent* evento)
 void CajaNum::focusOutEvent(QFocusEvent* evento)
 {
     QLineEdit::focusOutEvent(evento);
-    if (!m_editando)
+    // A context menu or a switch to another window does not leave the field.
+    if (!m_editando || evento->reason() == Qt::PopupFocusReason
+        || evento->reason() == Qt::ActiveWindowFocusReason)
         return;
     m_editando = false;
     QLineEdit::setText(TextoFormateado(text()));

@@ -26,7 +26,9 @@ bool EnterComoTab::eventFilter(QObject* objeto, QEvent* evento)
     if (tecla->modifiers() & ~Qt::KeypadModifier)
         return false;
     auto* campo = static_cast<QWidget*>(objeto);
-    if (campo != m_panel && !m_panel->isAncestorOf(campo))
+    // Only the key as the field receives it: a key a field or button has refused travels up
+    // to its parents, and is theirs no more.
+    if (campo != QApplication::focusWidget() || !m_panel->isAncestorOf(campo))
         return false;
     if (qobject_cast<QAbstractButton*>(campo) || qobject_cast<QAbstractItemView*>(campo)
         || qobject_cast<QTextEdit*>(campo) || qobject_cast<QPlainTextEdit*>(campo))

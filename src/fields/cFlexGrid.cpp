@@ -26,7 +26,8 @@ cFlexGrid::cFlexGrid(QWidget* parent) : QTableView(parent), m_modelo(new ModeloF
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     // A press on the heading is a click on row 0: it takes the column, not the rows.
-    disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, &QTableView::selectColumn);
+    disconnect(horizontalHeader(), SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    disconnect(horizontalHeader(), SIGNAL(sectionEntered(int)), this, SLOT(_q_selectColumn(int)));
     connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this](int columna) {
         m_filaRaton = 0;
         m_columnaRaton = columna;
