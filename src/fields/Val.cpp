@@ -1,5 +1,6 @@
 #include "fields/Val.h"
 
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -16,44 +17,47 @@ bool EsBlanco(QChar c)
 double Val(const QString& texto)
 {
     // Only the characters of a plain decimal number count: sign, digits, one point, an
-    // exponent. Reading stops at the first other character.
-    QString limpio;
-    limpio.reserve(texto.size());
+    // exponent. Reading stops at the first other character. The number is gathered in a
+    // small buffer and read without the machine's locale.
+    char buffer[64];
+    int n = 0;
     bool digitos = false, punto = false, exponente = false, signoPermitido = true;
     for (QChar c : texto) {
+        if (n >= int(sizeof buffer) - 1)
+            break;
         if (EsBlanco(c))
             continue;
-        if (c.isDigit() && c.unicode() < 128) {
-            limpio.append(c);
+        const char16_t u = c.unicode();
+        if (u >= '0' && u <= '9') {
+            buffer[n++] = char(u);
             digitos = true;
             signoPermitido = false;
-        } else if ((c == QLatin1Char('+') || c == QLatin1Char('-')) && signoPermitido) {
-            limpio.append(c);
+        } else if ((u == '+' || u == '-') && signoPermitido) {
+            buffer[n++] = char(u);
             signoPermitido = false;
-        } else if (c == QLatin1Char('.') && !punto && !exponente) {
-            limpio.append(c);
+        } else if (u == '.' && !punto && !exponente) {
+            buffer[n++] = '.';
             punto = true;
             signoPermitido = false;
-        } else if ((c == QLatin1Char('e') || c == QLatin1Char('E')) && digitos && !exponente) {
-            limpio.append(c);
+        } else if ((u == 'e' || u == 'E') && digitos && !exponente) {
+            buffer[n++] = 'e';
             exponente = true;
             signoPermitido = true;
         } else {
             break;
         }
     }
-    // A dangling exponent or sign reads as if it were not there.
-    while (!limpio.isEmpty()) {
-        const QChar u = limpio.back();
-        if (u == QLatin1Char('e') || u == QLatin1Char('E') || u == QLatin1Char('+')
-            || u == QLatin1Char('-') || u == QLatin1Char('.'))
-            limpio.chop(1);
-        else
-            break;
-    }
-    bool ok = false;
-    const double v = limpio.toDouble(&ok);
-    return ok && std::isfinite(v) ? v : 0.0;
+    // A dangling exponent, sign or point reads as if it were not there.
+    while (n > 0 && (buffer[n - 1] == 'e' || buffer[n - 1] == '+' || buffer[n - 1] == '-'
+                     || buffer[n - 1] == '.'))
+        --n;
+    const char* inicio = buffer;
+    if (n > 0 && buffer[0] == '+')
+        ++inicio;  // from_chars takes no leading plus
+    double v = 0.0;
+    const auto [fin, error] = std::from_chars(inicio, buffer + n, v);
+    (void)fin;
+    return error == std::errc() && std::isfinite(v) ? v : 0.0;
 }
 
 std::optional<long long> EnteroEstricto(const QString& texto, long long minimo, long long maximo)

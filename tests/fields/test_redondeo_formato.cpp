@@ -188,6 +188,11 @@ private slots:
         QCOMPARE(Val(QString()), 0.0);
         QCOMPARE(Val(QStringLiteral("1e3")), 1000.0);
         QCOMPARE(Val(QStringLiteral("7e")), 7.0);
+        QCOMPARE(Val(QStringLiteral("-.5")), -0.5);
+        QCOMPARE(Val(QStringLiteral("+3")), 3.0);
+        QCOMPARE(Val(QStringLiteral(".")), 0.0);
+        QCOMPARE(Val(QStringLiteral("--5")), 0.0);
+        QCOMPARE(Val(QStringLiteral("1e999")), 0.0);
     }
 
     void enteroEstricto()
