@@ -1,0 +1,28 @@
+#include "CapturaModal.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QWidget>
+
+CapturaModal::CapturaModal(Inspeccion inspeccion) : m_inspeccion(std::move(inspeccion))
+{
+    connect(&m_reloj, &QTimer::timeout, this, &CapturaModal::mirar);
+    m_reloj.start(10);
+}
+
+void CapturaModal::mirar()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    if (!modal || modal == m_ultimo || !modal->isVisible())
+        return;
+    m_ultimo = modal;
+    m_vistos.append(modal->objectName());
+    if (m_inspeccion)
+        m_inspeccion(modal);
+    if (modal->isVisible()) {
+        if (auto* d = qobject_cast<QDialog*>(modal))
+            d->reject();
+        else
+            modal->close();
+    }
+}
