@@ -67,8 +67,15 @@ void cFlexGrid::setRows(int filas)
     m_modelo->setFilas(filas);
     const int ultima = m_modelo->Filas() - 1;
     if (m_fila > ultima || m_filaSel > ultima) {
+        // Cut down to the heading alone, the current row waits on it for data rows to come.
+        m_filaPorCorte = ultima == 0;
         m_filaSel = std::min(m_filaSel, ultima);
         Mover(std::min(m_fila, ultima), m_columna);
+    } else if (m_filaPorCorte && ultima >= 1) {
+        // Rows are back after such a cut: the current row is the first data row again.
+        m_filaPorCorte = false;
+        m_filaSel = 1;
+        Mover(1, m_columna);
     }
     SituarVista();
 }
@@ -95,6 +102,7 @@ void cFlexGrid::setRow(int fila)
 {
     if (fila < 0 || fila >= Rows())
         return;
+    m_filaPorCorte = false;
     m_filaSel = fila;
     Mover(fila, m_columna);
 }

@@ -19,7 +19,9 @@ public:
     void setTextMatrix(int fila, int columna, const QString& texto);
 
     int Rows() const;
-    void setRows(int filas);    // at least the heading row
+    // At least the heading row. A current row beyond the new end moves to the last row; after
+    // a cut to the heading alone, the first data row that comes back is the current one.
+    void setRows(int filas);
     int Cols() const;
     void setCols(int columnas);
     // Every text emptied and every cell's own colour removed; size and widths stay.
@@ -97,4 +99,5 @@ private:
     int m_columnaRaton = -1;
     bool m_dibujar = true;
     bool m_situando = false;
+    bool m_filaPorCorte = false;  // the current row is 0 only because the rows were cut
 };

@@ -129,6 +129,16 @@ private slots:
         p.grid->setRow(5);
         p.grid->setRows(3);
         QCOMPARE(p.grid->Row(), 2);
+        // A reload cuts to the heading and grows again: the first data row is current.
+        p.grid->setRows(1);
+        QCOMPARE(p.grid->Row(), 0);
+        p.grid->setRows(16);
+        QCOMPARE(p.grid->Row(), 1);
+        QCOMPARE(p.grid->currentIndex().row(), 0);
+        // A heading row made current by code stays so when rows are added.
+        p.grid->setRow(0);
+        p.grid->setRows(20);
+        QCOMPARE(p.grid->Row(), 0);
     }
 
     void tecladoMueveLaFila()
@@ -350,6 +360,21 @@ private slots:
         p.grid->setRows(9);
         p.utilidades.SeleccionarGrid(kMarca, kTintaMarca, 1);
         QVERIFY(p.FilaPintada(1, kMarca, kTintaMarca));
+    }
+
+    void seleccionarGridTrasVaciarYRellenar()
+    {
+        // What a list does on reload: cut to the heading, grow, fill, mark the current row.
+        Panel p(10, 3);
+        p.utilidades.SeleccionarGrid(kMarca, kTintaMarca, 6);
+        p.grid->setRedraw(false);
+        p.grid->setRows(1);
+        p.grid->setRows(16);
+        p.grid->setTextMatrix(1, 1, QStringLiteral("PRIMERO"));
+        p.grid->setRedraw(true);
+        p.utilidades.SeleccionarGrid(kMarca, kTintaMarca, 0);
+        QVERIFY(p.FilaPintada(1, kMarca, kTintaMarca));
+        QCOMPARE(p.utilidades.FilaSeleccionada(), 1);
     }
 
     void seleccionarGridSinGrid()
