@@ -1,5 +1,5 @@
 #pragma once
-// Sizes of the panels' design are given in twips; the screen works in pixels, 15 twips each.
+// Panel layouts are measured in twips; the screen works in pixels, 15 twips each.
 constexpr int kTwipsPorPixel = 15;
 
 // To the nearest pixel.
