@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <QWidget>
 
-CapturaModal::CapturaModal(Inspeccion inspeccion) : m_inspeccion(std::move(inspeccion))
+CapturaModal::CapturaModal(Mirada mirada) : m_mirada(std::move(mirada))
 {
     connect(&m_reloj, &QTimer::timeout, this, &CapturaModal::mirar);
     m_reloj.start(10);
@@ -17,8 +17,8 @@ void CapturaModal::mirar()
         return;
     m_ultimo = modal;
     m_vistos.append(modal->objectName());
-    if (m_inspeccion)
-        m_inspeccion(modal);
+    if (m_mirada)
+        m_mirada(modal);
     if (modal->isVisible()) {
         if (auto* d = qobject_cast<QDialog*>(modal))
             d->reject();

@@ -1,6 +1,6 @@
 #pragma once
 // Watches for the modal panels that a routine opens while it runs: for each one it calls the
-// given inspection, then closes the panel if it is still open, so the routine goes on.
+// given function, then closes the panel if it is still open, so the routine goes on.
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -13,8 +13,8 @@ class QWidget;
 class CapturaModal : public QObject {
     Q_OBJECT
 public:
-    using Inspeccion = std::function<void(QWidget*)>;
-    explicit CapturaModal(Inspeccion inspeccion = {});
+    using Mirada = std::function<void(QWidget*)>;
+    explicit CapturaModal(Mirada mirada = {});
 
     // The objectNames of the modal panels seen, in order.
     const QStringList& vistos() const { return m_vistos; }
@@ -22,7 +22,7 @@ public:
 private:
     void mirar();
 
-    Inspeccion m_inspeccion;
+    Mirada m_mirada;
     QTimer m_reloj;
     QPointer<QWidget> m_ultimo;
     QStringList m_vistos;
