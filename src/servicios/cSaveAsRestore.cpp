@@ -123,25 +123,29 @@ Veredicto examinar(const QString& ruta, qint32 marca)
 }
 
 // Copies the chosen file to `temporal` and checks the copy: the very bytes that will be
-// renamed into place are the ones checked.
+// renamed into place are the ones checked. A file that cannot be read, or is damaged on the
+// way, is not a usable backup.
 Veredicto prepararCopia(const QString& origen, const QString& temporal, qint32 marca)
 {
-    const Veredicto previo = examinar(origen, marca);
-    if (previo != Veredicto::Valida)
-        return previo;
     try {
-        Lectura lectura(origen);
-        copiar(lectura.db(), temporal);
+        const Veredicto previo = examinar(origen, marca);
+        if (previo != Veredicto::Valida)
+            return previo;
+        {
+            Lectura lectura(origen);
+            copiar(lectura.db(), temporal);
+        }
+        const Veredicto copia = examinar(temporal, marca);
+        if (copia != Veredicto::Valida)
+            return copia;
+        Lectura lectura(temporal);
+        const QString integridad =
+            Escalar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen)
+                .toString();
+        return integridad == QLatin1String("ok") ? Veredicto::Valida : Veredicto::Ajena;
     } catch (const cFallo&) {
-        return Veredicto::Ajena;  // unreadable or damaged on the way: not a usable backup
+        return Veredicto::Ajena;
     }
-    const Veredicto copia = examinar(temporal, marca);
-    if (copia != Veredicto::Valida)
-        return copia;
-    Lectura lectura(temporal);
-    const QString integridad =
-        Escalar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen).toString();
-    return integridad == QLatin1String("ok") ? Veredicto::Valida : Veredicto::Ajena;
 }
 
 // Brings everything written to the live file into the file itself and closes this program's

@@ -318,6 +318,7 @@ private slots:
         QTest::newRow("otra marca") << 2;
         QTest::newRow("cabecera rota") << 3;
         QTest::newRow("vacio") << 4;
+        QTest::newRow("propia pero dañada") << 5;
     }
     void restaurarUnFicheroMalo()
     {
@@ -329,6 +330,18 @@ private slots:
         case 2: CrearBaseAjena(copia(), 0x01020304); break;
         case 3: escribir(copia(), QByteArray("SQLite format 3", 16) + QByteArray(8192, '\x5A')); break;
         case 4: escribir(copia(), QByteArray()); break;
+        case 5: {
+            InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 200);
+            QVERIFY(paraCopia().CrearBackup());
+            MensajeSeam::limpiar();
+            QByteArray danada = Bytes(copia());
+            QVERIFY(danada.size() > 3 * 4096);
+            for (qsizetype i = 4096; i < danada.size(); ++i)
+                danada[i] = char(0x5A ^ (i & 0xFF));
+            escribir(copia(), danada);
+            QCOMPARE(MarcaDeArchivo(copia()), Esquema::MarcaAplicacion);
+            break;
+        }
         }
         general().CambiarIdioma(QStringLiteral("E"));
         const QString antes = Volcado(mdbmod);
