@@ -349,6 +349,28 @@ private slots:
         QVERIFY(m_servidor->peticiones().isEmpty());
     }
 
+    void unaComprobacionALaVez()
+    {
+        // A check asked for while one is running (a second click) does nothing.
+        m_servidor->responder(200, ficheroVersion("1.27.9"));
+        int anidadas = 0;
+        {
+            CapturaModal captura([&anidadas](QWidget*) {
+                ++anidadas;
+                ComprobarActualizacion();
+            });
+            ComprobarActualizacion();
+            QCOMPARE(captura.vistos(), QStringList{QStringLiteral("FrmVersionCheck")});
+        }
+        QCOMPARE(anidadas, 1);
+        QCOMPARE(m_servidor->peticiones().size(), 1);
+        QCOMPARE(RelojSeam::esperas(), QList<int>{1000});
+        // Once it has ended, the next check runs.
+        m_vistas.clear();
+        QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmVersionCheck")});
+        QCOMPARE(m_servidor->peticiones().size(), 2);
+    }
+
     void descargaDejaElFicheroTalCual()
     {
         const QByteArray cuerpo = ficheroVersion("1.30.2") + QByteArray(5000, 'x');
