@@ -1,0 +1,70 @@
+#pragma once
+// The program's working copy of one contributor, shared by the contributor panel, the list and
+// the import (one instance, ConDatos()). A plain record: every field is public and unchecked,
+// except MODO, whose setting to "A" resets the record to a new contributor's defaults. The
+// operations each make a store object for one call.
+#include "servicios/Arreglos.h"
+
+#include <QString>
+#include <cstdint>
+
+class cConDatos {
+public:
+    // "A" new contributor, "C" existing one. Setting "A" resets every field below to its
+    // default, but LISTA and CSCO; setting anything else changes MODO only.
+    const QString& MODO() const { return m_modo; }
+    void setMODO(const QString& modo);
+
+    QString LISTA;          // "S" opened from the list, "" from the main menu
+    int32_t CSCO = 0;       // code in the store, 0 not yet saved
+    QString TIPODNI;        // "O" official, "N" foreign document
+    QString DOMICILIOC;
+    QString DNIC;
+    QString NOMBREC;
+    QString VIAC;           // street type code
+    int32_t NUMEROC = 0;
+    QString LETRAC;
+    QString ESCALERAC;
+    QString PISOC;
+    QString MANOC;
+    QString TIPODOMI;       // "N" national, "E" foreign
+    QString PAIS;
+    QString CODPROVC;       // two digits
+    QString NOMPROVC;       // typed province name (foreign domicile)
+    QString CODPOSC;
+    QString CODMUNC;
+    QString NOMMUNC;        // typed municipality name
+    double NUMSP = 0;       // declarations as subject (shown, never edited)
+    double NUMTR = 0;       // declarations as transmitter
+
+    // Deletes the contributor CSCO; the store refuses one named in a declaration, and a code
+    // it no longer has is not reported.
+    void BorrarContribuyente() const;
+    // Fills the record from the store; MODO, LISTA and CSCO keep their values. The province
+    // code is given its two digits ("1" reads "01"). A code the store does not have leaves the
+    // record as it was.
+    void CargarContribuyente(int32_t codigo);
+    // The import's validation of one exchange line (see cContribSvr).
+    void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
+    // Verdict 0 to 14 of the validation array.
+    int16_t ValidarDatosContribuyente(const Arreglo& datos) const;
+    int32_t ObtenerCodigoContribuyente(const QString& dni) const;
+    // Verdict 0 to 2 of the save array.
+    int16_t GuardarContribuyente(const Arreglo& datos) const;
+
+    // The arrays of the record, as the store takes them.
+    Arreglo ArregloValidacion() const;
+    Arreglo ArregloGuardar() const;
+
+    // The catalogue id of the message of a verdict, 0 for valid or for a verdict outside the
+    // table (which shows nothing and accepts nothing).
+    static int IdMensajeValidacion(int16_t veredicto);
+    static int IdMensajeGuardar(int16_t veredicto);
+    // The catalogue id of an error code of the import, 0 for a code outside the table.
+    static int IdMensajeImportar(int codigo);
+
+private:
+    QString m_modo;
+};
+
+cConDatos& ConDatos();

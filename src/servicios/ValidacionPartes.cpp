@@ -1,0 +1,212 @@
+#include "servicios/ValidacionPartes.h"
+
+#include "servicios/ArreglosPartes.h"
+#include "servicios/CodigoPostal.h"
+#include "servicios/ValidarDniOficial.h"
+
+#include <algorithm>
+
+using ArreglosPartes::Texto;
+
+namespace {
+
+bool vacio(const QString& t)
+{
+    return t.trimmed().isEmpty();
+}
+
+// A number field of the exchange line: blanks alone stand for 0.
+bool numerico(const QString& t)
+{
+    return vacio(t) || SoloCifras(t);
+}
+
+// Postal code of a national address, judged against its province.
+int16_t reglaCodigoPostal(const QString& cp, const QString& provincia)
+{
+    using namespace VeredictoContribuyente;
+    if (CodigoPostal::EsCero(cp))
+        return CodigoPostalCero;
+    if (!CodigoPostal::TieneCincoCifras(cp))
+        return CodigoPostalNoDeCincoCifras;
+    if (!provincia.isEmpty() && !CodigoPostal::EsDeProvincia(cp, provincia))
+        return CodigoPostalDeOtraProvincia;
+    if (CodigoPostal::TerminaEnCeros(cp))
+        return CodigoPostalTerminaEnCeros;
+    return Valido;
+}
+
+// The postal code of a presenter is shown in five digits, so fewer digits stand for the same
+// code with leading zeros.
+QString cincoCifras(const QString& cp)
+{
+    const QString t = cp.trimmed();
+    return SoloCifras(t) && t.size() < 5 ? t.rightJustified(5, QLatin1Char('0')) : t;
+}
+
+}  // namespace
+
+int16_t ReglasContribuyente(const Arreglo& datos)
+{
+    using namespace VeredictoContribuyente;
+    const QString tipoDni = Texto(datos, 0);
+    const QString dni = Texto(datos, 1);
+    const QString nombre = Texto(datos, 2);
+    const QString domicilio = Texto(datos, 3);
+    const bool extranjero = Texto(datos, 4).trimmed() == QLatin1String("E");
+    const QString pais = Texto(datos, 5);
+    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, 6));
+    const QString cp = Texto(datos, 7);
+    const QString nomProvincia = Texto(datos, 8);
+    const QString nomMunicipio = Texto(datos, 9);
+    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, 10));
+
+    const EstadoNif nif = ExaminarDni(tipoDni, dni);
+    if (nif == EstadoNif::MalFormado)
+        return DniMalFormado;
+    if (nif == EstadoNif::Vacio)
+        return DniVacio;
+    if (vacio(nombre))
+        return NombreVacio;
+    if (vacio(domicilio))
+        return DomicilioVacio;
+    if (extranjero && vacio(pais))
+        return PaisVacio;
+    if (!extranjero) {
+        // The four rules of the postal code exclude one another, so their order among
+        // themselves does not matter; the table numbers them 6 to 9.
+        const int16_t r = reglaCodigoPostal(cp, provincia);
+        if (r != Valido)
+            return r;
+    }
+    if (extranjero && vacio(nomProvincia))
+        return ProvinciaVacia;
+    const bool nombreMunicipioDebido =
+        extranjero || (!provincia.isEmpty() && provincia != kProvinciaTesoreria);
+    if (nombreMunicipioDebido && vacio(nomMunicipio))
+        return MunicipioVacio;
+    if (!extranjero && provincia.isEmpty())
+        return CodigoProvinciaVacio;
+    if (!extranjero && provincia == kProvinciaTesoreria && municipio.isEmpty())
+        return CodigoMunicipioVacio;
+    if (nif == EstadoNif::ControlErroneo)
+        return DniControlErroneo;
+    return Valido;
+}
+
+QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia)
+{
+    using namespace VeredictoContribuyente;
+    using namespace ErrorImportacion;
+    const QString tipoDni = Texto(datos, 0).trimmed();
+    const QString dni = Texto(datos, 1);
+    const QString nombre = Texto(datos, 2);
+    const QString domicilio = Texto(datos, 3);
+    const QString tipoDomi = Texto(datos, 4).trimmed();
+    const QString pais = Texto(datos, 5);
+    const QString codProv = Texto(datos, 6);
+    const QString cp = Texto(datos, 7);
+    const QString nomProvincia = Texto(datos, 8);
+    const QString nomMunicipio = Texto(datos, 9);
+    const QString codMun = Texto(datos, 10);
+    const QString numero = Texto(datos, 11);
+    const QString numSp = Texto(datos, 12);
+    const QString numTr = Texto(datos, 13);
+    const QString sigla = Texto(datos, 14).trimmed();
+
+    // A domicile of neither kind is reported as such; the rules that depend on the kind are
+    // then left out, since it is not known which of them apply.
+    const bool nacional = tipoDomi == QLatin1String("N");
+    const bool extranjero = tipoDomi == QLatin1String("E");
+    const bool provNumerica = numerico(codProv);
+    const bool cpNumerico = numerico(cp);
+    const bool munNumerico = numerico(codMun);
+    const QString provincia = provNumerica ? CodigoProvincia::Normalizado(codProv) : QString();
+    const QString municipio = munNumerico ? CodigoMunicipio::Normalizado(codMun) : QString();
+    const bool enTesoreria = nacional && provincia == kProvinciaTesoreria;
+    const bool enOtraProvincia = nacional && provNumerica && !provincia.isEmpty()
+        && provincia != kProvinciaTesoreria;
+
+    QList<int> errores;
+    const auto si = [&errores](bool condicion, int codigo) {
+        if (condicion)
+            errores << codigo;
+    };
+    const EstadoNif nif = ExaminarDni(tipoDni, dni);
+    si(nif == EstadoNif::MalFormado || nif == EstadoNif::ControlErroneo, DniMalFormado);
+    si(nif == EstadoNif::Vacio, DniVacio);
+    si(vacio(nombre), NombreVacio);
+    si(vacio(domicilio), DomicilioVacio);
+    si(extranjero && vacio(pais), PaisVacio);
+    if (nacional && cpNumerico) {
+        const int16_t r = reglaCodigoPostal(cp, provincia);
+        si(r != Valido, r);
+    }
+    si(extranjero && vacio(nomProvincia), ProvinciaVacia);
+    si((extranjero || enOtraProvincia) && vacio(nomMunicipio), MunicipioVacio);
+    si(nacional && provNumerica && provincia.isEmpty(), CodigoProvinciaVacio);
+    si(enTesoreria && munNumerico && municipio.isEmpty(), CodigoMunicipioVacio);
+    si(!numerico(numero) || numero.trimmed().size() > 5, NumeroNoNumerico);
+    si(!provNumerica, CodigoProvinciaNoNumerico);
+    si(!cpNumerico, CodigoPostalNoNumerico);
+    si(!munNumerico, CodigoMunicipioNoNumerico);
+    si(!numerico(numSp), ContadorSujetosNoNumerico);
+    si(!numerico(numTr), ContadorTransmitentesNoNumerico);
+    si(tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"), TipoDniInvalido);
+    si(!nacional && !extranjero, TipoDomicilioInvalido);
+    si(sigla.isEmpty() || !referencia.existeVia(sigla), SiglaInadmisible);
+    si(extranjero && provNumerica && !provincia.isEmpty(), ProvinciaExtranjeraNoCero);
+    si(extranjero && munNumerico && !municipio.isEmpty(), MunicipioExtranjeroNoCero);
+    si(nacional && !vacio(nomProvincia), NombreProvinciaEnNacional);
+    si(enTesoreria && !municipio.isEmpty() && !referencia.existeMunicipio(municipio),
+       MunicipioInadmisible);
+    si(enTesoreria && !vacio(nomMunicipio), NombreMunicipioEnTesoreria);
+    si(nacional && !provincia.isEmpty() && !referencia.existeProvincia(provincia),
+       ProvinciaInadmisible);
+    si(enOtraProvincia && !municipio.isEmpty(), MunicipioFueraDeTesoreria);
+    si(nacional && !vacio(pais), PaisEnNacional);
+    std::sort(errores.begin(), errores.end());
+    return errores;
+}
+
+int16_t ReglasPresentador(const Arreglo& datos)
+{
+    using namespace VeredictoPresentador;
+    const QString dni = Texto(datos, 0);
+    const QString nombre = Texto(datos, 1);
+    const QString domicilio = Texto(datos, 2);
+    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, 3));
+    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, 4));
+    const QString nomMunicipio = Texto(datos, 5);
+    const QString cp = cincoCifras(Texto(datos, 6));
+    const QString telefono = Texto(datos, 7).trimmed();
+
+    // A presenter's number is always an official one, and an empty one is as wrong as a
+    // badly formed one.
+    const EstadoNif nif = ExaminarNifOficial(dni);
+    if (nif == EstadoNif::Vacio || nif == EstadoNif::MalFormado)
+        return DniErroneo;
+    if (vacio(nombre))
+        return NombreVacio;
+    if (vacio(domicilio))
+        return DomicilioVacio;
+    if (provincia == kProvinciaTesoreria && municipio.isEmpty())
+        return CodigoMunicipioVacio;
+    if (provincia != kProvinciaTesoreria && vacio(nomMunicipio))
+        return MunicipioVacio;
+    if (CodigoPostal::EsCero(cp))
+        return CodigoPostalCero;
+    if (!CodigoPostal::EsDeProvincia(cp, provincia))
+        return CodigoPostalDeOtraProvincia;
+    if (CodigoPostal::TerminaEnCeros(cp))
+        return CodigoPostalTerminaEnCeros;
+    // A telephone of value 0 is shown empty, and so it is none.
+    const bool sinTelefono = CodigoPostal::EsCero(telefono);
+    if (!sinTelefono && !(telefono.size() == 9 && SoloCifras(telefono)))
+        return TelefonoNoDeNueveCifras;
+    if (sinTelefono)
+        return TelefonoVacio;
+    if (nif == EstadoNif::ControlErroneo)
+        return DniControlErroneo;
+    return Valido;
+}

@@ -1,0 +1,100 @@
+#pragma once
+// The rules of a valid contributor and of a valid presenter, as the stores apply them.
+//
+// A national contributor (TIPODOMI "N") has a province code, no typed province name and no
+// country, and a five-digit postal code of its province that is not nn000. In the province of
+// the treasury ("77") its municipality is a code; in any other the name is typed and the code
+// is 000 or empty. A foreign contributor (TIPODOMI "E") has a typed country, province name and
+// municipality name, and province and municipality codes 00/000 or empty. The number is
+// judged by its kind (see ValidarDniOficial.h).
+//
+// The interactive validation answers the number of the first rule broken, trying them in the
+// order of their numbers; each rule is worded so that it speaks only where the rules before
+// it have nothing to say of the same field (a postal code that is not of five digits is not
+// said to be of another province; a missing province is reported as missing, not as a postal
+// code that does not match). The import's validation reports every error of a line at once.
+#include "servicios/Arreglos.h"
+
+#include <QList>
+#include <QString>
+#include <cstdint>
+#include <functional>
+
+// Verdicts of ValidarDatosContribuyentes; also the codes 1 to 13 of the import.
+namespace VeredictoContribuyente {
+enum : int16_t {
+    Valido = 0,
+    DniMalFormado = 1,
+    DniVacio = 2,
+    NombreVacio = 3,
+    DomicilioVacio = 4,
+    PaisVacio = 5,
+    CodigoPostalDeOtraProvincia = 6,
+    CodigoPostalNoDeCincoCifras = 7,
+    CodigoPostalTerminaEnCeros = 8,
+    CodigoPostalCero = 9,
+    ProvinciaVacia = 10,
+    MunicipioVacio = 11,
+    CodigoProvinciaVacio = 12,
+    CodigoMunicipioVacio = 13,
+    DniControlErroneo = 14,
+};
+}
+
+// Codes of the import that have no interactive verdict.
+namespace ErrorImportacion {
+enum : int {
+    NumeroNoNumerico = 14,
+    CodigoProvinciaNoNumerico = 15,
+    CodigoPostalNoNumerico = 16,
+    CodigoMunicipioNoNumerico = 17,
+    ContadorSujetosNoNumerico = 18,
+    ContadorTransmitentesNoNumerico = 19,
+    TipoDniInvalido = 20,
+    TipoDomicilioInvalido = 21,
+    SiglaInadmisible = 22,
+    ProvinciaExtranjeraNoCero = 23,
+    MunicipioExtranjeroNoCero = 24,
+    NombreProvinciaEnNacional = 25,
+    MunicipioInadmisible = 26,
+    NombreMunicipioEnTesoreria = 27,
+    ProvinciaInadmisible = 28,
+    MunicipioFueraDeTesoreria = 29,
+    PaisEnNacional = 30,
+};
+}
+
+// Verdicts of ValidarDatosPresentador.
+namespace VeredictoPresentador {
+enum : int16_t {
+    Valido = 0,
+    DniErroneo = 1,
+    NombreVacio = 2,
+    DomicilioVacio = 3,
+    CodigoMunicipioVacio = 4,
+    MunicipioVacio = 5,
+    CodigoPostalCero = 6,
+    CodigoPostalDeOtraProvincia = 7,
+    CodigoPostalTerminaEnCeros = 8,
+    TelefonoNoDeNueveCifras = 9,
+    TelefonoVacio = 10,
+    DniControlErroneo = 11,
+};
+}
+
+// The province of the treasury: the only one whose municipalities are codes.
+inline const QString kProvinciaTesoreria = QStringLiteral("77");
+
+// The look-ups of the import in the reference tables.
+struct ConsultasReferencia {
+    std::function<bool(const QString& sigla)> existeVia;
+    std::function<bool(const QString& provincia)> existeProvincia;    // two digits
+    std::function<bool(const QString& municipio)> existeMunicipio;    // three digits
+};
+
+// The validation array of a contributor (11 texts) -> verdict.
+int16_t ReglasContribuyente(const Arreglo& datos);
+// The import validation array (15 raw texts) -> every error code, in ascending order.
+QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia);
+// The validation array of a presenter (8 texts) -> verdict.
+int16_t ReglasPresentador(const Arreglo& datos);

@@ -1,0 +1,322 @@
+#include "servicios/cContribSvr.h"
+
+#include "app/plataforma/Fallo.h"
+#include "servicios/ArreglosPartes.h"
+#include "servicios/CodigoPostal.h"
+#include "servicios/Conexion.h"
+#include "servicios/ContadoresPartes.h"
+#include "servicios/ReferenciaPartes.h"
+#include "servicios/ValidacionPartes.h"
+#include "servicios/ValidarDniOficial.h"
+
+#include <QStringList>
+#include <limits>
+
+using namespace ArreglosPartes;
+
+namespace {
+
+QString origen(const char* metodo)
+{
+    return QStringLiteral("svrveldoV1.cContribSvr.") + QLatin1String(metodo);
+}
+
+// The stored columns in the order of the save array, from element 1.
+const QStringList kColumnas = {
+    QStringLiteral("TIPODNI"),   QStringLiteral("DNIC"),     QStringLiteral("NOMBREC"),
+    QStringLiteral("VIAC"),      QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
+    QStringLiteral("LETRAC"),    QStringLiteral("ESCALERAC"), QStringLiteral("PISOC"),
+    QStringLiteral("MANOC"),     QStringLiteral("TIPODOMI"), QStringLiteral("PAIS"),
+    QStringLiteral("CODPROVC"),  QStringLiteral("NOMPROVC"), QStringLiteral("CODPOSC"),
+    QStringLiteral("CODMUNC"),   QStringLiteral("NOMMUNC"),
+};
+constexpr int kElementos = 20;
+constexpr int kNumSp = 18;
+constexpr int kNumTr = 19;
+
+// The values of a save array in their stored form, in the order of kColumnas.
+QVariantList filaGuardada(const Arreglo& a, const QString& org)
+{
+    const QString tipoDni = TextoGuardado(a, 1, 1, "TIPODNI", org);
+    const QString tipoDomi = TextoGuardado(a, 11, 1, "TIPODOMI", org);
+    if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
+        throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
+    if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
+        throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
+    const bool extranjero = tipoDomi == QLatin1String("E");
+    // A national postal code has its five digits; a foreign one is kept as it was typed.
+    const QString cp = extranjero ? CifrasGuardadas(a, 15, 5, "CODPOSC", org)
+                                  : CodigoGuardado(a, 15, 5, "CODPOSC", org);
+    return {
+        tipoDni,
+        TextoGuardado(a, 2, 9, "DNIC", org),
+        TextoGuardado(a, 3, 40, "NOMBREC", org),
+        TextoGuardado(a, 4, 2, "VIAC", org),
+        TextoGuardado(a, 5, 20, "DOMICILIOC", org),
+        EnteroGuardado(a, 6, 99999, "NUMEROC", org),
+        TextoGuardado(a, 7, 2, "LETRAC", org),
+        TextoGuardado(a, 8, 2, "ESCALERAC", org),
+        TextoGuardado(a, 9, 2, "PISOC", org),
+        TextoGuardado(a, 10, 3, "MANOC", org),
+        tipoDomi,
+        TextoGuardado(a, 12, 20, "PAIS", org),
+        CodigoGuardado(a, 13, 2, "CODPROVC", org),
+        TextoGuardado(a, 14, 20, "NOMPROVC", org),
+        cp,
+        CodigoGuardado(a, 16, 3, "CODMUNC", org),
+        TextoGuardado(a, 17, 25, "NOMMUNC", org),
+    };
+}
+
+int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& org)
+{
+    const QString t = dni.trimmed();
+    if (t.isEmpty())
+        return 0;
+    return Escalar(db, QStringLiteral("SELECT CSCO FROM CONTRIBUYENTES WHERE DNIC = ?"), {t}, org,
+                   0)
+        .toInt();
+}
+
+void insertar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
+{
+    QStringList columnas = kColumnas;
+    QVariantList valores = fila;
+    if (csco != 0) {
+        columnas.prepend(QStringLiteral("CSCO"));
+        valores.prepend(csco);
+    }
+    QStringList marcas;
+    for (qsizetype i = 0; i < columnas.size(); ++i)
+        marcas << QStringLiteral("?");
+    Ejecutar(db,
+             QStringLiteral("INSERT INTO CONTRIBUYENTES (%1) VALUES (%2)")
+                 .arg(columnas.join(QStringLiteral(", ")), marcas.join(QStringLiteral(", "))),
+             valores, org);
+}
+
+bool actualizar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
+{
+    QStringList asignaciones;
+    for (const QString& c : kColumnas)
+        asignaciones << c + QStringLiteral(" = ?");
+    QVariantList valores = fila;
+    valores << csco;
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("UPDATE CONTRIBUYENTES SET %1 WHERE CSCO = ?")
+                               .arg(asignaciones.join(QStringLiteral(", "))),
+                           valores, org);
+    return q.numRowsAffected() > 0;
+}
+
+QString condiciones(const Arreglo& criterios, QVariantList& valores)
+{
+    return CondicionesBusqueda(criterios, QStringLiteral("c.NOMBREC"), QStringLiteral("c.DNIC"),
+                               valores);
+}
+
+QString ordenacion(uint8_t orden)
+{
+    return OrdenBusqueda(orden, QStringLiteral("c.NOMBREC"), QStringLiteral("c.DNIC"),
+                         QStringLiteral("c.CSCO"));
+}
+
+QString contadores()
+{
+    return ContadoresPartes::SqlComoSujeto(QStringLiteral("c.CSCO")) + QStringLiteral(", ")
+        + ContadoresPartes::SqlComoTransmitente(QStringLiteral("c.CSCO"));
+}
+
+Arreglo2D columnasVacias(int n, qsizetype filas)
+{
+    Arreglo2D datos(n);
+    for (QVariantList& c : datos)
+        c.reserve(filas);
+    return datos;
+}
+
+}  // namespace
+
+int16_t cContribSvr::ValidarDatosContribuyentes(const Arreglo& datos) const
+{
+    return ReglasContribuyente(datos);
+}
+
+bool cContribSvr::ValidarDniOficial(const QString& dni) const
+{
+    return EsNifOficialValido(dni);
+}
+
+void cContribSvr::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
+{
+    const QString org = origen("ValidarDatosImportar");
+    const QList<int> codigos = ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org));
+    QVariantList columna;
+    columna.reserve(codigos.size() + 1);
+    for (int c : codigos)
+        columna << c;
+    columna << 0;  // the spare element: the upper bound is the number of errors
+    errores = Arreglo2D{columna};
+}
+
+bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
+{
+    const QString org = origen("ValidarTipoDniDomicilio");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT TIPODNI, TIPODOMI FROM CONTRIBUYENTES "
+                                          "WHERE CSCO = ?"),
+                           {csco}, org);
+    return q.next() && q.value(0).toString() == QLatin1String("O")
+        && q.value(1).toString() == QLatin1String("N");
+}
+
+int32_t cContribSvr::ExisteContribuyente(const QString& dni) const
+{
+    const QString org = origen("ExisteContribuyente");
+    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+}
+
+int32_t cContribSvr::ObtenerCodigoContribuyente(const QString& dni) const
+{
+    const QString org = origen("ObtenerCodigoContribuyente");
+    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+}
+
+void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
+{
+    const QString org = origen("CargarContribuyente");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT %1, %2 FROM CONTRIBUYENTES c WHERE c.CSCO = ?")
+                               .arg(kColumnas.join(QStringLiteral(", ")), contadores()),
+                           {csco}, org);
+    datos.clear();
+    if (!q.next())
+        return;
+    datos.reserve(kElementos);
+    datos << csco;
+    for (int i = 0; i < kColumnas.size(); ++i)
+        datos << q.value(i);
+    datos[6] = q.value(5).toInt();
+    datos << q.value(kNumSp - 1).toDouble() << q.value(kNumTr - 1).toDouble();
+}
+
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos) const
+{
+    return guardar(datos, Modo::PorCodigo);
+}
+
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir) const
+{
+    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir);
+}
+
+int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
+{
+    const QString org = origen("GuardarContribuyente");
+    // Every value is put in its stored form before anything is written.
+    const QVariantList fila = filaGuardada(datos, org);
+    int32_t csco = modo == Modo::Anadir
+        ? 0
+        : EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSCO", org);
+    const QString dni = fila[1].toString();
+
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    Transaccion transaccion(db, org);
+    if (modo == Modo::Sustituir && csco == 0)
+        csco = codigoPorDni(db, dni, org);
+    const int32_t titular = codigoPorDni(db, dni, org);
+    if (csco == 0) {
+        if (titular != 0)
+            return 1;
+        insertar(db, 0, fila, org);
+    } else {
+        if (titular != 0 && titular != csco)
+            return 2;
+        if (!actualizar(db, csco, fila, org))
+            insertar(db, csco, fila, org);
+    }
+    transaccion.confirmar();
+    return 0;
+}
+
+bool cContribSvr::BorrarContribuyente(int32_t csco) const
+{
+    const QString org = origen("BorrarContribuyente");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    Transaccion transaccion(db, org);
+    if (ContadoresPartes::ComoSujeto(db, csco, org) > 0
+        || ContadoresPartes::ComoTransmitente(db, csco, org) > 0)
+        return false;
+    QSqlQuery q = Ejecutar(db, QStringLiteral("DELETE FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco},
+                           org);
+    const bool borrado = q.numRowsAffected() > 0;
+    transaccion.confirmar();
+    return borrado;
+}
+
+Arreglo cContribSvr::ObtenerNumspNumtr(int32_t csco) const
+{
+    const QString org = origen("ObtenerNumspNumtr");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    return {static_cast<int>(ContadoresPartes::ComoSujeto(db, csco, org)),
+            static_cast<int>(ContadoresPartes::ComoTransmitente(db, csco, org))};
+}
+
+int32_t cContribSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
+                                           uint8_t orden) const
+{
+    const QString org = origen("dameResultadoBusqueda");
+    const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QVariantList valores;
+    const QString donde = condiciones(criterios, valores);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT c.CSCO, c.NOMBREC, c.DNIC, c.DOMICILIOC, "
+                                          "c.CODPROVC, c.CODMUNC, c.NOMMUNC, %1 "
+                                          "FROM CONTRIBUYENTES c")
+                                   .arg(contadores())
+                               + donde + ordenacion(orden),
+                           valores, org);
+    datos = columnasVacias(7, 0);
+    while (q.next()) {
+        datos[0] << q.value(0).toInt();
+        datos[1] << q.value(1).toString();
+        datos[2] << q.value(2).toString();
+        datos[3] << q.value(3).toString();
+        datos[4] << ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+                                                      q.value(5).toString(),
+                                                      q.value(6).toString());
+        datos[5] << q.value(7).toInt();
+        datos[6] << q.value(8).toInt();
+    }
+    return static_cast<int32_t>(datos[0].size());
+}
+
+int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo2D& datos,
+                                               uint8_t orden) const
+{
+    const QString org = origen("dameResultadoBusquedaTodo");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QVariantList valores;
+    const QString donde = condiciones(criterios, valores);
+    QStringList columnas;
+    for (const QString& c : kColumnas)
+        columnas << QStringLiteral("c.") + c;
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT c.CSCO, %1, %2 FROM CONTRIBUYENTES c")
+                                   .arg(columnas.join(QStringLiteral(", ")), contadores())
+                               + donde + ordenacion(orden),
+                           valores, org);
+    datos = columnasVacias(kElementos, 0);
+    while (q.next()) {
+        datos[0] << q.value(0).toInt();
+        for (int i = 1; i < kElementos; ++i)
+            datos[i] << q.value(i);
+        datos[6].last() = q.value(6).toInt();
+        datos[kNumSp].last() = q.value(kNumSp).toDouble();
+        datos[kNumTr].last() = q.value(kNumTr).toDouble();
+    }
+    return static_cast<int32_t>(datos[0].size());
+}

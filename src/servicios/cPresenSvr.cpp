@@ -1,0 +1,215 @@
+#include "servicios/cPresenSvr.h"
+
+#include "servicios/ArreglosPartes.h"
+#include "servicios/Conexion.h"
+#include "servicios/ContadoresPartes.h"
+#include "servicios/ReferenciaPartes.h"
+#include "servicios/ValidacionPartes.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <limits>
+
+using namespace ArreglosPartes;
+
+namespace {
+
+QString origen(const char* metodo)
+{
+    return QStringLiteral("svrveldoV1.cPresenSvr.") + QLatin1String(metodo);
+}
+
+// The stored columns in the order of the save array, from element 1.
+const QStringList kColumnas = {
+    QStringLiteral("DNIP"),      QStringLiteral("NOMBREP"),   QStringLiteral("VIAP"),
+    QStringLiteral("DOMICILIOP"), QStringLiteral("NUMEROP"),  QStringLiteral("LETRAP"),
+    QStringLiteral("ESCALERAP"), QStringLiteral("PISOP"),     QStringLiteral("MANOP"),
+    QStringLiteral("CODPROVP"),  QStringLiteral("CODPOSP"),   QStringLiteral("CODMUNP"),
+    QStringLiteral("NOMMUNP"),   QStringLiteral("TELEFONOP"),
+};
+
+QVariantList filaGuardada(const Arreglo& a, const QString& org)
+{
+    return {
+        TextoGuardado(a, 1, 9, "DNIP", org),
+        TextoGuardado(a, 2, 40, "NOMBREP", org),
+        TextoGuardado(a, 3, 2, "VIAP", org),
+        TextoGuardado(a, 4, 20, "DOMICILIOP", org),
+        EnteroGuardado(a, 5, 99999, "NUMEROP", org),
+        TextoGuardado(a, 6, 2, "LETRAP", org),
+        TextoGuardado(a, 7, 2, "ESCALERAP", org),
+        TextoGuardado(a, 8, 2, "PISOP", org),
+        TextoGuardado(a, 9, 3, "MANOP", org),
+        CodigoGuardado(a, 10, 2, "CODPROVP", org),
+        CodigoGuardado(a, 11, 5, "CODPOSP", org),
+        CodigoGuardado(a, 12, 3, "CODMUNP", org),
+        TextoGuardado(a, 13, 25, "NOMMUNP", org),
+        CifrasGuardadas(a, 14, 9, "TELEFONOP", org),
+    };
+}
+
+int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& org)
+{
+    const QString t = dni.trimmed();
+    if (t.isEmpty())
+        return 0;
+    return Escalar(db, QStringLiteral("SELECT CSPR FROM PRESENTADORES WHERE DNIP = ?"), {t}, org, 0)
+        .toInt();
+}
+
+void insertar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
+{
+    QStringList columnas = kColumnas;
+    QVariantList valores = fila;
+    if (cspr != 0) {
+        columnas.prepend(QStringLiteral("CSPR"));
+        valores.prepend(cspr);
+    }
+    QStringList marcas;
+    for (qsizetype i = 0; i < columnas.size(); ++i)
+        marcas << QStringLiteral("?");
+    Ejecutar(db,
+             QStringLiteral("INSERT INTO PRESENTADORES (%1) VALUES (%2)")
+                 .arg(columnas.join(QStringLiteral(", ")), marcas.join(QStringLiteral(", "))),
+             valores, org);
+}
+
+void actualizar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
+{
+    QStringList asignaciones;
+    for (const QString& c : kColumnas)
+        asignaciones << c + QStringLiteral(" = ?");
+    QVariantList valores = fila;
+    valores << cspr;
+    Ejecutar(db,
+             QStringLiteral("UPDATE PRESENTADORES SET %1 WHERE CSPR = ?")
+                 .arg(asignaciones.join(QStringLiteral(", "))),
+             valores, org);
+}
+
+}  // namespace
+
+int16_t cPresenSvr::ValidarDatosPresentador(const Arreglo& datos) const
+{
+    return ReglasPresentador(datos);
+}
+
+int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
+{
+    const QString org = origen("GuardarPresentador");
+    const QVariantList fila = filaGuardada(datos, org);
+    const int32_t cspr =
+        EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSPR", org);
+    const QString dni = fila[0].toString();
+
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    Transaccion transaccion(db, org);
+    const int32_t titular = codigoPorDni(db, dni, org);
+    if (cspr == 0) {
+        if (titular != 0)
+            return 1;
+        insertar(db, 0, fila, org);
+    } else {
+        if (titular != 0 && titular != cspr)
+            return 2;
+        QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
+                                    {cspr}, org);
+        if (!actual.next()) {
+            insertar(db, cspr, fila, org);
+        } else {
+            // The declarations copy the presenter's number: once one names him it stays. A
+            // change of case only is the same number (the column ignores case).
+            const bool otroDni =
+                actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
+            if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
+                return 3;
+            actualizar(db, cspr, fila, org);
+        }
+    }
+    transaccion.confirmar();
+    return 0;
+}
+
+void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos) const
+{
+    const QString org = origen("CargarPresentador");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT %1 FROM PRESENTADORES WHERE CSPR = ?")
+                               .arg(kColumnas.join(QStringLiteral(", "))),
+                           {cspr}, org);
+    datos.clear();
+    if (!q.next())
+        return;
+    datos.reserve(kColumnas.size() + 1);
+    datos << cspr;
+    for (int i = 0; i < kColumnas.size(); ++i)
+        datos << q.value(i);
+    datos[5] = q.value(4).toInt();
+}
+
+bool cPresenSvr::BorrarPresentador(int32_t cspr) const
+{
+    const QString org = origen("BorrarPresentador");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    Transaccion transaccion(db, org);
+    if (ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
+        return false;
+    QSqlQuery q =
+        Ejecutar(db, QStringLiteral("DELETE FROM PRESENTADORES WHERE CSPR = ?"), {cspr}, org);
+    const bool borrado = q.numRowsAffected() > 0;
+    transaccion.confirmar();
+    return borrado;
+}
+
+int32_t cPresenSvr::ObtenerCodigoPresentador(const QString& dni) const
+{
+    const QString org = origen("ObtenerCodigoPresentador");
+    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+}
+
+int16_t cPresenSvr::NDeclaPresentador(int32_t cspr) const
+{
+    const QString org = origen("NDeclaPresentador");
+    const int64_t n = ContadoresPartes::ComoPresentador(Conexion::Modificable(mdbmod, org), cspr, org);
+    return static_cast<int16_t>(std::min<int64_t>(n, std::numeric_limits<int16_t>::max()));
+}
+
+int32_t cPresenSvr::NumDeclaPresentador(int32_t cspr) const
+{
+    const QString org = origen("NumDeclaPresentador");
+    return static_cast<int32_t>(
+        ContadoresPartes::ComoPresentador(Conexion::Modificable(mdbmod, org), cspr, org));
+}
+
+int32_t cPresenSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
+                                          uint8_t orden) const
+{
+    const QString org = origen("dameResultadoBusqueda");
+    const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
+    QVariantList valores;
+    const QString donde = CondicionesBusqueda(criterios, QStringLiteral("p.NOMBREP"),
+                                              QStringLiteral("p.DNIP"), valores);
+    const QString orden_ = OrdenBusqueda(orden, QStringLiteral("p.NOMBREP"),
+                                         QStringLiteral("p.DNIP"), QStringLiteral("p.CSPR"));
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT p.CSPR, p.NOMBREP, p.DNIP, p.DOMICILIOP, "
+                                          "p.CODPROVP, p.CODMUNP, p.NOMMUNP, %1 "
+                                          "FROM PRESENTADORES p")
+                                   .arg(ContadoresPartes::SqlComoPresentador(QStringLiteral("p.CSPR")))
+                               + donde + orden_,
+                           valores, org);
+    datos = Arreglo2D(6);
+    while (q.next()) {
+        datos[0] << q.value(0).toInt();
+        datos[1] << q.value(1).toString();
+        datos[2] << q.value(2).toString();
+        datos[3] << q.value(3).toString();
+        datos[4] << ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+                                                      q.value(5).toString(),
+                                                      q.value(6).toString());
+        datos[5] << q.value(7).toInt();
+    }
+    return static_cast<int32_t>(datos[0].size());
+}

@@ -1,0 +1,47 @@
+#pragma once
+// The store of presenters, used as the store of contributors is: one object per operation,
+// paths set before the call, arrays of fixed order, verdict numbers.
+//
+// Arrays (zero-based):
+//  - validation, 8 texts: DNIP, NOMBREP, DOMICILIOP, CODPROVP, CODMUNP, NOMMUNP, CODPOSP,
+//    TELEFONOP;
+//  - save and load, 15 values: CSPR, DNIP, NOMBREP, VIAP, DOMICILIOP, NUMEROP, LETRAP,
+//    ESCALERAP, PISOP, MANOP, CODPROVP, CODPOSP, CODMUNP, NOMMUNP, TELEFONOP (NUMEROP a whole
+//    number).
+//
+// A presenter is always national and official. His number of declarations is counted from the
+// declarations when it is asked for; a presenter named in a declaration cannot be deleted, and
+// his number (which the declaration copies) cannot change.
+#include "servicios/Arreglos.h"
+
+#include <QString>
+#include <cstdint>
+
+class cPresenSvr {
+public:
+    QString mdbmod;
+    QString mdblec;
+
+    // Number of the first rule that the validation array breaks, 0 when none (1 to 11).
+    int16_t ValidarDatosPresentador(const Arreglo& datos) const;
+    // Element 0 is 0: insert; otherwise update of that code (written back under the same code
+    // when it is no longer in the store). Verdicts: 0 saved; 1 insert of a number already in
+    // the store; 2 update to a number held by another presenter; 3 change of the number of a
+    // presenter named in a declaration.
+    int16_t GuardarPresentador(const Arreglo& datos) const;
+    // Fills the load array; leaves it empty when the store has no such code.
+    void CargarPresentador(int32_t cspr, Arreglo& datos) const;
+    // Deletes the presenter unless a declaration names him; true when a row went.
+    bool BorrarPresentador(int32_t cspr) const;
+    // Code of the presenter with this number, 0 when none.
+    int32_t ObtenerCodigoPresentador(const QString& dni) const;
+    // Declarations that name the presenter; the 16-bit form stops at 32767.
+    int16_t NDeclaPresentador(int32_t cspr) const;
+    int32_t NumDeclaPresentador(int32_t cspr) const;
+    // The list: criterios[1] a prefix of the name, criterios[2] of the number (the whole
+    // number 0 for none); `orden` 2 by number, anything else by name. Fills datos[columna][fila]
+    // with 6 columns: code, name, number, street, municipality, number of declarations.
+    // Answers the number of rows. Needs mdbmod and mdblec.
+    int32_t dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
+                                  uint8_t orden) const;
+};
