@@ -2,6 +2,9 @@
 // What the list panels do to their grid: mark the selected row by painting it, and lay the
 // search box over the cell under a heading. A panel gives it the grid and the box when it
 // opens (Flex, txtBusqueda) before using the rest.
+// The grid is held by a QPointer, which needs the whole class wherever this header goes.
+#include "fields/cFlexGrid.h"
+
 #include <QColor>
 #include <QPointer>
 #include <QStringList>
