@@ -54,6 +54,12 @@ std::optional<QString> cifras(const QVariant& v)
     return t;
 }
 
+// A text value that is never null: SQLite takes a null QString for NULL.
+QString noNulo(const QString& t)
+{
+    return t.isNull() ? QStringLiteral("") : t;
+}
+
 bool cero(const QString& digitos)
 {
     for (QChar c : digitos) {
@@ -79,7 +85,7 @@ QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
     const QString t = v.toString().trimmed();
     if (t.size() > ancho)
         noCoincide(campo, v, origen);
-    return t;
+    return noNulo(t);
 }
 
 int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* campo,
@@ -106,7 +112,7 @@ QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
     if (!d)
         noCoincide(campo, v, origen);
     if (d->isEmpty() || cero(*d))
-        return {};
+        return noNulo(QString());
     QString significativo = *d;
     while (significativo.startsWith(QLatin1Char('0')))
         significativo.remove(0, 1);
@@ -122,7 +128,7 @@ QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
     const std::optional<QString> d = cifras(v);
     if (!d || d->size() > ancho)
         noCoincide(campo, v, origen);
-    return cero(*d) ? QString() : *d;
+    return noNulo(cero(*d) ? QString() : *d);
 }
 
 std::optional<QString> Criterio(const Arreglo& criterios, int i)
