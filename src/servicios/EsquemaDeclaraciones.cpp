@@ -5,7 +5,8 @@
 // contributor or presenter (the program's 0), so that the foreign keys hold. GRABACION is the
 // order of the saves (the greatest is the last saved), for the recent declarations of the menu.
 // The indexes serve the declaration lists: their criteria and orders (code, reference, date,
-// total, operation) and the lists of one contributor or one presenter.
+// total, operation) and the lists of one contributor or one presenter. Reference and operation
+// sort and match without regard to the case of ASCII letters, as the lists search them.
 #include "servicios/Esquema.h"
 
 QStringList EsquemaDeclaracionesV1()
@@ -14,7 +15,7 @@ QStringList EsquemaDeclaracionesV1()
         QStringLiteral(
             "CREATE TABLE DECLARACIONES ("
             "CSDE INTEGER PRIMARY KEY AUTOINCREMENT, "
-            "REFERENCIA TEXT NOT NULL DEFAULT '', "
+            "REFERENCIA TEXT NOT NULL DEFAULT '' COLLATE NOCASE, "
             "CSPR INTEGER REFERENCES PRESENTADORES (CSPR), "
             "CSSU INTEGER REFERENCES CONTRIBUYENTES (CSCO), "
             "CSTRA INTEGER REFERENCES CONTRIBUYENTES (CSCO), "
@@ -27,7 +28,7 @@ QStringList EsquemaDeclaracionesV1()
             "CLASIFICACION INTEGER NOT NULL DEFAULT 0, "
             "MOTOR TEXT NOT NULL DEFAULT 'G', "
             "CILINDRADA INTEGER NOT NULL DEFAULT 0, "
-            "OPERACION TEXT NOT NULL DEFAULT '', "
+            "OPERACION TEXT NOT NULL DEFAULT '' COLLATE NOCASE, "
             "NOSUJETO TEXT NOT NULL DEFAULT '', "
             "EXENTO TEXT NOT NULL DEFAULT '', "
             "REDUCCION TEXT NOT NULL DEFAULT '', "
@@ -69,10 +70,19 @@ QStringList EsquemaDeclaracionesV1()
             "CODMUNTR TEXT NOT NULL DEFAULT '', "
             "NOMMUNTR TEXT NOT NULL DEFAULT '', "
             "GRABACION INTEGER NOT NULL DEFAULT 0)"),
-        QStringLiteral("CREATE INDEX IX_DECLARACIONES_REFERENCIA ON DECLARACIONES (REFERENCIA)"),
-        QStringLiteral("CREATE INDEX IX_DECLARACIONES_FECHAD ON DECLARACIONES (FECHAD)"),
-        QStringLiteral("CREATE INDEX IX_DECLARACIONES_TOTAL ON DECLARACIONES (TOTAL)"),
-        QStringLiteral("CREATE INDEX IX_DECLARACIONES_OPERACION ON DECLARACIONES (OPERACION)"),
+        // The list reads code, reference, date, total and operation of many rows at once:
+        // each order has an index that holds all five (the code is every index's last
+        // column), so that a long list is read from the index alone, in its order.
+        QStringLiteral("CREATE INDEX IX_DECLARACIONES_LISTA ON DECLARACIONES "
+                       "(CSDE, REFERENCIA, FECHAD, TOTAL, OPERACION)"),
+        QStringLiteral("CREATE INDEX IX_DECLARACIONES_REFERENCIA ON DECLARACIONES "
+                       "(REFERENCIA, FECHAD, TOTAL, OPERACION)"),
+        QStringLiteral("CREATE INDEX IX_DECLARACIONES_FECHAD ON DECLARACIONES "
+                       "(FECHAD, REFERENCIA, TOTAL, OPERACION)"),
+        QStringLiteral("CREATE INDEX IX_DECLARACIONES_TOTAL ON DECLARACIONES "
+                       "(TOTAL, REFERENCIA, FECHAD, OPERACION)"),
+        QStringLiteral("CREATE INDEX IX_DECLARACIONES_OPERACION ON DECLARACIONES "
+                       "(OPERACION, REFERENCIA, FECHAD, TOTAL)"),
         QStringLiteral("CREATE INDEX IX_DECLARACIONES_GRABACION ON DECLARACIONES (GRABACION)"),
         QStringLiteral("CREATE INDEX IX_DECLARACIONES_CSSU ON DECLARACIONES (CSSU)"),
         QStringLiteral("CREATE INDEX IX_DECLARACIONES_CSTRA ON DECLARACIONES (CSTRA)"),

@@ -1,0 +1,375 @@
+// The store of the returns: save, load, delete, the recent returns, and the parties as a
+// return takes them. The counters of the parties (returns of a contributor as subject or
+// transmitter, of a presenter) are counted from DECLARACIONES when asked for
+// (ContadoresPartes), so a save or a deletion keeps them right by changing the row itself,
+// inside the same transaction as everything it writes.
+#include "servicios/cDeclaSvr.h"
+
+#include "app/plataforma/Fallo.h"
+#include "servicios/Conexion.h"
+#include "servicios/ContadoresPartes.h"
+
+#include <QSqlRecord>
+#include <array>
+
+namespace {
+
+QString origen(const char* operacion)
+{
+    return QStringLiteral("svrveldoV1.cDeclaSvr.") + QLatin1String(operacion);
+}
+
+enum class Clase { Texto, Entero, Importe, Parte };
+
+struct Columna {
+    const char* nombre;
+    Clase clase;
+};
+
+// The save array, value by value: the column that keeps it and its kind. Value 0 is the code.
+// The load array has the same values at the same indexes up to 23, the presenter's number and
+// name at 24 and 25, and from 26 on the values 24 to 54 of this list (two places further).
+constexpr std::array<Columna, cDeclaSvr::kValoresGuardar> kColumnas{{
+    {"CSDE", Clase::Entero},          {"REFERENCIA", Clase::Texto},
+    {"CSPR", Clase::Parte},           {"CSSU", Clase::Parte},
+    {"CSTRA", Clase::Parte},          {"FECHAD", Clase::Entero},
+    {"ADQUIRIDO", Clase::Texto},      {"MARCA", Clase::Texto},
+    {"TIPO", Clase::Texto},           {"MODELO", Clase::Texto},
+    {"BASTIDOR", Clase::Texto},       {"CLASIFICACION", Clase::Entero},
+    {"MOTOR", Clase::Texto},          {"CILINDRADA", Clase::Entero},
+    {"OPERACION", Clase::Texto},      {"NOSUJETO", Clase::Texto},
+    {"EXENTO", Clase::Texto},         {"REDUCCION", Clase::Texto},
+    {"BASEI", Clase::Importe},        {"BASEIREDUCIDA", Clase::Importe},
+    {"TIPOIMP", Clase::Importe},      {"CUOTA", Clase::Importe},
+    {"DEDUCCION", Clase::Importe},    {"TOTAL", Clase::Importe},
+    {"DNISP", Clase::Texto},          {"NOMBRESP", Clase::Texto},
+    {"VIASP", Clase::Texto},          {"DOMICILIOSP", Clase::Texto},
+    {"NUMEROSP", Clase::Entero},      {"LETRASP", Clase::Texto},
+    {"ESCALERASP", Clase::Texto},     {"PISOSP", Clase::Texto},
+    {"MANOSP", Clase::Texto},         {"CODPROVSP", Clase::Texto},
+    {"NOMPROVSP", Clase::Texto},      {"CODPOSSP", Clase::Texto},
+    {"CODMUNSP", Clase::Texto},       {"NOMMUNSP", Clase::Texto},
+    {"TIPODNITR", Clase::Texto},      {"DNITR", Clase::Texto},
+    {"NOMBRETR", Clase::Texto},       {"VIATR", Clase::Texto},
+    {"DOMICILIOTR", Clase::Texto},    {"NUMEROTR", Clase::Entero},
+    {"LETRATR", Clase::Texto},        {"ESCALERATR", Clase::Texto},
+    {"PISOTR", Clase::Texto},         {"MANOTR", Clase::Texto},
+    {"TIPODOMITR", Clase::Texto},     {"PAISTR", Clase::Texto},
+    {"CODPROVTR", Clase::Texto},      {"NOMPROVTR", Clase::Texto},
+    {"CODPOSTR", Clase::Texto},       {"CODMUNTR", Clase::Texto},
+    {"NOMMUNTR", Clase::Texto},
+}};
+
+constexpr int kPrimeraDePartes = 24;  // first value of the save array after the presenter
+
+int indiceDeCarga(int indiceGuardar)
+{
+    return indiceGuardar < kPrimeraDePartes ? indiceGuardar : indiceGuardar + 2;
+}
+
+[[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
+{
+    // 13 is the classic "type mismatch" of a value that cannot become its field's type.
+    throw cFallo(13, o,
+                 QStringLiteral("No coinciden los tipos: %1 = '%2'")
+                     .arg(QLatin1String(c.nombre), v.toString()));
+}
+
+// A number of the array: a number, a text that reads as one, or blanks (0).
+double numeroDe(const Columna& c, const QVariant& v, const QString& o)
+{
+    if (!v.isValid() || v.isNull())
+        return 0;
+    if (v.typeId() == QMetaType::QString) {
+        const QString t = v.toString().trimmed();
+        if (t.isEmpty())
+            return 0;
+        bool ok = false;
+        const double d = t.toDouble(&ok);
+        if (!ok)
+            noCoincide(c, v, o);
+        return d;
+    }
+    bool ok = false;
+    const double d = v.toDouble(&ok);
+    if (!ok)
+        noCoincide(c, v, o);
+    return d;
+}
+
+qint64 enteroDe(const Columna& c, const QVariant& v, const QString& o)
+{
+    const double d = numeroDe(c, v, o);
+    if (d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
+        noCoincide(c, v, o);
+    return static_cast<qint64>(d);
+}
+
+bool existe(const QSqlDatabase& db, const char* tabla, const char* clave, qint64 codigo,
+            const QString& o)
+{
+    return Escalar(db,
+                   QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2 = ?")
+                       .arg(QLatin1String(tabla), QLatin1String(clave)),
+                   {codigo}, o, 0)
+               .toInt()
+        > 0;
+}
+
+// The value a party's code is stored as: NULL for none, or for a code that names no stored
+// party (the return then keeps only its own copy of the party's data).
+QVariant codigoDeParte(const QSqlDatabase& db, const Columna& c, qint64 codigo, const QString& o)
+{
+    if (codigo <= 0)
+        return QVariant(QMetaType(QMetaType::LongLong));
+    const bool presentador = QLatin1String(c.nombre) == QLatin1String("CSPR");
+    const bool hay = presentador ? existe(db, "PRESENTADORES", "CSPR", codigo, o)
+                                 : existe(db, "CONTRIBUYENTES", "CSCO", codigo, o);
+    return hay ? QVariant(codigo) : QVariant(QMetaType(QMetaType::LongLong));
+}
+
+// A text of the array as it is stored: never NULL, an absent value being an empty text.
+QString textoNoNulo(const QVariant& v)
+{
+    const QString t = v.toString();
+    return t.isNull() ? QStringLiteral("") : t;
+}
+
+// The values of the save array (1 to 54) in the stored form, checked before anything is
+// written.
+QVariantList valoresGuardados(const QSqlDatabase& db, const Arreglo& datos, const QString& o)
+{
+    if (datos.size() != cDeclaSvr::kValoresGuardar)
+        throw cFallo(9, o,
+                     QStringLiteral("La declaración debe tener %1 valores y tiene %2.")
+                         .arg(cDeclaSvr::kValoresGuardar)
+                         .arg(datos.size()));
+    QVariantList valores;
+    for (int i = 1; i < cDeclaSvr::kValoresGuardar; ++i) {
+        const Columna& c = kColumnas[i];
+        const QVariant& v = datos[i];
+        switch (c.clase) {
+        case Clase::Texto:
+            valores << textoNoNulo(v);
+            break;
+        case Clase::Entero:
+            valores << enteroDe(c, v, o);
+            break;
+        case Clase::Importe:
+            valores << numeroDe(c, v, o);
+            break;
+        case Clase::Parte:
+            valores << codigoDeParte(db, c, enteroDe(c, v, o), o);
+            break;
+        }
+    }
+    return valores;
+}
+
+QString listaColumnas(int desde)
+{
+    QStringList nombres;
+    for (int i = desde; i < cDeclaSvr::kValoresGuardar; ++i)
+        nombres << QLatin1String(kColumnas[i].nombre);
+    return nombres.join(QStringLiteral(", "));
+}
+
+QVariant valorCargado(const Columna& c, const QVariant& v)
+{
+    switch (c.clase) {
+    case Clase::Texto:
+        return v.isNull() ? QString() : v.toString();
+    case Clase::Entero:
+    case Clase::Parte:
+        return static_cast<int32_t>(v.toLongLong());
+    case Clase::Importe:
+        return v.toDouble();
+    }
+    return v;
+}
+
+Arreglo cargaVacia()
+{
+    Arreglo datos;
+    for (int i = 0; i < cDeclaSvr::kValoresGuardar; ++i) {
+        const QVariant v = valorCargado(kColumnas[i], QVariant());
+        if (i == kPrimeraDePartes)
+            datos << QString() << QString();
+        datos << v;
+    }
+    datos << 0.0;
+    return datos;
+}
+
+// The columns of a contributor in the order of a party's array (values 1 to 17).
+const char* const kColumnasContribuyente[] = {
+    "TIPODNI", "DNIC", "NOMBREC", "VIAC", "DOMICILIOC", "NUMEROC", "LETRAC", "ESCALERAC", "PISOC",
+    "MANOC", "TIPODOMI", "PAIS", "CODPROVC", "NOMPROVC", "CODPOSC", "CODMUNC", "NOMMUNC",
+};
+constexpr int kIndiceNumeroContribuyente = 6;
+
+Arreglo parteVacia()
+{
+    Arreglo datos;
+    datos << 0;
+    for (int i = 1; i <= 17; ++i)
+        datos << (i == kIndiceNumeroContribuyente ? QVariant(0) : QVariant(QString()));
+    datos << 0.0;
+    return datos;
+}
+
+// The party's array of the contributor that the condition finds; false when none.
+bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant& valor,
+               Arreglo& datos, const QString& o)
+{
+    QStringList columnas{QStringLiteral("CSCO")};
+    for (const char* c : kColumnasContribuyente)
+        columnas << QLatin1String(c);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT %1 FROM CONTRIBUYENTES WHERE %2")
+                               .arg(columnas.join(QStringLiteral(", ")), condicion),
+                           {valor}, o);
+    if (!q.next()) {
+        datos = parteVacia();
+        return false;
+    }
+    Arreglo parte;
+    const int32_t codigo = q.value(0).toInt();
+    parte << codigo;
+    for (int i = 1; i <= 17; ++i) {
+        if (i == kIndiceNumeroContribuyente)
+            parte << static_cast<int32_t>(q.value(i).toLongLong());
+        else
+            parte << q.value(i).toString();
+    }
+    parte << static_cast<double>(ContadoresPartes::ComoSujeto(db, codigo, o));
+    datos = std::move(parte);
+    return true;
+}
+
+}  // namespace
+
+int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos) const
+{
+    const QString o = origen("GuardarDeclaracion");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    Transaccion transaccion(db, o);
+    QVariantList valores = valoresGuardados(db, datos, o);
+    const qint64 codigo = enteroDe(kColumnas[0], datos[0], o);
+    const qint64 grabacion =
+        Escalar(db, QStringLiteral("SELECT COALESCE(MAX(GRABACION), 0) + 1 FROM DECLARACIONES"),
+                {}, o, 1)
+            .toLongLong();
+    valores << grabacion;
+
+    int32_t resultado = 0;
+    if (codigo > 0) {
+        QStringList asignaciones;
+        for (int i = 1; i < kValoresGuardar; ++i)
+            asignaciones << QLatin1String(kColumnas[i].nombre) + QStringLiteral(" = ?");
+        asignaciones << QStringLiteral("GRABACION = ?");
+        QVariantList conCodigo = valores;
+        conCodigo << codigo;
+        QSqlQuery q = Ejecutar(db,
+                               QStringLiteral("UPDATE DECLARACIONES SET %1 WHERE CSDE = ?")
+                                   .arg(asignaciones.join(QStringLiteral(", "))),
+                               conCodigo, o);
+        if (q.numRowsAffected() > 0)
+            resultado = static_cast<int32_t>(codigo);
+    }
+    if (resultado == 0) {
+        // A new return, or one whose row was deleted meanwhile: it gets a new row.
+        QStringList marcas;
+        for (qsizetype i = 0; i < valores.size(); ++i)
+            marcas << QStringLiteral("?");
+        QSqlQuery q = Ejecutar(db,
+                               QStringLiteral("INSERT INTO DECLARACIONES (%1, GRABACION) "
+                                              "VALUES (%2)")
+                                   .arg(listaColumnas(1), marcas.join(QStringLiteral(", "))),
+                               valores, o);
+        resultado = q.lastInsertId().toInt();
+    }
+    transaccion.confirmar();
+    return resultado;
+}
+
+void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos) const
+{
+    const QString o = origen("CargarDeclaracion");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    QStringList columnas;
+    for (const Columna& c : kColumnas)
+        columnas << QStringLiteral("d.") + QLatin1String(c.nombre);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT %1, p.DNIP, p.NOMBREP FROM DECLARACIONES d "
+                                          "LEFT JOIN PRESENTADORES p ON p.CSPR = d.CSPR "
+                                          "WHERE d.CSDE = ?")
+                               .arg(columnas.join(QStringLiteral(", "))),
+                           {csde}, o);
+    if (!q.next()) {
+        datos = cargaVacia();
+        return;
+    }
+    Arreglo carga(kValoresCargar);
+    for (int i = 0; i < kValoresGuardar; ++i)
+        carga[indiceDeCarga(i)] = valorCargado(kColumnas[i], q.value(i));
+    carga[24] = q.value(kValoresGuardar).toString();
+    carga[25] = q.value(kValoresGuardar + 1).toString();
+    // How many returns have this return's transmitter as their subject: the declaration form
+    // keeps such a transmitter official and national.
+    const int32_t cstra = carga[4].toInt();
+    carga[57] = static_cast<double>(ContadoresPartes::ComoSujeto(db, cstra, o));
+    datos = std::move(carga);
+}
+
+bool cDeclaSvr::BorrarDeclaracion(int32_t csde) const
+{
+    const QString o = origen("BorrarDeclaracion");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    Transaccion transaccion(db, o);
+    QSqlQuery q = Ejecutar(db, QStringLiteral("DELETE FROM DECLARACIONES WHERE CSDE = ?"), {csde},
+                           o);
+    const bool borrada = q.numRowsAffected() > 0;
+    transaccion.confirmar();
+    return borrada;
+}
+
+void cDeclaSvr::ObtenerUltimasDeclaraciones(Arreglo2D& lista) const
+{
+    const QString o = origen("ObtenerUltimasDeclaraciones");
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT CSDE, REFERENCIA, NOMBRESP FROM DECLARACIONES "
+                                          "ORDER BY GRABACION DESC, CSDE DESC LIMIT 4"),
+                           {}, o);
+    Arreglo2D ultimas;
+    while (q.next()) {
+        const QString referencia = q.value(1).toString().trimmed();
+        ultimas.append({q.value(0).toInt(),
+                        referencia.isEmpty() ? q.value(2).toString().trimmed() : referencia});
+    }
+    lista = std::move(ultimas);
+}
+
+bool cDeclaSvr::ExisteContribuyente(const QString& dni, Arreglo& datos) const
+{
+    const QString o = origen("ExisteContribuyente");
+    const QString limpio = dni.trimmed();
+    if (limpio.isEmpty()) {
+        datos = parteVacia();
+        return false;
+    }
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    return leerParte(db, QStringLiteral("DNIC = ?"), limpio, datos, o);
+}
+
+void cDeclaSvr::CargarContribuyente(int32_t codigo, Arreglo& datos) const
+{
+    const QString o = origen("CargarContribuyente");
+    if (codigo <= 0) {
+        datos = parteVacia();
+        return;
+    }
+    const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
+    leerParte(db, QStringLiteral("CSCO = ?"), codigo, datos, o);
+}

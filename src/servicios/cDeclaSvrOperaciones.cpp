@@ -1,0 +1,113 @@
+// The operations of form 747 as cDeclaSvr gives them: rows of T11_OPERACIONES in the
+// reference database, each applying from T11_FECINI to T11_FECFIN (both included).
+#include "servicios/cDeclaSvr.h"
+#include "servicios/cDeclaSvrTablaOperaciones.h"
+
+#include "servicios/Conexion.h"
+
+namespace {
+QString origen(const char* operacion)
+{
+    return QStringLiteral("svrveldoV1.cDeclaSvr.") + QLatin1String(operacion);
+}
+
+const char* columnaDescripcion(int16_t offsetIdioma)
+{
+    return offsetIdioma >= 10000 ? "T11_DESC_EUS" : "T11_DESC_CAS";
+}
+}  // namespace
+
+TablaOperaciones::TablaOperaciones(const QString& mdblec, const QString& origenLlamada)
+{
+    const QSqlDatabase db = Conexion::Lectura(mdblec, origenLlamada);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT T11_CODIGO, T11_FECINI, T11_FECFIN, T11_DESC_CAS, "
+                                          "T11_DESC_EUS FROM T11_OPERACIONES ORDER BY T11_ID"),
+                           {}, origenLlamada);
+    while (q.next()) {
+        const QString codigo = q.value(0).toString();
+        m_filas[codigo].append({codigo, q.value(1).toInt(), q.value(2).toInt(),
+                                q.value(3).toString(), q.value(4).toString()});
+    }
+}
+
+QString TablaOperaciones::Descripcion(const QString& codigo, int32_t fechad,
+                                      int16_t offsetIdioma) const
+{
+    const auto it = m_filas.constFind(codigo);
+    if (it == m_filas.cend())
+        return QString();
+    for (const FilaOperacion& f : *it) {
+        if (f.desde <= fechad && fechad <= f.hasta)
+            return offsetIdioma >= 10000 ? f.descripcionEus : f.descripcionCas;
+    }
+    return QString();
+}
+
+void cDeclaSvr::ObtenerOperaciones(int32_t fechad, Arreglo& lista, int16_t offsetIdioma) const
+{
+    const QString o = origen("ObtenerOperaciones");
+    const QSqlDatabase db = Conexion::Lectura(mdblec, o);
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT %1 FROM T11_OPERACIONES "
+                                          "WHERE T11_FECINI <= ? AND T11_FECFIN >= ? "
+                                          "ORDER BY T11_ID")
+                               .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+                           {fechad, fechad}, o);
+    Arreglo descripciones;
+    while (q.next())
+        descripciones.append(q.value(0).toString());
+    lista = std::move(descripciones);
+}
+
+bool cDeclaSvr::ObtenerDatosOperacion(const QString& operacion, int32_t fechad, Arreglo& datos,
+                                      int16_t offsetIdioma) const
+{
+    const QString o = origen("ObtenerDatosOperacion");
+    const QSqlDatabase db = Conexion::Lectura(mdblec, o);
+    QSqlQuery q = Ejecutar(
+        db,
+        QStringLiteral("SELECT %1, T11_IMPRESION, T11_NOSUJETO, T11_EXENTO, T11_TIPO, "
+                       "T11_TIPOMIN, T11_TIPOMAX, T11_DEDUCCION FROM T11_OPERACIONES "
+                       "WHERE T11_CODIGO = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
+                       "ORDER BY T11_ID LIMIT 1")
+            .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+        {operacion.trimmed(), fechad, fechad}, o);
+    if (!q.next()) {
+        datos.clear();
+        return false;
+    }
+    Arreglo fila;
+    for (int i = 0; i < 4; ++i)
+        fila.append(q.value(i).toString());
+    for (int i = 4; i < 8; ++i)
+        fila.append(q.value(i).toDouble());
+    datos = std::move(fila);
+    return true;
+}
+
+QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
+                                               int16_t offsetIdioma) const
+{
+    const QString o = origen("DameOperacionporDescripcion");
+    const QSqlDatabase db = Conexion::Lectura(mdblec, o);
+    return Escalar(db,
+                   QStringLiteral("SELECT T11_CODIGO FROM T11_OPERACIONES "
+                                  "WHERE %1 = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
+                                  "ORDER BY T11_ID LIMIT 1")
+                       .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+                   {descripcion.toString(), fechad, fechad}, o, QString())
+        .toString();
+}
+
+QString cDeclaSvr::ObtenImpresion(int32_t fechad, const QString& codigo) const
+{
+    const QString o = origen("ObtenImpresion");
+    const QSqlDatabase db = Conexion::Lectura(mdblec, o);
+    return Escalar(db,
+                   QStringLiteral("SELECT T11_IMPRESION FROM T11_OPERACIONES "
+                                  "WHERE T11_CODIGO = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
+                                  "ORDER BY T11_ID LIMIT 1"),
+                   {codigo.trimmed(), fechad, fechad}, o, QString())
+        .toString();
+}

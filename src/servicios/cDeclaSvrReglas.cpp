@@ -1,0 +1,286 @@
+// The whole-return validation of cDeclaSvr: the rules a return must keep before it is stored,
+// tried in the order of their numbers, so that a return with several faults is told of the
+// lowest one first.
+//
+//  1-4   make, model, type and chassis number given
+//  5-6   classification and cylinder capacity given
+//  7     an operation given that applies on the date of accrual (it has a print key then)
+//  8     a taxable base above zero
+//  9     a typed rate (operation without fixed rate) within the operation's limits
+//  10    the subject's number, when given, a valid official one (an empty one is rule 37)
+//  11-13 the subject's name, street type and street
+//  14-15 the subject's municipality: a code in the home province 77, a name elsewhere
+//  16-18 the subject's postal code: not zero, of the province, not ending in 000
+//  19-20 the transmitter's number valid for its kind, and given
+//  21-23 the transmitter's name, street type and street
+//  24    a foreign transmitter's country
+//  25-27 a national transmitter's postal code: of the province, five digits, not ending in 000
+//  28    the transmitter's postal code not zero
+//  29-30 the transmitter's province name (foreign) and municipality name (foreign, or a
+//        national address outside the home province)
+//  31-32 a national transmitter's province code, and municipality code in the home province
+//  33-36, 38-40  the operation fits the vehicle and the date (see T11_OPERACIONES.tsv):
+//        33/34 a small-engined passenger car before 2008 (33 petrol, 34 diesel) cannot use
+//              the 12 % codes P6, P7, TN;
+//        35/36 any other passenger car before 2008 (35 petrol or no engine given, 36 diesel)
+//              cannot use the 7 % codes P6B, P7B, T7;
+//        38    before 2008 a classification other than a passenger car takes N43, TN or TE;
+//        39    the scrapping-plan codes are not admitted after 2006 above 2499 cc;
+//        40    from 2008 a classification other than a passenger car takes N43, T1-T5 or TE
+//  37    the subject's number given
+#include "servicios/cDeclaSvr.h"
+
+#include "fields/Val.h"
+#include "servicios/ValidarDniOficial.h"
+
+#include <QStringList>
+#include <bit>
+#include <cstdint>
+
+namespace {
+
+// Indexes of the validation array.
+enum Indice {
+    iMarca = 0, iModelo, iTipo, iBastidor, iClasificacion, iCilindrada, iOperacion, iBaseI,
+    iTipoImp, iTasa, iTasaMin, iTasaMax, iDniSp, iNombreSp, iViaSp, iDomicilioSp, iCodProvSp,
+    iCodPosSp, iCodMunSp, iNomMunSp, iTipoDniTr, iDniTr, iNombreTr, iViaTr, iDomicilioTr,
+    iTipoDomiTr, iPaisTr, iCodProvTr, iNomProvTr, iCodPosTr, iCodMunTr, iNomMunTr, iMotor,
+};
+
+// The rate with no fixed value, recognised by its bits as everywhere in the program.
+bool esTasaLibre(double tasa)
+{
+    return std::bit_cast<std::uint64_t>(tasa) == 0x4058FF5C28F5C28FULL;
+}
+
+constexpr int32_t kInicioBandasCo2 = 20080101;  // first day of the rates by emissions
+constexpr int kUltimoAnoSinLimitePlan = 2006;   // the scrapping plan's capacity limit after it
+constexpr int32_t kLimiteCilindradaPlan = 2499;
+constexpr int kProvinciaPropia = 77;
+
+class Revision {
+public:
+    Revision(const Arreglo& datos, const QString& impresion, int32_t fechad)
+        : m_datos(datos), m_impresion(impresion.trimmed()), m_fechad(fechad)
+    {
+    }
+
+    int16_t primeraRota() const;
+
+private:
+    QString texto(int i) const { return m_datos.value(i).toString(); }
+    bool vacio(int i) const { return texto(i).trimmed().isEmpty(); }
+    double numero(int i) const
+    {
+        const QVariant& v = m_datos.value(i);
+        if (v.typeId() == QMetaType::QString)
+            return Val(v.toString());
+        bool ok = false;
+        const double d = v.toDouble(&ok);
+        return ok ? d : 0;
+    }
+    QString operacion() const { return texto(iOperacion).trimmed(); }
+    bool operacionEn(const QStringList& codigos) const { return codigos.contains(operacion()); }
+
+    // A passenger car: a four-digit classification that begins with 10.
+    bool esTurismo() const
+    {
+        const double c = numero(iClasificacion);
+        return c >= 1000 && c <= 1099;
+    }
+    bool esDiesel() const { return texto(iMotor).trimmed() == QLatin1String("D"); }
+    bool esGasolina() const { return texto(iMotor).trimmed() == QLatin1String("G"); }
+    // The engines that paid the reduced rate of 7 % before 2008.
+    bool motorPequeno() const
+    {
+        const double cc = numero(iCilindrada);
+        return (esDiesel() && cc < 2000) || (esGasolina() && cc < 1600);
+    }
+    bool antesDeBandas() const { return m_fechad < kInicioBandasCo2; }
+
+    bool reglaTasa() const
+    {
+        if (!esTasaLibre(numero(iTasa)))
+            return false;
+        const double tipo = numero(iTipoImp);
+        return tipo < numero(iTasaMin) || tipo > numero(iTasaMax);
+    }
+
+    // The subject's address is always national.
+    int reglasSujeto() const;
+    int reglasTransmitente() const;
+    int reglasVehiculoOperacion() const;
+
+    const Arreglo& m_datos;
+    QString m_impresion;
+    int32_t m_fechad;
+};
+
+// A postal code as the rules read it: a numeric code of up to five digits with its leading
+// zeros put back; any other text as it stands.
+QString codigoPostal(const QString& texto)
+{
+    const QString t = texto.trimmed();
+    bool digitos = !t.isEmpty() && t.size() <= 5;
+    for (QChar c : t)
+        digitos = digitos && c.isDigit() && c.unicode() < 128;
+    return digitos ? t.rightJustified(5, QLatin1Char('0')) : t;
+}
+
+bool cincoCifras(const QString& cp)
+{
+    if (cp.size() != 5)
+        return false;
+    for (QChar c : cp) {
+        if (!(c.isDigit() && c.unicode() < 128))
+            return false;
+    }
+    return true;
+}
+
+bool soloCeros(const QString& texto)
+{
+    const QString t = texto.trimmed();
+    for (QChar c : t) {
+        if (c != QLatin1Char('0'))
+            return false;
+    }
+    return true;  // also the empty text
+}
+
+// The province a postal code belongs to: its first two digits.
+bool deLaProvincia(const QString& cp, double provincia)
+{
+    return cp.size() >= 2 && Val(cp.left(2)) == provincia && cp.left(2).at(0).isDigit()
+        && cp.left(2).at(1).isDigit();
+}
+
+int Revision::reglasSujeto() const
+{
+    if (!vacio(iDniSp) && !EsNifOficialValido(texto(iDniSp)))
+        return 10;
+    if (vacio(iNombreSp))
+        return 11;
+    if (vacio(iViaSp))
+        return 12;
+    if (vacio(iDomicilioSp))
+        return 13;
+    const double provincia = numero(iCodProvSp);
+    if (provincia == kProvinciaPropia && numero(iCodMunSp) == 0)
+        return 14;
+    if (provincia != kProvinciaPropia && vacio(iNomMunSp))
+        return 15;
+    const QString cp = codigoPostal(texto(iCodPosSp));
+    if (Val(cp) == 0)
+        return 16;
+    if (!deLaProvincia(cp, provincia))
+        return 17;
+    if (cp.size() == 5 && cp.right(3) == QLatin1String("000"))
+        return 18;
+    return 0;
+}
+
+int Revision::reglasTransmitente() const
+{
+    if (!vacio(iDniTr)
+        && ExaminarDni(texto(iTipoDniTr).trimmed(), texto(iDniTr)) != EstadoNif::Valido)
+        return 19;
+    if (vacio(iDniTr))
+        return 20;
+    if (vacio(iNombreTr))
+        return 21;
+    if (vacio(iViaTr))
+        return 22;
+    if (vacio(iDomicilioTr))
+        return 23;
+    const bool extranjero = texto(iTipoDomiTr).trimmed() == QLatin1String("E");
+    if (extranjero && vacio(iPaisTr))
+        return 24;
+    const double provincia = numero(iCodProvTr);
+    if (!extranjero) {
+        // A national code is read as five digits; a foreign one keeps its country's shape.
+        const QString cp = codigoPostal(texto(iCodPosTr));
+        if (!deLaProvincia(cp, provincia))
+            return 25;
+        if (!cincoCifras(cp))
+            return 26;
+        if (cp.right(3) == QLatin1String("000"))
+            return 27;
+    }
+    if (soloCeros(texto(iCodPosTr)))
+        return 28;
+    if (extranjero && vacio(iNomProvTr))
+        return 29;
+    if ((extranjero || provincia != kProvinciaPropia) && vacio(iNomMunTr))
+        return 30;
+    if (!extranjero && provincia == 0)
+        return 31;
+    if (!extranjero && provincia == kProvinciaPropia && numero(iCodMunTr) == 0)
+        return 32;
+    return 0;
+}
+
+int Revision::reglasVehiculoOperacion() const
+{
+    static const QStringList kTipoGeneral{QStringLiteral("P6"), QStringLiteral("P7"),
+                                          QStringLiteral("TN")};
+    static const QStringList kTipoReducido{QStringLiteral("P6B"), QStringLiteral("P7B"),
+                                           QStringLiteral("T7")};
+    static const QStringList kAntesDeBandas{QStringLiteral("N43"), QStringLiteral("TN"),
+                                            QStringLiteral("TE")};
+    static const QStringList kPlanBajas{QStringLiteral("P6"), QStringLiteral("P7"),
+                                        QStringLiteral("P6B"), QStringLiteral("P7B")};
+    static const QStringList kBandas{QStringLiteral("N43"), QStringLiteral("T1"),
+                                     QStringLiteral("T2"), QStringLiteral("T3"),
+                                     QStringLiteral("T4"), QStringLiteral("T5"),
+                                     QStringLiteral("TE")};
+
+    if (antesDeBandas() && esTurismo()) {
+        if (motorPequeno() && operacionEn(kTipoGeneral))
+            return esDiesel() ? 34 : 33;
+        if (!motorPequeno() && operacionEn(kTipoReducido))
+            return esDiesel() ? 36 : 35;
+    }
+    if (vacio(iDniSp))
+        return 37;
+    if (antesDeBandas() && !esTurismo() && !operacionEn(kAntesDeBandas))
+        return 38;
+    if (m_fechad / 10000 > kUltimoAnoSinLimitePlan && numero(iCilindrada) > kLimiteCilindradaPlan
+        && operacionEn(kPlanBajas))
+        return 39;
+    if (!antesDeBandas() && !esTurismo() && !operacionEn(kBandas))
+        return 40;
+    return 0;
+}
+
+int16_t Revision::primeraRota() const
+{
+    const int obligatorios[] = {iMarca, iModelo, iTipo, iBastidor};
+    for (int n = 0; n < 4; ++n) {
+        if (vacio(obligatorios[n]))
+            return static_cast<int16_t>(n + 1);
+    }
+    if (numero(iClasificacion) <= 0)
+        return 5;
+    if (numero(iCilindrada) <= 0)
+        return 6;
+    if (operacion().isEmpty() || m_impresion.isEmpty())
+        return 7;
+    if (numero(iBaseI) <= 0)
+        return 8;
+    if (reglaTasa())
+        return 9;
+    if (const int r = reglasSujeto())
+        return static_cast<int16_t>(r);
+    if (const int r = reglasTransmitente())
+        return static_cast<int16_t>(r);
+    return static_cast<int16_t>(reglasVehiculoOperacion());
+}
+
+}  // namespace
+
+int16_t cDeclaSvr::ValidarDatosDeclaraciones(const Arreglo& datos, const QString& impresion,
+                                             int32_t fechad) const
+{
+    return Revision(datos, impresion, fechad).primeraRota();
+}
