@@ -116,6 +116,19 @@ private slots:
         comprobarLayoutActual();
     }
 
+    // A database that cannot be created is a failure, not a refusal: the user is told why.
+    void sinPoderCrearLaBaseEsUnFallo()
+    {
+        QDir(m_carpeta->tablas()).removeRecursively();
+        escribir(m_carpeta->ruta() + QStringLiteral("/Tablas"), "soy un fichero");
+        try {
+            traspaso();
+            QFAIL("sin fallo");
+        } catch (const cFallo& f) {
+            QVERIFY(f.origen().contains(QLatin1String("cTraspaso")));
+        }
+    }
+
     // Later runs keep what the user chose and the data.
     void segundaEjecucionConservaLosDatos()
     {
