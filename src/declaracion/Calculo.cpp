@@ -163,3 +163,32 @@ QString TextoTasa(double tasa)
     espanol.setNumberOptions(QLocale::OmitGroupSeparator);
     return espanol.toString(tasa, 'f', QLocale::FloatingPointShortest);
 }
+
+std::optional<double> TipoTurismo(int clasificacion, const QString& motor, int cilindrada)
+{
+    const QString cuatro = Formato(static_cast<double>(clasificacion), QStringLiteral("0000"));
+    if (cuatro.size() != 4 || !cuatro.startsWith(QLatin1String("10")))
+        return std::nullopt;
+    const bool pequeno = (motor == QLatin1String("D") && cilindrada < 2000)
+        || (motor == QLatin1String("G") && cilindrada < 1600);
+    return pequeno ? 7.0 : 12.0;
+}
+
+void TipoInicialTurismo(const QString& textoClasificacion)
+{
+    cDecDatos& d = DecDatos();
+    if (d.CLASIFICACION <= 0 || !d.EXENTO.isEmpty() || !d.NOSUJETO.isEmpty()
+        || textoClasificacion.size() != 4 || !textoClasificacion.startsWith(QLatin1String("10")))
+        return;
+    if (const auto tipo = TipoTurismo(d.CLASIFICACION, d.MOTOR, d.CILINDRADA)) {
+        d.TIPOIMP = *tipo;
+        CalcularValores();
+    }
+}
+
+void TipoInicialTurismoSinCalcular()
+{
+    cDecDatos& d = DecDatos();
+    if (const auto tipo = TipoTurismo(d.CLASIFICACION, d.MOTOR, d.CILINDRADA))
+        d.TIPOIMP = *tipo;
+}

@@ -3,6 +3,7 @@
 // chosen operation does to the return, the amounts, the reductions of the base and the typed
 // rate. The declaration form calls these routines and then repaints itself from the record.
 #include <QString>
+#include <optional>
 
 // What the chosen operation brings: its marks, its rate (a fixed one only; the rate without
 // fixed value leaves the one that stands), its deduction; then the amounts.
@@ -46,3 +47,14 @@ void LimpiarOperacion();
 double BaseDeTexto(const QString& texto);
 // The Spanish way of showing a rate in a message: "14,75", "7", "0".
 QString TextoTasa(double tasa);
+
+// The rate of a passenger car (a four-digit classification beginning with 10) before the
+// rates by emissions: 7 for petrol under 1600 cc or diesel under 2000 cc, 12 otherwise.
+// Nothing for another classification. The table of operations follows this rule.
+std::optional<double> TipoTurismo(int clasificacion, const QString& motor, int cilindrada);
+// The form's two routines of that rule, which no event reaches. The first takes the
+// classification as typed and acts on a taxed return only (CLASIFICACION above 0, neither
+// exempt nor not subject, four characters), then computes; the second reads CLASIFICACION
+// as four digits and only sets the rate.
+void TipoInicialTurismo(const QString& textoClasificacion);
+void TipoInicialTurismoSinCalcular();

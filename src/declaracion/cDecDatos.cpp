@@ -321,3 +321,10 @@ cDecDatos& DecDatos()
     static cDecDatos instancia;
     return instancia;
 }
+
+int32_t GuardarDatosDeclaracion()
+{
+    int32_t codigo = 0;
+    DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo);
+    return codigo;
+}

@@ -120,3 +120,7 @@ private:
 };
 
 cDecDatos& DecDatos();
+
+// The form's save: the 55-value array of DecDatos() to the store. Answers the return's code,
+// above 0 when it was stored.
+int32_t GuardarDatosDeclaracion();

@@ -455,6 +455,57 @@ private slots:
                 && Operacion().T_RED.isEmpty());
     }
 
+    // --- The rate rule of passenger cars ----------------------------------------------------
+
+    void tipoDeTurismo_data()
+    {
+        QTest::addColumn<int>("clasificacion");
+        QTest::addColumn<QString>("motor");
+        QTest::addColumn<int>("cilindrada");
+        QTest::addColumn<double>("tipo");
+        QTest::newRow("gasolina 1599") << 1000 << "G" << 1599 << 7.0;
+        QTest::newRow("gasolina 1600") << 1000 << "G" << 1600 << 12.0;
+        QTest::newRow("gasoleo 1999") << 1099 << "D" << 1999 << 7.0;
+        QTest::newRow("gasoleo 2000") << 1050 << "D" << 2000 << 12.0;
+        QTest::newRow("sin motor") << 1000 << "" << 900 << 12.0;
+        QTest::newRow("no turismo") << 2000 << "G" << 1200 << -1.0;
+        QTest::newRow("tres cifras") << 100 << "G" << 1200 << -1.0;
+    }
+
+    void tipoDeTurismo()
+    {
+        QFETCH(int, clasificacion);
+        QFETCH(QString, motor);
+        QFETCH(int, cilindrada);
+        QFETCH(double, tipo);
+        const auto r = TipoTurismo(clasificacion, motor, cilindrada);
+        QCOMPARE(r.has_value(), tipo >= 0);
+        if (r)
+            QCOMPARE(*r, tipo);
+    }
+
+    void tipoInicialTurismo()
+    {
+        cDecDatos& d = DecDatos();
+        d.BASEI = 1000000;
+        d.CLASIFICACION = 1000;
+        d.MOTOR = QStringLiteral("G");
+        d.CILINDRADA = 1400;
+        TipoInicialTurismo(QStringLiteral("1000"));
+        QCOMPARE(d.TIPOIMP, 7.0);
+        QCOMPARE(d.CUOTA, 70000.0);
+        d.CILINDRADA = 1800;
+        TipoInicialTurismo(QStringLiteral("100"));  // not four characters: nothing
+        QCOMPARE(d.TIPOIMP, 7.0);
+        d.EXENTO = QStringLiteral("X");
+        TipoInicialTurismo(QStringLiteral("1000"));  // exempt: nothing
+        QCOMPARE(d.TIPOIMP, 7.0);
+        // The sibling sets the rate and computes nothing.
+        TipoInicialTurismoSinCalcular();
+        QCOMPARE(d.TIPOIMP, 12.0);
+        QCOMPARE(d.CUOTA, 70000.0);
+    }
+
     // --- Reading the base ----------------------------------------------------------------------
 
     void baseDesdeTexto_data()

@@ -3,7 +3,10 @@
 // with their messages and with the rate rule of passenger cars.
 #include "ApoyoDeclaracion.h"
 
+#include "declaracion/Calculo.h"
 #include "servicios/cDeclaSvr.h"
+
+#include "app/plataforma/General.h"
 
 #include <QMap>
 #include <QTest>
@@ -132,7 +135,12 @@ bool compatibles(const Cambio& a, const Cambio& b)
 class TestReglas : public QObject {
     Q_OBJECT
 
+private:
+    std::unique_ptr<CarpetaDePrueba> m_carpeta;
+
 private slots:
+    void initTestCase() { m_carpeta = std::make_unique<CarpetaDePrueba>(); }
+
     void laDeclaracionValidaPasa()
     {
         QCOMPARE(validar(valido()), int16_t(0));
@@ -270,8 +278,10 @@ private slots:
     {
         QFETCH(QString, motor);
         QFETCH(int, cilindrada);
-        const bool siete = (motor == QLatin1String("D") && cilindrada < 2000)
-            || (motor == QLatin1String("G") && cilindrada < 1600);
+        // The form's own rate rule for passenger cars decides which rate the car pays.
+        const auto tipo = TipoTurismo(1010, motor, cilindrada);
+        QVERIFY(tipo.has_value());
+        const bool siete = *tipo == 7.0;
         const bool diesel = motor == QLatin1String("D");
         auto con = [&](const char* codigo, const char* impresion) {
             return validar(aplicar({{kFecha, 20060301}, {6, s(codigo)},
@@ -290,6 +300,13 @@ private slots:
         QCOMPARE(int(con("TE", "TE")), 0);
         QCOMPARE(int(con("N43", "N43")), 0);
         QCOMPARE(int(con("E1", "E1")), 0);
+        // The operation of the car's rate carries that rate in the table.
+        cDeclaSvr svr;
+        svr.mdblec = mdblec;
+        Arreglo datos;
+        QVERIFY(svr.ObtenerDatosOperacion(siete ? QStringLiteral("T7") : QStringLiteral("TN"),
+                                          20060301, datos, 0));
+        QCOMPARE(datos[4].toDouble(), *tipo);
     }
 
     void otrasClasificacionesAntesDe2008()
