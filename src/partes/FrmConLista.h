@@ -5,6 +5,8 @@
 // calling Abrir(), and which the contributor panel sets to "P" when it hands back.
 #include "partes/PanelLista.h"
 
+#include <functional>
+
 class FrmConLista final : public PanelLista {
     Q_OBJECT
 public:
@@ -16,9 +18,20 @@ public:
     // The rows of the criteria in force, from the store of contributors.
     void CargarFlxContribuyentes() { CargarFlx(); }
 
+    // The panel of a contributor's declarations hands the contributor's name and number over
+    // (ConDeclaraciones.ENTRADA "A", LBLCONTRI, lbldni) and opens; it installs that step here, and
+    // CmdDeclaraciones closes the list and runs it.
+    using AbridorDeclaraciones = std::function<void(const QString& nombre, const QString& dni)>;
+    static void InstalarDeclaraciones(AbridorDeclaraciones abrir);
+
 protected:
-    int32_t dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                  uint8_t orden) const override;
+    void IniciarEstado() override;
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    void AnotarBusqueda(const QString& texto) override;
+    void CambiarBusqueda() override;
+    void TodosEstado() override;
+    bool OrdenarPor(int columna) override;
+    void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t codigo) override;
     void AbrirDatos(const QString& modo) override;
     void AbrirDeclaraciones(const QString& nombre, const QString& dni) override;

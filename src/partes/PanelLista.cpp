@@ -268,6 +268,9 @@ void PanelLista::DefinirColumnas()
         m_grid->setColWidth(c, TwipsAPixeles(columna.anchoTwips));
         m_grid->setColAlignment(c, columna.alineacion | Qt::AlignVCenter);
     }
+    // The current cell starts in the first column shown: the hidden code column cannot be
+    // walked from with the arrow keys.
+    m_grid->setCol(1);
 }
 
 void PanelLista::Iniciar()
@@ -286,22 +289,7 @@ void PanelLista::Iniciar()
 
 void PanelLista::IniciarLista()
 {
-    const QString entrada = m_estado.ENTRADA;
-    if (entrada == QLatin1String("A") || entrada == QLatin1String("E")) {
-        m_estado.ORDEN = 1;
-        m_estado.MODO = entrada == QLatin1String("A") ? QStringLiteral("C") : QStringLiteral("E");
-        m_estado.BUSQUEDA = QStringLiteral("N");
-        m_estado.codigo = 0;
-        m_estado.TABLASELECCION.reset();
-        m_estado.SELECCIONACTUAL = QStringLiteral("0");
-        m_estado.seleccionados = 0;
-        for (int32_t* contador : m_estado.contadores)
-            *contador = 0;
-    } else {
-        // Coming back keeps the order, the criteria and the selection; always in open mode.
-        m_estado.MODO = QStringLiteral("C");
-        m_estado.BUSQUEDA = QStringLiteral("N");
-    }
+    IniciarEstado();
     LimpiarGrid();
 }
 
@@ -315,9 +303,7 @@ void PanelLista::LimpiarGrid()
 void PanelLista::CargarFlx()
 {
     Arreglo2D datos;
-    const int32_t cuantos = dameResultadoBusqueda(CriteriosBusqueda(), datos, m_estado.ORDEN);
-    m_estado.seleccionados = cuantos;
-    if (cuantos > 0)
+    if (CargarDatos(datos) > 0)
         RellenarGrid(datos);
     else
         LimpiarGrid();  // no row of an earlier result stays behind an empty one
@@ -345,19 +331,6 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
     m_grid->setRedraw(true);
     lblResultado->clear();
     Utilidades.SeleccionarGrid(QColor::fromRgb(kColorResaltado), m_grid->ForeColor(), 0);
-}
-
-// Index 1 the prefix of the name, 2 that of the number; the whole number 0 for none.
-Arreglo PanelLista::CriteriosBusqueda() const
-{
-    Arreglo criterios = {0, 0, 0};
-    if (m_estado.TABLASELECCION)
-        for (const cCriterio& c : *m_estado.TABLASELECCION) {
-            const int campo = int(Val(c.CAMPOSELECCION));
-            if (campo >= 0 && campo < criterios.size())
-                criterios[campo] = c.VALORSELECCION;
-        }
-    return criterios;
 }
 
 QString PanelLista::TextoCriterio(int i) const
@@ -525,16 +498,10 @@ void PanelLista::PresentaBotones()
 void PanelLista::LeerFila()
 {
     const int fila = m_grid->Row();
-    m_estado.codigo = int32_t(Val(m_grid->TextMatrix(fila, 0)));
-    for (int i = 0; i < m_estado.contadores.size() && i < m_diseno.columnasContadores.size(); ++i)
-        *m_estado.contadores[i] = int32_t(Val(m_grid->TextMatrix(fila, m_diseno.columnasContadores[i])));
-}
-
-void PanelLista::AnularSeleccion()
-{
-    m_estado.codigo = 0;
-    for (int32_t* contador : m_estado.contadores)
-        *contador = 0;
+    QList<int32_t> contadores;
+    for (int columna : m_diseno.columnasContadores)
+        contadores << int32_t(Val(m_grid->TextMatrix(fila, columna)));
+    Seleccionar(int32_t(Val(m_grid->TextMatrix(fila, 0))), contadores);
 }
 
 // Paints the current row; the moves of the row this makes are not the user's.
@@ -568,11 +535,8 @@ void PanelLista::Clic(int, int columna)
             return;
         if (ClicEnCabecera) {
             // Ordering: always ascending, by name or by number only.
-            if (columna != kColumnaNombre && columna != kColumnaDni)
+            if (!OrdenarPor(columna))
                 return;
-            AnularSeleccion();
-            m_estado.ORDEN = uint8_t(columna);
-            m_estado.ENTRADA.clear();
             PresentaDatos();
             PresentaBotones();
         } else if (m_estado.seleccionados > 0) {
@@ -588,8 +552,10 @@ void PanelLista::Clic(int, int columna)
     }
 }
 
-void PanelLista::DobleClic(int, int)
+void PanelLista::DobleClic(int fila, int)
 {
+    // The second press of a double click comes as the double click itself.
+    ClicEnCabecera = fila == 0;
     if (m_estado.BUSQUEDA == QLatin1String("N") && !ClicEnCabecera && cmdAceptar->isEnabled())
         Aceptar();
 }
@@ -628,9 +594,7 @@ void PanelLista::BusquedaAbandonada()
 {
     if (m_cerrando || m_estado.BUSQUEDA != QLatin1String("B") || Val(m_estado.SELECCIONACTUAL) == 0)
         return;
-    AnotarCriterio(m_estado.TABLASELECCION, m_estado.SELECCIONACTUAL, txtBusqueda->text());
-    m_estado.ORDEN = uint8_t(Val(m_estado.SELECCIONACTUAL));
-    m_estado.SELECCIONACTUAL = QStringLiteral("0");
+    AnotarBusqueda(txtBusqueda->text());
     txtBusqueda->setEnabled(false);
     PresentaDatos();
     PresentaBotones();
@@ -669,17 +633,7 @@ void PanelLista::Aceptar()
 
 void PanelLista::Buscar()
 {
-    if (m_estado.BUSQUEDA == QLatin1String("N")) {
-        m_estado.BUSQUEDA = QStringLiteral("B");
-        m_estado.TABLASELECCION.reset();
-        m_estado.SELECCIONACTUAL = QStringLiteral("0");
-        m_estado.ENTRADA.clear();
-        AnularSeleccion();
-        m_estado.seleccionados = 0;
-    } else {
-        m_estado.BUSQUEDA = QStringLiteral("N");
-        m_estado.SELECCIONACTUAL = QStringLiteral("0");
-    }
+    CambiarBusqueda();
     PresentaDatos();
     PresentaBotones();
 }
@@ -687,12 +641,7 @@ void PanelLista::Buscar()
 // Back to the whole list by name. The buttons are left as they were until the next click.
 void PanelLista::Todos()
 {
-    m_estado.BUSQUEDA = QStringLiteral("N");
-    m_estado.TABLASELECCION.reset();
-    m_estado.SELECCIONACTUAL = QStringLiteral("0");
-    m_estado.ORDEN = 1;
-    AnularSeleccion();
-    m_estado.ENTRADA.clear();
+    TodosEstado();
     PresentaDatos();
 }
 
@@ -710,6 +659,7 @@ void PanelLista::Declaraciones()
 
 void PanelLista::Cerrar()
 {
+    m_cerrando = true;
     if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
         marco->close();
     else
@@ -718,7 +668,11 @@ void PanelLista::Cerrar()
 
 void PanelLista::closeEvent(QCloseEvent* evento)
 {
-    m_cerrando = true;
     evento->accept();
+    m_cerrando = true;
+    // The frame in the main window and the panel may both report the closing.
+    if (m_cerrado)
+        return;
+    m_cerrado = true;
     Proceso::Protegido([] { ActualizarMenus(); });
 }

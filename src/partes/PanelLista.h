@@ -13,6 +13,7 @@
 #include "fields/cUtilidadesGrid.h"
 #include "servicios/Arreglos.h"
 
+#include <QLineEdit>  // held by the grid utilities through a QPointer
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -20,7 +21,6 @@
 #include <optional>
 
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class cFlexGrid;
 
@@ -62,18 +62,18 @@ struct DisenoLista {
     int idPreguntaFin = 0;                 //   after the name
 };
 
-// The fields of a list's state object that the panel works with, by reference (the state
-// objects live for the whole run).
+// The fields of a list's state object that the panel reads, by reference (the state objects
+// live for the whole run). The state changes through the state object's own operations,
+// which each panel calls; the panel itself only names the column being searched.
 struct EstadoLista {
-    std::optional<TablaCriterios>& TABLASELECCION;  // absent: no criteria
-    QString& SELECCIONACTUAL;   // in the search state, the column under edit; "0" none
-    int32_t& codigo;            // CSCO / CSPR: the selected party, 0 none
-    int32_t& seleccionados;     // NUMCONTRISEL / NUMPRESENSEL
-    QString& ENTRADA;           // "A" open, "E" delete, "P" come back
-    QString& BUSQUEDA;          // "N" result state, "B" search state
-    QString& MODO;              // "C" open mode, "E" delete mode
-    uint8_t& ORDEN;             // 1 name, 2 number
-    QList<int32_t*> contadores; // NUMSP, NUMTR / NUMDECLARACIONES, as the counter columns
+    const std::optional<TablaCriterios>& TABLASELECCION;  // absent: no criteria
+    QString& SELECCIONACTUAL;        // in the search state, the column under edit; "0" none
+    const int32_t& codigo;           // CSCO / CSPR: the selected party, 0 none
+    const int32_t& seleccionados;    // NUMCONTRISEL / NUMPRESENSEL
+    const QString& BUSQUEDA;         // "N" result state, "B" search state
+    const QString& MODO;             // "C" open mode, "E" delete mode
+    const uint8_t& ORDEN;            // 1 name, 2 number
+    QList<const int32_t*> contadores;  // NUMSP, NUMTR / NUMDECLARACIONES: the counter columns
 };
 
 class PanelLista : public QWidget {
@@ -102,9 +102,15 @@ protected:
     // Closes the panel (and its frame in the main window).
     void Cerrar();
 
-    // What differs by party.
-    virtual int32_t dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                          uint8_t orden) const = 0;
+    // What differs by party: the state object's moves,
+    virtual void IniciarEstado() = 0;                      // by ENTRADA
+    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;     // the store's rows; the count
+    virtual void AnotarBusqueda(const QString& texto) = 0; // the search box was left
+    virtual void CambiarBusqueda() = 0;                    // cmdBuscar
+    virtual void TodosEstado() = 0;                        // cmdTodos
+    virtual bool OrdenarPor(int columna) = 0;              // a click on a heading
+    virtual void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) = 0;
+    // the deletion of a party in the store,
     virtual void Borrar(int32_t codigo) = 0;
     // Sets the data object for a new party ("A") or the selected one ("C"), closes this
     // panel and opens the data panel.
@@ -122,7 +128,6 @@ private:
     void IniciarLista();
     void LimpiarGrid();
     void RellenarGrid(const Arreglo2D& datos);
-    Arreglo CriteriosBusqueda() const;
     QString TextoCriterio(int i) const;
     QString TextoCriterios() const;
     void SituarFlecha();
@@ -132,7 +137,6 @@ private:
 
     bool HayCriterios() const;
     void LeerFila();
-    void AnularSeleccion();
     void MarcarFila();
     void PonerTitulo(const QString& titulo);
 
@@ -154,7 +158,8 @@ private:
     cUtilidadesGrid Utilidades;
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;
-    bool m_cerrando = false;
+    bool m_cerrando = false;   // closing: a field left on the way out does nothing
+    bool m_cerrado = false;
 
     cFlexGrid* m_grid = nullptr;
     QLineEdit* txtBusqueda = nullptr;
