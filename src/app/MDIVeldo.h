@@ -1,0 +1,66 @@
+#pragma once
+// The one top-level window: an MDI area with the menu tree and the toolbar. It holds no
+// business logic: each command sets a few mode fields on a shared object and opens a panel.
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+
+class QAction;
+class QMdiArea;
+class QMenu;
+class QToolBar;
+
+class MDIVeldo : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MDIVeldo(QWidget* parent = nullptr);
+    ~MDIVeldo() override;
+
+    // Recounts the records and switches the commands on (every panel calls it on closing).
+    void ActualizarMenus();
+    // Switches the commands off while a panel is open.
+    void DeshabilitarMenus();
+    // Captions of menus, toolbar tips and title in the current language.
+    void Anadir_captions();
+
+    QMdiArea* area() const { return m_area; }
+    // Shows a panel as a child window.
+    void AbrirPanel(QWidget* panel);
+
+    // The commands whose panels arrive with other modules are registered by name
+    // ("FrmDeclaracion", "FrmDecLista", "FrmConDatos", ...): each opener builds and shows its panel.
+    static void RegistrarPanel(const QString& nombre, std::function<void()> abrir);
+    static bool PanelDisponible(const QString& nombre);
+
+protected:
+    bool event(QEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    QAction* accion(QMenu* menu, const char* nombre);
+    QAction* separador(QMenu* menu, const char* nombre);
+    void construirMenus();
+    void construirBarra();
+    void conectarComandos();
+    void alDesplegar(QMenu* menu);
+    void abrirRegistrado(const QString& nombre);
+    void primeraActivacion();
+    void abrirDeclaracionReciente(QAction* entrada);
+    void botonBarra(const QString& etiqueta);
+    void copiaDeSeguridad();
+    void restaurarCopia();
+    void asistenciaOnline();
+    void descripcionAsistencia();
+    void acercaDe();
+    void preferencias();
+
+    QMdiArea* m_area = nullptr;
+    QToolBar* m_barra = nullptr;
+    QList<QAction*> m_botones;  // the five toolbar buttons, in order
+    QList<QAction*> m_recientes;  // d1 to d4
+    bool primeraVez = true;
+};
+
+// The main window of the run (null before start-up shows it).
+MDIVeldo* VentanaMDI();
+void EstablecerVentanaMDI(MDIVeldo* ventana);
