@@ -1,0 +1,152 @@
+#include "partes/CamposDatos.h"
+
+#include "fields/CajaNum.h"
+#include "fields/Colores.h"
+#include "fields/Val.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+
+namespace {
+
+// A locked text field that is entered gives the focus on, forward or back as it came.
+class PasoDeFoco : public QObject {
+public:
+    explicit PasoDeFoco(QLineEdit* campo) : QObject(campo), m_campo(campo) {}
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override
+    {
+        if (objeto != m_campo || evento->type() != QEvent::FocusIn || !m_campo->isReadOnly())
+            return false;
+        const Qt::FocusReason razon = static_cast<QFocusEvent*>(evento)->reason();
+        if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason)
+            return false;
+        QKeyEvent tab(QEvent::KeyPress, razon == Qt::BacktabFocusReason ? Qt::Key_Backtab : Qt::Key_Tab,
+                      razon == Qt::BacktabFocusReason ? Qt::ShiftModifier : Qt::NoModifier);
+        QApplication::sendEvent(m_campo, &tab);
+        return false;
+    }
+
+private:
+    QLineEdit* m_campo;
+};
+
+// The click on an icon: press and release on it, as a button takes it.
+class ClicEnIcono : public QObject {
+public:
+    ClicEnIcono(QLabel* icono, QAbstractButton* boton) : QObject(icono), m_icono(icono), m_boton(boton) {}
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override
+    {
+        if (objeto != m_icono || evento->type() != QEvent::MouseButtonRelease)
+            return false;
+        const auto* raton = static_cast<QMouseEvent*>(evento);
+        if (raton->button() == Qt::LeftButton && m_icono->rect().contains(raton->position().toPoint())
+            && m_boton->isEnabled() && m_boton->isVisible())
+            m_boton->click();
+        return false;
+    }
+
+private:
+    QLabel* m_icono;
+    QAbstractButton* m_boton;
+};
+
+}  // namespace
+
+QLineEdit* CampoTexto(QWidget* padre, const char* nombre, int limite, TipoFiltro filtro,
+                      bool cerrable)
+{
+    auto* campo = new QLineEdit(padre);
+    campo->setObjectName(QString::fromLatin1(nombre));
+    campo->setMaxLength(limite);
+    AplicarFiltro(campo, filtro);
+    SeleccionarAlEntrar(campo);
+    if (cerrable)
+        campo->installEventFilter(new PasoDeFoco(campo));
+    return campo;
+}
+
+CajaNum* CajaNumerica(QWidget* padre, const char* nombre, int maxlength, int enteros,
+                      const QString& formato, bool bloqueada)
+{
+    auto* caja = new CajaNum(padre);
+    caja->setObjectName(QString::fromLatin1(nombre));
+    caja->setMaxlength(maxlength);
+    caja->setEnteros(enteros);
+    caja->setFormato(formato);
+    caja->setLocked(bloqueada);
+    caja->setFocusPolicy(bloqueada ? Qt::NoFocus : Qt::StrongFocus);
+    return caja;
+}
+
+void AbrirCampo(QWidget* campo, bool abierto)
+{
+    if (!campo)
+        return;
+    if (auto* caja = qobject_cast<CajaNum*>(campo))
+        caja->setLocked(!abierto);
+    else if (auto* texto = qobject_cast<QLineEdit*>(campo))
+        texto->setReadOnly(!abierto);
+    campo->setFocusPolicy(abierto ? Qt::StrongFocus : Qt::NoFocus);
+    ColorearCampo(campo, abierto);
+}
+
+bool CampoAbierto(const QWidget* campo)
+{
+    if (const auto* caja = qobject_cast<const CajaNum*>(campo))
+        return !caja->locked();
+    if (const auto* texto = qobject_cast<const QLineEdit*>(campo))
+        return !texto->isReadOnly();
+    return campo && campo->isEnabled();
+}
+
+QLabel* IconoDeBoton(QWidget* padre, const char* nombre, QStyle::StandardPixmap imagen,
+                     QAbstractButton* boton)
+{
+    auto* icono = new QLabel(padre);
+    icono->setObjectName(QString::fromLatin1(nombre));
+    icono->setPixmap(padre->style()->standardIcon(imagen).pixmap(24, 24));
+    icono->setCursor(Qt::PointingHandCursor);
+    icono->installEventFilter(new ClicEnIcono(icono, boton));
+    return icono;
+}
+
+QLabel* Etiqueta(QWidget* padre, const char* nombre)
+{
+    auto* etiqueta = new QLabel(padre);
+    etiqueta->setObjectName(QString::fromLatin1(nombre));
+    return etiqueta;
+}
+
+void PonerTexto(QLineEdit* campo, const QString& texto)
+{
+    if (campo && campo->text() != texto)
+        campo->setText(texto);
+}
+
+bool CodigoDistinto(const QString& texto, const QString& registro)
+{
+    const QString a = texto.trimmed();
+    const QString b = registro.trimmed();
+    if (a == b)
+        return false;
+    if (a.isEmpty() || b.isEmpty())
+        return true;
+    return Val(a) != Val(b);
+}
+
+void RetenerFocoAlPulsar(QWidget* panel)
+{
+    QObject::connect(qApp, &QApplication::focusChanged, panel, [panel](QWidget*, QWidget* ahora) {
+        if (ahora && ahora != panel && panel->isAncestorOf(ahora))
+            panel->setFocusProxy(ahora);
+    });
+}
