@@ -4,19 +4,17 @@
 #include "app/plataforma/Proceso.h"
 #include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
+#include "fields/FilaDeGrid.h"
 #include "fields/FiltroCampo.h"
 #include "fields/Filtros.h"
 #include "fields/MostrarAyuda.h"
 #include "fields/Twips.h"
 #include "fields/Val.h"
-#include "fields/FilaDeGrid.h"
 #include "fields/cFlexGrid.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiSubWindow>
@@ -25,6 +23,8 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -39,6 +39,8 @@ constexpr int kAnchoBuscar = 1200;
 constexpr int kAltoBuscar = 390;
 constexpr int kFlechaDerecha = 250;   // the arrow stands this far left of the column's right edge
 constexpr int kFlechaArriba = 65;     // and this far below the grid's top
+
+constexpr qreal kPuntosLetraGrid = 7.5;
 
 constexpr int kColumnaNombre = 1;
 constexpr int kColumnaDni = 2;
@@ -121,9 +123,9 @@ PanelLista::PanelLista(DisenoLista diseno, EstadoLista estado, QWidget* parent)
     setObjectName(m_diseno.nombrePanel);
     setAttribute(Qt::WA_DeleteOnClose);
     ConstruirControles();
+    Situar();
     Anadir_captions();
     DefinirColumnas();
-    Situar();
     Utilidades.Flex(m_grid);
     Utilidades.txtBusqueda(txtBusqueda);
 }
@@ -134,6 +136,13 @@ void PanelLista::ConstruirControles()
 {
     m_grid = new cFlexGrid(this);
     m_grid->setObjectName(m_diseno.nombreGrid);
+    // The columns have the widths of the panel's design: a number of nine characters fills its
+    // column in the small type of a list.
+    QFont letra = m_grid->font();
+    letra.setPointSizeF(std::min(letra.pointSizeF(), kPuntosLetraGrid));
+    m_grid->setFont(letra);
+    m_grid->horizontalHeader()->setFont(letra);
+    m_grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(letra).height() + 6);
     m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     txtBusqueda = Control<QLineEdit>(this, "txtBusqueda");
@@ -153,8 +162,6 @@ void PanelLista::ConstruirControles()
     cmdCancelar = Control<QPushButton>(this, "cmdCancelar");
     cmdNuevo = Control<QPushButton>(this, "cmdNuevo");
     CmdDeclaraciones = Control<QPushButton>(this, "CmdDeclaraciones");
-    for (QPushButton* b : {cmdAceptar, cmdCancelar, cmdNuevo, CmdDeclaraciones})
-        b->setStyleSheet(QStringLiteral("text-align: left; padding-left: 6px;"));
 
     auto icono = [this](QPushButton* boton, QStyle::StandardPixmap imagen, const char* nombre) {
         auto* i = new IconoBoton(boton, imagen, this);
