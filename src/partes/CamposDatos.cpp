@@ -6,13 +6,18 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBoxLayout>
 #include <QFocusEvent>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 
 namespace {
+
+// The width of the first column of a data panel, where labels and picker buttons stand.
+constexpr int kPrimeraColumna = 120;
 
 // A locked text field that is entered gives the focus on, forward or back as it came.
 class PasoDeFoco : public QObject {
@@ -149,4 +154,23 @@ void RetenerFocoAlPulsar(QWidget* panel)
         if (ahora && ahora != panel && panel->isAncestorOf(ahora))
             panel->setFocusProxy(ahora);
     });
+}
+
+void AnchoDeCaracteres(QWidget* campo, int caracteres)
+{
+    const QFontMetrics medida(campo->font());
+    // The text and the field's frame and margins.
+    campo->setFixedWidth(medida.horizontalAdvance(QLatin1Char('W')) * caracteres + 12);
+}
+
+void LineaDePanel(QBoxLayout* panel, const QList<QWidget*>& widgets)
+{
+    auto* linea = new QHBoxLayout;
+    for (qsizetype i = 0; i < widgets.size(); ++i) {
+        if (i == 0 && widgets.size() > 1)
+            widgets[i]->setFixedWidth(kPrimeraColumna);
+        linea->addWidget(widgets[i]);
+    }
+    linea->addStretch();
+    panel->addLayout(linea);
 }

@@ -4,11 +4,13 @@
 // look of a field, and the icons that act as their button.
 #include "fields/FiltroCampo.h"
 
+#include <QList>
 #include <QString>
 #include <QStyle>
 
 class CajaNum;
 class QAbstractButton;
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QWidget;
@@ -44,6 +46,12 @@ bool CodigoDistinto(const QString& texto, const QString& registro);
 // so the platform, looking up from the clicked spot for a widget to focus, stops at the field
 // that already has it instead of leaving it for the panel's frame.
 void RetenerFocoAlPulsar(QWidget* panel);
+
+// A field as wide as `caracteres` wide characters of its font, and no wider.
+void AnchoDeCaracteres(QWidget* campo, int caracteres);
+// One line of a data panel: the widgets side by side from the left; in a line of several, the
+// first one (a label or a picker's button) as wide as the first column of the panel.
+void LineaDePanel(QBoxLayout* panel, const QList<QWidget*>& widgets);
 
 // A label with its objectName.
 QLabel* Etiqueta(QWidget* padre, const char* nombre);

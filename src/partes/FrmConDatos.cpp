@@ -18,7 +18,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,6 +26,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -113,45 +113,25 @@ void FrmConDatos::Construir()
     lblnumsp = Etiqueta(d, "lblnumsp");
     lblnumtr = Etiqueta(d, "lblnumtr");
 
-    auto* rejilla = new QGridLayout(fraDatos);
-    rejilla->addWidget(chktipodni, 0, 0, 1, 4);
-    rejilla->addWidget(lbldnic, 1, 0);
-    rejilla->addWidget(txtdnic, 1, 1, 1, 2);
-    rejilla->addWidget(lblnombrec, 1, 3);
-    rejilla->addWidget(txtnombrec, 1, 4, 1, 6);
-    rejilla->addWidget(chktipodomi, 2, 0, 1, 4);
-    rejilla->addWidget(lblviac, 3, 0);
-    rejilla->addWidget(txtviac, 3, 1);
-    rejilla->addWidget(cmdVia, 3, 2);
-    rejilla->addWidget(txtviaaux, 3, 3, 1, 2);
-    rejilla->addWidget(lbldomicilioc, 3, 5);
-    rejilla->addWidget(txtdomicilioc, 3, 6, 1, 4);
-    rejilla->addWidget(lblnumeroc, 4, 0);
-    rejilla->addWidget(txtnumeroc, 4, 1);
-    rejilla->addWidget(lblletrac, 4, 2);
-    rejilla->addWidget(txtletrac, 4, 3);
-    rejilla->addWidget(lblescalerac, 4, 4);
-    rejilla->addWidget(txtescalerac, 4, 5);
-    rejilla->addWidget(lblpisoc, 4, 6);
-    rejilla->addWidget(txtpisoc, 4, 7);
-    rejilla->addWidget(lblmanoc, 4, 8);
-    rejilla->addWidget(txtmanoc, 4, 9);
-    rejilla->addWidget(cmdProvincia, 5, 0);
-    rejilla->addWidget(txtcodprovc, 5, 1);
-    rejilla->addWidget(lblnomprovc, 5, 2, 1, 2);
-    rejilla->addWidget(txtnomprovc, 5, 4, 1, 3);
-    rejilla->addWidget(lblcodposc, 5, 7);
-    rejilla->addWidget(txtcodposc, 5, 8, 1, 2);
-    rejilla->addWidget(cmdMunicipio, 6, 0);
-    rejilla->addWidget(txtcodmunc, 6, 1);
-    rejilla->addWidget(lblnommunc, 6, 2, 1, 2);
-    rejilla->addWidget(txtnommunc, 6, 4, 1, 6);
-    rejilla->addWidget(lblpais, 7, 0);
-    rejilla->addWidget(txtpais, 7, 1, 1, 4);
-    rejilla->addWidget(lblnumsp, 8, 0);
-    rejilla->addWidget(txtnumsp, 8, 1, 1, 2);
-    rejilla->addWidget(lblnumtr, 8, 3);
-    rejilla->addWidget(txtnumtr, 8, 4, 1, 2);
+    for (auto [campo, caracteres] : {std::pair<QWidget*, int>{txtdnic, 9}, {txtnombrec, 30},
+                                      {txtviac, 2}, {txtviaaux, 12}, {txtdomicilioc, 20},
+                                      {txtnumeroc, 5}, {txtletrac, 2}, {txtescalerac, 2},
+                                      {txtpisoc, 2}, {txtmanoc, 3}, {txtcodprovc, 2},
+                                      {txtnomprovc, 16}, {txtcodposc, 5}, {txtcodmunc, 3},
+                                      {txtnommunc, 20}, {txtpais, 16}, {txtnumsp, 7},
+                                      {txtnumtr, 7}})
+        AnchoDeCaracteres(campo, caracteres);
+    auto* lineas = new QVBoxLayout(fraDatos);
+    LineaDePanel(lineas, {chktipodni});
+    LineaDePanel(lineas, {lbldnic, txtdnic, lblnombrec, txtnombrec});
+    LineaDePanel(lineas, {chktipodomi});
+    LineaDePanel(lineas, {lblviac, txtviac, cmdVia, txtviaaux, lbldomicilioc, txtdomicilioc});
+    LineaDePanel(lineas, {lblnumeroc, txtnumeroc, lblletrac, txtletrac, lblescalerac, txtescalerac,
+                          lblpisoc, txtpisoc, lblmanoc, txtmanoc});
+    LineaDePanel(lineas, {cmdProvincia, txtcodprovc, lblnomprovc, txtnomprovc, lblcodposc, txtcodposc});
+    LineaDePanel(lineas, {cmdMunicipio, txtcodmunc, lblnommunc, txtnommunc});
+    LineaDePanel(lineas, {lblpais, txtpais});
+    LineaDePanel(lineas, {lblnumsp, txtnumsp, lblnumtr, txtnumtr});
 
     cmdAceptar = new QPushButton(fraBotones);
     cmdAceptar->setObjectName(QStringLiteral("cmdAceptar"));

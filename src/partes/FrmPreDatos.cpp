@@ -17,7 +17,6 @@
 
 #include <QCloseEvent>
 #include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -25,6 +24,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -100,39 +100,21 @@ void FrmPreDatos::Construir()
     lblnommunp = Etiqueta(d, "lblnommunp");
     lbltelefonop = Etiqueta(d, "lbltelefonop");
 
-    auto* rejilla = new QGridLayout(fraDatos);
-    rejilla->addWidget(lbldnip, 0, 0);
-    rejilla->addWidget(txtdnip, 0, 1, 1, 2);
-    rejilla->addWidget(lblnombrep, 0, 3);
-    rejilla->addWidget(txtnombrep, 0, 4, 1, 6);
-    rejilla->addWidget(lblviap, 1, 0);
-    rejilla->addWidget(txtviap, 1, 1);
-    rejilla->addWidget(cmdVia, 1, 2);
-    rejilla->addWidget(txtviaaux, 1, 3, 1, 2);
-    rejilla->addWidget(lbldomiciliop, 1, 5);
-    rejilla->addWidget(txtdomiciliop, 1, 6, 1, 4);
-    rejilla->addWidget(lblnumerop, 2, 0);
-    rejilla->addWidget(txtnumerop, 2, 1);
-    rejilla->addWidget(lblletrap, 2, 2);
-    rejilla->addWidget(txtletrap, 2, 3);
-    rejilla->addWidget(lblescalerap, 2, 4);
-    rejilla->addWidget(txtescalerap, 2, 5);
-    rejilla->addWidget(lblpisop, 2, 6);
-    rejilla->addWidget(txtpisop, 2, 7);
-    rejilla->addWidget(lblmanop, 2, 8);
-    rejilla->addWidget(txtmanop, 2, 9);
-    rejilla->addWidget(cmdProvincia, 3, 0);
-    rejilla->addWidget(txtcodprovp, 3, 1);
-    rejilla->addWidget(lblnomprovp, 3, 2, 1, 2);
-    rejilla->addWidget(txtnomprovp, 3, 4, 1, 3);
-    rejilla->addWidget(lblcodposp, 3, 7);
-    rejilla->addWidget(txtcodposp, 3, 8, 1, 2);
-    rejilla->addWidget(cmdMunicipio, 4, 0);
-    rejilla->addWidget(txtcodmunp, 4, 1);
-    rejilla->addWidget(lblnommunp, 4, 2, 1, 2);
-    rejilla->addWidget(txtnommunp, 4, 4, 1, 6);
-    rejilla->addWidget(lbltelefonop, 5, 0);
-    rejilla->addWidget(txttelefonop, 5, 1, 1, 3);
+    for (auto [campo, caracteres] : {std::pair<QWidget*, int>{txtdnip, 9}, {txtnombrep, 30},
+                                      {txtviap, 2}, {txtviaaux, 12}, {txtdomiciliop, 20},
+                                      {txtnumerop, 5}, {txtletrap, 2}, {txtescalerap, 2},
+                                      {txtpisop, 2}, {txtmanop, 3}, {txtcodprovp, 2},
+                                      {txtnomprovp, 16}, {txtcodposp, 5}, {txtcodmunp, 3},
+                                      {txtnommunp, 20}, {txttelefonop, 9}})
+        AnchoDeCaracteres(campo, caracteres);
+    auto* lineas = new QVBoxLayout(fraDatos);
+    LineaDePanel(lineas, {lbldnip, txtdnip, lblnombrep, txtnombrep});
+    LineaDePanel(lineas, {lblviap, txtviap, cmdVia, txtviaaux, lbldomiciliop, txtdomiciliop});
+    LineaDePanel(lineas, {lblnumerop, txtnumerop, lblletrap, txtletrap, lblescalerap, txtescalerap,
+                          lblpisop, txtpisop, lblmanop, txtmanop});
+    LineaDePanel(lineas, {cmdProvincia, txtcodprovp, lblnomprovp, txtnomprovp, lblcodposp, txtcodposp});
+    LineaDePanel(lineas, {cmdMunicipio, txtcodmunp, lblnommunp, txtnommunp});
+    LineaDePanel(lineas, {lbltelefonop, txttelefonop});
 
     cmdAceptar = new QPushButton(fraBotones);
     cmdAceptar->setObjectName(QStringLiteral("cmdAceptar"));
