@@ -7,6 +7,7 @@
 #include <QVariantList>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 namespace ArreglosPartes {
 
@@ -42,9 +43,27 @@ QString CondicionPrefijo(const QString& columna, const QString& prefijo, QVarian
 // criterios[2] a prefix of `dni`, both when both are given.
 QString CondicionesBusqueda(const Arreglo& criterios, const QString& nombre, const QString& dni,
                             QVariantList& valores);
-// The ORDER BY clause of a list: `orden` 2 by number, anything else by name; the code breaks
-// ties, so that the order is always the same.
-QString OrdenBusqueda(uint8_t orden, const QString& nombre, const QString& dni,
-                      const QString& codigo);
+// The order of a list, as a user of names in Spanish and Basque expects it: without regard to
+// case or to the accent of a vowel, Ñ after N and Ç after C; ties by the exact text, then by
+// the code, so that the order is always the same. The rows are sorted once read (reading them
+// in the table's own order and sorting them costs far less than reading them through an index
+// in another order). Sorts the columns of `datos` by column `clave`, ties by column `codigo`.
+void OrdenarFilas(Arreglo2D& datos, int clave, int codigo);
+// The key whose byte order is that order.
+QByteArray ClaveDeOrden(const QString& texto);
+
+// One row of the list of a party: code, name, number, street, municipality and one or two
+// counts of declarations.
+struct FilaLista {
+    int32_t codigo = 0;
+    QString nombre;
+    QString dni;
+    QString calle;
+    QString municipio;
+    int32_t contadores[2] = {0, 0};
+};
+// The rows in the order of the list (`orden` 2 by number, else by name), as the grid array:
+// columns code, name, number, street, municipality, then `numContadores` counts.
+Arreglo2D ListaOrdenada(std::vector<FilaLista>&& filas, uint8_t orden, int numContadores);
 
 }  // namespace ArreglosPartes

@@ -1,6 +1,6 @@
 #include "servicios/ContadoresPartes.h"
 
-#include "servicios/Conexion.h"
+#include "servicios/SentenciaPreparada.h"
 
 namespace {
 
@@ -20,9 +20,10 @@ int64_t contar(const QSqlDatabase& db, const QString& columna, int32_t codigo,
 {
     if (codigo == 0)  // 0 is "no party" in a declaration, never a party's code
         return 0;
-    return Escalar(db, QStringLiteral("SELECT COUNT(*) FROM DECLARACIONES WHERE %1 = ?")
-                           .arg(columna),
-                   {codigo}, origen, 0)
+    return EscalarPreparada(db,
+                            QStringLiteral("SELECT COUNT(*) FROM DECLARACIONES WHERE %1 = ?")
+                                .arg(columna),
+                            {codigo}, origen, 0)
         .toLongLong();
 }
 

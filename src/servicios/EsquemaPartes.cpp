@@ -1,10 +1,12 @@
 // Tables of the parties in layout 1 of the read/write database.
 //
 // CONTRIBUYENTES holds the contributors and PRESENTADORES the presenters, one row each, keyed
-// by a code that is never given twice (AUTOINCREMENT), so that a code held by a panel or a
-// list never comes to name another party after a deletion. The identity number is unique
-// whatever its case. Names sort and match without regard to case (ASCII), which is what the
-// prefix search of the lists uses; both columns are indexed for it.
+// by a code given by the store (the row id). Only the code of the last party can come back
+// after its deletion, and a party named in a declaration is never deleted, so a code never
+// comes to name another party in a declaration; the code is kept plain because marking it
+// AUTOINCREMENT costs every insert one more page written. The identity number is unique
+// whatever its case. Names and numbers match without regard to case (ASCII), which is what
+// the prefix search of the lists uses; both columns are indexed for it.
 //
 // Codes of the address are kept in their fixed-width form: province "01", postal code "01001",
 // municipality "001"; "" when there is none. The number of declarations in which a party is
@@ -20,7 +22,7 @@ QStringList EsquemaPartesV1()
     return {
         QStringLiteral(
             "CREATE TABLE CONTRIBUYENTES ("
-            "CSCO INTEGER PRIMARY KEY AUTOINCREMENT, "
+            "CSCO INTEGER PRIMARY KEY, "
             "TIPODNI TEXT NOT NULL DEFAULT 'O' CHECK (TIPODNI IN ('O', 'N')), "
             "DNIC TEXT NOT NULL COLLATE NOCASE CHECK (length(DNIC) BETWEEN 1 AND 9), "
             "NOMBREC TEXT NOT NULL COLLATE NOCASE CHECK (length(NOMBREC) BETWEEN 1 AND 40), "
@@ -42,7 +44,7 @@ QStringList EsquemaPartesV1()
         QStringLiteral("CREATE INDEX CONTRIBUYENTES_NOMBREC ON CONTRIBUYENTES (NOMBREC)"),
         QStringLiteral(
             "CREATE TABLE PRESENTADORES ("
-            "CSPR INTEGER PRIMARY KEY AUTOINCREMENT, "
+            "CSPR INTEGER PRIMARY KEY, "
             "DNIP TEXT NOT NULL COLLATE NOCASE CHECK (length(DNIP) BETWEEN 1 AND 9), "
             "NOMBREP TEXT NOT NULL COLLATE NOCASE CHECK (length(NOMBREP) BETWEEN 1 AND 40), "
             "VIAP TEXT NOT NULL DEFAULT 'CL' CHECK (length(VIAP) <= 2), "

@@ -2,6 +2,7 @@
 
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
+#include "servicios/SentenciaPreparada.h"
 
 namespace ReferenciaPartes {
 
@@ -32,7 +33,7 @@ ConsultasReferencia Consultas(const QString& mdblec, const QString& origen)
     const QSqlDatabase lec = Conexion::Lectura(mdblec, origen);
     const auto existe = [lec, origen](const QString& sql) {
         return [lec, origen, sql](const QString& clave) {
-            return Escalar(lec, sql, {clave}, origen, 0).toInt() > 0;
+            return EscalarPreparada(lec, sql, {clave}, origen, 0).toInt() > 0;
         };
     };
     return {

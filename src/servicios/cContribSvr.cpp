@@ -6,6 +6,7 @@
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
+#include "servicios/SentenciaPreparada.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
 
@@ -73,52 +74,70 @@ int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& 
     const QString t = dni.trimmed();
     if (t.isEmpty())
         return 0;
-    return Escalar(db, QStringLiteral("SELECT CSCO FROM CONTRIBUYENTES WHERE DNIC = ?"), {t}, org,
-                   0)
+    return EscalarPreparada(db, QStringLiteral("SELECT CSCO FROM CONTRIBUYENTES WHERE DNIC = ?"),
+                            {t}, org, 0)
         .toInt();
+}
+
+QString marcas(qsizetype n)
+{
+    QStringList m;
+    for (qsizetype i = 0; i < n; ++i)
+        m << QStringLiteral("?");
+    return m.join(QStringLiteral(", "));
+}
+
+// The three writes, their texts made once.
+const QString& sqlInsertar()
+{
+    static const QString sql = QStringLiteral("INSERT INTO CONTRIBUYENTES (%1) VALUES (%2)")
+                                   .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size()));
+    return sql;
+}
+
+const QString& sqlInsertarConCodigo()
+{
+    static const QString sql =
+        QStringLiteral("INSERT INTO CONTRIBUYENTES (CSCO, %1) VALUES (%2)")
+            .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size() + 1));
+    return sql;
+}
+
+const QString& sqlActualizar()
+{
+    static const QString sql = [] {
+        QStringList asignaciones;
+        for (const QString& c : kColumnas)
+            asignaciones << c + QStringLiteral(" = ?");
+        return QStringLiteral("UPDATE CONTRIBUYENTES SET %1 WHERE CSCO = ?")
+            .arg(asignaciones.join(QStringLiteral(", ")));
+    }();
+    return sql;
 }
 
 void insertar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
 {
-    QStringList columnas = kColumnas;
-    QVariantList valores = fila;
-    if (csco != 0) {
-        columnas.prepend(QStringLiteral("CSCO"));
-        valores.prepend(csco);
+    if (csco == 0) {
+        SentenciaPreparada(db, sqlInsertar(), org).ejecutar(fila);
+        return;
     }
-    QStringList marcas;
-    for (qsizetype i = 0; i < columnas.size(); ++i)
-        marcas << QStringLiteral("?");
-    Ejecutar(db,
-             QStringLiteral("INSERT INTO CONTRIBUYENTES (%1) VALUES (%2)")
-                 .arg(columnas.join(QStringLiteral(", ")), marcas.join(QStringLiteral(", "))),
-             valores, org);
+    QVariantList valores = fila;
+    valores.prepend(csco);
+    SentenciaPreparada(db, sqlInsertarConCodigo(), org).ejecutar(valores);
 }
 
 bool actualizar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
 {
-    QStringList asignaciones;
-    for (const QString& c : kColumnas)
-        asignaciones << c + QStringLiteral(" = ?");
     QVariantList valores = fila;
     valores << csco;
-    QSqlQuery q = Ejecutar(db,
-                           QStringLiteral("UPDATE CONTRIBUYENTES SET %1 WHERE CSCO = ?")
-                               .arg(asignaciones.join(QStringLiteral(", "))),
-                           valores, org);
-    return q.numRowsAffected() > 0;
+    SentenciaPreparada s(db, sqlActualizar(), org);
+    return s.ejecutar(valores).numRowsAffected() > 0;
 }
 
 QString condiciones(const Arreglo& criterios, QVariantList& valores)
 {
     return CondicionesBusqueda(criterios, QStringLiteral("c.NOMBREC"), QStringLiteral("c.DNIC"),
                                valores);
-}
-
-QString ordenacion(uint8_t orden)
-{
-    return OrdenBusqueda(orden, QStringLiteral("c.NOMBREC"), QStringLiteral("c.DNIC"),
-                         QStringLiteral("c.CSCO"));
 }
 
 QString contadores()
@@ -277,20 +296,23 @@ int32_t cContribSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& 
                                           "c.CODPROVC, c.CODMUNC, c.NOMMUNC, %1 "
                                           "FROM CONTRIBUYENTES c")
                                    .arg(contadores())
-                               + donde + ordenacion(orden),
+                               + donde,
                            valores, org);
-    datos = columnasVacias(7, 0);
+    std::vector<FilaLista> filas;
     while (q.next()) {
-        datos[0] << q.value(0).toInt();
-        datos[1] << q.value(1).toString();
-        datos[2] << q.value(2).toString();
-        datos[3] << q.value(3).toString();
-        datos[4] << ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
-                                                      q.value(5).toString(),
-                                                      q.value(6).toString());
-        datos[5] << q.value(7).toInt();
-        datos[6] << q.value(8).toInt();
+        FilaLista f;
+        f.codigo = q.value(0).toInt();
+        f.nombre = q.value(1).toString();
+        f.dni = q.value(2).toString();
+        f.calle = q.value(3).toString();
+        f.municipio = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+                                                        q.value(5).toString(),
+                                                        q.value(6).toString());
+        f.contadores[0] = q.value(7).toInt();
+        f.contadores[1] = q.value(8).toInt();
+        filas.push_back(std::move(f));
     }
+    datos = ListaOrdenada(std::move(filas), orden, 2);
     return static_cast<int32_t>(datos[0].size());
 }
 
@@ -307,7 +329,7 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
     QSqlQuery q = Ejecutar(db,
                            QStringLiteral("SELECT c.CSCO, %1, %2 FROM CONTRIBUYENTES c")
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
-                               + donde + ordenacion(orden),
+                               + donde,
                            valores, org);
     datos = columnasVacias(kElementos, 0);
     while (q.next()) {
@@ -318,5 +340,6 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
         datos[kNumSp].last() = q.value(kNumSp).toDouble();
         datos[kNumTr].last() = q.value(kNumTr).toDouble();
     }
+    OrdenarFilas(datos, orden == 2 ? 2 : 3, 0);
     return static_cast<int32_t>(datos[0].size());
 }

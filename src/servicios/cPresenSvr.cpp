@@ -4,6 +4,7 @@
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
+#include "servicios/SentenciaPreparada.h"
 #include "servicios/ValidacionPartes.h"
 
 #include <QStringList>
@@ -53,38 +54,48 @@ int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& 
     const QString t = dni.trimmed();
     if (t.isEmpty())
         return 0;
-    return Escalar(db, QStringLiteral("SELECT CSPR FROM PRESENTADORES WHERE DNIP = ?"), {t}, org, 0)
+    return EscalarPreparada(db, QStringLiteral("SELECT CSPR FROM PRESENTADORES WHERE DNIP = ?"),
+                            {t}, org, 0)
         .toInt();
+}
+
+QString marcas(qsizetype n)
+{
+    QStringList m;
+    for (qsizetype i = 0; i < n; ++i)
+        m << QStringLiteral("?");
+    return m.join(QStringLiteral(", "));
 }
 
 void insertar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
 {
-    QStringList columnas = kColumnas;
-    QVariantList valores = fila;
-    if (cspr != 0) {
-        columnas.prepend(QStringLiteral("CSPR"));
-        valores.prepend(cspr);
+    static const QString sinCodigo = QStringLiteral("INSERT INTO PRESENTADORES (%1) VALUES (%2)")
+                                         .arg(kColumnas.join(QStringLiteral(", ")),
+                                              marcas(kColumnas.size()));
+    static const QString conCodigo =
+        QStringLiteral("INSERT INTO PRESENTADORES (CSPR, %1) VALUES (%2)")
+            .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size() + 1));
+    if (cspr == 0) {
+        SentenciaPreparada(db, sinCodigo, org).ejecutar(fila);
+        return;
     }
-    QStringList marcas;
-    for (qsizetype i = 0; i < columnas.size(); ++i)
-        marcas << QStringLiteral("?");
-    Ejecutar(db,
-             QStringLiteral("INSERT INTO PRESENTADORES (%1) VALUES (%2)")
-                 .arg(columnas.join(QStringLiteral(", ")), marcas.join(QStringLiteral(", "))),
-             valores, org);
+    QVariantList valores = fila;
+    valores.prepend(cspr);
+    SentenciaPreparada(db, conCodigo, org).ejecutar(valores);
 }
 
 void actualizar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
 {
-    QStringList asignaciones;
-    for (const QString& c : kColumnas)
-        asignaciones << c + QStringLiteral(" = ?");
+    static const QString sql = [] {
+        QStringList asignaciones;
+        for (const QString& c : kColumnas)
+            asignaciones << c + QStringLiteral(" = ?");
+        return QStringLiteral("UPDATE PRESENTADORES SET %1 WHERE CSPR = ?")
+            .arg(asignaciones.join(QStringLiteral(", ")));
+    }();
     QVariantList valores = fila;
     valores << cspr;
-    Ejecutar(db,
-             QStringLiteral("UPDATE PRESENTADORES SET %1 WHERE CSPR = ?")
-                 .arg(asignaciones.join(QStringLiteral(", "))),
-             valores, org);
+    SentenciaPreparada(db, sql, org).ejecutar(valores);
 }
 
 }  // namespace
@@ -191,25 +202,26 @@ int32_t cPresenSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& d
     QVariantList valores;
     const QString donde = CondicionesBusqueda(criterios, QStringLiteral("p.NOMBREP"),
                                               QStringLiteral("p.DNIP"), valores);
-    const QString orden_ = OrdenBusqueda(orden, QStringLiteral("p.NOMBREP"),
-                                         QStringLiteral("p.DNIP"), QStringLiteral("p.CSPR"));
     QSqlQuery q = Ejecutar(db,
                            QStringLiteral("SELECT p.CSPR, p.NOMBREP, p.DNIP, p.DOMICILIOP, "
                                           "p.CODPROVP, p.CODMUNP, p.NOMMUNP, %1 "
                                           "FROM PRESENTADORES p")
                                    .arg(ContadoresPartes::SqlComoPresentador(QStringLiteral("p.CSPR")))
-                               + donde + orden_,
+                               + donde,
                            valores, org);
-    datos = Arreglo2D(6);
+    std::vector<FilaLista> filas;
     while (q.next()) {
-        datos[0] << q.value(0).toInt();
-        datos[1] << q.value(1).toString();
-        datos[2] << q.value(2).toString();
-        datos[3] << q.value(3).toString();
-        datos[4] << ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
-                                                      q.value(5).toString(),
-                                                      q.value(6).toString());
-        datos[5] << q.value(7).toInt();
+        FilaLista f;
+        f.codigo = q.value(0).toInt();
+        f.nombre = q.value(1).toString();
+        f.dni = q.value(2).toString();
+        f.calle = q.value(3).toString();
+        f.municipio = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+                                                        q.value(5).toString(),
+                                                        q.value(6).toString());
+        f.contadores[0] = q.value(7).toInt();
+        filas.push_back(std::move(f));
     }
+    datos = ListaOrdenada(std::move(filas), orden, 1);
     return static_cast<int32_t>(datos[0].size());
 }

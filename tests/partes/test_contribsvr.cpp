@@ -4,6 +4,7 @@
 
 #include "app/plataforma/Fallo.h"
 #include "app/plataforma/General.h"
+#include "servicios/Conexion.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/cContribSvr.h"
 
@@ -610,6 +611,40 @@ private slots:
         QCOMPARE(Svr().dameResultadoBusqueda(Criterios("' OR 1=1 --", 0), d, 1), 0);
         QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "%"), d, 1), 0);
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 7);
+    }
+
+    void ordenDeLaLista()
+    {
+        // Ñ after N, accents and case aside; ties by the code.
+        AlmacenDePrueba almacen;
+        Guardar(ContribuyenteNacional(Dni(100), QStringLiteral("MUOZ A")));
+        Guardar(ContribuyenteNacional(Dni(101), QStringLiteral("MUÑOZ B")));
+        Guardar(ContribuyenteNacional(Dni(102), QStringLiteral("MUNOZ C")));
+        Guardar(ContribuyenteNacional(Dni(103), QStringLiteral("MUNIZ D")));
+        Guardar(ContribuyenteNacional(Dni(104), QStringLiteral("muñoz a")));
+        Guardar(ContribuyenteNacional(Dni(105), QStringLiteral("MÚGICA")));
+        Guardar(ContribuyenteNacional(Dni(106), QStringLiteral("MUZA")));
+        Guardar(ContribuyenteNacional(Dni(107), QStringLiteral("MUZA")));
+        Arreglo2D d;
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("M", 0), d, 1), 8);
+        QCOMPARE(Columna(d, 1), (QStringList{"MÚGICA", "MUNIZ D", "MUNOZ C", "muñoz a", "MUÑOZ B",
+                                             "MUOZ A", "MUZA", "MUZA"}));
+        QCOMPARE(Columna(d, 2).mid(6), (QStringList{Dni(106), Dni(107)}));
+        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("m", 0), d, 1), 8);
+        QCOMPARE(Columna(d, 3).first(), QStringLiteral("MÚGICA"));
+        QCOMPARE(Columna(d, 3).at(4), QStringLiteral("MUÑOZ B"));
+    }
+
+    void conexionCerradaEntreLlamadas()
+    {
+        // A statement kept from an earlier call is compiled again once its connection has been
+        // closed (a restore, for one).
+        AlmacenDePrueba almacen;
+        QVERIFY(Guardar(ContribuyenteNacional(Dni(110), QStringLiteral("ANTES"))) > 0);
+        Conexion::Cerrar(mdbmod);
+        QVERIFY(Guardar(ContribuyenteNacional(Dni(111), QStringLiteral("DESPUES"))) > 0);
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(110), QStringLiteral("X"))), 1);
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
     }
 
     void busquedaMunicipio()
