@@ -12,6 +12,14 @@
 #include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
 #include "declaracion/cDecDatos.h"
+#include "partes/FrmConDatos.h"
+#include "partes/FrmConLista.h"
+#include "partes/FrmPreDatos.h"
+#include "partes/FrmPreLista.h"
+#include "partes/cConDatos.h"
+#include "partes/cConLista.h"
+#include "partes/cPreDatos.h"
+#include "partes/cPreLista.h"
 #include "servicios/cMiscelaneos.h"
 #include "servicios/cSaveAsRestore.h"
 
@@ -199,12 +207,34 @@ void MDIVeldo::conectarComandos()
     for (QAction* d : m_recientes)
         al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
     al("mnuSalir", [] { Proceso::Terminar(0); });
-    al("mnuNuevoContribuyente", [this] { abrirRegistrado(QStringLiteral("FrmConDatos:A")); });
-    al("mnuAbrirContribuyente", [this] { abrirRegistrado(QStringLiteral("FrmConLista:A")); });
-    al("mnuEliminarContribuyente", [this] { abrirRegistrado(QStringLiteral("FrmConLista:E")); });
-    al("mnuNuevoPresentador", [this] { abrirRegistrado(QStringLiteral("FrmPreDatos:A")); });
-    al("mnuAbrirPresentador", [this] { abrirRegistrado(QStringLiteral("FrmPreLista:A")); });
-    al("mnuEliminarPresentador", [this] { abrirRegistrado(QStringLiteral("FrmPreLista:E")); });
+    al("mnuNuevoContribuyente", [] {
+        ConDatos().setMODO(QStringLiteral("A"));
+        ConDatos().LISTA.clear();
+        ConDatos().CSCO = 0;
+        FrmConDatos::Abrir();
+    });
+    al("mnuAbrirContribuyente", [] {
+        ConLista().ENTRADA = QStringLiteral("A");
+        FrmConLista::Abrir();
+    });
+    al("mnuEliminarContribuyente", [] {
+        ConLista().ENTRADA = QStringLiteral("E");
+        FrmConLista::Abrir();
+    });
+    al("mnuNuevoPresentador", [] {
+        PreDatos().setMODO(QStringLiteral("A"));
+        PreDatos().LISTA.clear();
+        PreDatos().CSPR = 0;
+        FrmPreDatos::Abrir();
+    });
+    al("mnuAbrirPresentador", [] {
+        PreLista().ENTRADA = QStringLiteral("A");
+        FrmPreLista::Abrir();
+    });
+    al("mnuEliminarPresentador", [] {
+        PreLista().ENTRADA = QStringLiteral("E");
+        FrmPreLista::Abrir();
+    });
     al("mnuExport", [this] { abrirRegistrado(QStringLiteral("FrmExportar")); });
     al("mnuImport", [this] { abrirRegistrado(QStringLiteral("FrmImportar")); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });
