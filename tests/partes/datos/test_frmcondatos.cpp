@@ -566,6 +566,28 @@ private slots:
                  QStringLiteral("NUEVA"));
     }
 
+    void teclaDeAccesoDeAceptarDejaElCampoAntes()
+    {
+        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        abrirExistente(cs, QString());
+        Escribir(t("txtpisoc"), QStringLiteral("3"));
+        QTest::keyClick(t("txtpisoc"), Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(!m_panel);
+        QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT PISOC FROM CONTRIBUYENTES WHERE CSCO = ?"), {cs})
+                     .toString(),
+                 QStringLiteral("3"));
+    }
+
+    void teclaDeAccesoDeAceptarConUnCodigoDesconocido()
+    {
+        abrirNuevo();
+        Escribir(t("txtviac"), QStringLiteral("ZZ"));
+        QTest::keyClick(t("txtviac"), Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(l("lstviac")->isVisible());
+        QVERIFY(m_panel);
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
+
     void dniInvalidoCargadoDetieneAceptar()
     {
         Contribuyente x;
