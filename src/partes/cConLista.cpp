@@ -94,6 +94,14 @@ bool cConLista::OrdenarPor(int columna)
     return true;
 }
 
+bool cConLista::ElegirColumnaBusqueda(int columna)
+{
+    if (columna != 1 && columna != 2)
+        return false;
+    SELECCIONACTUAL = QString::number(columna);
+    return true;
+}
+
 void cConLista::Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr)
 {
     CSCO = codigo;

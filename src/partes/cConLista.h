@@ -48,6 +48,9 @@ public:
     // A click on a heading of the result state: name (1) and DNI (2) order the list and lose
     // the selection; answers false for any other column, which does nothing.
     bool OrdenarPor(int columna);
+    // A click on a column in the search state: name (1) and DNI (2) become the column under
+    // edit; answers false for any other column, which does nothing.
+    bool ElegirColumnaBusqueda(int columna);
     // A row became current: its code and counters are the selection.
     void Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr);
 };

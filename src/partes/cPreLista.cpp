@@ -88,6 +88,14 @@ bool cPreLista::OrdenarPor(int columna)
     return true;
 }
 
+bool cPreLista::ElegirColumnaBusqueda(int columna)
+{
+    if (columna != 1 && columna != 2)
+        return false;
+    SELECCIONACTUAL = QString::number(columna);
+    return true;
+}
+
 void cPreLista::Seleccionar(int32_t codigo, int32_t numDeclaraciones)
 {
     CSPR = codigo;

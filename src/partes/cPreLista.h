@@ -30,6 +30,7 @@ public:
     void CambiarBusqueda();
     void Todos();
     bool OrdenarPor(int columna);
+    bool ElegirColumnaBusqueda(int columna);
     void Seleccionar(int32_t codigo, int32_t numDeclaraciones);
 };
 

@@ -392,7 +392,11 @@ private slots:
         QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, 0}));
         l.CambiarBusqueda();
         QCOMPARE(l.BUSQUEDA, QStringLiteral("B"));
-        l.SELECCIONACTUAL = "2";
+        // In the search state a click on column 3 does nothing; on DNI it opens its box.
+        QVERIFY(!l.ElegirColumnaBusqueda(3));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
+        QVERIFY(l.ElegirColumnaBusqueda(2));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("2"));
         l.AnotarBusqueda("123");
         QCOMPARE(l.ORDEN, uint8_t(2));
         QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
@@ -483,6 +487,18 @@ private slots:
         l.AnotarBusqueda("NADIE");
         QCOMPARE(l.CargarContribuyentes(d), 0);
         QCOMPARE(l.NUMCONTRISEL, 0);
+
+        // Deleting the contributors of the list one by one leaves it empty (the panel then
+        // closes).
+        l.Todos();
+        QCOMPARE(l.CargarContribuyentes(d), 3);
+        for (const QVariant& codigo : d[0]) {
+            ConDatos().CSCO = codigo.toInt();
+            ConDatos().BorrarContribuyente();
+        }
+        QCOMPARE(l.CargarContribuyentes(d), 0);
+        QCOMPARE(l.NUMCONTRISEL, 0);
+        QCOMPARE(d.size(), 7);
     }
 
     void listaDePresentadores()
@@ -510,7 +526,8 @@ private slots:
         l.CambiarBusqueda();
         QCOMPARE(l.CSPR, 0);
         QCOMPARE(l.NUMPRESENSEL, 0);
-        l.SELECCIONACTUAL = "2";
+        QVERIFY(!l.ElegirColumnaBusqueda(5));
+        QVERIFY(l.ElegirColumnaBusqueda(2));
         l.AnotarBusqueda("0000030");
         l.CambiarBusqueda();
         QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, "0000030"}));
