@@ -3,17 +3,13 @@
 #include "app/plataforma/Fallo.h"
 #include "app/plataforma/General.h"
 #include "app/plataforma/Mensaje.h"
+#include "app/plataforma/Navegador.h"
 #include "catalogue/Catalogo.h"
 
-#include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
 
 namespace {
-
-bool g_grabando = false;
-bool g_hayNavegador = true;
-QList<QUrl> g_abiertos;
 
 // The page, byte for byte. The address is written as it stands: an apostrophe in it ends the
 // attribute early, as it always has.
@@ -46,15 +42,6 @@ void escribirPagina(const QString& ruta, const QString& url)
     f.close();
 }
 
-bool abrir(const QUrl& pagina)
-{
-    if (g_grabando) {
-        g_abiertos.append(pagina);
-        return g_hayNavegador;
-    }
-    return QDesktopServices::openUrl(pagina);
-}
-
 }  // namespace
 
 QString RutaPaginaTemporal()
@@ -67,18 +54,6 @@ void LanzarExplorador(QWidget* /*owner*/, const QString& url)
     const QString ruta = RutaPaginaTemporal();
     escribirPagina(ruta, url);
     // The page stays in place after the browser opens it; the next call deletes it.
-    if (!abrir(QUrl::fromLocalFile(ruta)))
+    if (!AbrirEnNavegador(QUrl::fromLocalFile(ruta)))
         Mensaje(Texto(335), vb::Exclamation, Texto(336));
-}
-
-namespace ExploradorSeam {
-void grabar(bool activo)
-{
-    g_grabando = activo;
-    g_hayNavegador = true;
-    g_abiertos.clear();
-}
-bool grabando() { return g_grabando; }
-void setHayNavegador(bool hay) { g_hayNavegador = hay; }
-const QList<QUrl>& abiertos() { return g_abiertos; }
 }

@@ -8,19 +8,9 @@
 class QWidget;
 
 // Writes the program's folder + "/temphtm.HTM" (deleting an earlier one) and opens it with the
-// desktop's browser. No browser: message id 335, title id 336, exclamation. A page that cannot
+// desktop's browser (through AbrirEnNavegador, which tests record). No browser: message id 335, title id 336, exclamation. A page that cannot
 // be written is a run-time failure (cFallo).
 void LanzarExplorador(QWidget* owner, const QString& url);
 
 // The path of the temporary page.
 QString RutaPaginaTemporal();
-
-// The seam for tests: while recording, the page is written as always but no browser opens;
-// the address that would have been opened is kept, and the answer of the desktop (a browser
-// found or not) is scripted.
-namespace ExploradorSeam {
-void grabar(bool activo);             // start or stop recording (and clears the record)
-bool grabando();
-void setHayNavegador(bool hay);       // the desktop's next answers (true by default)
-const QList<QUrl>& abiertos();
-}

@@ -2,6 +2,8 @@
 // Small services of the treasury shared by its programs: the online assistance, the
 // description of that service, and the name of the treasury's department for the form.
 // `Idioma` tells the language: 0 Spanish, any other value Basque.
+#include "app/plataforma/Navegador.h"
+
 #include <QList>
 #include <QString>
 #include <QUrl>
@@ -25,14 +27,3 @@ public:
     static QUrl DireccionAyuOnline(int16_t idioma);
 };
 
-// Every address the program hands to the web browser goes through here. Answers false when no
-// browser could be started.
-bool AbrirEnNavegador(const QUrl& direccion);
-
-// For tests: while recording, no browser starts; each address is kept and the scripted answer
-// (true unless told otherwise) is given.
-namespace NavegadorSeam {
-void grabar(bool activo);  // start or stop recording (and clears the record)
-void setNextResult(bool abierto);
-const QList<QUrl>& registro();
-}

@@ -9,6 +9,7 @@
 #include "actualizacion/LanzarExplorador.h"
 #include "actualizacion/cActOnline.h"
 #include "app/plataforma/General.h"
+#include "app/plataforma/Navegador.h"
 #include "app/plataforma/Mensaje.h"
 #include "app/plataforma/Reloj.h"
 #include "catalogue/Catalogo.h"
@@ -102,7 +103,7 @@ private slots:
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
         RelojSeam::grabar(true);
-        ExploradorSeam::grabar(true);
+        NavegadorSeam::grabar(true);
         OffsetIdioma = 0;
         ActOnline() = cActOnline{};
         ActOnline().ActFile = m_carpeta->ruta() + QStringLiteral("/Veldo");

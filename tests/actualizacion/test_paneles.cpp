@@ -8,6 +8,7 @@
 #include "actualizacion/cActOnline.h"
 #include "app/plataforma/Fallo.h"
 #include "app/plataforma/General.h"
+#include "app/plataforma/Navegador.h"
 #include "app/plataforma/Mensaje.h"
 #include "app/plataforma/Proceso.h"
 #include "catalogue/Catalogo.h"
@@ -111,7 +112,7 @@ private slots:
     {
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
-        ExploradorSeam::grabar(true);
+        NavegadorSeam::grabar(true);
         OffsetIdioma = 0;
         versionesDePrueba(0);
     }
@@ -164,7 +165,7 @@ private slots:
         QVERIFY(continuar->isVisible());
         QTest::mouseClick(continuar, Qt::LeftButton);
         QVERIFY(!panel.isVisible());
-        QVERIFY(ExploradorSeam::abiertos().isEmpty());
+        QVERIFY(NavegadorSeam::registro().isEmpty());
         QVERIFY(MensajeSeam::registro().isEmpty());
     }
 
@@ -200,7 +201,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
         QTest::mouseClick(hijo<QPushButton>(&panel, "CmdActualizar"), Qt::LeftButton);
         QVERIFY(!panel.isVisible());
-        QCOMPARE(ExploradorSeam::abiertos(),
+        QCOMPARE(NavegadorSeam::registro(),
                  QList<QUrl>{QUrl::fromLocalFile(m_carpeta->ruta() + QStringLiteral("/temphtm.HTM"))});
         QCOMPARE(leer(m_carpeta->ruta() + QStringLiteral("/temphtm.HTM")),
                  paginaEsperada("http://descargas.veldoria.example/alta.php"));
@@ -214,7 +215,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
         QTest::mouseClick(hijo<QLineEdit>(&panel, "TxtUrl"), Qt::LeftButton);
         QVERIFY(panel.isVisible());
-        QCOMPARE(ExploradorSeam::abiertos().size(), 1);
+        QCOMPARE(NavegadorSeam::registro().size(), 1);
         QCOMPARE(leer(RutaPaginaTemporal()),
                  paginaEsperada("http://descargas.veldoria.example/alta.php"));
     }
@@ -249,7 +250,7 @@ private slots:
 
     void sinNavegadorAvisa()
     {
-        ExploradorSeam::setHayNavegador(false);
+        NavegadorSeam::setNextResult(false);
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().at(0);
@@ -263,7 +264,7 @@ private slots:
     void sinNavegadorAvisaEnEuskera()
     {
         OffsetIdioma = 10000;
-        ExploradorSeam::setHayNavegador(false);
+        NavegadorSeam::setNextResult(false);
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().at(0).texto, TextoFila(10335));
         QCOMPARE(MensajeSeam::registro().at(0).titulo, TextoFila(10336));
@@ -273,7 +274,7 @@ private slots:
     {
         QVERIFY(QDir(m_carpeta->ruta()).mkdir(QStringLiteral("temphtm.HTM")));
         QVERIFY_THROWS_EXCEPTION(cFallo, LanzarExplorador(nullptr, QStringLiteral("http://a.example/")));
-        QVERIFY(ExploradorSeam::abiertos().isEmpty());
+        QVERIFY(NavegadorSeam::registro().isEmpty());
     }
 
     void fallarAlDescargarDaElAvisoDeEjecucion()

@@ -3,6 +3,7 @@
 #include "app/plataforma/DialogoFichero.h"
 #include "app/plataforma/General.h"
 #include "app/plataforma/Mensaje.h"
+#include "app/plataforma/Navegador.h"
 #include "app/plataforma/Proceso.h"
 
 #include <QDir>
@@ -41,6 +42,7 @@ void GrabarSeams()
     MensajeSeam::grabar(true);
     DialogoFicheroSeam::grabar(true);
     ProcesoSeam::grabar(true);
+    NavegadorSeam::grabar(true);
 }
 
 QString CarpetaFuentes() { return QStringLiteral(VELDO_FUENTES); }

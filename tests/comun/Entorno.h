@@ -19,7 +19,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-// Starts recording every message box, file dialog, failure notice and ending of the process.
+// Starts recording every message box, file dialog, browser, failure notice and ending of
+// the process.
 void GrabarSeams();
 // The source tree (for fixtures kept beside the tests).
 QString CarpetaFuentes();
