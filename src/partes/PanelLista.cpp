@@ -162,7 +162,19 @@ void PanelLista::ConstruirControles()
     cmdCancelar = Control<QPushButton>(this, "cmdCancelar");
     cmdNuevo = Control<QPushButton>(this, "cmdNuevo");
     CmdDeclaraciones = Control<QPushButton>(this, "CmdDeclaraciones");
+    ConstruirIconos();
+    setTabOrder(m_grid, txtBusqueda);
+    setTabOrder(txtBusqueda, cmdBuscar);
+    setTabOrder(cmdBuscar, cmdTodos);
+    setTabOrder(cmdTodos, cmdAceptar);
+    setTabOrder(cmdAceptar, cmdCancelar);
+    setTabOrder(cmdCancelar, cmdNuevo);
+    setTabOrder(cmdNuevo, CmdDeclaraciones);
+    Conectar();
+}
 
+void PanelLista::ConstruirIconos()
+{
     auto icono = [this](QPushButton* boton, QStyle::StandardPixmap imagen, const char* nombre) {
         auto* i = new IconoBoton(boton, imagen, this);
         i->setObjectName(QString::fromLatin1(nombre));
@@ -176,15 +188,12 @@ void PanelLista::ConstruirControles()
     PicDeclaraciones = icono(CmdDeclaraciones, QStyle::SP_FileDialogContentsView, "PicDeclaraciones");
     PicEliminar->hide();
     PicCancelar->hide();
+}
 
-    setTabOrder(m_grid, txtBusqueda);
-    setTabOrder(txtBusqueda, cmdBuscar);
-    setTabOrder(cmdBuscar, cmdTodos);
-    setTabOrder(cmdTodos, cmdAceptar);
-    setTabOrder(cmdAceptar, cmdCancelar);
-    setTabOrder(cmdCancelar, cmdNuevo);
-    setTabOrder(cmdNuevo, CmdDeclaraciones);
-
+// Every handler that may reach the store runs protected: a failure ends the program with its
+// notice.
+void PanelLista::Conectar()
+{
     auto protegido = [](auto accion) { return [accion] { Proceso::Protegido(accion); }; };
     connect(m_grid, &cFlexGrid::pulsado, this, [this](int f, int c) { Pulsado(f, c); });
     connect(m_grid, &cFlexGrid::clic, this,

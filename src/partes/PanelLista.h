@@ -123,6 +123,8 @@ protected:
 
 private:
     void ConstruirControles();
+    void ConstruirIconos();
+    void Conectar();
     void Situar();
     void DefinirColumnas();
     void IniciarLista();

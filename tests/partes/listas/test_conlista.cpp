@@ -15,6 +15,7 @@
 #include "partes/cConDatos.h"
 #include "partes/cConLista.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -165,6 +166,27 @@ private slots:
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
         QVERIFY(!Panel());
         QVERIFY(MenusActivos());
+    }
+
+    void desdeElMenuPrincipal()
+    {
+        Poblar();
+        MDIVeldo* v = m_entorno->ventana();
+        v->ActualizarMenus();
+        emit v->findChild<QMenu*>("mnuContribuyente")->aboutToShow();
+        v->findChild<QAction*>("mnuAbrirContribuyente")->trigger();
+        FrmConLista* p = Panel();
+        QVERIFY(p);
+        QCOMPARE(ConLista().MODO, QStringLiteral("C"));
+        QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Contribuyente"));
+        QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
+        QVERIFY(!Panel());
+        emit v->findChild<QMenu*>("mnuContribuyente")->aboutToShow();
+        v->findChild<QAction*>("mnuEliminarContribuyente")->trigger();
+        p = Panel();
+        QVERIFY(p);
+        QCOMPARE(ConLista().MODO, QStringLiteral("E"));
+        QCOMPARE(p->windowTitle(), QStringLiteral("Eliminar Contribuyente"));
     }
 
     void paginasDeQuinceFilas()

@@ -13,6 +13,7 @@
 #include "partes/cPreDatos.h"
 #include "partes/cPreLista.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -108,6 +109,25 @@ private slots:
         QTest::mouseClick(Etiqueta(p, "PicAtras"), Qt::LeftButton);
         QVERIFY(!Panel());
         QVERIFY(MenusActivos());
+    }
+
+    void desdeElMenuPrincipal()
+    {
+        Poblar();
+        MDIVeldo* v = m_entorno->ventana();
+        v->ActualizarMenus();
+        emit v->findChild<QMenu*>("mnuPresentador")->aboutToShow();
+        v->findChild<QAction*>("mnuEliminarPresentador")->trigger();
+        FrmPreLista* p = Panel();
+        QVERIFY(p);
+        QCOMPARE(PreLista().MODO, QStringLiteral("E"));
+        QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
+        emit v->findChild<QMenu*>("mnuPresentador")->aboutToShow();
+        v->findChild<QAction*>("mnuAbrirPresentador")->trigger();
+        p = Panel();
+        QVERIFY(p);
+        QCOMPARE(PreLista().MODO, QStringLiteral("C"));
+        QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Presentador"));
     }
 
     void paginasYFilaElegida()
