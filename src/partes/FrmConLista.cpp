@@ -95,6 +95,11 @@ bool FrmConLista::OrdenarPor(int columna)
     return ConLista().OrdenarPor(columna);
 }
 
+bool FrmConLista::ElegirColumnaBusqueda(int columna)
+{
+    return ConLista().ElegirColumnaBusqueda(columna);
+}
+
 void FrmConLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
 {
     ConLista().Seleccionar(codigo, contadores.value(0), contadores.value(1));

@@ -95,6 +95,11 @@ bool FrmPreLista::OrdenarPor(int columna)
     return PreLista().OrdenarPor(columna);
 }
 
+bool FrmPreLista::ElegirColumnaBusqueda(int columna)
+{
+    return PreLista().ElegirColumnaBusqueda(columna);
+}
+
 void FrmPreLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
 {
     PreLista().Seleccionar(codigo, contadores.value(0));

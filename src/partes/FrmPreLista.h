@@ -30,6 +30,7 @@ protected:
     void CambiarBusqueda() override;
     void TodosEstado() override;
     bool OrdenarPor(int columna) override;
+    bool ElegirColumnaBusqueda(int columna) override;
     void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t codigo) override;
     void AbrirDatos(const QString& modo) override;

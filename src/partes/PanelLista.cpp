@@ -561,8 +561,7 @@ void PanelLista::Clic(int, int columna)
         }
         return;
     }
-    if (columna == kColumnaNombre || columna == kColumnaDni) {
-        m_estado.SELECCIONACTUAL = QString::number(columna);
+    if (ElegirColumnaBusqueda(columna)) {
         PresentaDatos();
         PresentaBotones();
     }

@@ -63,11 +63,11 @@ struct DisenoLista {
 };
 
 // The fields of a list's state object that the panel reads, by reference (the state objects
-// live for the whole run). The state changes through the state object's own operations,
-// which each panel calls; the panel itself only names the column being searched.
+// live for the whole run). The state changes only through the state object's own operations,
+// which each panel calls.
 struct EstadoLista {
     const std::optional<TablaCriterios>& TABLASELECCION;  // absent: no criteria
-    QString& SELECCIONACTUAL;        // in the search state, the column under edit; "0" none
+    const QString& SELECCIONACTUAL;  // in the search state, the column under edit; "0" none
     const int32_t& codigo;           // CSCO / CSPR: the selected party, 0 none
     const int32_t& seleccionados;    // NUMCONTRISEL / NUMPRESENSEL
     const QString& BUSQUEDA;         // "N" result state, "B" search state
@@ -109,6 +109,7 @@ protected:
     virtual void CambiarBusqueda() = 0;                    // cmdBuscar
     virtual void TodosEstado() = 0;                        // cmdTodos
     virtual bool OrdenarPor(int columna) = 0;              // a click on a heading
+    virtual bool ElegirColumnaBusqueda(int columna) = 0;   // a click in the search state
     virtual void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) = 0;
     // the deletion of a party in the store,
     virtual void Borrar(int32_t codigo) = 0;
