@@ -14,6 +14,7 @@
 #include "partes/cConLista.h"
 
 #include <QCheckBox>
+#include <QAction>
 #include <QFrame>
 #include <QLabel>
 #include <QMenu>
@@ -171,6 +172,28 @@ private slots:
         QCOMPARE(ConDatos().CODPROVC, QStringLiteral("77"));
         QCOMPARE(ConDatos().TIPODOMI, QStringLiteral("N"));
         QVERIFY(ConDatos().DNIC.isEmpty());
+    }
+
+    void desdeElMenuPrincipal()
+    {
+        // What the list left behind does not count: the command opens a new one.
+        ConDatos().setMODO(QStringLiteral("C"));
+        ConDatos().LISTA = QStringLiteral("S");
+        ConDatos().DNIC = QStringLiteral("12345678Z");
+        QAction* nuevo = m_prog->ventana()->findChild<QAction*>(QStringLiteral("mnuNuevoContribuyente"));
+        QVERIFY(nuevo && nuevo->isEnabled());
+        nuevo->trigger();
+        Procesar();
+        m_panel = m_prog->panel(QStringLiteral("FrmConDatos"));
+        QVERIFY(m_panel);
+        QCOMPARE(ConDatos().MODO(), QStringLiteral("A"));
+        QVERIFY(ConDatos().LISTA.isEmpty());
+        QVERIFY(ConDatos().DNIC.isEmpty());
+        QVERIFY(menusApagados());
+        Clic(b("cmdCancelar"));
+        QVERIFY(!m_panel);
+        QVERIFY(m_prog->paneles().isEmpty());
+        QVERIFY(!menusApagados());
     }
 
     void rotulosEnCastellano()

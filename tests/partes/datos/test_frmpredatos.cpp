@@ -12,6 +12,7 @@
 #include "partes/cPreDatos.h"
 #include "partes/cPreLista.h"
 
+#include <QAction>
 #include <QFrame>
 #include <QLabel>
 #include <QMenu>
@@ -145,6 +146,28 @@ private slots:
         // No kinds of document or domicile, no country, no counters.
         for (const char* ausente : {"chktipodni", "chktipodomi", "txtpais", "txtnumsp", "txtnumtr"})
             QVERIFY2(!m_panel->findChild<QWidget*>(QString::fromLatin1(ausente)), ausente);
+    }
+
+    void desdeElMenuPrincipal()
+    {
+        // What the list left behind does not count: the command opens a new one.
+        PreDatos().setMODO(QStringLiteral("C"));
+        PreDatos().LISTA = QStringLiteral("S");
+        PreDatos().DNIP = QStringLiteral("12345678Z");
+        QAction* nuevo = m_prog->ventana()->findChild<QAction*>(QStringLiteral("mnuNuevoPresentador"));
+        QVERIFY(nuevo && nuevo->isEnabled());
+        nuevo->trigger();
+        Procesar();
+        m_panel = m_prog->panel(QStringLiteral("FrmPreDatos"));
+        QVERIFY(m_panel);
+        QCOMPARE(PreDatos().MODO(), QStringLiteral("A"));
+        QVERIFY(PreDatos().LISTA.isEmpty());
+        QVERIFY(PreDatos().DNIP.isEmpty());
+        QVERIFY(menusApagados());
+        Clic(b("cmdCancelar"));
+        QVERIFY(!m_panel);
+        QVERIFY(m_prog->paneles().isEmpty());
+        QVERIFY(!menusApagados());
     }
 
     void rotulosEnEuskera()
