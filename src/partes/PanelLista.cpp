@@ -341,11 +341,17 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
     m_grid->setRedraw(false);
     m_grid->setRows(1);
     m_grid->setRows(int((n / kFilasPorPagina + 1) * kFilasPorPagina + 1));
-    for (qsizetype i = 0; i <= n; ++i)
-        for (int j = 0; j < columnas; ++j)
-            m_grid->setTextMatrix(int(i) + 1, j, datos[j].value(i).toString());
+    // One pass over the array, column by column as the store delivers it (a[columna][fila]).
+    for (int j = 0; j < columnas; ++j) {
+        const QVariantList& columna = datos.at(j);
+        const qsizetype filas = std::min(columna.size(), n + 1);
+        for (qsizetype i = 0; i < filas; ++i)
+            m_grid->setTextMatrix(int(i) + 1, j, columna.at(i).toString());
+    }
     m_grid->setRedraw(true);
     lblResultado->clear();
+    // Cutting the grid took the current row to the heading; the first row is marked instead.
+    m_grid->setRow(1);
     Utilidades.SeleccionarGrid(QColor::fromRgb(kColorResaltado), m_grid->ForeColor(), 0);
 }
 
