@@ -74,6 +74,7 @@ QLineEdit* CampoTexto(QWidget* padre, const char* nombre, int limite, TipoFiltro
     campo->setMaxLength(limite);
     AplicarFiltro(campo, filtro);
     SeleccionarAlEntrar(campo);
+    ColorearCampo(campo, true);
     if (cerrable)
         campo->installEventFilter(new PasoDeFoco(campo));
     return campo;
@@ -89,6 +90,7 @@ CajaNum* CajaNumerica(QWidget* padre, const char* nombre, int maxlength, int ent
     caja->setFormato(formato);
     caja->setLocked(bloqueada);
     caja->setFocusPolicy(bloqueada ? Qt::NoFocus : Qt::StrongFocus);
+    ColorearCampo(caja, !bloqueada);
     return caja;
 }
 

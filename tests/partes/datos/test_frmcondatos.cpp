@@ -147,6 +147,11 @@ private slots:
         QCOMPARE(t("txtviaaux")->text(), QStringLiteral("Calle"));
         QCOMPARE(n("txtcodprovc")->text(), QStringLiteral("77"));
         QCOMPARE(t("txtnomprovc")->text(), QStringLiteral("Arbelia"));
+        for (const char* siempreAbierto : {"txtdnic", "txtnombrec", "txtviac", "txtdomicilioc",
+                                           "txtletrac", "txtescalerac", "txtpisoc", "txtmanoc"})
+            QVERIFY2(abierto(t(siempreAbierto)), siempreAbierto);
+        QVERIFY(abierto(n("txtnumeroc")));
+        QVERIFY(abierto(n("txtcodposc")));
         QVERIFY(abierto(n("txtcodprovc")));
         QVERIFY(abierto(n("txtcodmunc")));
         QVERIFY(cerrado(t("txtnommunc")));
