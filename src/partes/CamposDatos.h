@@ -1,6 +1,6 @@
 #pragma once
 // The fields of the data panels of parties, made the same way on each panel: text fields with
-// their key filter and limit, numeric boxes with their design properties, the open and closed
+// their key filter and limit, numeric boxes with their digits and formats, the open and closed
 // look of a field, and the icons that act as their button.
 #include "fields/FiltroCampo.h"
 
@@ -20,7 +20,7 @@ class QWidget;
 QLineEdit* CampoTexto(QWidget* padre, const char* nombre, int limite, TipoFiltro filtro,
                       bool cerrable = false);
 
-// A numeric box with its design properties; an empty format leaves the box's own.
+// A numeric box with its limits, digits and format; an empty format leaves the box's own.
 CajaNum* CajaNumerica(QWidget* padre, const char* nombre, int maxlength, int enteros,
                       const QString& formato, bool bloqueada);
 
