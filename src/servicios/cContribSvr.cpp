@@ -146,13 +146,6 @@ QString contadores()
         + ContadoresPartes::SqlComoTransmitente(QStringLiteral("c.CSCO"));
 }
 
-Arreglo2D columnasVacias(int n, qsizetype filas)
-{
-    Arreglo2D datos(n);
-    for (QVariantList& c : datos)
-        c.reserve(filas);
-    return datos;
-}
 
 }  // namespace
 
@@ -331,7 +324,7 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
                                + donde,
                            valores, org);
-    datos = columnasVacias(kElementos, 0);
+    datos = Arreglo2D(kElementos);
     while (q.next()) {
         datos[0] << q.value(0).toInt();
         for (int i = 1; i < kElementos; ++i)
