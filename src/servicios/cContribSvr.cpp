@@ -280,6 +280,8 @@ int32_t cContribSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& 
                                            uint8_t orden) const
 {
     const QString org = origen("dameResultadoBusqueda");
+    // The rows of an earlier answer go before the new ones are read.
+    datos.clear();
     const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
@@ -313,6 +315,8 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
                                                uint8_t orden) const
 {
     const QString org = origen("dameResultadoBusquedaTodo");
+    // The rows of an earlier answer go before the new ones are read.
+    datos.clear();
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
     const QString donde = condiciones(criterios, valores);

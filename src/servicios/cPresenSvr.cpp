@@ -197,6 +197,8 @@ int32_t cPresenSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& d
                                           uint8_t orden) const
 {
     const QString org = origen("dameResultadoBusqueda");
+    // The rows of an earlier answer go before the new ones are read.
+    datos.clear();
     const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
