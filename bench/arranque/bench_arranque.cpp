@@ -7,6 +7,7 @@
 #include "app/Arranque.h"
 #include "app/MDIVeldo.h"
 #include "app/nucleo/CEntrada.h"
+#include "app/plataforma/General.h"
 #include "app/plataforma/Reloj.h"
 #include "servicios/Conexion.h"
 #include "servicios/cGeneralSvr.h"

@@ -1,7 +1,7 @@
 // The whole update check against a local HTTP server: a current program, an older or newer
 // version offered, a file without a three-part version, a missing page, no server, a server
 // that never answers, the query keys of either language, and the outcome panels.
-#include "CapturaModal.h"
+#include "comun/CapturaModal.h"
 #include "ServidorPrueba.h"
 #include "comun/Entorno.h"
 

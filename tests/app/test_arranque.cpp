@@ -1,7 +1,7 @@
 // Start-up end to end on a temporary program folder: the paths, the first run with the
 // language chooser, a later run, and the ways start-up stops.
 #include "Reinicio.h"
-#include "actualizacion/CapturaModal.h"
+#include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 
 #include "app/Arranque.h"

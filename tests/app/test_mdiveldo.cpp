@@ -1,7 +1,7 @@
 // The main window: menus and toolbar in both languages, the enabling rules with the counters,
 // the recent declarations, the ways out, help, backup and restore from the menu.
 #include "Reinicio.h"
-#include "actualizacion/CapturaModal.h"
+#include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 #include "declaracion/ApoyoDeclaracion.h"
 #include "declaracion/cDecDatos.h"

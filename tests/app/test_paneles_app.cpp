@@ -1,6 +1,6 @@
 // The small panels of the core: the first-run language chooser, the preferences and the splash.
 #include "Reinicio.h"
-#include "actualizacion/CapturaModal.h"
+#include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 
 #include "app/Arranque.h"

@@ -1,4 +1,4 @@
-#include "CapturaModal.h"
+#include "comun/CapturaModal.h"
 
 #include <QApplication>
 #include <QDialog>
