@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <cstdio>
 
 namespace {
@@ -37,9 +38,11 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", qgetenv("QT_QPA_PLATFORM").isEmpty() ? "offscreen" : qgetenv("QT_QPA_PLATFORM"));
     QApplication app(argc, argv);
-    GrabarSeams();             // the message of a missing version record is recorded, not shown
+    GrabarSeams();             // message boxes are recorded, not shown
     RelojSeam::grabar(true);   // the splash's wait is left out of the figure
     CarpetaDePrueba carpeta;
+    // The program's own file, whose version record start-up reads.
+    QFile::copy(QStringLiteral(VELDO_CARPETA_CONSTRUIDA) + "/Veldo", carpeta.ruta() + "/Veldo");
     const double primera = medirArranque();
     // Later runs: the language already chosen, no update check.
     cGeneralSvr ajustes;
