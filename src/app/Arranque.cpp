@@ -89,5 +89,8 @@ bool Main()
     auto* principal = new MDIVeldo;
     principal->setAttribute(Qt::WA_DeleteOnClose);
     principal->show();
+    // Ask for activation too: the first activation opens the chooser on the first run, also
+    // where no window manager hands the focus over on its own.
+    principal->activateWindow();
     return true;
 }
