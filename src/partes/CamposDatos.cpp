@@ -1,5 +1,8 @@
 #include "partes/CamposDatos.h"
 
+#include "app/plataforma/Mensaje.h"
+#include "catalogue/Catalogo.h"
+
 #include "fields/CajaNum.h"
 #include "fields/Colores.h"
 #include "fields/Val.h"
@@ -9,10 +12,12 @@
 #include <QBoxLayout>
 #include <QFocusEvent>
 #include <QFontMetrics>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 
 namespace {
 
@@ -175,4 +180,42 @@ void LineaDePanel(QBoxLayout* panel, const QList<QWidget*>& widgets)
     }
     linea->addStretch();
     panel->addLayout(linea);
+}
+
+void BotonesDeDatos(QWidget* panel, QFrame* datos, QFrame* botones, QPushButton*& aceptar,
+                    QPushButton*& cancelar, QLabel*& picAce, QLabel*& picCan)
+{
+    aceptar = new QPushButton(botones);
+    aceptar->setObjectName(QStringLiteral("cmdAceptar"));
+    cancelar = new QPushButton(botones);
+    cancelar->setObjectName(QStringLiteral("cmdCancelar"));
+    for (QPushButton* b : {aceptar, cancelar})
+        b->setAutoDefault(true);  // Enter on a button presses it
+    picAce = IconoDeBoton(botones, "PicAce", QStyle::SP_DialogApplyButton, aceptar);
+    picCan = IconoDeBoton(botones, "PicCan", QStyle::SP_DialogCancelButton, cancelar);
+    picCan->installEventFilter(panel);
+    auto* linea = new QHBoxLayout(botones);
+    linea->addStretch();
+    linea->addWidget(picAce);
+    linea->addWidget(aceptar);
+    linea->addSpacing(24);
+    linea->addWidget(picCan);
+    linea->addWidget(cancelar);
+    linea->addStretch();
+
+    auto* todo = new QVBoxLayout(panel);
+    todo->addWidget(datos);
+    todo->addWidget(botones);
+}
+
+void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<FocoDeVeredicto>& focos)
+{
+    if (id == 0)
+        return;
+    Mensaje(Texto(id), vb::OKOnly + vb::Information, panel->windowTitle());
+    for (const FocoDeVeredicto& foco : focos)
+        if (foco.campo && foco.veredictos.contains(veredicto)) {
+            foco.campo->setFocus(Qt::OtherFocusReason);
+            return;
+        }
 }

@@ -7,12 +7,15 @@
 #include <QList>
 #include <QString>
 #include <QStyle>
+#include <cstdint>
 
 class CajaNum;
 class QAbstractButton;
 class QBoxLayout;
+class QFrame;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QWidget;
 
 // A text field: objectName, hard limit of characters, key filter, whole text selected on entry.
@@ -55,3 +58,19 @@ void LineaDePanel(QBoxLayout* panel, const QList<QWidget*>& widgets);
 
 // A label with its objectName.
 QLabel* Etiqueta(QWidget* padre, const char* nombre);
+
+// The foot of a data panel: cmdAceptar and cmdCancelar in `botones`, each with its icon
+// (PicAce, PicCan) that acts as it, and the two frames one above the other. The panel filters
+// PicCan's events: a press on it is a way out, as the press on cmdCancelar is.
+void BotonesDeDatos(QWidget* panel, QFrame* datos, QFrame* botones, QPushButton*& aceptar,
+                    QPushButton*& cancelar, QLabel*& picAce, QLabel*& picCan);
+
+// The field that takes the focus after some verdicts of the store.
+struct FocoDeVeredicto {
+    QList<int16_t> veredictos;
+    QWidget* campo = nullptr;
+};
+// The message of a verdict of the store: catalogue text `id` (0: nothing is shown) in an
+// information box with the panel's title; then the field that `focos` names for the verdict,
+// if any, takes the focus.
+void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<FocoDeVeredicto>& focos);

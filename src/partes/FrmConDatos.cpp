@@ -8,6 +8,7 @@
 #include "fields/EnterComoTab.h"
 #include "fields/Formato.h"
 #include "fields/Val.h"
+#include "partes/BloqueDomicilio.h"
 #include "partes/CamposDatos.h"
 #include "partes/FrmConLista.h"
 #include "partes/SalidaCampos.h"
@@ -69,28 +70,12 @@ void FrmConDatos::Construir()
 
     txtdnic = CampoTexto(d, "txtdnic", 9, TipoFiltro::Texto);
     txtnombrec = CampoTexto(d, "txtnombrec", 40, TipoFiltro::Texto);
-    txtviac = CampoTexto(d, "txtviac", 2, TipoFiltro::Texto);
-    cmdVia = new QPushButton(d);
-    cmdVia->setObjectName(QStringLiteral("cmdVia"));
-    txtviaaux = CampoTexto(d, "txtviaaux", 32767, TipoFiltro::Texto, true);
-    AbrirCampo(txtviaaux, false);
-    txtdomicilioc = CampoTexto(d, "txtdomicilioc", 20, TipoFiltro::Texto);
-    txtnumeroc = CajaNumerica(d, "txtnumeroc", 5, 5, QStringLiteral("#####"), false);
-    txtletrac = CampoTexto(d, "txtletrac", 2, TipoFiltro::Texto);
-    txtescalerac = CampoTexto(d, "txtescalerac", 2, TipoFiltro::Texto);
-    txtpisoc = CampoTexto(d, "txtpisoc", 2, TipoFiltro::Texto);
-    txtmanoc = CampoTexto(d, "txtmanoc", 3, TipoFiltro::Texto);
-    txtcodprovc = CajaNumerica(d, "txtcodprovc", 2, 2, QStringLiteral("00"), false);
-    cmdProvincia = new QPushButton(d);
-    cmdProvincia->setObjectName(QStringLiteral("cmdProvincia"));
-    txtnomprovc = CampoTexto(d, "txtnomprovc", 20, TipoFiltro::Texto, true);
-    AbrirCampo(txtnomprovc, false);
-    txtcodposc = CajaNumerica(d, "txtcodposc", 5, 5, QString(), false);
-    txtcodmunc = CajaNumerica(d, "txtcodmunc", 3, 3, QStringLiteral("###"), true);
-    cmdMunicipio = new QPushButton(d);
-    cmdMunicipio->setObjectName(QStringLiteral("cmdMunicipio"));
-    txtnommunc = CampoTexto(d, "txtnommunc", 25, TipoFiltro::Texto, true);
-    AbrirCampo(txtnommunc, false);
+    cConDatos& c = ConDatos();
+    m_domicilio = new BloqueDomicilio(
+        this, d, QStringLiteral("c"),
+        {c.VIAC, c.DOMICILIOC, c.NUMEROC, c.LETRAC, c.ESCALERAC, c.PISOC, c.MANOC, c.CODPROVC,
+         &c.NOMPROVC, c.CODPOSC, c.CODMUNC, c.NOMMUNC},
+        MarcaCambios::AlTeclear);
     txtpais = CampoTexto(d, "txtpais", 20, TipoFiltro::Texto, true);
     txtnumsp = CajaNumerica(d, "txtnumsp", 0, 7, QStringLiteral("#,###,###"), true);
     txtnumsp->setBackcolor(QColor::fromRgb(0xE0E0E0));
@@ -99,79 +84,33 @@ void FrmConDatos::Construir()
 
     lbldnic = Etiqueta(d, "lbldnic");
     lblnombrec = Etiqueta(d, "lblnombrec");
-    lblviac = Etiqueta(d, "lblviac");
-    lbldomicilioc = Etiqueta(d, "lbldomicilioc");
-    lblnumeroc = Etiqueta(d, "lblnumeroc");
-    lblletrac = Etiqueta(d, "lblletrac");
-    lblescalerac = Etiqueta(d, "lblescalerac");
-    lblpisoc = Etiqueta(d, "lblpisoc");
-    lblmanoc = Etiqueta(d, "lblmanoc");
-    lblnomprovc = Etiqueta(d, "lblnomprovc");
-    lblcodposc = Etiqueta(d, "lblcodposc");
-    lblnommunc = Etiqueta(d, "lblnommunc");
     lblpais = Etiqueta(d, "lblpais");
     lblnumsp = Etiqueta(d, "lblnumsp");
     lblnumtr = Etiqueta(d, "lblnumtr");
 
     for (auto [campo, caracteres] : {std::pair<QWidget*, int>{txtdnic, 9}, {txtnombrec, 30},
-                                      {txtviac, 2}, {txtviaaux, 12}, {txtdomicilioc, 20},
-                                      {txtnumeroc, 5}, {txtletrac, 2}, {txtescalerac, 2},
-                                      {txtpisoc, 2}, {txtmanoc, 3}, {txtcodprovc, 2},
-                                      {txtnomprovc, 16}, {txtcodposc, 5}, {txtcodmunc, 3},
-                                      {txtnommunc, 20}, {txtpais, 16}, {txtnumsp, 7},
-                                      {txtnumtr, 7}})
+                                      {txtpais, 16}, {txtnumsp, 7}, {txtnumtr, 7}})
         AnchoDeCaracteres(campo, caracteres);
+    m_domicilio->Anchos();
     auto* lineas = new QVBoxLayout(fraDatos);
     LineaDePanel(lineas, {chktipodni});
     LineaDePanel(lineas, {lbldnic, txtdnic, lblnombrec, txtnombrec});
     LineaDePanel(lineas, {chktipodomi});
-    LineaDePanel(lineas, {lblviac, txtviac, cmdVia, txtviaaux, lbldomicilioc, txtdomicilioc});
-    LineaDePanel(lineas, {lblnumeroc, txtnumeroc, lblletrac, txtletrac, lblescalerac, txtescalerac,
-                          lblpisoc, txtpisoc, lblmanoc, txtmanoc});
-    LineaDePanel(lineas, {cmdProvincia, txtcodprovc, lblnomprovc, txtnomprovc, lblcodposc, txtcodposc});
-    LineaDePanel(lineas, {cmdMunicipio, txtcodmunc, lblnommunc, txtnommunc});
+    m_domicilio->Lineas(lineas);
     LineaDePanel(lineas, {lblpais, txtpais});
     LineaDePanel(lineas, {lblnumsp, txtnumsp, lblnumtr, txtnumtr});
 
-    cmdAceptar = new QPushButton(fraBotones);
-    cmdAceptar->setObjectName(QStringLiteral("cmdAceptar"));
-    cmdCancelar = new QPushButton(fraBotones);
-    cmdCancelar->setObjectName(QStringLiteral("cmdCancelar"));
-    for (QPushButton* b : {cmdAceptar, cmdCancelar, cmdVia, cmdProvincia, cmdMunicipio})
-        b->setAutoDefault(true);  // Enter on a button presses it
-    PicAce = IconoDeBoton(fraBotones, "PicAce", QStyle::SP_DialogApplyButton, cmdAceptar);
-    PicCan = IconoDeBoton(fraBotones, "PicCan", QStyle::SP_DialogCancelButton, cmdCancelar);
-    PicCan->installEventFilter(this);
-    auto* botones = new QHBoxLayout(fraBotones);
-    botones->addStretch();
-    botones->addWidget(PicAce);
-    botones->addWidget(cmdAceptar);
-    botones->addSpacing(24);
-    botones->addWidget(PicCan);
-    botones->addWidget(cmdCancelar);
-    botones->addStretch();
-
-    auto* todo = new QVBoxLayout(this);
-    todo->addWidget(fraDatos);
-    todo->addWidget(fraBotones);
-
-    // The pickers lie over the panel, outside the two frames they switch off.
-    lstviac = new cSelector(TipoSelector::Via, QStringLiteral("lstviac"), this);
-    lstcodprovc = new cSelector(TipoSelector::Provincia, QStringLiteral("lstcodprovc"), this);
-    lstcodmunc = new cSelector(TipoSelector::Municipio, QStringLiteral("lstcodmunc"), this);
-    for (cSelector* s : {lstviac, lstcodprovc, lstcodmunc})
-        s->setMarcos({fraDatos, fraBotones});
+    BotonesDeDatos(this, fraDatos, fraBotones, cmdAceptar, cmdCancelar, PicAce, PicCan);
+    m_domicilio->CrearSelectores({fraDatos, fraBotones});
     RetenerFocoAlPulsar(this);
 }
 
 void FrmConDatos::OrdenDeTabulacion()
 {
-    const QList<QWidget*> orden = {
-        txtdnic,   txtnombrec, chktipodomi,  txtviac,      cmdVia,     txtviaaux,
-        txtdomicilioc, txtnumeroc, txtletrac, txtescalerac, txtpisoc, txtmanoc,
-        txtcodprovc, cmdProvincia, txtnomprovc, txtcodposc, txtcodmunc, cmdMunicipio,
-        txtnommunc, txtpais,    txtnumsp,     txtnumtr,     cmdAceptar, cmdCancelar,
-        chktipodni};
+    // chktipodni, at the top of the panel, comes last.
+    QList<QWidget*> orden = {txtdnic, txtnombrec, chktipodomi};
+    orden << m_domicilio->OrdenDeTabulacion();
+    orden << QList<QWidget*>{txtpais, txtnumsp, txtnumtr, cmdAceptar, cmdCancelar, chktipodni};
     for (qsizetype i = 1; i < orden.size(); ++i)
         setTabOrder(orden[i - 1], orden[i]);
 }
@@ -179,55 +118,21 @@ void FrmConDatos::OrdenDeTabulacion()
 void FrmConDatos::Conectar()
 {
     // Any change typed in an entry field is a change of the contributor.
-    for (QLineEdit* campo : {txtdnic, txtnombrec, txtviac, txtdomicilioc, txtletrac, txtescalerac,
-                             txtpisoc, txtmanoc, txtnomprovc, txtnommunc, txtpais})
+    for (QLineEdit* campo : {txtdnic, txtnombrec, txtpais})
         connect(campo, &QLineEdit::textEdited, this, [this] { m_modificado = true; });
-    for (CajaNum* caja : {txtnumeroc, txtcodprovc, txtcodposc, txtcodmunc})
-        connect(caja, &CajaNum::cambiado, this, [this] { m_modificado = true; });
 
     m_salidas = new SalidaCampos(this);
     m_salidas->setActivo([this] { return !m_cerrando && !SelectorAbierto(); });
     m_salidas->setBotonCancelar(cmdCancelar, [this] { m_saltarValidacion = true; });
+    m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { m_modificado = true; },
+                           [this] { return m_saltarValidacion; }, cmdAceptar});
     auto& c = ConDatos();
-    const auto texto = [this](QLineEdit* campo, QString& valor) {
-        m_salidas->Vigilar(campo, [this, campo, &valor] { SalirCampoTexto(campo, valor); });
-    };
-    const auto textoAbierto = [this](QLineEdit* campo, QString& valor) {
-        m_salidas->Vigilar(campo, [this, campo, &valor] {
-            if (CampoAbierto(campo))
-                SalirCampoTexto(campo, valor);
-        });
-    };
-    texto(txtdnic, c.DNIC);
-    texto(txtnombrec, c.NOMBREC);
-    texto(txtdomicilioc, c.DOMICILIOC);
-    texto(txtletrac, c.LETRAC);
-    texto(txtescalerac, c.ESCALERAC);
-    texto(txtpisoc, c.PISOC);
-    texto(txtmanoc, c.MANOC);
-    texto(txtcodposc, c.CODPOSC);
-    textoAbierto(txtnomprovc, c.NOMPROVC);
-    textoAbierto(txtnommunc, c.NOMMUNC);
-    textoAbierto(txtpais, c.PAIS);
-    m_salidas->Vigilar(txtnumeroc, [this] { SalirNumero(); });
-    m_salidas->Vigilar(txtviac, [this] { SalirVia(); });
-    m_salidas->Vigilar(txtcodprovc, [this] { SalirProvincia(); });
-    m_salidas->Vigilar(txtcodmunc, [this] { SalirMunicipio(); });
+    m_domicilio->VigilarTexto(txtdnic, c.DNIC);
+    m_domicilio->VigilarTexto(txtnombrec, c.NOMBREC);
+    m_domicilio->VigilarTexto(txtpais, c.PAIS, true);
 
     connect(chktipodni, &QCheckBox::clicked, this, &FrmConDatos::ClicTipoDni);
     connect(chktipodomi, &QCheckBox::clicked, this, &FrmConDatos::ClicTipoDomicilio);
-
-    connect(cmdVia, &QPushButton::clicked, this, [this] { lstviac->Abrir(txtviaaux->text(), cmdVia); });
-    connect(cmdProvincia, &QPushButton::clicked, this,
-            [this] { lstcodprovc->Abrir(txtnomprovc->text(), cmdProvincia); });
-    connect(cmdMunicipio, &QPushButton::clicked, this,
-            [this] { lstcodmunc->Abrir(txtnommunc->text(), cmdMunicipio); });
-    connect(lstviac, &cSelector::elegido, this, &FrmConDatos::ElegidaVia);
-    connect(lstcodprovc, &cSelector::elegido, this, &FrmConDatos::ElegidaProvincia);
-    connect(lstcodmunc, &cSelector::elegido, this, &FrmConDatos::ElegidoMunicipio);
-    connect(lstviac, &cSelector::cancelado, this, [this] { lstviac->Cerrar(txtviac); });
-    connect(lstcodprovc, &cSelector::cancelado, this, [this] { lstcodprovc->Cerrar(txtcodprovc); });
-    connect(lstcodmunc, &cSelector::cancelado, this, [this] { lstcodmunc->Cerrar(txtcodmunc); });
 
     // The press, not the click, on Cancelar: it comes before the field is left.
     connect(cmdCancelar, &QPushButton::pressed, this, [this] { m_saltarValidacion = true; });
@@ -268,44 +173,26 @@ void FrmConDatos::Anadir_captions()
     cmdAceptar->setToolTip(Texto(7));
     chktipodomi->setText(Texto(8));
     chktipodni->setText(Texto(9));
-    cmdProvincia->setText(Texto(10));
-    cmdVia->setText(Texto(11));
-    cmdMunicipio->setText(Texto(12));
-    lblviac->setText(Texto(13));
-    lblnommunc->setText(Texto(14));
-    lblnomprovc->setText(Texto(15));
+    m_domicilio->Anadir_captions();
     lblnumtr->setText(Texto(16));
     lblnumsp->setText(Texto(17));
     lblpais->setText(Texto(18));
-    lbldomicilioc->setText(Texto(19));
-    lblescalerac->setText(Texto(20));
-    lblletrac->setText(Texto(21));
-    lblnumeroc->setText(Texto(22));
-    lblpisoc->setText(Texto(23));
-    lblmanoc->setText(Texto(24));
-    lblcodposc->setText(Texto(25));
     lbldnic->setText(Texto(26));
     lblnombrec->setText(Texto(27));
 }
 
 void FrmConDatos::CargarListas()
 {
-    lstviac->Cargar();
-    lstcodprovc->Cargar();
-    lstcodmunc->Cargar();
+    m_domicilio->CargarListas();
 }
 
 void FrmConDatos::CargarDatosContribuyente()
 {
     cConDatos& c = ConDatos();
-    if (c.MODO() == QLatin1String("C")) {
+    const bool consulta = c.MODO() == QLatin1String("C");
+    if (consulta)
         c.CargarContribuyente(c.CSCO);
-        if (Val(c.CODMUNC) != 0)
-            txtnommunc->setText(lstcodmunc->Nombre(c.CODMUNC));
-    }
-    txtviaaux->setText(lstviac->Nombre(c.VIAC));
-    if (Val(c.CODPROVC) != 0)
-        txtnomprovc->setText(lstcodprovc->Nombre(c.CODPROVC));
+    m_domicilio->CargarNombres(consulta);
 }
 
 // ----- Drawing from the record -----
@@ -317,32 +204,15 @@ void FrmConDatos::PresentarContribuyente()
     chktipodni->setChecked(c.TIPODNI == QLatin1String("N"));
     PonerTexto(txtdnic, c.DNIC);
     PonerTexto(txtnombrec, c.NOMBREC);
-    PonerTexto(txtviac, c.VIAC);
-    PonerTexto(txtdomicilioc, c.DOMICILIOC);
-    PonerTexto(txtletrac, c.LETRAC);
-    PonerTexto(txtescalerac, c.ESCALERAC);
-    PonerTexto(txtpisoc, c.PISOC);
-    PonerTexto(txtmanoc, c.MANOC);
     PonerTexto(txtpais, c.PAIS);
-    txtnumeroc->setValue(c.NUMEROC);
 
     const bool nacional = c.TIPODOMI == QLatin1String("N");
     chktipodomi->setChecked(c.TIPODOMI == QLatin1String("E"));
-    txtcodposc->setFormato(c.TIPODOMI == QLatin1String("E") ? QString() : QStringLiteral("00000"));
-
-    if (Val(c.CODPROVC) == 0) {
-        txtcodprovc->setText(QString());
-        PonerTexto(txtnomprovc, c.NOMPROVC);
-    } else {
-        txtcodprovc->setText(c.CODPROVC);
-    }
-    txtcodposc->setText(Val(c.CODPOSC) == 0 ? QString() : c.CODPOSC);
-    if (Val(c.CODMUNC) == 0) {
-        txtcodmunc->setText(QString());
-        PonerTexto(txtnommunc, c.NOMMUNC);
-    } else {
-        txtcodmunc->setText(c.CODMUNC);
-    }
+    // A foreign postal code is shown as it is; a national one has five digits.
+    m_domicilio->txtcodpos->setFormato(c.TIPODOMI == QLatin1String("E") ? QString()
+                                                                         : QStringLiteral("00000"));
+    // The municipality is a code of the treasury's list in its province only.
+    m_domicilio->Presentar(nacional && c.CODPROVC == kProvinciaTesoreria);
     txtnumsp->setValue(c.NUMSP);
     txtnumtr->setValue(c.NUMTR);
 
@@ -352,21 +222,16 @@ void FrmConDatos::PresentarContribuyente()
     chktipodni->setEnabled(libre);
     chktipodomi->setEnabled(libre);
 
-    const bool enTesoreria = nacional && c.CODPROVC == kProvinciaTesoreria;
+    // A foreign domicile has a country and a typed province instead of a province code.
     AbrirCampo(txtpais, !nacional);
-    AbrirCampo(txtcodprovc, nacional);
-    AbrirCampo(txtnomprovc, !nacional);
-    AbrirCampo(txtcodmunc, enTesoreria);
-    AbrirCampo(txtnommunc, !enTesoreria);
+    AbrirCampo(m_domicilio->txtcodprov, nacional);
+    AbrirCampo(m_domicilio->txtnomprov, !nacional);
     m_panelListo = true;
 }
 
 void FrmConDatos::ActivarSelectores()
 {
-    const cConDatos& c = ConDatos();
-    cmdProvincia->setEnabled(c.TIPODOMI == QLatin1String("N"));
-    cmdMunicipio->setEnabled(c.CODPROVC == kProvinciaTesoreria);
-    cmdVia->setEnabled(true);
+    m_domicilio->ActivarSelectores(ConDatos().TIPODOMI == QLatin1String("N"));
 }
 
 void FrmConDatos::Redibujar()
@@ -375,82 +240,9 @@ void FrmConDatos::Redibujar()
     ActivarSelectores();
 }
 
-// ----- Leaving the fields -----
-
-void FrmConDatos::SalirCampoTexto(QLineEdit* campo, QString& valor)
+bool FrmConDatos::SelectorAbierto() const
 {
-    if (campo->text() == valor)
-        return;
-    valor = campo->text();
-    Redibujar();
-}
-
-void FrmConDatos::SalirNumero()
-{
-    const auto numero = static_cast<int32_t>(txtnumeroc->value());
-    if (numero == ConDatos().NUMEROC)
-        return;
-    ConDatos().NUMEROC = numero;
-    Redibujar();
-}
-
-void FrmConDatos::SalirVia()
-{
-    cConDatos& c = ConDatos();
-    const QString texto = txtviac->text();
-    if (m_saltarValidacion || texto == c.VIAC)
-        return;
-    txtviaaux->setText(lstviac->Nombre(texto));
-    if (!txtviaaux->text().trimmed().isEmpty()) {
-        c.VIAC = texto;
-        Redibujar();
-        return;
-    }
-    // No such street type: the user chooses one; the record keeps its code meanwhile.
-    lstviac->Abrir(txtviaaux->text(), cmdVia);
-}
-
-void FrmConDatos::SalirProvincia()
-{
-    cConDatos& c = ConDatos();
-    const QString texto = txtcodprovc->text();
-    if (m_saltarValidacion || txtcodprovc->locked() || !CodigoDistinto(texto, c.CODPROVC))
-        return;
-    const QString nombre = lstcodprovc->Nombre(texto);
-    txtnomprovc->setText(nombre);
-    c.NOMPROVC.clear();
-    if (!nombre.isEmpty()) {
-        c.CODPROVC = texto;
-        if (Val(c.CODPROVC) != 77)
-            c.CODMUNC.clear();
-        c.NOMMUNC.clear();
-        Redibujar();
-        return;
-    }
-    lstcodprovc->Abrir(txtnomprovc->text(), cmdProvincia);
-    if (txtcodprovc->text() == QLatin1String("00"))
-        txtcodprovc->setText(QString());
-}
-
-void FrmConDatos::SalirMunicipio()
-{
-    cConDatos& c = ConDatos();
-    const QString texto = txtcodmunc->text();
-    if (m_saltarValidacion || txtcodmunc->locked())
-        return;
-    if (!CodigoDistinto(texto, c.CODMUNC) && !c.CODMUNC.isEmpty())
-        return;
-    const QString nombre = lstcodmunc->Nombre(texto);
-    txtnommunc->setText(nombre);
-    c.NOMMUNC.clear();
-    if (!nombre.isEmpty()) {
-        c.CODMUNC = texto;
-        Redibujar();
-        return;
-    }
-    // An unknown or missing code: in province 77 the picker opens each time the box is left
-    // empty.
-    lstcodmunc->Abrir(txtnommunc->text(), cmdMunicipio);
+    return m_domicilio->SelectorAbierto();
 }
 
 // ----- Check boxes -----
@@ -485,51 +277,8 @@ void FrmConDatos::ClicTipoDomicilio(bool marcado)
         c.NOMMUNC.clear();
     }
     Redibujar();
-    if (txtviac->isEnabled())
-        txtviac->setFocus(Qt::OtherFocusReason);
-}
-
-// ----- Pickers -----
-
-bool FrmConDatos::SelectorAbierto() const
-{
-    return lstviac->Abierto() || lstcodprovc->Abierto() || lstcodmunc->Abierto();
-}
-
-void FrmConDatos::ElegidaVia(const QString& clave, const QString& texto)
-{
-    txtviaaux->setText(texto);
-    ConDatos().VIAC = Selectores::CodigoDeClave(TipoSelector::Via, clave);
-    m_modificado = true;
-    Redibujar();
-    lstviac->Cerrar(txtdomicilioc);
-}
-
-void FrmConDatos::ElegidaProvincia(const QString& clave, const QString& texto)
-{
-    cConDatos& c = ConDatos();
-    txtnomprovc->setText(texto);
-    c.NOMPROVC.clear();
-    c.CODPROVC = Formato(Selectores::CodigoDeClave(TipoSelector::Provincia, clave),
-                         txtcodprovc->formato());
-    if (Val(c.CODPROVC) != 77)
-        c.CODMUNC.clear();
-    c.NOMMUNC.clear();
-    m_modificado = true;
-    Redibujar();
-    lstcodprovc->Cerrar(txtcodposc);
-}
-
-void FrmConDatos::ElegidoMunicipio(const QString& clave, const QString& texto)
-{
-    cConDatos& c = ConDatos();
-    txtnommunc->setText(texto);
-    c.NOMMUNC.clear();
-    c.CODMUNC = Formato(Selectores::CodigoDeClave(TipoSelector::Municipio, clave),
-                        txtcodmunc->formato());
-    m_modificado = true;
-    Redibujar();
-    lstcodmunc->Cerrar(cmdAceptar);
+    if (m_domicilio->txtvia->isEnabled())
+        m_domicilio->txtvia->setFocus(Qt::OtherFocusReason);
 }
 
 // ----- Aceptar and Cancelar -----
@@ -539,57 +288,24 @@ bool FrmConDatos::ValidarCampos()
     const int16_t veredicto = ConDatos().ValidarDatosContribuyente(ConDatos().ArregloValidacion());
     if (veredicto == 0)
         return true;
-    const int id = cConDatos::IdMensajeValidacion(veredicto);
-    if (id == 0)
-        return false;  // a verdict outside the table: no message, no acceptance
-    Mensaje(Texto(id), vb::OKOnly + vb::Information, windowTitle());
-    QWidget* foco = nullptr;
-    switch (veredicto) {
-    case 1:
-    case 2:
-    case 14:
-        foco = txtdnic;
-        break;
-    case 3:
-        foco = txtnombrec;
-        break;
-    case 4:
-        foco = txtdomicilioc;
-        break;
-    case 5:
-        foco = txtpais;
-        break;
-    case 6:
-    case 7:
-    case 8:
-    case 9:
-        foco = txtcodposc;
-        break;
-    case 10:
-        foco = txtnomprovc;
-        break;
-    case 11:
-        foco = txtnommunc;
-        break;
-    case 12:
-        foco = txtcodprovc;
-        break;
-    case 13:
-        foco = txtcodmunc;
-        break;
-    default:
-        break;
-    }
-    if (foco)
-        foco->setFocus(Qt::OtherFocusReason);
+    const BloqueDomicilio& d = *m_domicilio;
+    AvisarVeredicto(this, cConDatos::IdMensajeValidacion(veredicto), veredicto,
+                    {{{1, 2, 14}, txtdnic},
+                     {{3}, txtnombrec},
+                     {{4}, d.txtdomicilio},
+                     {{5}, txtpais},
+                     {{6, 7, 8, 9}, d.txtcodpos},
+                     {{10}, d.txtnomprov},
+                     {{11}, d.txtnommun},
+                     {{12}, d.txtcodprov},
+                     {{13}, d.txtcodmun}});
     return false;
 }
 
 int16_t FrmConDatos::GuardarContribuyente()
 {
     const int16_t veredicto = ConDatos().GuardarContribuyente(ConDatos().ArregloGuardar());
-    if (const int id = cConDatos::IdMensajeGuardar(veredicto))
-        Mensaje(Texto(id), vb::OKOnly + vb::Information, windowTitle());
+    AvisarVeredicto(this, cConDatos::IdMensajeGuardar(veredicto), veredicto, {});
     return veredicto;
 }
 

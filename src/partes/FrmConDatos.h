@@ -14,8 +14,8 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class BloqueDomicilio;
 class SalidaCampos;
-class cSelector;
 
 class FrmConDatos : public QWidget {
     Q_OBJECT
@@ -49,21 +49,11 @@ private:
     void PresentarContribuyente();
     void ActivarSelectores();
     void Redibujar();
+    bool SelectorAbierto() const;
 
-    // Leaving of fields.
-    void SalirCampoTexto(QLineEdit* campo, QString& valor);
-    void SalirNumero();
-    void SalirVia();
-    void SalirProvincia();
-    void SalirMunicipio();
     // Clicks on the check boxes.
     void ClicTipoDni(bool marcado);
     void ClicTipoDomicilio(bool marcado);
-    // Choices of the pickers.
-    void ElegidaVia(const QString& clave, const QString& texto);
-    void ElegidaProvincia(const QString& clave, const QString& texto);
-    void ElegidoMunicipio(const QString& clave, const QString& texto);
-    bool SelectorAbierto() const;
 
     void Aceptar();
     void Cancelar();
@@ -75,22 +65,6 @@ private:
     QCheckBox* chktipodomi = nullptr;
     QLineEdit* txtdnic = nullptr;
     QLineEdit* txtnombrec = nullptr;
-    QLineEdit* txtviac = nullptr;
-    QPushButton* cmdVia = nullptr;
-    QLineEdit* txtviaaux = nullptr;
-    QLineEdit* txtdomicilioc = nullptr;
-    CajaNum* txtnumeroc = nullptr;
-    QLineEdit* txtletrac = nullptr;
-    QLineEdit* txtescalerac = nullptr;
-    QLineEdit* txtpisoc = nullptr;
-    QLineEdit* txtmanoc = nullptr;
-    CajaNum* txtcodprovc = nullptr;
-    QPushButton* cmdProvincia = nullptr;
-    QLineEdit* txtnomprovc = nullptr;
-    CajaNum* txtcodposc = nullptr;
-    CajaNum* txtcodmunc = nullptr;
-    QPushButton* cmdMunicipio = nullptr;
-    QLineEdit* txtnommunc = nullptr;
     QLineEdit* txtpais = nullptr;
     CajaNum* txtnumsp = nullptr;
     CajaNum* txtnumtr = nullptr;
@@ -101,23 +75,11 @@ private:
 
     QLabel* lbldnic = nullptr;
     QLabel* lblnombrec = nullptr;
-    QLabel* lblviac = nullptr;
-    QLabel* lbldomicilioc = nullptr;
-    QLabel* lblnumeroc = nullptr;
-    QLabel* lblletrac = nullptr;
-    QLabel* lblescalerac = nullptr;
-    QLabel* lblpisoc = nullptr;
-    QLabel* lblmanoc = nullptr;
-    QLabel* lblnomprovc = nullptr;
-    QLabel* lblcodposc = nullptr;
-    QLabel* lblnommunc = nullptr;
     QLabel* lblpais = nullptr;
     QLabel* lblnumsp = nullptr;
     QLabel* lblnumtr = nullptr;
 
-    cSelector* lstviac = nullptr;
-    cSelector* lstcodprovc = nullptr;
-    cSelector* lstcodmunc = nullptr;
+    BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
     SalidaCampos* m_salidas = nullptr;
 
     bool m_modificado = false;

@@ -14,8 +14,8 @@ class QFrame;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class BloqueDomicilio;
 class SalidaCampos;
-class cSelector;
 
 class FrmPreDatos : public QWidget {
     Q_OBJECT
@@ -49,17 +49,6 @@ private:
     void PresentarPresentador();
     void ActivarSelectores();
     void Redibujar();
-
-    // Leaving of fields.
-    void SalirCampoTexto(QLineEdit* campo, QString& valor);
-    void SalirNumero();
-    void SalirVia();
-    void SalirProvincia();
-    void SalirMunicipio();
-    // Choices of the pickers.
-    void ElegidaVia(const QString& clave, const QString& texto);
-    void ElegidaProvincia(const QString& clave, const QString& texto);
-    void ElegidoMunicipio(const QString& clave, const QString& texto);
     bool SelectorAbierto() const;
 
     void Aceptar();
@@ -70,22 +59,6 @@ private:
     QFrame* fraBotones = nullptr;
     QLineEdit* txtdnip = nullptr;
     QLineEdit* txtnombrep = nullptr;
-    QLineEdit* txtviap = nullptr;
-    QPushButton* cmdVia = nullptr;
-    QLineEdit* txtviaaux = nullptr;
-    QLineEdit* txtdomiciliop = nullptr;
-    CajaNum* txtnumerop = nullptr;
-    QLineEdit* txtletrap = nullptr;
-    QLineEdit* txtescalerap = nullptr;
-    QLineEdit* txtpisop = nullptr;
-    QLineEdit* txtmanop = nullptr;
-    CajaNum* txtcodprovp = nullptr;
-    QPushButton* cmdProvincia = nullptr;
-    QLineEdit* txtnomprovp = nullptr;
-    CajaNum* txtcodposp = nullptr;
-    CajaNum* txtcodmunp = nullptr;
-    QPushButton* cmdMunicipio = nullptr;
-    QLineEdit* txtnommunp = nullptr;
     QLineEdit* txttelefonop = nullptr;
     QPushButton* cmdAceptar = nullptr;
     QPushButton* cmdCancelar = nullptr;
@@ -94,21 +67,9 @@ private:
 
     QLabel* lbldnip = nullptr;
     QLabel* lblnombrep = nullptr;
-    QLabel* lblviap = nullptr;
-    QLabel* lbldomiciliop = nullptr;
-    QLabel* lblnumerop = nullptr;
-    QLabel* lblletrap = nullptr;
-    QLabel* lblescalerap = nullptr;
-    QLabel* lblpisop = nullptr;
-    QLabel* lblmanop = nullptr;
-    QLabel* lblnomprovp = nullptr;
-    QLabel* lblcodposp = nullptr;
-    QLabel* lblnommunp = nullptr;
     QLabel* lbltelefonop = nullptr;
 
-    cSelector* lstviap = nullptr;
-    cSelector* lstcodprovp = nullptr;
-    cSelector* lstcodmunp = nullptr;
+    BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
     SalidaCampos* m_salidas = nullptr;
 
     bool m_modificado = false;

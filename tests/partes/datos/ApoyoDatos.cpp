@@ -14,6 +14,7 @@
 #include "servicios/cTraspaso.h"
 
 #include <QMdiArea>
+#include <QMenu>
 #include <QMdiSubWindow>
 #include <QPalette>
 
@@ -178,6 +179,27 @@ bool Blanco(const QWidget* campo)
 bool Gris(const QWidget* campo)
 {
     return ColorFondo(campo) == QColor::fromRgb(kColorBloqueado);
+}
+
+bool abierto(const QWidget* campo)
+{
+    if (const auto* caja = qobject_cast<const CajaNum*>(campo))
+        return !caja->locked() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
+    const auto* texto = qobject_cast<const QLineEdit*>(campo);
+    return texto && !texto->isReadOnly() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
+}
+
+bool cerrado(const QWidget* campo)
+{
+    if (const auto* caja = qobject_cast<const CajaNum*>(campo))
+        return caja->locked() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
+    const auto* texto = qobject_cast<const QLineEdit*>(campo);
+    return texto && texto->isReadOnly() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
+}
+
+bool MenuApagado(const ProgramaDePrueba& prog, const char* nombre)
+{
+    return !prog.ventana()->findChild<QMenu*>(QString::fromLatin1(nombre))->menuAction()->isEnabled();
 }
 
 int32_t GuardarEnAlmacen(const Contribuyente& c)

@@ -3,9 +3,13 @@
 // read/write store, main window on screen) for each test, parties put in the store, and the
 // user's gestures on a panel: typing in a field, leaving it, clicking, choosing in a picker.
 #include "comun/Entorno.h"
+#include "fields/CajaNum.h"
+#include "fields/cListaClaves.h"
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
 #include <QString>
 #include <QTest>
 #include <QTreeWidget>
@@ -39,6 +43,31 @@ T* Control(QWidget* panel, const char* nombre)
 {
     return panel ? panel->findChild<T*>(QString::fromLatin1(nombre)) : nullptr;
 }
+
+// The panel under test and its controls by objectName; a missing control is reported.
+class ControlesDePanel {
+protected:
+    QPointer<QWidget> m_panel;
+
+    template <class T>
+    T* c(const char* nombre) const
+    {
+        T* control = Control<T>(m_panel, nombre);
+        if (!control)
+            qWarning("Falta el control %s", nombre);
+        return control;
+    }
+    QLineEdit* t(const char* nombre) const { return c<QLineEdit>(nombre); }
+    CajaNum* n(const char* nombre) const { return c<CajaNum>(nombre); }
+    QPushButton* b(const char* nombre) const { return c<QPushButton>(nombre); }
+    cListaClaves* l(const char* nombre) const { return c<cListaClaves>(nombre); }
+};
+
+// An open field: not locked, white, in the tab order. A closed one: locked, grey, out of it.
+bool abierto(const QWidget* campo);
+bool cerrado(const QWidget* campo);
+// Whether the menu `nombre` of the main window is switched off (as while a panel is open).
+bool MenuApagado(const ProgramaDePrueba& prog, const char* nombre);
 
 // Gives the focus to a field as the user does (a click), selecting its whole text.
 void Entrar(QWidget* campo);

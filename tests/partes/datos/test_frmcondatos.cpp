@@ -41,24 +41,11 @@ void RegistroValido(cConDatos& c)
 
 }  // namespace
 
-class TestFrmConDatos : public QObject {
+class TestFrmConDatos : public QObject, ControlesDePanel {
     Q_OBJECT
 
     std::unique_ptr<ProgramaDePrueba> m_prog;
-    QPointer<QWidget> m_panel;
 
-    template <class T>
-    T* c(const char* nombre) const
-    {
-        T* control = Control<T>(m_panel, nombre);
-        if (!control)
-            qWarning("Falta el control %s", nombre);
-        return control;
-    }
-    QLineEdit* t(const char* nombre) const { return c<QLineEdit>(nombre); }
-    CajaNum* n(const char* nombre) const { return c<CajaNum>(nombre); }
-    QPushButton* b(const char* nombre) const { return c<QPushButton>(nombre); }
-    cListaClaves* l(const char* nombre) const { return c<cListaClaves>(nombre); }
     FrmConDatos* frm() const { return qobject_cast<FrmConDatos*>(m_panel.data()); }
 
     // As the main menu opens it: a new contributor.
@@ -86,26 +73,7 @@ class TestFrmConDatos : public QObject {
         m_panel = FrmConDatos::Abrir();
         Procesar();
     }
-    static bool abierto(const QWidget* campo)
-    {
-        if (const auto* caja = qobject_cast<const CajaNum*>(campo))
-            return !caja->locked() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
-        const auto* texto = qobject_cast<const QLineEdit*>(campo);
-        return texto && !texto->isReadOnly() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
-    }
-    static bool cerrado(const QWidget* campo)
-    {
-        if (const auto* caja = qobject_cast<const CajaNum*>(campo))
-            return caja->locked() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
-        const auto* texto = qobject_cast<const QLineEdit*>(campo);
-        return texto && texto->isReadOnly() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
-    }
-    bool menusApagados() const
-    {
-        return !m_prog->ventana()->findChild<QMenu*>(QStringLiteral("mnuContribuyente"))
-                    ->menuAction()
-                    ->isEnabled();
-    }
+    bool menusApagados() const { return MenuApagado(*m_prog, "mnuContribuyente"); }
     void clicEnCasilla(QCheckBox* casilla)
     {
         QTest::mouseClick(casilla, Qt::LeftButton, Qt::NoModifier, QPoint(6, casilla->height() / 2));

@@ -35,24 +35,11 @@ void RegistroValido(cPreDatos& p)
 
 }  // namespace
 
-class TestFrmPreDatos : public QObject {
+class TestFrmPreDatos : public QObject, ControlesDePanel {
     Q_OBJECT
 
     std::unique_ptr<ProgramaDePrueba> m_prog;
-    QPointer<QWidget> m_panel;
 
-    template <class T>
-    T* c(const char* nombre) const
-    {
-        T* control = Control<T>(m_panel, nombre);
-        if (!control)
-            qWarning("Falta el control %s", nombre);
-        return control;
-    }
-    QLineEdit* t(const char* nombre) const { return c<QLineEdit>(nombre); }
-    CajaNum* n(const char* nombre) const { return c<CajaNum>(nombre); }
-    QPushButton* b(const char* nombre) const { return c<QPushButton>(nombre); }
-    cListaClaves* l(const char* nombre) const { return c<cListaClaves>(nombre); }
     FrmPreDatos* frm() const { return qobject_cast<FrmPreDatos*>(m_panel.data()); }
 
     void abrirNuevo(const QString& lista = QString())
@@ -77,26 +64,7 @@ class TestFrmPreDatos : public QObject {
         m_panel = FrmPreDatos::Abrir();
         Procesar();
     }
-    static bool abierto(const QWidget* campo)
-    {
-        if (const auto* caja = qobject_cast<const CajaNum*>(campo))
-            return !caja->locked() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
-        const auto* texto = qobject_cast<const QLineEdit*>(campo);
-        return texto && !texto->isReadOnly() && Blanco(campo) && (campo->focusPolicy() & Qt::TabFocus);
-    }
-    static bool cerrado(const QWidget* campo)
-    {
-        if (const auto* caja = qobject_cast<const CajaNum*>(campo))
-            return caja->locked() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
-        const auto* texto = qobject_cast<const QLineEdit*>(campo);
-        return texto && texto->isReadOnly() && Gris(campo) && !(campo->focusPolicy() & Qt::TabFocus);
-    }
-    bool menusApagados() const
-    {
-        return !m_prog->ventana()->findChild<QMenu*>(QStringLiteral("mnuPresentador"))
-                    ->menuAction()
-                    ->isEnabled();
-    }
+    bool menusApagados() const { return MenuApagado(*m_prog, "mnuPresentador"); }
     QString almacenado(const char* columna, int32_t cspr) const
     {
         return ValorAlmacenado(QStringLiteral("SELECT %1 FROM PRESENTADORES WHERE CSPR = ?")
