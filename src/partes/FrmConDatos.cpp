@@ -1,29 +1,19 @@
 #include "partes/FrmConDatos.h"
 
-#include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Proceso.h"
 #include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
 #include "fields/CajaNum.h"
-#include "fields/EnterComoTab.h"
-#include "fields/Formato.h"
 #include "fields/Val.h"
 #include "partes/BloqueDomicilio.h"
 #include "partes/CamposDatos.h"
 #include "partes/FrmConLista.h"
-#include "partes/SalidaCampos.h"
-#include "partes/Selectores.h"
 #include "partes/cConDatos.h"
 #include "partes/cConLista.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
@@ -45,10 +35,8 @@ FrmConDatos* FrmConDatos::Abrir()
     return abierto;
 }
 
-FrmConDatos::FrmConDatos(QWidget* parent) : QWidget(parent)
+FrmConDatos::FrmConDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmConDatos"), parent)
 {
-    setObjectName(QStringLiteral("FrmConDatos"));
-    setAttribute(Qt::WA_DeleteOnClose);
     Construir();
     OrdenDeTabulacion();
     Conectar();
@@ -56,12 +44,6 @@ FrmConDatos::FrmConDatos(QWidget* parent) : QWidget(parent)
 
 void FrmConDatos::Construir()
 {
-    fraDatos = new QFrame(this);
-    fraDatos->setObjectName(QStringLiteral("fraDatos"));
-    fraDatos->setFrameShape(QFrame::StyledPanel);
-    fraBotones = new QFrame(this);
-    fraBotones->setObjectName(QStringLiteral("fraBotones"));
-
     QWidget* d = fraDatos;
     chktipodni = new QCheckBox(d);
     chktipodni->setObjectName(QStringLiteral("chktipodni"));
@@ -100,9 +82,7 @@ void FrmConDatos::Construir()
     LineaDePanel(lineas, {lblpais, txtpais});
     LineaDePanel(lineas, {lblnumsp, txtnumsp, lblnumtr, txtnumtr});
 
-    BotonesDeDatos(this, fraDatos, fraBotones, cmdAceptar, cmdCancelar, PicAce, PicCan);
-    m_domicilio->CrearSelectores({fraDatos, fraBotones});
-    RetenerFocoAlPulsar(this);
+    Pie();
 }
 
 void FrmConDatos::OrdenDeTabulacion()
@@ -119,13 +99,11 @@ void FrmConDatos::Conectar()
 {
     // Any change typed in an entry field is a change of the contributor.
     for (QLineEdit* campo : {txtdnic, txtnombrec, txtpais})
-        connect(campo, &QLineEdit::textEdited, this, [this] { m_modificado = true; });
+        connect(campo, &QLineEdit::textEdited, this, [this] { MarcarModificado(); });
 
-    m_salidas = new SalidaCampos(this);
-    m_salidas->setActivo([this] { return !m_cerrando && !SelectorAbierto(); });
-    m_salidas->setBotonCancelar(cmdCancelar, [this] { m_saltarValidacion = true; });
-    m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { m_modificado = true; },
-                           [this] { return m_saltarValidacion; }, cmdAceptar});
+    ConectarPanel();
+    m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { MarcarModificado(); },
+                           [this] { return Saltando(); }, cmdAceptar});
     auto& c = ConDatos();
     m_domicilio->VigilarTexto(txtdnic, c.DNIC);
     m_domicilio->VigilarTexto(txtnombrec, c.NOMBREC);
@@ -133,36 +111,9 @@ void FrmConDatos::Conectar()
 
     connect(chktipodni, &QCheckBox::clicked, this, &FrmConDatos::ClicTipoDni);
     connect(chktipodomi, &QCheckBox::clicked, this, &FrmConDatos::ClicTipoDomicilio);
-
-    // The press, not the click, on Cancelar: it comes before the field is left.
-    connect(cmdCancelar, &QPushButton::pressed, this, [this] { m_saltarValidacion = true; });
-    connect(cmdAceptar, &QPushButton::clicked, this, [this] { Proceso::Protegido([this] { Aceptar(); }); });
-    connect(cmdCancelar, &QPushButton::clicked, this, [this] { Cancelar(); });
-
-    auto* enter = new EnterComoTab(this);
-    enter->setActivo([this] { return !SelectorAbierto(); });
-}
-
-bool FrmConDatos::eventFilter(QObject* objeto, QEvent* evento)
-{
-    if (objeto == PicCan && evento->type() == QEvent::MouseButtonPress)
-        m_saltarValidacion = true;
-    return QWidget::eventFilter(objeto, evento);
 }
 
 // ----- Opening -----
-
-void FrmConDatos::Iniciar()
-{
-    Anadir_captions();
-    DeshabilitarMenus();
-    CargarListas();
-    CargarDatosContribuyente();
-    PresentarContribuyente();
-    ActivarSelectores();
-    m_saltarValidacion = false;
-    m_modificado = false;
-}
 
 void FrmConDatos::Anadir_captions()
 {
@@ -240,16 +191,11 @@ void FrmConDatos::Redibujar()
     ActivarSelectores();
 }
 
-bool FrmConDatos::SelectorAbierto() const
-{
-    return m_domicilio->SelectorAbierto();
-}
-
 // ----- Check boxes -----
 
 void FrmConDatos::ClicTipoDni(bool marcado)
 {
-    m_modificado = true;
+    MarcarModificado();
     ConDatos().TIPODNI = marcado ? QStringLiteral("N") : QStringLiteral("O");
     Redibujar();
     if (txtdnic->isEnabled())
@@ -261,7 +207,7 @@ void FrmConDatos::ClicTipoDomicilio(bool marcado)
     // Drawing the record sets the check box too; only the user's click counts.
     if (!m_panelListo)
         return;
-    m_modificado = true;
+    MarcarModificado();
     cConDatos& c = ConDatos();
     if (marcado) {
         c.TIPODOMI = QStringLiteral("E");
@@ -309,53 +255,18 @@ int16_t FrmConDatos::GuardarContribuyente()
     return veredicto;
 }
 
-void FrmConDatos::Aceptar()
+void FrmConDatos::AnotarEnLista()
 {
-    // Reached by its access key or its icon, the field being typed in is left first, as a
-    // click on the button leaves it.
-    if (QWidget* foco = focusWidget(); foco && fraDatos->isAncestorOf(foco))
-        cmdAceptar->setFocus(Qt::OtherFocusReason);
-    if (SelectorAbierto())
-        return;
-    if (!ValidarCampos())
-        return;
-    if (m_modificado) {
-        if (GuardarContribuyente() != 0)
-            return;
-        cConDatos& c = ConDatos();
-        if (c.MODO() == QLatin1String("A") && c.LISTA == QLatin1String("S"))
-            ConLista().CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
+    // The list comes back with the new contributor selected.
+    cConDatos& c = ConDatos();
+    if (c.MODO() == QLatin1String("A") && c.LISTA == QLatin1String("S"))
+        ConLista().CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
+}
+
+void FrmConDatos::VolverALista()
+{
+    if (ConDatos().LISTA == QLatin1String("S")) {
+        ConLista().ENTRADA = QStringLiteral("P");
+        FrmConLista::Abrir();
     }
-    Cerrar();
-}
-
-void FrmConDatos::Cancelar()
-{
-    // No question about unsaved changes: the record keeps what was written to it.
-    Cerrar();
-}
-
-void FrmConDatos::Cerrar()
-{
-    m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
-}
-
-void FrmConDatos::closeEvent(QCloseEvent* evento)
-{
-    QWidget::closeEvent(evento);
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    m_cerrando = true;
-    Proceso::Protegido([] {
-        ActualizarMenus();
-        if (ConDatos().LISTA == QLatin1String("S")) {
-            ConLista().ENTRADA = QStringLiteral("P");
-            FrmConLista::Abrir();
-        }
-    });
 }

@@ -5,19 +5,17 @@
 // are open. Aceptar validates through the store and saves; Cancelar just closes. Opened from
 // the main menu or from the list of contributors (ConDatos().LISTA "S"), to which it hands
 // back on closing.
-#include <QWidget>
-#include <cstdint>
+//
+// Its own beside the presenter's: the kinds of document and domicile (a foreign domicile has a
+// country and a typed province), the counters of declarations, and a change that counts as
+// soon as it is typed.
+#include "partes/PanelDatos.h"
 
 class CajaNum;
 class QCheckBox;
-class QFrame;
-class QLabel;
 class QLineEdit;
-class QPushButton;
-class BloqueDomicilio;
-class SalidaCampos;
 
-class FrmConDatos : public QWidget {
+class FrmConDatos final : public PanelDatos {
     Q_OBJECT
 public:
     // Builds the panel for ConDatos() as its MODO, LISTA and CSCO stand, and shows it.
@@ -25,42 +23,29 @@ public:
 
     explicit FrmConDatos(QWidget* parent = nullptr);
 
-    // Asks the store whether the record is valid; shows the verdict's message and puts the
-    // focus on the field concerned when it is not.
-    bool ValidarCampos();
+    bool ValidarCampos() override;
     // Saves the record; shows the message of a refusal. Answers the store's verdict.
     int16_t GuardarContribuyente();
-
-    bool Modificado() const { return m_modificado; }
-    bool SaltarValidacion() const { return m_saltarValidacion; }
-
-protected:
-    void closeEvent(QCloseEvent* evento) override;
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void Construir();
     void OrdenDeTabulacion();
     void Conectar();
-    void Iniciar();
-    void Anadir_captions();
-    void CargarListas();
+    void Anadir_captions() override;
+    void CargarListas() override;
+    void CargarDatos() override { CargarDatosContribuyente(); }
     void CargarDatosContribuyente();
+    void Redibujar() override;
     void PresentarContribuyente();
     void ActivarSelectores();
-    void Redibujar();
-    bool SelectorAbierto() const;
+    int16_t Guardar() override { return GuardarContribuyente(); }
+    void AnotarEnLista() override;
+    void VolverALista() override;
 
     // Clicks on the check boxes.
     void ClicTipoDni(bool marcado);
     void ClicTipoDomicilio(bool marcado);
 
-    void Aceptar();
-    void Cancelar();
-    void Cerrar();
-
-    QFrame* fraDatos = nullptr;
-    QFrame* fraBotones = nullptr;
     QCheckBox* chktipodni = nullptr;
     QCheckBox* chktipodomi = nullptr;
     QLineEdit* txtdnic = nullptr;
@@ -68,10 +53,6 @@ private:
     QLineEdit* txtpais = nullptr;
     CajaNum* txtnumsp = nullptr;
     CajaNum* txtnumtr = nullptr;
-    QPushButton* cmdAceptar = nullptr;
-    QPushButton* cmdCancelar = nullptr;
-    QLabel* PicAce = nullptr;
-    QLabel* PicCan = nullptr;
 
     QLabel* lbldnic = nullptr;
     QLabel* lblnombrec = nullptr;
@@ -79,12 +60,5 @@ private:
     QLabel* lblnumsp = nullptr;
     QLabel* lblnumtr = nullptr;
 
-    BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
-    SalidaCampos* m_salidas = nullptr;
-
-    bool m_modificado = false;
     bool m_panelListo = false;
-    bool m_saltarValidacion = false;
-    bool m_cerrando = false;
-    bool m_cerrado = false;
 };

@@ -1,27 +1,18 @@
 #include "partes/FrmPreDatos.h"
 
-#include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Proceso.h"
 #include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
 #include "fields/CajaNum.h"
-#include "fields/EnterComoTab.h"
-#include "fields/Formato.h"
 #include "fields/Val.h"
 #include "partes/BloqueDomicilio.h"
 #include "partes/CamposDatos.h"
 #include "partes/FrmPreLista.h"
-#include "partes/SalidaCampos.h"
-#include "partes/Selectores.h"
 #include "partes/cPreDatos.h"
 #include "partes/cPreLista.h"
 
-#include <QCloseEvent>
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <memory>
@@ -43,10 +34,8 @@ FrmPreDatos* FrmPreDatos::Abrir()
     return abierto;
 }
 
-FrmPreDatos::FrmPreDatos(QWidget* parent) : QWidget(parent)
+FrmPreDatos::FrmPreDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmPreDatos"), parent)
 {
-    setObjectName(QStringLiteral("FrmPreDatos"));
-    setAttribute(Qt::WA_DeleteOnClose);
     Construir();
     OrdenDeTabulacion();
     Conectar();
@@ -54,12 +43,6 @@ FrmPreDatos::FrmPreDatos(QWidget* parent) : QWidget(parent)
 
 void FrmPreDatos::Construir()
 {
-    fraDatos = new QFrame(this);
-    fraDatos->setObjectName(QStringLiteral("fraDatos"));
-    fraDatos->setFrameShape(QFrame::StyledPanel);
-    fraBotones = new QFrame(this);
-    fraBotones->setObjectName(QStringLiteral("fraBotones"));
-
     QWidget* d = fraDatos;
     txtdnip = CampoTexto(d, "txtdnip", 9, TipoFiltro::Texto);
     txtnombrep = CampoTexto(d, "txtnombrep", 40, TipoFiltro::Texto);
@@ -87,9 +70,7 @@ void FrmPreDatos::Construir()
     m_domicilio->Lineas(lineas);
     LineaDePanel(lineas, {lbltelefonop, txttelefonop});
 
-    BotonesDeDatos(this, fraDatos, fraBotones, cmdAceptar, cmdCancelar, PicAce, PicCan);
-    m_domicilio->CrearSelectores({fraDatos, fraBotones});
-    RetenerFocoAlPulsar(this);
+    Pie();
 }
 
 void FrmPreDatos::OrdenDeTabulacion()
@@ -105,47 +86,19 @@ void FrmPreDatos::OrdenDeTabulacion()
 
 void FrmPreDatos::Conectar()
 {
-    m_salidas = new SalidaCampos(this);
-    m_salidas->setActivo([this] { return !m_cerrando && !SelectorAbierto(); });
-    m_salidas->setBotonCancelar(cmdCancelar, [this] { m_saltarValidacion = true; });
+    ConectarPanel();
     // No handler of typed text: a presenter changes only when a field is left with a text
     // other than the record's, so that a value typed and changed back is no change.
-    m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { m_modificado = true; },
-                           [this] { return m_saltarValidacion; }, txttelefonop});
+    m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { MarcarModificado(); },
+                           [this] { return Saltando(); }, txttelefonop});
     auto& p = PreDatos();
     m_domicilio->VigilarTexto(txtdnip, p.DNIP);
     m_domicilio->VigilarTexto(txtnombrep, p.NOMBREP);
     m_domicilio->VigilarTexto(txttelefonop, p.TELEFONOP);
 
-    // The press, not the click, on Cancelar: it comes before the field is left.
-    connect(cmdCancelar, &QPushButton::pressed, this, [this] { m_saltarValidacion = true; });
-    connect(cmdAceptar, &QPushButton::clicked, this, [this] { Proceso::Protegido([this] { Aceptar(); }); });
-    connect(cmdCancelar, &QPushButton::clicked, this, [this] { Cancelar(); });
-
-    auto* enter = new EnterComoTab(this);
-    enter->setActivo([this] { return !SelectorAbierto(); });
-}
-
-bool FrmPreDatos::eventFilter(QObject* objeto, QEvent* evento)
-{
-    if (objeto == PicCan && evento->type() == QEvent::MouseButtonPress)
-        m_saltarValidacion = true;
-    return QWidget::eventFilter(objeto, evento);
 }
 
 // ----- Opening -----
-
-void FrmPreDatos::Iniciar()
-{
-    Anadir_captions();
-    DeshabilitarMenus();
-    CargarListas();
-    CargarDatosPresentador();
-    PresentarPresentador();
-    ActivarSelectores();
-    m_saltarValidacion = false;
-    m_modificado = false;
-}
 
 void FrmPreDatos::Anadir_captions()
 {
@@ -198,11 +151,6 @@ void FrmPreDatos::Redibujar()
     ActivarSelectores();
 }
 
-bool FrmPreDatos::SelectorAbierto() const
-{
-    return m_domicilio->SelectorAbierto();
-}
-
 // ----- Aceptar and Cancelar -----
 
 bool FrmPreDatos::ValidarCampos()
@@ -230,53 +178,18 @@ int16_t FrmPreDatos::GuardarPresentador()
     return veredicto;
 }
 
-void FrmPreDatos::Aceptar()
+void FrmPreDatos::AnotarEnLista()
 {
-    // Reached by its access key or its icon, the field being typed in is left first, as a
-    // click on the button leaves it.
-    if (QWidget* foco = focusWidget(); foco && fraDatos->isAncestorOf(foco))
-        cmdAceptar->setFocus(Qt::OtherFocusReason);
-    if (SelectorAbierto())
-        return;
-    if (!ValidarCampos())
-        return;
-    if (m_modificado) {
-        if (GuardarPresentador() != 0)
-            return;
-        cPreDatos& p = PreDatos();
-        if (p.MODO() == QLatin1String("A") && p.LISTA == QLatin1String("S"))
-            PreLista().CSPR = p.ObtenerCodigoPresentador(p.DNIP);
+    // The list comes back with the new presenter selected.
+    cPreDatos& p = PreDatos();
+    if (p.MODO() == QLatin1String("A") && p.LISTA == QLatin1String("S"))
+        PreLista().CSPR = p.ObtenerCodigoPresentador(p.DNIP);
+}
+
+void FrmPreDatos::VolverALista()
+{
+    if (PreDatos().LISTA == QLatin1String("S")) {
+        PreLista().ENTRADA = QStringLiteral("P");
+        FrmPreLista::Abrir();
     }
-    Cerrar();
-}
-
-void FrmPreDatos::Cancelar()
-{
-    // No question about unsaved changes: the record keeps what was written to it.
-    Cerrar();
-}
-
-void FrmPreDatos::Cerrar()
-{
-    m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
-}
-
-void FrmPreDatos::closeEvent(QCloseEvent* evento)
-{
-    QWidget::closeEvent(evento);
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    m_cerrando = true;
-    Proceso::Protegido([] {
-        ActualizarMenus();
-        if (PreDatos().LISTA == QLatin1String("S")) {
-            PreLista().ENTRADA = QStringLiteral("P");
-            FrmPreLista::Abrir();
-        }
-    });
 }

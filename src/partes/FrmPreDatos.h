@@ -6,18 +6,11 @@
 // marks the presenter as changed), and the panel redraws itself from the record
 // (PresentarPresentador). Opened from the main menu or from the list of presenters
 // (PreDatos().LISTA "S"), to which it hands back on closing.
-#include <QWidget>
-#include <cstdint>
+#include "partes/PanelDatos.h"
 
-class CajaNum;
-class QFrame;
-class QLabel;
 class QLineEdit;
-class QPushButton;
-class BloqueDomicilio;
-class SalidaCampos;
 
-class FrmPreDatos : public QWidget {
+class FrmPreDatos final : public PanelDatos {
     Q_OBJECT
 public:
     // Builds the panel for PreDatos() as its MODO, LISTA and CSPR stand, and shows it.
@@ -25,55 +18,30 @@ public:
 
     explicit FrmPreDatos(QWidget* parent = nullptr);
 
-    // Asks the store whether the record is valid; shows the verdict's message and puts the
-    // focus on the field concerned when it is not.
-    bool ValidarCampos();
+    bool ValidarCampos() override;
     // Saves the record; shows the message of a refusal. Answers the store's verdict.
     int16_t GuardarPresentador();
-
-    bool Modificado() const { return m_modificado; }
-    bool SaltarValidacion() const { return m_saltarValidacion; }
-
-protected:
-    void closeEvent(QCloseEvent* evento) override;
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void Construir();
     void OrdenDeTabulacion();
     void Conectar();
-    void Iniciar();
-    void Anadir_captions();
-    void CargarListas();
+    void Anadir_captions() override;
+    void CargarListas() override;
+    void CargarDatos() override { CargarDatosPresentador(); }
     void CargarDatosPresentador();
+    void Redibujar() override;
     void PresentarPresentador();
     void ActivarSelectores();
-    void Redibujar();
-    bool SelectorAbierto() const;
+    int16_t Guardar() override { return GuardarPresentador(); }
+    void AnotarEnLista() override;
+    void VolverALista() override;
 
-    void Aceptar();
-    void Cancelar();
-    void Cerrar();
-
-    QFrame* fraDatos = nullptr;
-    QFrame* fraBotones = nullptr;
     QLineEdit* txtdnip = nullptr;
     QLineEdit* txtnombrep = nullptr;
     QLineEdit* txttelefonop = nullptr;
-    QPushButton* cmdAceptar = nullptr;
-    QPushButton* cmdCancelar = nullptr;
-    QLabel* PicAce = nullptr;
-    QLabel* PicCan = nullptr;
 
     QLabel* lbldnip = nullptr;
     QLabel* lblnombrep = nullptr;
     QLabel* lbltelefonop = nullptr;
-
-    BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
-    SalidaCampos* m_salidas = nullptr;
-
-    bool m_modificado = false;
-    bool m_saltarValidacion = false;
-    bool m_cerrando = false;
-    bool m_cerrado = false;
 };
