@@ -44,6 +44,9 @@ T* Control(QWidget* panel, const char* nombre)
     return panel ? panel->findChild<T*>(QString::fromLatin1(nombre)) : nullptr;
 }
 
+// Lets queued work run (selection after a click, deferred deletions of closed panels).
+void Procesar();
+
 // The panel under test and its controls by objectName; a missing control is reported.
 class ControlesDePanel {
 protected:
@@ -63,6 +66,29 @@ protected:
     cListaClaves* l(const char* nombre) const { return c<cListaClaves>(nombre); }
 };
 
+// Opens a party's data panel as its openers do: the record's MODO (the reset of a new party
+// with "A"), LISTA and party code first.
+template <class Panel, class Registro>
+QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, const QString& lista,
+                    int32_t valor)
+{
+    registro.setMODO(modo);
+    registro.LISTA = lista;
+    codigo = valor;
+    QWidget* panel = Panel::Abrir();
+    Procesar();
+    return panel;
+}
+// Opens it on the record as it stands, as from the main menu (MODO "A" shows what is there).
+template <class Panel, class Registro>
+QWidget* AbrirConRegistro(Registro& registro)
+{
+    registro.LISTA.clear();
+    QWidget* panel = Panel::Abrir();
+    Procesar();
+    return panel;
+}
+
 // An open field: not locked, white, in the tab order. A closed one: locked, grey, out of it.
 bool abierto(const QWidget* campo);
 bool cerrado(const QWidget* campo);
@@ -81,8 +107,6 @@ void Tabular();
 void EscribirYSalir(QLineEdit* campo, const QString& texto);
 // A click of the mouse on a widget (press and release at its centre).
 void Clic(QWidget* w);
-// Lets queued work run (selection after a click, deferred deletions of closed panels).
-void Procesar();
 // The widget that has the focus.
 QWidget* Foco();
 

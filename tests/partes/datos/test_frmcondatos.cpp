@@ -51,28 +51,15 @@ class TestFrmConDatos : public QObject, ControlesDePanel {
     // As the main menu opens it: a new contributor.
     void abrirNuevo(const QString& lista = QString())
     {
-        ConDatos().setMODO(QStringLiteral("A"));
-        ConDatos().LISTA = lista;
-        ConDatos().CSCO = 0;
-        m_panel = FrmConDatos::Abrir();
-        Procesar();
+        m_panel = AbrirDatos<FrmConDatos>(ConDatos(), ConDatos().CSCO, QStringLiteral("A"), lista, 0);
     }
     // As the list opens it: an existing contributor.
     void abrirExistente(int32_t csco, const QString& lista = QStringLiteral("S"))
     {
-        ConDatos().setMODO(QStringLiteral("C"));
-        ConDatos().LISTA = lista;
-        ConDatos().CSCO = csco;
-        m_panel = FrmConDatos::Abrir();
-        Procesar();
+        m_panel = AbrirDatos<FrmConDatos>(ConDatos(), ConDatos().CSCO, QStringLiteral("C"), lista, csco);
     }
     // The panel as it is with the record as it stands (MODO "A" shows what is there).
-    void abrirConRegistro()
-    {
-        ConDatos().LISTA.clear();
-        m_panel = FrmConDatos::Abrir();
-        Procesar();
-    }
+    void abrirConRegistro() { m_panel = AbrirConRegistro<FrmConDatos>(ConDatos()); }
     bool menusApagados() const { return MenuApagado(*m_prog, "mnuContribuyente"); }
     void clicEnCasilla(QCheckBox* casilla)
     {

@@ -44,26 +44,13 @@ class TestFrmPreDatos : public QObject, ControlesDePanel {
 
     void abrirNuevo(const QString& lista = QString())
     {
-        PreDatos().setMODO(QStringLiteral("A"));
-        PreDatos().LISTA = lista;
-        PreDatos().CSPR = 0;
-        m_panel = FrmPreDatos::Abrir();
-        Procesar();
+        m_panel = AbrirDatos<FrmPreDatos>(PreDatos(), PreDatos().CSPR, QStringLiteral("A"), lista, 0);
     }
     void abrirExistente(int32_t cspr, const QString& lista = QStringLiteral("S"))
     {
-        PreDatos().setMODO(QStringLiteral("C"));
-        PreDatos().LISTA = lista;
-        PreDatos().CSPR = cspr;
-        m_panel = FrmPreDatos::Abrir();
-        Procesar();
+        m_panel = AbrirDatos<FrmPreDatos>(PreDatos(), PreDatos().CSPR, QStringLiteral("C"), lista, cspr);
     }
-    void abrirConRegistro()
-    {
-        PreDatos().LISTA.clear();
-        m_panel = FrmPreDatos::Abrir();
-        Procesar();
-    }
+    void abrirConRegistro() { m_panel = AbrirConRegistro<FrmPreDatos>(PreDatos()); }
     bool menusApagados() const { return MenuApagado(*m_prog, "mnuPresentador"); }
     QString almacenado(const char* columna, int32_t cspr) const
     {
