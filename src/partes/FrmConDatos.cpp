@@ -1,6 +1,5 @@
 #include "partes/FrmConDatos.h"
 
-#include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
 #include "fields/CajaNum.h"
 #include "fields/Val.h"
@@ -16,7 +15,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -27,12 +25,7 @@ const QString kProvinciaTesoreria = QStringLiteral("77");
 
 FrmConDatos* FrmConDatos::Abrir()
 {
-    auto panel = std::make_unique<FrmConDatos>();
-    panel->Iniciar();
-    FrmConDatos* abierto = panel.release();
-    AbrirPanel(abierto);
-    abierto->txtdnic->setFocus(Qt::OtherFocusReason);
-    return abierto;
+    return Mostrar(&FrmConDatos::txtdnic);
 }
 
 FrmConDatos::FrmConDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmConDatos"), parent)

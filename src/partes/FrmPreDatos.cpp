@@ -1,6 +1,5 @@
 #include "partes/FrmPreDatos.h"
 
-#include "app/plataforma/Ventanas.h"
 #include "catalogue/Catalogo.h"
 #include "fields/CajaNum.h"
 #include "fields/Val.h"
@@ -15,7 +14,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <memory>
 #include <utility>
 
 namespace {
@@ -26,12 +24,7 @@ const QString kProvinciaTesoreria = QStringLiteral("77");
 
 FrmPreDatos* FrmPreDatos::Abrir()
 {
-    auto panel = std::make_unique<FrmPreDatos>();
-    panel->Iniciar();
-    FrmPreDatos* abierto = panel.release();
-    AbrirPanel(abierto);
-    abierto->txtdnip->setFocus(Qt::OtherFocusReason);
-    return abierto;
+    return Mostrar(&FrmPreDatos::txtdnip);
 }
 
 FrmPreDatos::FrmPreDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmPreDatos"), parent)

@@ -7,8 +7,11 @@
 //
 // Each panel works straight on its own shared record and says what is its own: its fields,
 // captions, loading and drawing, the store's verdicts, and the list it hands back to.
+#include "app/plataforma/Ventanas.h"
+
 #include <QWidget>
 #include <cstdint>
+#include <memory>
 
 class BloqueDomicilio;
 class QFrame;
@@ -37,6 +40,19 @@ protected:
     // The watcher of the fields' leaving, held back while a picker is open or the panel
     // closes; the buttons' actions; Enter as Tab. The panel then watches its own fields.
     void ConectarPanel();
+
+    // Builds a panel, opens it (Iniciar), shows it in the main window and gives the focus to
+    // its first field.
+    template <class Panel, class Campo>
+    static Panel* Mostrar(Campo* Panel::*primerCampo)
+    {
+        auto panel = std::make_unique<Panel>();
+        panel->Iniciar();
+        Panel* abierto = panel.release();
+        AbrirPanel(abierto);
+        (abierto->*primerCampo)->setFocus(Qt::OtherFocusReason);
+        return abierto;
+    }
 
     // Opening: captions, menus off, pickers filled, record loaded, panel drawn, flags cleared.
     void Iniciar();
