@@ -16,8 +16,6 @@
 
 namespace {
 
-const QString kProvinciaTesoreria = QStringLiteral("77");
-
 // The objectName of a field: its stem and the party letter ("txtvia" + "c").
 QByteArray Nombre(const char* raiz, const QString& parte)
 {

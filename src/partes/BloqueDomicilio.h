@@ -26,6 +26,10 @@ class QWidget;
 class SalidaCampos;
 class cSelector;
 
+// The province of the treasury, the default one: only there is the municipality a code of the
+// treasury's list.
+inline const QString kProvinciaTesoreria = QStringLiteral("77");
+
 // The address fields of a party's record, by reference: the records are shared objects that
 // outlive the panels.
 struct RegistroDomicilio {

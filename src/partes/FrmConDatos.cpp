@@ -17,12 +17,6 @@
 #include <QVBoxLayout>
 #include <utility>
 
-namespace {
-
-const QString kProvinciaTesoreria = QStringLiteral("77");
-
-}  // namespace
-
 FrmConDatos* FrmConDatos::Abrir()
 {
     return Mostrar(&FrmConDatos::txtdnic);
@@ -98,6 +92,7 @@ void FrmConDatos::Conectar()
     m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { MarcarModificado(); },
                            [this] { return Saltando(); }, cmdAceptar});
     auto& c = ConDatos();
+    // The party's own plain fields are left as the address's are.
     m_domicilio->VigilarTexto(txtdnic, c.DNIC);
     m_domicilio->VigilarTexto(txtnombrec, c.NOMBREC);
     m_domicilio->VigilarTexto(txtpais, c.PAIS, true);

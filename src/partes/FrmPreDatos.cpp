@@ -16,12 +16,6 @@
 #include <QVBoxLayout>
 #include <utility>
 
-namespace {
-
-const QString kProvinciaTesoreria = QStringLiteral("77");
-
-}  // namespace
-
 FrmPreDatos* FrmPreDatos::Abrir()
 {
     return Mostrar(&FrmPreDatos::txtdnip);
@@ -85,10 +79,10 @@ void FrmPreDatos::Conectar()
     m_domicilio->Conectar({m_salidas, [this] { Redibujar(); }, [this] { MarcarModificado(); },
                            [this] { return Saltando(); }, txttelefonop});
     auto& p = PreDatos();
+    // The party's own plain fields are left as the address's are.
     m_domicilio->VigilarTexto(txtdnip, p.DNIP);
     m_domicilio->VigilarTexto(txtnombrep, p.NOMBREP);
     m_domicilio->VigilarTexto(txttelefonop, p.TELEFONOP);
-
 }
 
 // ----- Opening -----
