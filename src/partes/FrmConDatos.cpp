@@ -120,11 +120,6 @@ void FrmConDatos::Anadir_captions()
     lblnombrec->setText(Texto(27));
 }
 
-void FrmConDatos::CargarListas()
-{
-    m_domicilio->CargarListas();
-}
-
 void FrmConDatos::CargarDatosContribuyente()
 {
     cConDatos& c = ConDatos();

@@ -32,7 +32,6 @@ private:
     void OrdenDeTabulacion();
     void Conectar();
     void Anadir_captions() override;
-    void CargarListas() override;
     void CargarDatos() override { CargarDatosContribuyente(); }
     void CargarDatosContribuyente();
     void Redibujar() override;

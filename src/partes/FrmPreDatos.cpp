@@ -100,11 +100,6 @@ void FrmPreDatos::Anadir_captions()
     lbltelefonop->setText(Texto(194));
 }
 
-void FrmPreDatos::CargarListas()
-{
-    m_domicilio->CargarListas();
-}
-
 void FrmPreDatos::CargarDatosPresentador()
 {
     cPreDatos& p = PreDatos();

@@ -27,7 +27,6 @@ private:
     void OrdenDeTabulacion();
     void Conectar();
     void Anadir_captions() override;
-    void CargarListas() override;
     void CargarDatos() override { CargarDatosPresentador(); }
     void CargarDatosPresentador();
     void Redibujar() override;

@@ -59,6 +59,11 @@ bool PanelDatos::SelectorAbierto() const
     return m_domicilio && m_domicilio->SelectorAbierto();
 }
 
+void PanelDatos::CargarListas()
+{
+    m_domicilio->CargarListas();
+}
+
 void PanelDatos::Iniciar()
 {
     Anadir_captions();

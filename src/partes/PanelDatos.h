@@ -59,7 +59,6 @@ protected:
 
     // The panel's own steps.
     virtual void Anadir_captions() = 0;
-    virtual void CargarListas() = 0;
     virtual void CargarDatos() = 0;
     // Draws the panel from the record and enables the pickers' buttons.
     virtual void Redibujar() = 0;
@@ -70,6 +69,8 @@ protected:
     // On closing: back to the party's list when the panel came from it.
     virtual void VolverALista() = 0;
 
+    // Fills the address pickers.
+    void CargarListas();
     bool SelectorAbierto() const;
     void MarcarModificado() { m_modificado = true; }
     bool Saltando() const { return m_saltarValidacion; }
