@@ -31,15 +31,10 @@
 #include <QMenuBar>
 #include <QStyle>
 #include <QToolBar>
+#include <functional>
 
 namespace {
 MDIVeldo* g_ventana = nullptr;
-
-QMap<QString, std::function<void()>>& registro()
-{
-    static QMap<QString, std::function<void()>> paneles;
-    return paneles;
-}
 
 // Menu entries and their caption ids.
 struct Rotulo {
@@ -75,13 +70,6 @@ constexpr Boton kBotones[] = {
 
 MDIVeldo* VentanaMDI() { return g_ventana; }
 void EstablecerVentanaMDI(MDIVeldo* ventana) { g_ventana = ventana; }
-
-void MDIVeldo::RegistrarPanel(const QString& nombre, std::function<void()> abrir)
-{
-    registro().insert(nombre, std::move(abrir));
-}
-
-bool MDIVeldo::PanelDisponible(const QString& nombre) { return registro().contains(nombre); }
 
 MDIVeldo::MDIVeldo(QWidget* parent) : QMainWindow(parent)
 {
@@ -196,14 +184,13 @@ void MDIVeldo::conectarComandos()
             Proceso::Protegido(hacer);
         });
     };
-    al("mnuNuevaDeclaracion", [this] {
+    // The declaration form and list, and the export and import panels, are not part of the
+    // program yet: their commands set the modes of the return and open nothing.
+    al("mnuNuevaDeclaracion", [] {
         DecDatos().ENTRADA = QStringLiteral("A");
         DecDatos().setMODO(QStringLiteral("A"));
         DecDatos().LISTA.clear();
-        abrirRegistrado(QStringLiteral("FrmDeclaracion"));
     });
-    al("mnuAbrirDeclaracion", [this] { abrirRegistrado(QStringLiteral("FrmDecLista:A")); });
-    al("mnuEliminarDeclaracion", [this] { abrirRegistrado(QStringLiteral("FrmDecLista:E")); });
     for (QAction* d : m_recientes)
         al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
     al("mnuSalir", [] { Proceso::Terminar(0); });
@@ -235,8 +222,6 @@ void MDIVeldo::conectarComandos()
         PreLista().ENTRADA = QStringLiteral("E");
         FrmPreLista::Abrir();
     });
-    al("mnuExport", [this] { abrirRegistrado(QStringLiteral("FrmExportar")); });
-    al("mnuImport", [this] { abrirRegistrado(QStringLiteral("FrmImportar")); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });
     al("mnuRestore", [this] { restaurarCopia(); });
     al("mnuPreferencias", [this] { preferencias(); });
@@ -246,20 +231,12 @@ void MDIVeldo::conectarComandos()
     al("mnuDescripAsisOnline", [this] { descripcionAsistencia(); });
 }
 
-void MDIVeldo::abrirRegistrado(const QString& nombre)
-{
-    const auto it = registro().constFind(nombre);
-    if (it != registro().constEnd())
-        it.value()();
-}
-
 void MDIVeldo::abrirDeclaracionReciente(QAction* entrada)
 {
     DecDatos().ENTRADA = QStringLiteral("A");
     DecDatos().setMODO(QStringLiteral("C"));
     DecDatos().LISTA.clear();
     DecDatos().CSDE = entrada->data().toInt();
-    abrirRegistrado(QStringLiteral("FrmDeclaracion"));
 }
 
 void MDIVeldo::botonBarra(const QString& etiqueta)

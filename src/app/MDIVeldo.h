@@ -2,8 +2,6 @@
 // The one top-level window: an MDI area with the menu tree and the toolbar. It holds no
 // business logic: each command sets a few mode fields on a shared object and opens a panel.
 #include <QMainWindow>
-#include <QPointer>
-#include <functional>
 
 class QAction;
 class QMdiArea;
@@ -27,11 +25,6 @@ public:
     // Shows a panel as a child window.
     void AbrirPanel(QWidget* panel);
 
-    // The commands whose panels arrive with other modules are registered by name
-    // ("FrmDeclaracion", "FrmDecLista", "FrmConDatos", ...): each opener builds and shows its panel.
-    static void RegistrarPanel(const QString& nombre, std::function<void()> abrir);
-    static bool PanelDisponible(const QString& nombre);
-
 protected:
     bool event(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
@@ -43,7 +36,6 @@ private:
     void construirBarra();
     void conectarComandos();
     void alDesplegar(QMenu* menu);
-    void abrirRegistrado(const QString& nombre);
     void primeraActivacion();
     void abrirDeclaracionReciente(QAction* entrada);
     void botonBarra(const QString& etiqueta);

@@ -251,6 +251,26 @@ private slots:
                      QStringLiteral("d%1").arg(i + 1));
     }
 
+    void unPanelTomaElIdiomaAlAbrirse()
+    {
+        m_ventana->ActualizarMenus();
+        accion("mnuNuevoContribuyente")->trigger();
+        auto* panel = m_ventana->findChild<QWidget*>("FrmConDatos");
+        QVERIFY(panel);
+        QCOMPARE(panel->windowTitle(), Texto(3));
+        QVERIFY(!menu("mnuDeclaracion")->menuAction()->isEnabled());
+        panel->close();
+        QTRY_VERIFY(!m_ventana->findChild<QWidget*>("FrmConDatos"));
+        QVERIFY(menu("mnuDeclaracion")->menuAction()->isEnabled());
+        // The language changes while no panel is open; the next panel is a new one, in Basque.
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        accion("mnuNuevoContribuyente")->trigger();
+        panel = m_ventana->findChild<QWidget*>("FrmConDatos");
+        QVERIFY(panel);
+        QCOMPARE(panel->windowTitle(), QStringLiteral("Zergadunaren datuak"));
+    }
+
     void acercaDeEnCadaIdioma()
     {
         QString titulo, version, boton;
