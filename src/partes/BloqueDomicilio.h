@@ -76,7 +76,9 @@ public:
     // Connects the leaving of the fields and the pickers' choices to the record.
     void Conectar(EnlacePanel enlace);
     // A plain text field of the panel: on leaving, a text other than `valor` is written there
-    // and the panel redraws. `soloAbierto`: a locked field leaves the record alone.
+    // (a change of the party when changes count on leaving) and the panel redraws.
+    // `soloAbierto`: a locked field leaves the record alone. After Conectar, whose watcher it
+    // uses.
     void VigilarTexto(QLineEdit* campo, QString& valor, bool soloAbierto = false);
 
     // The captions of the fields and picker buttons, from the catalogue.
@@ -97,7 +99,7 @@ public:
     void Lineas(QBoxLayout* lineas) const;
     // The fields and buttons in their tab order, the street type's name after its button.
     QList<QWidget*> OrdenDeTabulacion() const;
-    // The fields and buttons whose width is that of their characters.
+    // Each field as wide as its characters.
     void Anchos() const;
 
     QLineEdit* txtvia = nullptr;
