@@ -40,17 +40,8 @@ class TestMDIVeldo : public QObject {
 private slots:
     void init()
     {
-        GrabarSeams();
-        RelojSeam::grabar(true);
-        ReiniciarEstado();
-        m_carpeta = std::make_unique<CarpetaDePrueba>();
-        cTraspaso t;
-        t.mdbmod = mdbmod;
-        t.mdbPath = mdbPath;
-        QVERIFY(!t.Traspaso());
-        InicializarAplicacion();
-        m_ventana = new MDIVeldo;
-        m_ventana->show();
+        m_carpeta = ProgramaConAlmacenNuevo();
+        m_ventana = VentanaMDI();
     }
     void cleanup()
     {

@@ -53,16 +53,7 @@ class TestPanelesApp : public QObject {
 private slots:
     void init()
     {
-        GrabarSeams();
-        RelojSeam::grabar(true);
-        ReiniciarEstado();
-        m_carpeta = std::make_unique<CarpetaDePrueba>();
-        cTraspaso t;
-        t.mdbmod = mdbmod;
-        t.mdbPath = mdbPath;
-        QVERIFY(!t.Traspaso());
-        InicializarAplicacion();
-        (new MDIVeldo)->show();
+        m_carpeta = ProgramaConAlmacenNuevo();
     }
     void cleanup()
     {
