@@ -7,6 +7,7 @@
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/SentenciaPreparada.h"
+#include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
 
@@ -69,69 +70,11 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
     };
 }
 
-int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& org)
+const TablaParte& tabla()
 {
-    const QString t = dni.trimmed();
-    if (t.isEmpty())
-        return 0;
-    return EscalarPreparada(db, QStringLiteral("SELECT CSCO FROM CONTRIBUYENTES WHERE DNIC = ?"),
-                            {t}, org, 0)
-        .toInt();
-}
-
-QString marcas(qsizetype n)
-{
-    QStringList m;
-    for (qsizetype i = 0; i < n; ++i)
-        m << QStringLiteral("?");
-    return m.join(QStringLiteral(", "));
-}
-
-// The three writes, their texts made once.
-const QString& sqlInsertar()
-{
-    static const QString sql = QStringLiteral("INSERT INTO CONTRIBUYENTES (%1) VALUES (%2)")
-                                   .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size()));
-    return sql;
-}
-
-const QString& sqlInsertarConCodigo()
-{
-    static const QString sql =
-        QStringLiteral("INSERT INTO CONTRIBUYENTES (CSCO, %1) VALUES (%2)")
-            .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size() + 1));
-    return sql;
-}
-
-const QString& sqlActualizar()
-{
-    static const QString sql = [] {
-        QStringList asignaciones;
-        for (const QString& c : kColumnas)
-            asignaciones << c + QStringLiteral(" = ?");
-        return QStringLiteral("UPDATE CONTRIBUYENTES SET %1 WHERE CSCO = ?")
-            .arg(asignaciones.join(QStringLiteral(", ")));
-    }();
-    return sql;
-}
-
-void insertar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
-{
-    if (csco == 0) {
-        SentenciaPreparada(db, sqlInsertar(), org).ejecutar(fila);
-        return;
-    }
-    QVariantList valores = fila;
-    valores.prepend(csco);
-    SentenciaPreparada(db, sqlInsertarConCodigo(), org).ejecutar(valores);
-}
-
-bool actualizar(const QSqlDatabase& db, int32_t csco, const QVariantList& fila, const QString& org)
-{
-    QVariantList valores = fila;
-    valores << csco;
-    SentenciaPreparada s(db, sqlActualizar(), org);
-    return s.ejecutar(valores).numRowsAffected() > 0;
+    static const TablaParte t(QStringLiteral("CONTRIBUYENTES"), QStringLiteral("CSCO"),
+                              QStringLiteral("DNIC"), kColumnas);
+    return t;
 }
 
 QString condiciones(const Arreglo& criterios, QVariantList& valores)
@@ -186,13 +129,13 @@ bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
 int32_t cContribSvr::ExisteContribuyente(const QString& dni) const
 {
     const QString org = origen("ExisteContribuyente");
-    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+    return tabla().CodigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
 }
 
 int32_t cContribSvr::ObtenerCodigoContribuyente(const QString& dni) const
 {
     const QString org = origen("ObtenerCodigoContribuyente");
-    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+    return tabla().CodigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
 }
 
 void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
@@ -237,17 +180,17 @@ int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     if (modo == Modo::Sustituir && csco == 0)
-        csco = codigoPorDni(db, dni, org);
-    const int32_t titular = codigoPorDni(db, dni, org);
+        csco = tabla().CodigoPorDni(db, dni, org);
+    const int32_t titular = tabla().CodigoPorDni(db, dni, org);
     if (csco == 0) {
         if (titular != 0)
             return 1;
-        insertar(db, 0, fila, org);
+        tabla().Insertar(db, 0, fila, org);
     } else {
         if (titular != 0 && titular != csco)
             return 2;
-        if (!actualizar(db, csco, fila, org))
-            insertar(db, csco, fila, org);
+        if (!tabla().Actualizar(db, csco, fila, org))
+            tabla().Insertar(db, csco, fila, org);
     }
     transaccion.confirmar();
     return 0;

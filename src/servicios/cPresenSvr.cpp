@@ -5,6 +5,7 @@
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/SentenciaPreparada.h"
+#include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 
 #include <QStringList>
@@ -49,53 +50,11 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
     };
 }
 
-int32_t codigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& org)
+const TablaParte& tabla()
 {
-    const QString t = dni.trimmed();
-    if (t.isEmpty())
-        return 0;
-    return EscalarPreparada(db, QStringLiteral("SELECT CSPR FROM PRESENTADORES WHERE DNIP = ?"),
-                            {t}, org, 0)
-        .toInt();
-}
-
-QString marcas(qsizetype n)
-{
-    QStringList m;
-    for (qsizetype i = 0; i < n; ++i)
-        m << QStringLiteral("?");
-    return m.join(QStringLiteral(", "));
-}
-
-void insertar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
-{
-    static const QString sinCodigo = QStringLiteral("INSERT INTO PRESENTADORES (%1) VALUES (%2)")
-                                         .arg(kColumnas.join(QStringLiteral(", ")),
-                                              marcas(kColumnas.size()));
-    static const QString conCodigo =
-        QStringLiteral("INSERT INTO PRESENTADORES (CSPR, %1) VALUES (%2)")
-            .arg(kColumnas.join(QStringLiteral(", ")), marcas(kColumnas.size() + 1));
-    if (cspr == 0) {
-        SentenciaPreparada(db, sinCodigo, org).ejecutar(fila);
-        return;
-    }
-    QVariantList valores = fila;
-    valores.prepend(cspr);
-    SentenciaPreparada(db, conCodigo, org).ejecutar(valores);
-}
-
-void actualizar(const QSqlDatabase& db, int32_t cspr, const QVariantList& fila, const QString& org)
-{
-    static const QString sql = [] {
-        QStringList asignaciones;
-        for (const QString& c : kColumnas)
-            asignaciones << c + QStringLiteral(" = ?");
-        return QStringLiteral("UPDATE PRESENTADORES SET %1 WHERE CSPR = ?")
-            .arg(asignaciones.join(QStringLiteral(", ")));
-    }();
-    QVariantList valores = fila;
-    valores << cspr;
-    SentenciaPreparada(db, sql, org).ejecutar(valores);
+    static const TablaParte t(QStringLiteral("PRESENTADORES"), QStringLiteral("CSPR"),
+                              QStringLiteral("DNIP"), kColumnas);
+    return t;
 }
 
 }  // namespace
@@ -115,18 +74,18 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
 
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
-    const int32_t titular = codigoPorDni(db, dni, org);
+    const int32_t titular = tabla().CodigoPorDni(db, dni, org);
     if (cspr == 0) {
         if (titular != 0)
             return 1;
-        insertar(db, 0, fila, org);
+        tabla().Insertar(db, 0, fila, org);
     } else {
         if (titular != 0 && titular != cspr)
             return 2;
         QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
                                     {cspr}, org);
         if (!actual.next()) {
-            insertar(db, cspr, fila, org);
+            tabla().Insertar(db, cspr, fila, org);
         } else {
             // The declarations copy the presenter's number: once one names him it stays. A
             // change of case only is the same number (the column ignores case).
@@ -134,7 +93,7 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
                 actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
             if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
                 return 3;
-            actualizar(db, cspr, fila, org);
+            tabla().Actualizar(db, cspr, fila, org);
         }
     }
     transaccion.confirmar();
@@ -176,7 +135,7 @@ bool cPresenSvr::BorrarPresentador(int32_t cspr) const
 int32_t cPresenSvr::ObtenerCodigoPresentador(const QString& dni) const
 {
     const QString org = origen("ObtenerCodigoPresentador");
-    return codigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
+    return tabla().CodigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
 }
 
 int16_t cPresenSvr::NDeclaPresentador(int32_t cspr) const
