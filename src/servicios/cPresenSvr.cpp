@@ -4,7 +4,6 @@
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
-#include "servicios/SentenciaPreparada.h"
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 
