@@ -1,6 +1,9 @@
 // Start-up end to end on a temporary program folder: the paths, the first run with the
 // language chooser, a later run, and the ways start-up stops.
 #include "Reinicio.h"
+#include "actualizacion/cActOnline.h"
+#include "app/nucleo/CEntrada.h"
+#include "app/plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 

@@ -1,6 +1,9 @@
 // The main window: menus and toolbar in both languages, the enabling rules with the counters,
 // the recent declarations, the ways out, help, backup and restore from the menu.
 #include "Reinicio.h"
+#include "actualizacion/cActOnline.h"
+#include "app/nucleo/CEntrada.h"
+#include "app/plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 #include "declaracion/ApoyoDeclaracion.h"

@@ -1,5 +1,8 @@
 // The small panels of the core: the first-run language chooser, the preferences and the splash.
 #include "Reinicio.h"
+#include "actualizacion/cActOnline.h"
+#include "app/nucleo/CEntrada.h"
+#include "app/plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 

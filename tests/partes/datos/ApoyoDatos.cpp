@@ -1,17 +1,15 @@
 #include "ApoyoDatos.h"
 
+#include "comun/AlmacenNuevo.h"
+
 #include "actualizacion/cActOnline.h"
-#include "app/Arranque.h"
 #include "app/MDIVeldo.h"
-#include "app/nucleo/CEntrada.h"
 #include "app/plataforma/General.h"
 #include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Reloj.h"
 #include "fields/Colores.h"
 #include "servicios/Conexion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
-#include "servicios/cTraspaso.h"
 
 #include <QMdiArea>
 #include <QMenu>
@@ -20,15 +18,7 @@
 
 ProgramaDePrueba::ProgramaDePrueba(bool euskera)
 {
-    GrabarSeams();
-    RelojSeam::grabar(true);
-    m_carpeta = std::make_unique<CarpetaDePrueba>();
-    cTraspaso t;
-    t.mdbmod = mdbmod;
-    t.mdbPath = mdbPath;
-    if (t.Traspaso())
-        qFatal("La base de datos de prueba no se pudo crear");
-    InicializarAplicacion();
+    m_carpeta = AlmacenNuevo();
     // The language chooser of the first run is not part of these tests.
     ActOnline().ActOnline = 0;
     OffsetIdioma = euskera ? 10000 : 0;
@@ -42,14 +32,7 @@ ProgramaDePrueba::ProgramaDePrueba(bool euskera)
 
 ProgramaDePrueba::~ProgramaDePrueba()
 {
-    delete m_ventana;
-    for (QWidget* w : QApplication::topLevelWidgets())
-        w->close();
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
-    OffsetIdioma = 0;
+    ReiniciarEstado();
     MensajeSeam::limpiar();
     m_carpeta.reset();
 }

@@ -1,11 +1,11 @@
 #include "ApoyoListas.h"
 
+#include "comun/AlmacenNuevo.h"
+
 #include "actualizacion/cActOnline.h"
-#include "app/Arranque.h"
 #include "app/MDIVeldo.h"
 #include "app/nucleo/CEntrada.h"
 #include "app/plataforma/General.h"
-#include "app/plataforma/Reloj.h"
 #include "fields/cFlexGrid.h"
 #include "partes/cConDatos.h"
 #include "partes/cConLista.h"
@@ -14,7 +14,6 @@
 #include "servicios/Conexion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
-#include "servicios/cTraspaso.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -22,22 +21,6 @@
 #include <QTest>
 
 namespace {
-
-// The state a fresh process has: no window, the shared objects new.
-void Reiniciar()
-{
-    delete VentanaMDI();
-    for (QWidget* w : QApplication::topLevelWidgets())
-        w->close();
-    Procesar();
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
-    ConLista() = cConLista();
-    PreLista() = cPreLista();
-    ConDatos() = cConDatos();
-    PreDatos() = cPreDatos();
-    OffsetIdioma = 0;
-}
 
 QPoint CentroCelda(cFlexGrid* grid, int fila, int columna)
 {
@@ -50,16 +33,7 @@ QPoint CentroCelda(cFlexGrid* grid, int fila, int columna)
 
 EntornoListas::EntornoListas(const QString& idioma)
 {
-    GrabarSeams();
-    RelojSeam::grabar(true);
-    Reiniciar();
-    m_carpeta = std::make_unique<CarpetaDePrueba>();
-    cTraspaso t;
-    t.mdbmod = mdbmod;
-    t.mdbPath = mdbPath;
-    if (t.Traspaso())
-        qFatal("La base de prueba no se pudo preparar");
-    InicializarAplicacion();
+    m_carpeta = AlmacenNuevo();
     Entrada().setIDI(idioma);
     ActOnline().ActOnline = 0;  // the language is chosen: no chooser at the first activation
     m_ventana = new MDIVeldo;
@@ -72,7 +46,7 @@ EntornoListas::EntornoListas(const QString& idioma)
 
 EntornoListas::~EntornoListas()
 {
-    Reiniciar();
+    ReiniciarEstado();
     m_carpeta.reset();
 }
 
