@@ -17,6 +17,9 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QMdiArea>
 #include <QTest>
 
@@ -98,6 +101,22 @@ bool ExistePresentador(int32_t cspr)
     svr.CargarPresentador(cspr, datos);
     return !datos.isEmpty();
 }
+
+namespace ControlesLista {
+QPushButton* Boton(QWidget* panel, const char* nombre)
+{
+    return panel->findChild<QPushButton*>(QLatin1String(nombre));
+}
+
+QLabel* Etiqueta(QWidget* panel, const char* nombre)
+{
+    return panel->findChild<QLabel*>(QLatin1String(nombre));
+}
+
+QLineEdit* Caja(QWidget* panel) { return panel->findChild<QLineEdit*>(QStringLiteral("txtBusqueda")); }
+
+QString Resultado(QWidget* panel) { return Etiqueta(panel, "lblResultado")->text(); }
+}  // namespace ControlesLista
 
 QWidget* PanelAbierto(const QString& nombre)
 {

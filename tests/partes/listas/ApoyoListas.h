@@ -12,6 +12,9 @@
 
 class MDIVeldo;
 class cFlexGrid;
+class QLabel;
+class QLineEdit;
+class QPushButton;
 
 class EntornoListas {
 public:
@@ -41,6 +44,14 @@ int32_t NuevoPresentador(const QString& dni, const QString& nombre,
 void NuevaDeclaracion(int32_t sujeto, int32_t transmitente, int32_t presentador = 0);
 bool ExisteContribuyente(int32_t csco);
 bool ExistePresentador(int32_t cspr);
+
+// A list panel's controls by objectName (null when missing), and its result line.
+namespace ControlesLista {
+QPushButton* Boton(QWidget* panel, const char* nombre);
+QLabel* Etiqueta(QWidget* panel, const char* nombre);
+QLineEdit* Caja(QWidget* panel);  // the search box over the heading
+QString Resultado(QWidget* panel);
+}
 
 // The open panel of that objectName in the main window, null when there is none.
 QWidget* PanelAbierto(const QString& nombre);

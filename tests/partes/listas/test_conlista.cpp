@@ -45,6 +45,8 @@ QString Dni(int i)
 
 }  // namespace
 
+using namespace ControlesLista;
+
 class TestConLista : public QObject {
     Q_OBJECT
 
@@ -72,10 +74,6 @@ class TestConLista : public QObject {
         return qobject_cast<FrmConLista*>(PanelAbierto(QStringLiteral("FrmConLista")));
     }
     static cFlexGrid* Grid(QWidget* p) { return p->findChild<cFlexGrid*>("flxContribuyentes"); }
-    static QPushButton* Boton(QWidget* p, const char* n) { return p->findChild<QPushButton*>(n); }
-    static QLabel* Etiqueta(QWidget* p, const char* n) { return p->findChild<QLabel*>(n); }
-    static QLineEdit* Caja(QWidget* p) { return p->findChild<QLineEdit*>("txtBusqueda"); }
-    static QString Resultado(QWidget* p) { return Etiqueta(p, "lblResultado")->text(); }
     bool MenusActivos() const
     {
         return m_entorno->ventana()->findChild<QMenu*>("mnuContribuyente")->menuAction()->isEnabled();

@@ -29,6 +29,8 @@ const QString kUrkia = QStringLiteral("URKIA IKER");
 
 }  // namespace
 
+using namespace ControlesLista;
+
 class TestPreLista : public QObject {
     Q_OBJECT
 
@@ -53,10 +55,6 @@ class TestPreLista : public QObject {
         return qobject_cast<FrmPreLista*>(PanelAbierto(QStringLiteral("FrmPreLista")));
     }
     static cFlexGrid* Grid(QWidget* p) { return p->findChild<cFlexGrid*>("flxPresentadores"); }
-    static QPushButton* Boton(QWidget* p, const char* n) { return p->findChild<QPushButton*>(n); }
-    static QLabel* Etiqueta(QWidget* p, const char* n) { return p->findChild<QLabel*>(n); }
-    static QLineEdit* Caja(QWidget* p) { return p->findChild<QLineEdit*>("txtBusqueda"); }
-    static QString Resultado(QWidget* p) { return Etiqueta(p, "lblResultado")->text(); }
     bool MenusActivos() const
     {
         return m_entorno->ventana()->findChild<QMenu*>("mnuPresentador")->menuAction()->isEnabled();
