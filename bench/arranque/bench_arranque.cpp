@@ -3,12 +3,12 @@
 // program folder. Prints the figures; the target is under 300 ms.
 #include "comun/Entorno.h"
 
-#include "actualizacion/cActOnline.h"
-#include "app/Arranque.h"
-#include "app/MDIVeldo.h"
-#include "app/nucleo/CEntrada.h"
-#include "app/plataforma/General.h"
-#include "app/plataforma/Reloj.h"
+#include "registros/actualizacion/cActOnline.h"
+#include "aplicacion/Arranque.h"
+#include "aplicacion/MDIVeldo.h"
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/General.h"
+#include "plataforma/Reloj.h"
 #include "servicios/Conexion.h"
 #include "servicios/cGeneralSvr.h"
 

@@ -1,0 +1,134 @@
+#include "paneles/partes/FrmConLista.h"
+
+#include "paneles/dialogos/Ventanas.h"
+#include "paneles/partes/FrmConDatos.h"
+#include "registros/partes/cConDatos.h"
+#include "registros/partes/cConLista.h"
+
+namespace {
+
+DisenoLista Diseno()
+{
+    DisenoLista d;
+    d.nombrePanel = QStringLiteral("FrmConLista");
+    d.nombreGrid = QStringLiteral("flxContribuyentes");
+    d.columnas = {
+        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
+        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2700, Qt::AlignLeft},
+        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
+        {{0, "Calle", "Helbidea"}, 2000, Qt::AlignLeft},
+        {{0, "Municipio", "Udalerria"}, 2000, Qt::AlignLeft},
+        {{0, "S.P.", "S.P."}, 600, Qt::AlignRight},
+        {{0, "Tr.", "Tr."}, 600, Qt::AlignRight},
+    };
+    d.columnasContadores = {5, 6};
+    d.idTituloAbrir = 72;
+    d.idTituloEliminar = 85;
+    d.tipDatos = {3};
+    d.tipEliminar = {0, "Eliminar el contribuyente seleccionado", "Deuseztatu hautatutako zergaduna"};
+    d.idTipNuevo = 79;
+    d.idDeclaraciones = 73;
+    d.resultado = {0, " contribuyente(s) seleccionado(s) ", " hautatutako zergaduna(k) "};
+    d.resultadoCriterios = {0, " contribuyente(s) seleccionado(s). ", " hautatutako zergaduna(k). "};
+    d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
+    d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
+    d.idTituloBorrado = 80;
+    d.idNoBorrar = 81;
+    d.idPregunta = 82;
+    d.idPreguntaEntre = 83;
+    d.idPreguntaFin = 84;
+    return d;
+}
+
+EstadoLista Estado()
+{
+    cConLista& l = ConLista();
+    return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSCO, l.NUMCONTRISEL,
+            l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMSP, &l.NUMTR}};
+}
+
+FrmConLista::AbridorDeclaraciones& abridorDeclaraciones()
+{
+    static FrmConLista::AbridorDeclaraciones abridor;
+    return abridor;
+}
+
+}  // namespace
+
+FrmConLista* FrmConLista::Abrir()
+{
+    auto* panel = new FrmConLista;
+    AbrirPanel(panel);
+    panel->Iniciar();
+    return panel;
+}
+
+FrmConLista::FrmConLista(QWidget* parent) : PanelLista(Diseno(), Estado(), parent) {}
+
+void FrmConLista::IniciarEstado()
+{
+    ConLista().IniciarLista();
+}
+
+int32_t FrmConLista::CargarDatos(Arreglo2D& datos)
+{
+    return ConLista().CargarContribuyentes(datos);
+}
+
+void FrmConLista::AnotarBusqueda(const QString& texto)
+{
+    ConLista().AnotarBusqueda(texto);
+}
+
+void FrmConLista::CambiarBusqueda()
+{
+    ConLista().CambiarBusqueda();
+}
+
+void FrmConLista::TodosEstado()
+{
+    ConLista().Todos();
+}
+
+bool FrmConLista::OrdenarPor(int columna)
+{
+    return ConLista().OrdenarPor(columna);
+}
+
+bool FrmConLista::ElegirColumnaBusqueda(int columna)
+{
+    return ConLista().ElegirColumnaBusqueda(columna);
+}
+
+void FrmConLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
+{
+    ConLista().Seleccionar(codigo, contadores.value(0), contadores.value(1));
+}
+
+void FrmConLista::Borrar(int32_t codigo)
+{
+    ConDatos().CSCO = codigo;
+    ConDatos().BorrarContribuyente();
+}
+
+void FrmConLista::AbrirDatos(const QString& modo)
+{
+    ConDatos().setMODO(modo);
+    ConDatos().LISTA = QStringLiteral("S");
+    ConDatos().CSCO = modo == QLatin1String("A") ? 0 : ConLista().CSCO;
+    Cerrar();
+    FrmConDatos::Abrir();
+}
+
+void FrmConLista::InstalarDeclaraciones(AbridorDeclaraciones abrir)
+{
+    abridorDeclaraciones() = std::move(abrir);
+}
+
+void FrmConLista::AbrirDeclaraciones(const QString& nombre, const QString& dni)
+{
+    if (!abridorDeclaraciones())
+        return;
+    Cerrar();
+    abridorDeclaraciones()(nombre, dni);
+}

@@ -1,0 +1,134 @@
+#include "paneles/partes/FrmPreLista.h"
+
+#include "paneles/dialogos/Ventanas.h"
+#include "paneles/partes/FrmPreDatos.h"
+#include "registros/partes/cPreDatos.h"
+#include "registros/partes/cPreLista.h"
+
+namespace {
+
+DisenoLista Diseno()
+{
+    DisenoLista d;
+    d.nombrePanel = QStringLiteral("FrmPreLista");
+    d.nombreGrid = QStringLiteral("flxPresentadores");
+    d.columnas = {
+        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
+        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2800, Qt::AlignLeft},
+        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
+        {{0, "Calle", "Helbidea"}, 2165, Qt::AlignLeft},
+        {{0, "Municipio", "Udalerria"}, 2200, Qt::AlignLeft},
+        {{0, "Nº Decla", "Aitor.Zk."}, 750, Qt::AlignRight},
+    };
+    d.columnasContadores = {5};
+    d.idTituloAbrir = 204;
+    d.idTituloEliminar = 211;
+    d.tipDatos = {0, "Datos del presentador", "Aurkezlearen datuak"};
+    d.tipEliminar = {0, "Eliminar el presentador seleccionado", "Deuseztatu hautatutako aurkezlea"};
+    d.idTipNuevo = 205;
+    d.idDeclaraciones = 206;
+    // The Basque result line has no point after the criteria, unlike the contributors' one.
+    d.resultado = {0, " presentador(es) seleccionado(s) ", " hautatutako aurkezlea(k) "};
+    d.resultadoCriterios = {0, " presentador(es) seleccionado(s). ", " hautatutako aurkezlea(k) "};
+    d.criterioNombre = {0, "Nombre empieza por", "Izzenaren hasierako letra"};
+    d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
+    d.idTituloBorrado = 207;
+    d.idNoBorrar = 208;
+    d.idPregunta = 209;
+    d.idPreguntaEntre = 210;
+    d.idPreguntaFin = 179;
+    return d;
+}
+
+EstadoLista Estado()
+{
+    cPreLista& l = PreLista();
+    return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSPR, l.NUMPRESENSEL,
+            l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMDECLARACIONES}};
+}
+
+FrmPreLista::AbridorDeclaraciones& abridorDeclaraciones()
+{
+    static FrmPreLista::AbridorDeclaraciones abridor;
+    return abridor;
+}
+
+}  // namespace
+
+FrmPreLista* FrmPreLista::Abrir()
+{
+    auto* panel = new FrmPreLista;
+    AbrirPanel(panel);
+    panel->Iniciar();
+    return panel;
+}
+
+FrmPreLista::FrmPreLista(QWidget* parent) : PanelLista(Diseno(), Estado(), parent) {}
+
+void FrmPreLista::IniciarEstado()
+{
+    PreLista().IniciarLista();
+}
+
+int32_t FrmPreLista::CargarDatos(Arreglo2D& datos)
+{
+    return PreLista().CargarPresentadores(datos);
+}
+
+void FrmPreLista::AnotarBusqueda(const QString& texto)
+{
+    PreLista().AnotarBusqueda(texto);
+}
+
+void FrmPreLista::CambiarBusqueda()
+{
+    PreLista().CambiarBusqueda();
+}
+
+void FrmPreLista::TodosEstado()
+{
+    PreLista().Todos();
+}
+
+bool FrmPreLista::OrdenarPor(int columna)
+{
+    return PreLista().OrdenarPor(columna);
+}
+
+bool FrmPreLista::ElegirColumnaBusqueda(int columna)
+{
+    return PreLista().ElegirColumnaBusqueda(columna);
+}
+
+void FrmPreLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
+{
+    PreLista().Seleccionar(codigo, contadores.value(0));
+}
+
+void FrmPreLista::Borrar(int32_t codigo)
+{
+    PreDatos().CSPR = codigo;
+    PreDatos().BorrarPresentador();
+}
+
+void FrmPreLista::AbrirDatos(const QString& modo)
+{
+    PreDatos().setMODO(modo);
+    PreDatos().LISTA = QStringLiteral("S");
+    PreDatos().CSPR = modo == QLatin1String("A") ? 0 : PreLista().CSPR;
+    Cerrar();
+    FrmPreDatos::Abrir();
+}
+
+void FrmPreLista::InstalarDeclaraciones(AbridorDeclaraciones abrir)
+{
+    abridorDeclaraciones() = std::move(abrir);
+}
+
+void FrmPreLista::AbrirDeclaraciones(const QString& nombre, const QString& dni)
+{
+    if (!abridorDeclaraciones())
+        return;
+    Cerrar();
+    abridorDeclaraciones()(nombre, dni);
+}

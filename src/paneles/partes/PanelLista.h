@@ -1,0 +1,184 @@
+#pragma once
+// The list panels of the parties. The contributors' list (FrmConLista) and the presenters'
+// (FrmPreLista) are one design: a grid of the parties found by the store, a prefix search
+// typed in a box laid over a column heading, ordering by name or number with a click on the
+// heading, and the doorway to a party's data, a new party, its declarations, or, in the
+// delete mode, its deletion. What differs (state object, columns, texts, store, the panels
+// handed over to) is given by each panel; the behaviour lives here once.
+//
+// The state object of each list outlives the panel, so that a list that comes back after a
+// side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
+// to the store; the panel keeps nothing of its own between openings.
+#include "valores/cCriterio.h"
+#include "paneles/controles/cUtilidadesGrid.h"
+#include "servicios/Arreglos.h"
+
+#include <QLineEdit>  // held by the grid utilities through a QPointer
+#include <QList>
+#include <QString>
+#include <QWidget>
+#include <cstdint>
+#include <optional>
+
+class QLabel;
+class QPushButton;
+class cFlexGrid;
+
+// A text of the panels: a catalogue id, or, when the catalogue has none, a pair of literals
+// (UTF-8) chosen by the language.
+struct RotuloLista {
+    int id = 0;
+    const char* es = nullptr;
+    const char* eu = nullptr;
+    QString texto() const;
+};
+
+struct ColumnaLista {
+    RotuloLista cabecera;
+    int anchoTwips = 0;          // 0 hides the column
+    Qt::Alignment alineacion = Qt::AlignLeft;
+};
+
+// What one list panel shows and says.
+struct DisenoLista {
+    QString nombrePanel;                   // objectName of the panel
+    QString nombreGrid;                    // objectName of the grid
+    QList<ColumnaLista> columnas;          // column 0 holds the party's code
+    QList<int> columnasContadores;         // columns of the declaration counters
+    int idTituloAbrir = 0;
+    int idTituloEliminar = 0;
+    RotuloLista tipDatos;                  // tip of cmdAceptar in the open mode
+    RotuloLista tipEliminar;               // and in the delete mode
+    int idTipNuevo = 0;
+    int idDeclaraciones = 0;               // caption of CmdDeclaraciones
+    RotuloLista resultado;                 // after the count, without criteria
+    RotuloLista resultadoCriterios;        // after the count, with criteria
+    RotuloLista criterioNombre;            // "... empieza por"
+    RotuloLista criterioDni;
+    int idTituloBorrado = 0;               // title of the delete messages
+    int idNoBorrar = 0;                    // refusal: the party is in declarations
+    int idPregunta = 0;                    // question: before the number,
+    int idPreguntaEntre = 0;               //   between number and name,
+    int idPreguntaFin = 0;                 //   after the name
+};
+
+// The fields of a list's state object that the panel reads, by reference (the state objects
+// live for the whole run). The state changes only through the state object's own operations,
+// which each panel calls.
+struct EstadoLista {
+    const std::optional<TablaCriterios>& TABLASELECCION;  // absent: no criteria
+    const QString& SELECCIONACTUAL;  // in the search state, the column under edit; "0" none
+    const int32_t& codigo;           // CSCO / CSPR: the selected party, 0 none
+    const int32_t& seleccionados;    // NUMCONTRISEL / NUMPRESENSEL
+    const QString& BUSQUEDA;         // "N" result state, "B" search state
+    const QString& MODO;             // "C" open mode, "E" delete mode
+    const uint8_t& ORDEN;            // 1 name, 2 number
+    QList<const int32_t*> contadores;  // NUMSP, NUMTR / NUMDECLARACIONES: the counter columns
+};
+
+class PanelLista : public QWidget {
+    Q_OBJECT
+public:
+    ~PanelLista() override;
+
+    // Fills the grid from the store (result state) or lays out the search (search state),
+    // selects the party of the state object and writes the help and result lines.
+    void PresentaDatos();
+    // Captions and tips of the opening, in the current language.
+    void Anadir_captions();
+
+    // The row highlight and the grid's place for a page of rows.
+    static constexpr QRgb kColorResaltado = 0x80C0FF;
+    static constexpr int kFilasPorPagina = 15;
+
+protected:
+    PanelLista(DisenoLista diseno, EstadoLista estado, QWidget* parent);
+
+    // The opening, once the panel is on the screen: main window's commands off, the state
+    // set by ENTRADA, the first load.
+    void Iniciar();
+    // Asks the store for the rows of the criteria in force, in ORDEN.
+    void CargarFlx();
+    // Closes the panel (and its frame in the main window).
+    void Cerrar();
+
+    // What differs by party: the state object's moves,
+    virtual void IniciarEstado() = 0;                      // by ENTRADA
+    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;     // the store's rows; the count
+    virtual void AnotarBusqueda(const QString& texto) = 0; // the search box was left
+    virtual void CambiarBusqueda() = 0;                    // cmdBuscar
+    virtual void TodosEstado() = 0;                        // cmdTodos
+    virtual bool OrdenarPor(int columna) = 0;              // a click on a heading
+    virtual bool ElegirColumnaBusqueda(int columna) = 0;   // a click in the search state
+    virtual void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) = 0;
+    // the deletion of a party in the store,
+    virtual void Borrar(int32_t codigo) = 0;
+    // Sets the data object for a new party ("A") or the selected one ("C"), closes this
+    // panel and opens the data panel.
+    virtual void AbrirDatos(const QString& modo) = 0;
+    // Hands the selected party's name and number to the declarations' panel and opens it.
+    virtual void AbrirDeclaraciones(const QString& nombre, const QString& dni) = 0;
+
+    void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    void ConstruirControles();
+    void ConstruirIconos();
+    void Conectar();
+    void Situar();
+    void DefinirColumnas();
+    void IniciarLista();
+    void LimpiarGrid();
+    void RellenarGrid(const Arreglo2D& datos);
+    QString TextoCriterio(int i) const;
+    QString TextoCriterios() const;
+    void SituarFlecha();
+    void PresentaBotones();
+    void PresentaResultado();
+    void PresentaBusqueda();
+
+    bool HayCriterios() const;
+    void LeerFila();
+    void MarcarFila();
+    void PonerTitulo(const QString& titulo);
+
+    // Handlers.
+    void Pulsado(int fila, int columna);
+    void Clic(int fila, int columna);
+    void DobleClic(int fila, int columna);
+    void Tecla(int tecla);
+    void FilaCambiada();
+    void BusquedaAbandonada();
+    void Aceptar();
+    void Buscar();
+    void Todos();
+    void Nuevo();
+    void Declaraciones();
+
+    DisenoLista m_diseno;
+    EstadoLista m_estado;
+    cUtilidadesGrid Utilidades;
+    bool ClicEnCabecera = false;
+    bool CambioFilaActivo = false;
+    bool m_cerrando = false;   // closing: a field left on the way out does nothing
+    bool m_cerrado = false;
+
+    cFlexGrid* m_grid = nullptr;
+    QLineEdit* txtBusqueda = nullptr;
+    QLabel* picasc = nullptr;
+    QLabel* lblayuda = nullptr;
+    QLabel* lblResultado = nullptr;
+    QPushButton* cmdBuscar = nullptr;
+    QPushButton* cmdTodos = nullptr;
+    QPushButton* cmdAceptar = nullptr;
+    QPushButton* cmdCancelar = nullptr;
+    QPushButton* cmdNuevo = nullptr;
+    QPushButton* CmdDeclaraciones = nullptr;
+    QLabel* PicDatos = nullptr;
+    QLabel* PicEliminar = nullptr;
+    QLabel* PicAtras = nullptr;
+    QLabel* PicCancelar = nullptr;
+    QLabel* PicNuevo = nullptr;
+    QLabel* PicDeclaraciones = nullptr;
+};
