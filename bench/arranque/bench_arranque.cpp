@@ -12,6 +12,8 @@
 #include "servicios/Conexion.h"
 #include "servicios/cGeneralSvr.h"
 
+#include "plataforma/Estado.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -24,8 +26,7 @@ double medirArranque()
     // A new process opens its databases anew.
     Conexion::Cerrar(mdbmod);
     Conexion::Cerrar(mdblec);
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
+    Estado().Reiniciar();
     QElapsedTimer reloj;
     reloj.start();
     Main();

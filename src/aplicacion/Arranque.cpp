@@ -9,6 +9,7 @@
 #include "plataforma/General.h"
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
+#include "servicios/Almacen.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
@@ -44,9 +45,7 @@ bool Traspaso()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     bool parar = false;
     try {
-        cTraspaso traspaso;
-        traspaso.mdbmod = mdbmod;
-        traspaso.mdbPath = mdbPath;
+        auto traspaso = Almacen<cTraspaso>();
         parar = traspaso.Traspaso();
     } catch (const cFallo& f) {
         // The hourglass stays: the failure ends the program.

@@ -1,5 +1,7 @@
 #include "valores/cFecha.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/Fallo.h"
 #include "catalogo/Catalogo.h"
 #include "valores/Val.h"
@@ -155,6 +157,5 @@ QString cFecha::LongToString(int32_t numero, std::optional<QString> marcador)
 
 cFecha& Fecha()
 {
-    static cFecha fecha;
-    return fecha;
+    return Estado().de<cFecha>();
 }

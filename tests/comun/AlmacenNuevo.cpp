@@ -1,15 +1,10 @@
 #include "comun/AlmacenNuevo.h"
 
-#include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/Arranque.h"
 #include "aplicacion/MDIVeldo.h"
-#include "registros/nucleo/CEntrada.h"
+#include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "plataforma/Reloj.h"
-#include "registros/partes/cConDatos.h"
-#include "registros/partes/cConLista.h"
-#include "registros/partes/cPreDatos.h"
-#include "registros/partes/cPreLista.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
@@ -21,15 +16,7 @@ void ReiniciarEstado()
         w->close();
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
-    ConLista() = cConLista();
-    PreLista() = cPreLista();
-    ConDatos() = cConDatos();
-    PreDatos() = cPreDatos();
-    OffsetIdioma = 0;
-    VersionPrograma.clear();
-    VersionProducto.clear();
+    Estado().Reiniciar();
 }
 
 std::unique_ptr<CarpetaDePrueba> AlmacenNuevo()

@@ -5,6 +5,7 @@
 #include "valores/Filtros.h"
 #include "valores/Val.h"
 #include "paneles/controles/cListaClaves.h"
+#include "servicios/Almacen.h"
 #include "servicios/cDatosGeneral.h"
 
 #include <QHeaderView>
@@ -21,9 +22,7 @@ constexpr int kAltoLista = 190;
 
 cDatosGeneral Referencia()
 {
-    cDatosGeneral dg;
-    dg.mdblec = mdblec;
-    return dg;
+    return Almacen<cDatosGeneral>();
 }
 
 void Rellenar(cListaClaves* lista, TipoSelector tipo, const Arreglo2D& filas)

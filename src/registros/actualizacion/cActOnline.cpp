@@ -1,32 +1,31 @@
 #include "registros/actualizacion/cActOnline.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
+#include "servicios/Almacen.h"
 #include "servicios/cDatosGeneral.h"
 #include "servicios/cGeneralSvr.h"
 
 void cActOnline::ObtenerURLAct()
 {
-    cDatosGeneral datos;
-    datos.mdblec = mdblec;
+    auto datos = Almacen<cDatosGeneral>();
     URLAct = datos.URLAct();
 }
 
 void cActOnline::GuardarActOnline()
 {
-    cGeneralSvr general;
-    general.mdbmod = mdbmod;
+    auto general = Almacen<cGeneralSvr>();
     general.GuardarActOnline(ActOnline);
 }
 
 void cActOnline::LeerActOnline()
 {
-    cGeneralSvr general;
-    general.mdbmod = mdbmod;
+    auto general = Almacen<cGeneralSvr>();
     ActOnline = general.ObtenerActOnline();
 }
 
 cActOnline& ActOnline()
 {
-    static cActOnline actOnline;
-    return actOnline;
+    return Estado().de<cActOnline>();
 }

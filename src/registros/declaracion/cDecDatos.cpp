@@ -1,24 +1,16 @@
 #include "registros/declaracion/cDecDatos.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "registros/declaracion/cOperacion.h"
 #include "valores/Formato.h"
 #include "valores/Val.h"
+#include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 
 namespace {
-
-// A server object with the paths of the application, for one call.
-cDeclaSvr servidor(bool modificable, bool lectura)
-{
-    cDeclaSvr svr;
-    if (modificable)
-        svr.mdbmod = mdbmod;
-    if (lectura)
-        svr.mdblec = mdblec;
-    return svr;
-}
 
 QString texto(const Arreglo& a, int i) { return a.value(i).toString(); }
 int32_t entero(const Arreglo& a, int i) { return a.value(i).toInt(); }
@@ -245,41 +237,41 @@ void cDecDatos::DatosCargados(const Arreglo& d)
 void cDecDatos::ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha,
                                         int16_t& resultado) const
 {
-    const cDeclaSvr svr = servidor(false, true);
+    const cDeclaSvr svr = Almacen<cDeclaSvr>();
     const QString impresion = svr.ObtenImpresion(fecha, datos.value(6).toString());
     resultado = svr.ValidarDatosDeclaraciones(datos, impresion, fecha);
 }
 
 void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado) const
 {
-    resultado = servidor(true, false).GuardarDeclaracion(datos);
+    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos);
 }
 
 void cDecDatos::CargarDeclaracion()
 {
     Arreglo datos;
-    servidor(true, false).CargarDeclaracion(CSDE, datos);
+    Almacen<cDeclaSvr>().CargarDeclaracion(CSDE, datos);
     DatosCargados(datos);
 }
 
 void cDecDatos::BorrarDeclaracion() const
 {
-    servidor(true, false).BorrarDeclaracion(CSDE);
+    Almacen<cDeclaSvr>().BorrarDeclaracion(CSDE);
 }
 
 void cDecDatos::ObtenerUltimasDeclaraciones(Arreglo2D& lista) const
 {
-    servidor(true, false).ObtenerUltimasDeclaraciones(lista);
+    Almacen<cDeclaSvr>().ObtenerUltimasDeclaraciones(lista);
 }
 
 void cDecDatos::ExisteContribuyente(const QString& dni, Arreglo& datos, bool& resultado) const
 {
-    resultado = servidor(true, false).ExisteContribuyente(dni, datos);
+    resultado = Almacen<cDeclaSvr>().ExisteContribuyente(dni, datos);
 }
 
 void cDecDatos::CargarContribuyente()
 {
-    const cDeclaSvr svr = servidor(true, false);
+    const cDeclaSvr svr = Almacen<cDeclaSvr>();
     Arreglo datos;
     if (ENTRADA == QLatin1String("S")) {
         svr.CargarContribuyente(CSSU, datos);
@@ -292,15 +284,14 @@ void cDecDatos::CargarContribuyente()
 
 void cDecDatos::ValidarDniOficial(const QString& dni, bool& resultado) const
 {
-    cContribSvr svr;
-    svr.mdbmod = mdbmod;
+    auto svr = Almacen<cContribSvr>();
     resultado = svr.ValidarDniOficial(dni);
 }
 
 QStringList cDecDatos::CargarListaOperaciones() const
 {
     Arreglo lista;
-    servidor(true, true).ObtenerOperaciones(FECHAD, lista, OffsetIdioma);
+    Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, lista, OffsetIdioma);
     QStringList descripciones;
     for (const QVariant& v : lista)
         descripciones << v.toString();
@@ -310,7 +301,7 @@ QStringList cDecDatos::CargarListaOperaciones() const
 void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 {
     Arreglo datos;
-    if (servidor(true, true).ObtenerDatosOperacion(OPERACION, FECHAD, datos, OffsetIdioma))
+    if (Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD, datos, OffsetIdioma))
         Operacion().ActualizaOperacion(datos, sinReduccion);
     else
         Operacion().Inicializa();
@@ -318,8 +309,7 @@ void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 
 cDecDatos& DecDatos()
 {
-    static cDecDatos instancia;
-    return instancia;
+    return Estado().de<cDecDatos>();
 }
 
 int32_t GuardarDatosDeclaracion()

@@ -1,5 +1,7 @@
 #include "registros/declaracion/cOperacion.h"
 
+#include "plataforma/Estado.h"
+
 #include "valores/Redondeo.h"
 
 #include <bit>
@@ -44,6 +46,5 @@ void cOperacion::ActualizaOperacion(const Arreglo& datos, bool sinReduccion)
 
 cOperacion& Operacion()
 {
-    static cOperacion instancia;
-    return instancia;
+    return Estado().de<cOperacion>();
 }

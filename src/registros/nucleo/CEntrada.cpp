@@ -1,14 +1,16 @@
 #include "registros/nucleo/CEntrada.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "valores/cFecha.h"
+#include "servicios/Almacen.h"
 #include "servicios/cDatosGeneral.h"
 #include "servicios/cGeneralSvr.h"
 
 void CEntrada::InicializarContadores()
 {
-    cDatosGeneral datos;
-    datos.mdbmod = mdbmod;
+    auto datos = Almacen<cDatosGeneral>();
     NUMDECLA = datos.NumeroDeclaraciones();
     NUMCONTRI = datos.NumeroContribuyentes();
     NUMPRESEN = datos.NumeroPresentadores();
@@ -16,22 +18,19 @@ void CEntrada::InicializarContadores()
 
 void CEntrada::ModificarIdioma(const QString& idi)
 {
-    cGeneralSvr general;
-    general.mdbmod = mdbmod;
+    auto general = Almacen<cGeneralSvr>();
     general.CambiarIdioma(idi);
 }
 
 void CEntrada::LeerIdioma()
 {
-    cGeneralSvr general;
-    general.mdbmod = mdbmod;
+    auto general = Almacen<cGeneralSvr>();
     m_idi = general.ObtenerIdioma();
 }
 
 void CEntrada::LeerFechaMinimaMaxima()
 {
-    cDatosGeneral datos;
-    datos.mdblec = mdblec;
+    auto datos = Almacen<cDatosGeneral>();
     Arreglo fechas;
     datos.DameFechaMinimaMaxima(fechas);
     FECMIN = fechas.value(0).toInt();
@@ -48,6 +47,5 @@ void CEntrada::setIDI(const QString& idi)
 
 CEntrada& Entrada()
 {
-    static CEntrada entrada;
-    return entrada;
+    return Estado().de<CEntrada>();
 }

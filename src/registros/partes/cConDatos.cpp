@@ -1,21 +1,15 @@
 #include "registros/partes/cConDatos.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "valores/Formato.h"
+#include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 
 #include <array>
 
 namespace {
-
-cContribSvr servidor(bool lectura = false)
-{
-    cContribSvr svr;
-    svr.mdbmod = mdbmod;
-    if (lectura)
-        svr.mdblec = mdblec;
-    return svr;
-}
 
 // Catalogue ids of the verdicts 1 to 14 of the validation, and of the import's codes 1 to 30.
 constexpr std::array<int, 15> kIdsValidacion = {0, 330, 29, 30, 31, 32, 33, 34, 35,
@@ -55,13 +49,13 @@ void cConDatos::setMODO(const QString& modo)
 
 void cConDatos::BorrarContribuyente() const
 {
-    servidor().BorrarContribuyente(CSCO);
+    Almacen<cContribSvr>().BorrarContribuyente(CSCO);
 }
 
 void cConDatos::CargarContribuyente(int32_t codigo)
 {
     Arreglo d;
-    servidor().CargarContribuyente(codigo, d);
+    Almacen<cContribSvr>().CargarContribuyente(codigo, d);
     if (d.size() < 20)
         return;
     TIPODNI = d[1].toString();
@@ -87,7 +81,7 @@ void cConDatos::CargarContribuyente(int32_t codigo)
 
 void cConDatos::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
 {
-    servidor(true).ValidarDatosImportar(datos, errores);
+    Almacen<cContribSvr>().ValidarDatosImportar(datos, errores);
 }
 
 int16_t cConDatos::ValidarDatosContribuyente(const Arreglo& datos) const
@@ -98,12 +92,12 @@ int16_t cConDatos::ValidarDatosContribuyente(const Arreglo& datos) const
 
 int32_t cConDatos::ObtenerCodigoContribuyente(const QString& dni) const
 {
-    return servidor().ObtenerCodigoContribuyente(dni);
+    return Almacen<cContribSvr>().ObtenerCodigoContribuyente(dni);
 }
 
 int16_t cConDatos::GuardarContribuyente(const Arreglo& datos) const
 {
-    return servidor().GuardarContribuyente(datos);
+    return Almacen<cContribSvr>().GuardarContribuyente(datos);
 }
 
 Arreglo cConDatos::ArregloValidacion() const
@@ -140,6 +134,5 @@ int cConDatos::IdMensajeImportar(int codigo)
 
 cConDatos& ConDatos()
 {
-    static cConDatos instancia;
-    return instancia;
+    return Estado().de<cConDatos>();
 }

@@ -1,7 +1,10 @@
 #include "registros/partes/cConLista.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "registros/partes/CriteriosLista.h"
+#include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 
 void cConLista::IniciarLista()
@@ -36,9 +39,7 @@ Arreglo cConLista::CriteriosBusqueda() const
 
 int32_t cConLista::CargarContribuyentes(Arreglo2D& datos)
 {
-    cContribSvr svr;
-    svr.mdbmod = mdbmod;
-    svr.mdblec = mdblec;
+    auto svr = Almacen<cContribSvr>();
     NUMCONTRISEL = svr.dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
     return NUMCONTRISEL;
 }
@@ -111,6 +112,5 @@ void cConLista::Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr)
 
 cConLista& ConLista()
 {
-    static cConLista instancia;
-    return instancia;
+    return Estado().de<cConLista>();
 }

@@ -1,8 +1,11 @@
 #include "registros/partes/cPreDatos.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "valores/Formato.h"
 #include "valores/Val.h"
+#include "servicios/Almacen.h"
 #include "servicios/cPresenSvr.h"
 
 #include <array>
@@ -11,9 +14,7 @@ namespace {
 
 cPresenSvr servidor()
 {
-    cPresenSvr svr;
-    svr.mdbmod = mdbmod;
-    return svr;
+    return Almacen<cPresenSvr>();
 }
 
 constexpr std::array<int, 12> kIdsValidacion = {0, 330, 30, 31, 40, 38, 36, 33, 35, 198, 199, 329};
@@ -122,6 +123,5 @@ int cPreDatos::IdMensajeGuardar(int16_t veredicto)
 
 cPreDatos& PreDatos()
 {
-    static cPreDatos instancia;
-    return instancia;
+    return Estado().de<cPreDatos>();
 }

@@ -1,7 +1,10 @@
 #include "registros/partes/cPreLista.h"
 
+#include "plataforma/Estado.h"
+
 #include "plataforma/General.h"
 #include "registros/partes/CriteriosLista.h"
+#include "servicios/Almacen.h"
 #include "servicios/cPresenSvr.h"
 
 void cPreLista::IniciarLista()
@@ -33,9 +36,7 @@ Arreglo cPreLista::CriteriosBusqueda() const
 
 int32_t cPreLista::CargarPresentadores(Arreglo2D& datos)
 {
-    cPresenSvr svr;
-    svr.mdbmod = mdbmod;
-    svr.mdblec = mdblec;
+    auto svr = Almacen<cPresenSvr>();
     NUMPRESENSEL = svr.dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
     return NUMPRESENSEL;
 }
@@ -104,6 +105,5 @@ void cPreLista::Seleccionar(int32_t codigo, int32_t numDeclaraciones)
 
 cPreLista& PreLista()
 {
-    static cPreLista instancia;
-    return instancia;
+    return Estado().de<cPreLista>();
 }
