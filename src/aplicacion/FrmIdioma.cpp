@@ -58,7 +58,8 @@ FrmIdioma::FrmIdioma(QWidget* parent) : QDialog(parent)
 
     // When it opens: captions, commands off, the update box from the setting.
     Anadir_captions();
-    DeshabilitarMenus();
+    if (MDIVeldo* ventana = VentanaMDI())
+        ventana->DeshabilitarMenus();
     const int ajuste = ActOnline().ActOnline;
     chkActOnline->setChecked(ajuste == -1 || ajuste > 0);
 }

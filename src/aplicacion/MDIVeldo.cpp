@@ -5,6 +5,7 @@
 #include "aplicacion/frmAbout.h"
 #include "aplicacion/frmPreferencias.h"
 #include "aplicacion/Ayuda.h"
+#include "aplicacion/Navegacion.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
@@ -12,14 +13,6 @@
 #include "paneles/dialogos/Ventanas.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
-#include "paneles/partes/FrmConDatos.h"
-#include "paneles/partes/FrmConLista.h"
-#include "paneles/partes/FrmPreDatos.h"
-#include "paneles/partes/FrmPreLista.h"
-#include "registros/partes/cConDatos.h"
-#include "registros/partes/cConLista.h"
-#include "registros/partes/cPreDatos.h"
-#include "registros/partes/cPreLista.h"
 #include "servicios/cMiscelaneos.h"
 #include "servicios/cSaveAsRestore.h"
 
@@ -83,8 +76,7 @@ MDIVeldo::MDIVeldo(QWidget* parent) : QMainWindow(parent)
     conectarComandos();
     resize(1024, 720);
     EstablecerVentanaMDI(this);
-    Ventanas::instalar({[this] { ActualizarMenus(); }, [this] { DeshabilitarMenus(); },
-                        [this](QWidget* panel) { AbrirPanel(panel); }, [this] { return this; }});
+    Ventanas::instalar({[this](QWidget* panel) { AbrirPanel(panel); }, [this] { return this; }});
     // When loaded: captions, and the first activation still to come.
     Anadir_captions();
     primeraVez = true;
@@ -194,34 +186,12 @@ void MDIVeldo::conectarComandos()
     for (QAction* d : m_recientes)
         al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
     al("mnuSalir", [] { Proceso::Terminar(0); });
-    al("mnuNuevoContribuyente", [] {
-        ConDatos().setMODO(QStringLiteral("A"));
-        ConDatos().LISTA.clear();
-        ConDatos().CSCO = 0;
-        FrmConDatos::Abrir();
-    });
-    al("mnuAbrirContribuyente", [] {
-        ConLista().ENTRADA = QStringLiteral("A");
-        FrmConLista::Abrir();
-    });
-    al("mnuEliminarContribuyente", [] {
-        ConLista().ENTRADA = QStringLiteral("E");
-        FrmConLista::Abrir();
-    });
-    al("mnuNuevoPresentador", [] {
-        PreDatos().setMODO(QStringLiteral("A"));
-        PreDatos().LISTA.clear();
-        PreDatos().CSPR = 0;
-        FrmPreDatos::Abrir();
-    });
-    al("mnuAbrirPresentador", [] {
-        PreLista().ENTRADA = QStringLiteral("A");
-        FrmPreLista::Abrir();
-    });
-    al("mnuEliminarPresentador", [] {
-        PreLista().ENTRADA = QStringLiteral("E");
-        FrmPreLista::Abrir();
-    });
+    al("mnuNuevoContribuyente", [] { Navegacion::NuevoContribuyente(); });
+    al("mnuAbrirContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("A")); });
+    al("mnuEliminarContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("E")); });
+    al("mnuNuevoPresentador", [] { Navegacion::NuevoPresentador(); });
+    al("mnuAbrirPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("A")); });
+    al("mnuEliminarPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("E")); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });
     al("mnuRestore", [this] { restaurarCopia(); });
     al("mnuPreferencias", [this] { preferencias(); });

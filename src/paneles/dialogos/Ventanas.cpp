@@ -8,18 +8,6 @@ Ventanas::Ganchos g_ganchos;
 
 void Ventanas::instalar(Ganchos ganchos) { g_ganchos = std::move(ganchos); }
 
-void ActualizarMenus()
-{
-    if (g_ganchos.actualizarMenus)
-        g_ganchos.actualizarMenus();
-}
-
-void DeshabilitarMenus()
-{
-    if (g_ganchos.deshabilitarMenus)
-        g_ganchos.deshabilitarMenus();
-}
-
 void AbrirPanel(QWidget* panel)
 {
     if (g_ganchos.abrirPanel)

@@ -246,10 +246,3 @@ void FrmConDatos::AnotarEnLista()
         ConLista().CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
 }
 
-void FrmConDatos::VolverALista()
-{
-    if (ConDatos().LISTA == QLatin1String("S")) {
-        ConLista().ENTRADA = QStringLiteral("P");
-        FrmConLista::Abrir();
-    }
-}

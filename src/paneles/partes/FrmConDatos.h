@@ -39,7 +39,6 @@ private:
     void ActivarSelectores();
     int16_t Guardar() override { return GuardarContribuyente(); }
     void AnotarEnLista() override;
-    void VolverALista() override;
 
     // Clicks on the check boxes.
     void ClicTipoDni(bool marcado);

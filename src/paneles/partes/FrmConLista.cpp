@@ -1,7 +1,6 @@
 #include "paneles/partes/FrmConLista.h"
 
 #include "paneles/dialogos/Ventanas.h"
-#include "paneles/partes/FrmConDatos.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConLista.h"
 
@@ -45,12 +44,6 @@ EstadoLista Estado()
     cConLista& l = ConLista();
     return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSCO, l.NUMCONTRISEL,
             l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMSP, &l.NUMTR}};
-}
-
-FrmConLista::AbridorDeclaraciones& abridorDeclaraciones()
-{
-    static FrmConLista::AbridorDeclaraciones abridor;
-    return abridor;
 }
 
 }  // namespace
@@ -109,26 +102,4 @@ void FrmConLista::Borrar(int32_t codigo)
 {
     ConDatos().CSCO = codigo;
     ConDatos().BorrarContribuyente();
-}
-
-void FrmConLista::AbrirDatos(const QString& modo)
-{
-    ConDatos().setMODO(modo);
-    ConDatos().LISTA = QStringLiteral("S");
-    ConDatos().CSCO = modo == QLatin1String("A") ? 0 : ConLista().CSCO;
-    Cerrar();
-    FrmConDatos::Abrir();
-}
-
-void FrmConLista::InstalarDeclaraciones(AbridorDeclaraciones abrir)
-{
-    abridorDeclaraciones() = std::move(abrir);
-}
-
-void FrmConLista::AbrirDeclaraciones(const QString& nombre, const QString& dni)
-{
-    if (!abridorDeclaraciones())
-        return;
-    Cerrar();
-    abridorDeclaraciones()(nombre, dni);
 }

@@ -1,28 +1,20 @@
 #pragma once
 // The list of contributors: the doorway from the main menu to a contributor (open its data,
 // make a new one, see its declarations) or, in the delete mode, to its deletion. Its state
-// lives in ConLista(), which the main window sets (ENTRADA "A" open, "E" delete) before
-// calling Abrir(), and which the contributor panel sets to "P" when it hands back.
+// lives in ConLista(), whose ENTRADA the navigator sets before opening it ("A" open, "E" delete,
+// "P" back from a contributor's data). The panel asks for the next panel through its signals.
 #include "paneles/partes/PanelLista.h"
-
-#include <functional>
 
 class FrmConLista final : public PanelLista {
     Q_OBJECT
 public:
-    // Builds the panel for ConLista() as its ENTRADA stands, and shows it.
+    // Builds the panel for ConLista() as its ENTRADA stands and shows it; the navigator calls it.
     static FrmConLista* Abrir();
 
     explicit FrmConLista(QWidget* parent = nullptr);
 
     // The rows of the criteria in force, from the store of contributors.
     void CargarFlxContribuyentes() { CargarFlx(); }
-
-    // The panel of a contributor's declarations hands the contributor's name and number over
-    // (ConDeclaraciones.ENTRADA "A", LBLCONTRI, lbldni) and opens; it installs that step here, and
-    // CmdDeclaraciones closes the list and runs it.
-    using AbridorDeclaraciones = std::function<void(const QString& nombre, const QString& dni)>;
-    static void InstalarDeclaraciones(AbridorDeclaraciones abrir);
 
 protected:
     void IniciarEstado() override;
@@ -34,6 +26,4 @@ protected:
     bool ElegirColumnaBusqueda(int columna) override;
     void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t codigo) override;
-    void AbrirDatos(const QString& modo) override;
-    void AbrirDeclaraciones(const QString& nombre, const QString& dni) override;
 };

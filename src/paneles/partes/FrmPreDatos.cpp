@@ -168,10 +168,3 @@ void FrmPreDatos::AnotarEnLista()
         PreLista().CSPR = p.ObtenerCodigoPresentador(p.DNIP);
 }
 
-void FrmPreDatos::VolverALista()
-{
-    if (PreDatos().LISTA == QLatin1String("S")) {
-        PreLista().ENTRADA = QStringLiteral("P");
-        FrmPreLista::Abrir();
-    }
-}

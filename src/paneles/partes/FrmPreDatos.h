@@ -34,7 +34,6 @@ private:
     void ActivarSelectores();
     int16_t Guardar() override { return GuardarPresentador(); }
     void AnotarEnLista() override;
-    void VolverALista() override;
 
     QLineEdit* txtdnip = nullptr;
     QLineEdit* txtnombrep = nullptr;

@@ -1,7 +1,6 @@
 #include "paneles/partes/FrmPreLista.h"
 
 #include "paneles/dialogos/Ventanas.h"
-#include "paneles/partes/FrmPreDatos.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
 
@@ -45,12 +44,6 @@ EstadoLista Estado()
     cPreLista& l = PreLista();
     return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSPR, l.NUMPRESENSEL,
             l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMDECLARACIONES}};
-}
-
-FrmPreLista::AbridorDeclaraciones& abridorDeclaraciones()
-{
-    static FrmPreLista::AbridorDeclaraciones abridor;
-    return abridor;
 }
 
 }  // namespace
@@ -109,26 +102,4 @@ void FrmPreLista::Borrar(int32_t codigo)
 {
     PreDatos().CSPR = codigo;
     PreDatos().BorrarPresentador();
-}
-
-void FrmPreLista::AbrirDatos(const QString& modo)
-{
-    PreDatos().setMODO(modo);
-    PreDatos().LISTA = QStringLiteral("S");
-    PreDatos().CSPR = modo == QLatin1String("A") ? 0 : PreLista().CSPR;
-    Cerrar();
-    FrmPreDatos::Abrir();
-}
-
-void FrmPreLista::InstalarDeclaraciones(AbridorDeclaraciones abrir)
-{
-    abridorDeclaraciones() = std::move(abrir);
-}
-
-void FrmPreLista::AbrirDeclaraciones(const QString& nombre, const QString& dni)
-{
-    if (!abridorDeclaraciones())
-        return;
-    Cerrar();
-    abridorDeclaraciones()(nombre, dni);
 }

@@ -67,7 +67,6 @@ void PanelDatos::CargarListas()
 void PanelDatos::Iniciar()
 {
     Anadir_captions();
-    DeshabilitarMenus();
     CargarListas();
     CargarDatos();
     Redibujar();
@@ -109,8 +108,5 @@ void PanelDatos::closeEvent(QCloseEvent* evento)
         return;
     m_cerrado = true;
     m_cerrando = true;
-    Proceso::Protegido([this] {
-        ActualizarMenus();
-        VolverALista();
-    });
+    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -29,6 +29,11 @@ public:
     bool Modificado() const { return m_modificado; }
     bool SaltarValidacion() const { return m_saltarValidacion; }
 
+signals:
+    // The panel has closed (once, whatever closed it); the navigator refreshes the main window
+    // and goes back to the party's list when the panel came from it.
+    void cerrado();
+
 protected:
     // Makes the two frames; the panel then makes its fields and its address block in fraDatos
     // and calls Pie().
@@ -54,7 +59,7 @@ protected:
         return abierto;
     }
 
-    // Opening: captions, menus off, pickers filled, record loaded, panel drawn, flags cleared.
+    // Opening: captions, pickers filled, record loaded, panel drawn, flags cleared.
     void Iniciar();
 
     // The panel's own steps.
@@ -66,8 +71,6 @@ protected:
     virtual int16_t Guardar() = 0;
     // After a save: a new party made from its list is the one the list selects on coming back.
     virtual void AnotarEnLista() = 0;
-    // On closing: back to the party's list when the panel came from it.
-    virtual void VolverALista() = 0;
 
     // Fills the address pickers.
     void CargarListas();

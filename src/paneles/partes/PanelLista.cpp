@@ -296,7 +296,6 @@ void PanelLista::Iniciar()
         marco->move(0, 0);
     else if (isWindow() && VentanaPrincipal())
         move(VentanaPrincipal()->geometry().topLeft());
-    DeshabilitarMenus();
     IniciarLista();
     PresentaDatos();
     PresentaBotones();
@@ -628,7 +627,7 @@ void PanelLista::Aceptar()
     const QString nombre = m_grid->TextMatrix(fila, kColumnaNombre).trimmed();
     const QString dni = m_grid->TextMatrix(fila, kColumnaDni).trimmed();
     if (m_estado.MODO == QLatin1String("C")) {
-        AbrirDatos(QStringLiteral("C"));
+        emit pideDatos(QStringLiteral("C"));
         return;
     }
     const QString titulo = Texto(m_diseno.idTituloBorrado);
@@ -669,14 +668,14 @@ void PanelLista::Todos()
 
 void PanelLista::Nuevo()
 {
-    AbrirDatos(QStringLiteral("A"));
+    emit pideDatos(QStringLiteral("A"));
 }
 
 void PanelLista::Declaraciones()
 {
     const int fila = m_grid->RowSel();
-    AbrirDeclaraciones(m_grid->TextMatrix(fila, kColumnaNombre),
-                       m_grid->TextMatrix(fila, kColumnaDni));
+    emit pideDeclaraciones(m_grid->TextMatrix(fila, kColumnaNombre),
+                           m_grid->TextMatrix(fila, kColumnaDni));
 }
 
 void PanelLista::Cerrar()
@@ -696,5 +695,5 @@ void PanelLista::closeEvent(QCloseEvent* evento)
     if (m_cerrado)
         return;
     m_cerrado = true;
-    Proceso::Protegido([] { ActualizarMenus(); });
+    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -87,20 +87,29 @@ public:
     // Captions and tips of the opening, in the current language.
     void Anadir_captions();
 
+    // The opening, once the panel is on the screen: the state set by ENTRADA, the first load.
+    void Iniciar();
+    // Closes the panel (and its frame in the main window).
+    void Cerrar();
+
     // The row highlight and the grid's place for a page of rows.
     static constexpr QRgb kColorResaltado = 0x80C0FF;
     static constexpr int kFilasPorPagina = 15;
 
+signals:
+    // What the user asked for; the navigator answers by closing this panel and opening the next.
+    // A new party ("A") or the selected one ("C") on the data panel:
+    void pideDatos(const QString& modo);
+    // The declarations of the selected party:
+    void pideDeclaraciones(const QString& nombre, const QString& dni);
+    // The panel has closed (once, whatever closed it).
+    void cerrado();
+
 protected:
     PanelLista(DisenoLista diseno, EstadoLista estado, QWidget* parent);
 
-    // The opening, once the panel is on the screen: main window's commands off, the state
-    // set by ENTRADA, the first load.
-    void Iniciar();
     // Asks the store for the rows of the criteria in force, in ORDEN.
     void CargarFlx();
-    // Closes the panel (and its frame in the main window).
-    void Cerrar();
 
     // What differs by party: the state object's moves,
     virtual void IniciarEstado() = 0;                      // by ENTRADA
@@ -113,11 +122,6 @@ protected:
     virtual void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) = 0;
     // the deletion of a party in the store,
     virtual void Borrar(int32_t codigo) = 0;
-    // Sets the data object for a new party ("A") or the selected one ("C"), closes this
-    // panel and opens the data panel.
-    virtual void AbrirDatos(const QString& modo) = 0;
-    // Hands the selected party's name and number to the declarations' panel and opens it.
-    virtual void AbrirDeclaraciones(const QString& nombre, const QString& dni) = 0;
 
     void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;

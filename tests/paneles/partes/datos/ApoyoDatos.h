@@ -2,6 +2,9 @@
 // What the tests of the parties' data panels share: a fresh program (temporary folder, new
 // read/write store, main window on screen) for each test, parties put in the store, and the
 // user's gestures on a panel: typing in a field, leaving it, clicking, choosing in a picker.
+#include "aplicacion/Navegacion.h"
+#include "paneles/partes/FrmConDatos.h"
+#include "paneles/partes/FrmPreDatos.h"
 #include "comun/Entorno.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/cListaClaves.h"
@@ -68,6 +71,10 @@ protected:
 
 // Opens a party's data panel as its openers do: the record's MODO (the reset of a new party
 // with "A"), LISTA and party code first.
+// Opens a data panel through the program's navigator, as the main window does.
+inline QWidget* AbrirPanelDatos(FrmConDatos*) { return Navegacion::AbrirConDatos(); }
+inline QWidget* AbrirPanelDatos(FrmPreDatos*) { return Navegacion::AbrirPreDatos(); }
+
 template <class Panel, class Registro>
 QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, const QString& lista,
                     int32_t valor)
@@ -75,7 +82,7 @@ QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, co
     registro.setMODO(modo);
     registro.LISTA = lista;
     codigo = valor;
-    QWidget* panel = Panel::Abrir();
+    QWidget* panel = AbrirPanelDatos(static_cast<Panel*>(nullptr));
     Procesar();
     return panel;
 }
@@ -84,7 +91,7 @@ template <class Panel, class Registro>
 QWidget* AbrirConRegistro(Registro& registro)
 {
     registro.LISTA.clear();
-    QWidget* panel = Panel::Abrir();
+    QWidget* panel = AbrirPanelDatos(static_cast<Panel*>(nullptr));
     Procesar();
     return panel;
 }

@@ -1,6 +1,7 @@
 // The contributor panel driven as a user drives it: defaults of a new contributor, the open and
 // closed fields after each change, the pickers that open on unknown codes, the check boxes,
 // Aceptar with every verdict of the store, Cancelar, and the way back to the list.
+#include "aplicacion/Navegacion.h"
 #include "ApoyoDatos.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -772,7 +773,7 @@ private slots:
         ConDatos().setMODO(QStringLiteral("A"));
         ConDatos().LISTA = QStringLiteral("S");
         ConDatos().CSCO = 0;
-        m_panel = FrmConDatos::Abrir();
+        m_panel = Navegacion::AbrirConDatos();
         Procesar();
         EscribirYSalir(t("txtdnic"), QStringLiteral("12345678Z"));
         EscribirYSalir(t("txtnombrec"), QStringLiteral("NUEVO"));

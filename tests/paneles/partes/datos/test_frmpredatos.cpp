@@ -1,6 +1,7 @@
 // The presenter panel driven as a user drives it: its fields and pickers, the municipality pair
 // that follows the province, the telephone, a change that counts only when a field is left
 // with another text, Aceptar with every verdict of the store, and the way back to the list.
+#include "aplicacion/Navegacion.h"
 #include "ApoyoDatos.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -383,7 +384,7 @@ private slots:
         PreDatos().setMODO(QStringLiteral("A"));
         PreDatos().LISTA = QStringLiteral("S");
         PreDatos().CSPR = 0;
-        m_panel = FrmPreDatos::Abrir();
+        m_panel = Navegacion::AbrirPreDatos();
         Procesar();
         EscribirYSalir(t("txtdnip"), QStringLiteral("87654321X"));
         EscribirYSalir(t("txtnombrep"), QStringLiteral("NUEVA GESTORIA"));

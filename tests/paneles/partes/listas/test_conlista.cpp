@@ -2,6 +2,7 @@
 // opening in each mode, the pages of rows, the selection, ordering by a click on a heading,
 // the search typed over a heading, the buttons and their icons, deletion with its refusal and
 // question, the hand-over to the contributor panel and back, both languages.
+#include "aplicacion/Navegacion.h"
 #include "ApoyoListas.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -65,8 +66,7 @@ class TestConLista : public QObject {
 
     static FrmConLista* Abrir(const QString& entrada)
     {
-        ConLista().ENTRADA = entrada;
-        FrmConLista::Abrir();
+        Navegacion::AbrirConLista(entrada);
         return Panel();
     }
     static FrmConLista* Panel()
@@ -522,10 +522,10 @@ private slots:
 
         // The button hands the row's name and number to the declarations' panel.
         QStringList entregado;
-        FrmConLista::InstalarDeclaraciones(
+        Navegacion::InstalarDeclaracionesContribuyente(
             [&](const QString& nombre, const QString& dni) { entregado = {nombre, dni}; });
         QTest::mouseClick(Boton(p, "CmdDeclaraciones"), Qt::LeftButton);
-        FrmConLista::InstalarDeclaraciones({});
+        Navegacion::InstalarDeclaracionesContribuyente({});
         QCOMPARE(entregado, (QStringList{kGomez, "11000000D"}));
         QVERIFY(!Panel());
     }

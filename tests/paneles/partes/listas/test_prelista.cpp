@@ -1,6 +1,7 @@
 // The list of presenters: the same panel as the contributors' list with its own columns,
 // counter, texts, store and data panel. These tests go through what differs, and through the
 // shared behaviour once more on this panel: pages, ordering, search, deletion, the round trip.
+#include "aplicacion/Navegacion.h"
 #include "ApoyoListas.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -46,8 +47,7 @@ class TestPreLista : public QObject {
 
     static FrmPreLista* Abrir(const QString& entrada)
     {
-        PreLista().ENTRADA = entrada;
-        FrmPreLista::Abrir();
+        Navegacion::AbrirPreLista(entrada);
         return Panel();
     }
     static FrmPreLista* Panel()
@@ -199,10 +199,10 @@ private slots:
         QCOMPARE(PreLista().NUMDECLARACIONES, 1);
         QVERIFY(Boton(p, "CmdDeclaraciones")->isEnabled());
         QStringList entregado;
-        FrmPreLista::InstalarDeclaraciones(
+        Navegacion::InstalarDeclaracionesPresentador(
             [&](const QString& nombre, const QString& dni) { entregado = {nombre, dni}; });
         QTest::mouseClick(Etiqueta(p, "PicDeclaraciones"), Qt::LeftButton);
-        FrmPreLista::InstalarDeclaraciones({});
+        Navegacion::InstalarDeclaracionesPresentador({});
         QCOMPARE(entregado, (QStringList{kGoiri, "30000000B"}));
         QVERIFY(!Panel());
     }
