@@ -39,13 +39,6 @@ DisenoLista Diseno()
     return d;
 }
 
-EstadoLista Estado()
-{
-    cConLista& l = ConLista();
-    return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSCO, l.NUMCONTRISEL,
-            l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMSP, &l.NUMTR}};
-}
-
 }  // namespace
 
 FrmConLista* FrmConLista::Abrir()
@@ -56,47 +49,7 @@ FrmConLista* FrmConLista::Abrir()
     return panel;
 }
 
-FrmConLista::FrmConLista(QWidget* parent) : PanelLista(Diseno(), Estado(), parent) {}
-
-void FrmConLista::IniciarEstado()
-{
-    ConLista().IniciarLista();
-}
-
-int32_t FrmConLista::CargarDatos(Arreglo2D& datos)
-{
-    return ConLista().CargarContribuyentes(datos);
-}
-
-void FrmConLista::AnotarBusqueda(const QString& texto)
-{
-    ConLista().AnotarBusqueda(texto);
-}
-
-void FrmConLista::CambiarBusqueda()
-{
-    ConLista().CambiarBusqueda();
-}
-
-void FrmConLista::TodosEstado()
-{
-    ConLista().Todos();
-}
-
-bool FrmConLista::OrdenarPor(int columna)
-{
-    return ConLista().OrdenarPor(columna);
-}
-
-bool FrmConLista::ElegirColumnaBusqueda(int columna)
-{
-    return ConLista().ElegirColumnaBusqueda(columna);
-}
-
-void FrmConLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
-{
-    ConLista().Seleccionar(codigo, contadores.value(0), contadores.value(1));
-}
+FrmConLista::FrmConLista(QWidget* parent) : PanelLista(Diseno(), ConLista(), parent) {}
 
 void FrmConLista::Borrar(int32_t codigo)
 {

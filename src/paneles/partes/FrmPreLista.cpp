@@ -39,13 +39,6 @@ DisenoLista Diseno()
     return d;
 }
 
-EstadoLista Estado()
-{
-    cPreLista& l = PreLista();
-    return {l.TABLASELECCION, l.SELECCIONACTUAL, l.CSPR, l.NUMPRESENSEL,
-            l.BUSQUEDA,       l.MODO,            l.ORDEN, {&l.NUMDECLARACIONES}};
-}
-
 }  // namespace
 
 FrmPreLista* FrmPreLista::Abrir()
@@ -56,47 +49,7 @@ FrmPreLista* FrmPreLista::Abrir()
     return panel;
 }
 
-FrmPreLista::FrmPreLista(QWidget* parent) : PanelLista(Diseno(), Estado(), parent) {}
-
-void FrmPreLista::IniciarEstado()
-{
-    PreLista().IniciarLista();
-}
-
-int32_t FrmPreLista::CargarDatos(Arreglo2D& datos)
-{
-    return PreLista().CargarPresentadores(datos);
-}
-
-void FrmPreLista::AnotarBusqueda(const QString& texto)
-{
-    PreLista().AnotarBusqueda(texto);
-}
-
-void FrmPreLista::CambiarBusqueda()
-{
-    PreLista().CambiarBusqueda();
-}
-
-void FrmPreLista::TodosEstado()
-{
-    PreLista().Todos();
-}
-
-bool FrmPreLista::OrdenarPor(int columna)
-{
-    return PreLista().OrdenarPor(columna);
-}
-
-bool FrmPreLista::ElegirColumnaBusqueda(int columna)
-{
-    return PreLista().ElegirColumnaBusqueda(columna);
-}
-
-void FrmPreLista::Seleccionar(int32_t codigo, const QList<int32_t>& contadores)
-{
-    PreLista().Seleccionar(codigo, contadores.value(0));
-}
+FrmPreLista::FrmPreLista(QWidget* parent) : PanelLista(Diseno(), PreLista(), parent) {}
 
 void FrmPreLista::Borrar(int32_t codigo)
 {

@@ -16,13 +16,5 @@ public:
     void CargarFlxPresentadores() { CargarFlx(); }
 
 protected:
-    void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
-    void AnotarBusqueda(const QString& texto) override;
-    void CambiarBusqueda() override;
-    void TodosEstado() override;
-    bool OrdenarPor(int columna) override;
-    bool ElegirColumnaBusqueda(int columna) override;
-    void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t codigo) override;
 };

@@ -118,8 +118,8 @@ QString RotuloLista::texto() const
     return TextoSegunIdioma(QString::fromUtf8(es), QString::fromUtf8(eu));
 }
 
-PanelLista::PanelLista(DisenoLista diseno, EstadoLista estado, QWidget* parent)
-    : QWidget(parent), m_diseno(std::move(diseno)), m_estado(std::move(estado))
+PanelLista::PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent)
+    : QWidget(parent), m_diseno(std::move(diseno)), m_estado(estado)
 {
     setObjectName(m_diseno.nombrePanel);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -305,7 +305,7 @@ void PanelLista::Iniciar()
 
 void PanelLista::IniciarLista()
 {
-    IniciarEstado();
+    m_estado.IniciarLista();
     LimpiarGrid();
 }
 
@@ -319,7 +319,7 @@ void PanelLista::LimpiarGrid()
 void PanelLista::CargarFlx()
 {
     Arreglo2D datos;
-    if (CargarDatos(datos) > 0)
+    if (m_estado.CargarDatos(datos) > 0)
         RellenarGrid(datos);
     else
         LimpiarGrid();  // no row of an earlier result stays behind an empty one
@@ -406,8 +406,8 @@ void PanelLista::PresentaResultado()
 {
     const bool criterios = HayCriterios();
     CargarFlx();
-    const int fila = FilaDeGrid(m_grid, 0, m_estado.codigo);
-    if (!criterios || m_estado.seleccionados > 0) {
+    const int fila = FilaDeGrid(m_grid, 0, m_estado.Codigo());
+    if (!criterios || m_estado.Seleccionados() > 0) {
         // A single page grows so that the selected row can stand at the top.
         if (m_grid->Rows() == kFilasPorPagina + 1)
             m_grid->setRows(m_grid->Rows() + fila - 1);
@@ -416,12 +416,12 @@ void PanelLista::PresentaResultado()
     }
     LeerFila();
     MostrarAyuda(lblayuda, Texto(313), lblResultado->width());
-    const QString cuantos = QString::number(m_estado.seleccionados);
+    const QString cuantos = QString::number(m_estado.Seleccionados());
     if (!criterios) {
         lblResultado->setText(cuantos + m_diseno.resultado.texto());
     } else {
         const QString texto = TextoCriterios();
-        if (m_estado.seleccionados != 0) {
+        if (m_estado.Seleccionados() != 0) {
             lblResultado->setText(texto + cuantos + m_diseno.resultadoCriterios.texto());
         } else {
             LimpiarGrid();
@@ -476,12 +476,12 @@ void PanelLista::PresentaBotones()
 {
     const bool resultado = m_estado.BUSQUEDA == QLatin1String("N");
     const bool abrir = m_estado.MODO == QLatin1String("C");
-    const bool hayFilas = m_estado.seleccionados > 0;
+    const bool hayFilas = m_estado.Seleccionados() > 0;
     bool conDeclaraciones = false;
-    for (const int32_t* contador : m_estado.contadores)
-        conDeclaraciones = conDeclaraciones || *contador > 0;
+    for (const int32_t contador : m_estado.Contadores())
+        conDeclaraciones = conDeclaraciones || contador > 0;
 
-    cmdAceptar->setEnabled(resultado && hayFilas && m_estado.codigo > 0);
+    cmdAceptar->setEnabled(resultado && hayFilas && m_estado.Codigo() > 0);
     cmdNuevo->setEnabled(resultado);
     CmdDeclaraciones->setEnabled(resultado && hayFilas && conDeclaraciones);
     if (resultado) {
@@ -523,7 +523,7 @@ void PanelLista::LeerFila()
     QList<int32_t> contadores;
     for (int columna : m_diseno.columnasContadores)
         contadores << int32_t(Val(m_grid->TextMatrix(fila, columna)));
-    Seleccionar(int32_t(Val(m_grid->TextMatrix(fila, 0))), contadores);
+    m_estado.SeleccionarFila(int32_t(Val(m_grid->TextMatrix(fila, 0))), contadores);
 }
 
 // Paints the current row; the moves of the row this makes are not the user's.
@@ -557,17 +557,17 @@ void PanelLista::Clic(int, int columna)
             return;
         if (ClicEnCabecera) {
             // Ordering: always ascending, by name or by number only.
-            if (!OrdenarPor(columna))
+            if (!m_estado.OrdenarPor(columna))
                 return;
             PresentaDatos();
             PresentaBotones();
-        } else if (m_estado.seleccionados > 0) {
+        } else if (m_estado.Seleccionados() > 0) {
             MarcarFila();
             PresentaBotones();
         }
         return;
     }
-    if (ElegirColumnaBusqueda(columna)) {
+    if (m_estado.ElegirColumnaBusqueda(columna)) {
         PresentaDatos();
         PresentaBotones();
     }
@@ -590,7 +590,7 @@ void PanelLista::Tecla(int tecla)
 // The current row moved by the keyboard (the program's own moves are not counted).
 void PanelLista::FilaCambiada()
 {
-    if (!CambioFilaActivo || m_estado.BUSQUEDA != QLatin1String("N") || m_estado.seleccionados < 1)
+    if (!CambioFilaActivo || m_estado.BUSQUEDA != QLatin1String("N") || m_estado.Seleccionados() < 1)
         return;
     Proceso::Protegido([this] {
         MarcarFila();
@@ -615,7 +615,7 @@ void PanelLista::BusquedaAbandonada()
 {
     if (m_cerrando || m_estado.BUSQUEDA != QLatin1String("B") || Val(m_estado.SELECCIONACTUAL) == 0)
         return;
-    AnotarBusqueda(txtBusqueda->text());
+    m_estado.AnotarBusqueda(txtBusqueda->text());
     txtBusqueda->setEnabled(false);
     PresentaDatos();
     PresentaBotones();
@@ -631,8 +631,8 @@ void PanelLista::Aceptar()
         return;
     }
     const QString titulo = Texto(m_diseno.idTituloBorrado);
-    for (const int32_t* contador : m_estado.contadores) {
-        if (*contador != 0) {
+    for (const int32_t contador : m_estado.Contadores()) {
+        if (contador != 0) {
             Mensaje(Texto(m_diseno.idNoBorrar), vb::Information, titulo);
             m_grid->setFocus();
             return;
@@ -644,17 +644,17 @@ void PanelLista::Aceptar()
         m_grid->setFocus();
         return;
     }
-    Borrar(m_estado.codigo);
+    Borrar(m_estado.Codigo());
     PresentaDatos();
     PresentaBotones();
     m_grid->setFocus();
-    if (m_estado.seleccionados == 0)
+    if (m_estado.Seleccionados() == 0)
         Cerrar();
 }
 
 void PanelLista::Buscar()
 {
-    CambiarBusqueda();
+    m_estado.CambiarBusqueda();
     PresentaDatos();
     PresentaBotones();
 }
@@ -662,7 +662,7 @@ void PanelLista::Buscar()
 // Back to the whole list by name. The buttons are left as they were until the next click.
 void PanelLista::Todos()
 {
-    TodosEstado();
+    m_estado.Todos();
     PresentaDatos();
 }
 

@@ -9,6 +9,7 @@
 // The state object of each list outlives the panel, so that a list that comes back after a
 // side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
 // to the store; the panel keeps nothing of its own between openings.
+#include "registros/partes/cListaParte.h"
 #include "valores/cCriterio.h"
 #include "paneles/controles/cUtilidadesGrid.h"
 #include "servicios/Arreglos.h"
@@ -62,20 +63,6 @@ struct DisenoLista {
     int idPreguntaFin = 0;                 //   after the name
 };
 
-// The fields of a list's state object that the panel reads, by reference (the state objects
-// live for the whole run). The state changes only through the state object's own operations,
-// which each panel calls.
-struct EstadoLista {
-    const std::optional<TablaCriterios>& TABLASELECCION;  // absent: no criteria
-    const QString& SELECCIONACTUAL;  // in the search state, the column under edit; "0" none
-    const int32_t& codigo;           // CSCO / CSPR: the selected party, 0 none
-    const int32_t& seleccionados;    // NUMCONTRISEL / NUMPRESENSEL
-    const QString& BUSQUEDA;         // "N" result state, "B" search state
-    const QString& MODO;             // "C" open mode, "E" delete mode
-    const uint8_t& ORDEN;            // 1 name, 2 number
-    QList<const int32_t*> contadores;  // NUMSP, NUMTR / NUMDECLARACIONES: the counter columns
-};
-
 class PanelLista : public QWidget {
     Q_OBJECT
 public:
@@ -106,21 +93,13 @@ signals:
     void cerrado();
 
 protected:
-    PanelLista(DisenoLista diseno, EstadoLista estado, QWidget* parent);
+    PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent);
 
     // Asks the store for the rows of the criteria in force, in ORDEN.
     void CargarFlx();
 
-    // What differs by party: the state object's moves,
-    virtual void IniciarEstado() = 0;                      // by ENTRADA
-    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;     // the store's rows; the count
-    virtual void AnotarBusqueda(const QString& texto) = 0; // the search box was left
-    virtual void CambiarBusqueda() = 0;                    // cmdBuscar
-    virtual void TodosEstado() = 0;                        // cmdTodos
-    virtual bool OrdenarPor(int columna) = 0;              // a click on a heading
-    virtual bool ElegirColumnaBusqueda(int columna) = 0;   // a click in the search state
-    virtual void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) = 0;
-    // the deletion of a party in the store,
+    // What differs by party besides the design and the state object: the deletion of a party
+    // in the store.
     virtual void Borrar(int32_t codigo) = 0;
 
     void closeEvent(QCloseEvent* evento) override;
@@ -161,7 +140,7 @@ private:
     void Declaraciones();
 
     DisenoLista m_diseno;
-    EstadoLista m_estado;
+    cListaParte& m_estado;  // the list's state object, which outlives the panel
     cUtilidadesGrid Utilidades;
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;

@@ -1,37 +1,29 @@
 #pragma once
-// The state of the presenters' list (one instance, PreLista()), as the contributors' list with
-// one counter of declarations and no VALORSEL.
-#include "valores/cCriterio.h"
-#include "servicios/Arreglos.h"
+// The state of the presenters' list (one instance, PreLista()): the shared list state with the
+// selected presenter, the count found and the selected presenter's declarations.
+#include "registros/partes/cListaParte.h"
 
-#include <QString>
-#include <cstdint>
-#include <optional>
-
-class cPreLista {
+class cPreLista final : public cListaParte {
 public:
-    std::optional<TablaCriterios> TABLASELECCION;
-    QString SELECCIONACTUAL = QStringLiteral("0");
-    int32_t CSPR = 0;
-    int32_t NUMPRESENSEL = 0;
-    QString ENTRADA;
-    QString BUSQUEDA = QStringLiteral("N");
-    QString MODO = QStringLiteral("C");
-    uint8_t ORDEN = 1;
-    int32_t NUMDECLARACIONES = 0;
+    int32_t CSPR = 0;              // the selected presenter, 0 none
+    int32_t NUMPRESENSEL = 0;      // presenters found
+    int32_t NUMDECLARACIONES = 0;  // the selected presenter's declarations
 
-    // As cConLista.
-    void IniciarLista();
-    bool HayCriterios() const;
-    Arreglo CriteriosBusqueda() const;
     // The six columns of the presenters' grid; NUMPRESENSEL takes the count.
     int32_t CargarPresentadores(Arreglo2D& datos);
-    void AnotarBusqueda(const QString& texto);
-    void CambiarBusqueda();
-    void Todos();
-    bool OrdenarPor(int columna);
-    bool ElegirColumnaBusqueda(int columna);
     void Seleccionar(int32_t codigo, int32_t numDeclaraciones);
+
+    int32_t Codigo() const override { return CSPR; }
+    int32_t Seleccionados() const override { return NUMPRESENSEL; }
+    QList<int32_t> Contadores() const override { return {NUMDECLARACIONES}; }
+    int32_t CargarDatos(Arreglo2D& datos) override { return CargarPresentadores(datos); }
+    void SeleccionarFila(int32_t codigo, const QList<int32_t>& contadores) override
+    {
+        Seleccionar(codigo, contadores.value(0));
+    }
+
+protected:
+    void OlvidarSeleccion(bool cuenta) override;
 };
 
 cPreLista& PreLista();
