@@ -8,6 +8,8 @@
 #include "catalogo/Catalogo.h"
 #include "plataforma/General.h"
 
+#include <QStringList>
+
 namespace {
 
 QString unir(const RegistroVersion::Numeros& n, std::initializer_list<int> indices)
