@@ -28,7 +28,7 @@ int DescargarFichero(const QString& url, const QString& fichero);
 // versions differ. Answers 4 on any failure (no three-part version), else 3.
 int LeerVersionIni();
 
-// One key of an INI file, read with the rules of the classic profile reader: sections and keys
+// One key of an INI file, read with the rules of LeerClaveIni.cpp: sections and keys
 // without regard to case, blanks around keys and values dropped, a value in matching quotes
 // loses them, only the first section of a name is searched, values cut at 1023 characters, and
 // the default " " when the file, the section or the key is missing.

@@ -65,8 +65,8 @@ constexpr std::array<Regla, cDeclaSvr::kUltimaRegla> kReglas{{
 
 const QString kSaltoLinea = QStringLiteral("\n");
 
-// VB's notion of a numeric text, as far as a tax number can be one: digits, with a sign and a
-// decimal point allowed, and blanks around.
+// A tax number that reads as a number: digits, with a sign and a decimal point allowed, and
+// blanks around.
 bool esNumerico(const QString& texto)
 {
     static const QRegularExpression numero(QStringLiteral(R"(^\s*[+-]?(\d+\.?\d*|\.\d+)\s*$)"));
