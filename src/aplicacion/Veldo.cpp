@@ -1,6 +1,7 @@
 #include "aplicacion/Veldo.h"
 
 #include "aplicacion/Arranque.h"
+#include "aplicacion/OrdenesImprimir.h"
 #include "paneles/dialogos/AvisoFallo.h"
 #include "plataforma/Proceso.h"
 
@@ -25,8 +26,11 @@ public:
 
 int EjecutarVeldo(int argc, char** argv)
 {
+    PrepararSinVentana(argc, argv);
     cAplicacion app(argc, argv);
     app.setApplicationName(QStringLiteral("Veldoria"));
+    if (const auto estado = OrdenesImprimir(QCoreApplication::arguments()))
+        return *estado;
     InstalarAvisoFalloEnCaja();
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
     bool sigue = false;

@@ -1,0 +1,7 @@
+#include "registros/imprimir/cImOf.h"
+
+cImOf& ImOf()
+{
+    static cImOf instancia;
+    return instancia;
+}
