@@ -12,6 +12,7 @@
 
 #include <QDate>
 #include <QFile>
+#include <QSaveFile>
 #include <QTextStream>
 
 namespace {
@@ -132,9 +133,15 @@ int imprimirPdf(const PeticionPdf& p)
     ImOf().CSDE = p.csde;
     ImOf().CONPRESENTADOR = DecDatos().CSPR != 0 && !p.sinPresentador ? QStringLiteral("S")
                                                                       : QString();
-    cSuperficiePdf pdf(p.fichero);
-    const int hojas = ImprimirCopias(pdf, ImOf().CONPRESENTADOR == QLatin1String("S"));
-    if (!pdf.Terminar() || hojas == 0)
+    // The file appears whole or not at all.
+    QSaveFile destino(p.fichero);
+    bool bien = destino.open(QIODevice::WriteOnly);
+    if (bien) {
+        cSuperficiePdf pdf(&destino);
+        const int hojas = ImprimirCopias(pdf, ImOf().CONPRESENTADOR == QLatin1String("S"));
+        bien = pdf.Terminar() && hojas > 0;
+    }
+    if (!bien || !destino.commit())
         throw Rechazo{TextoSegunIdioma(QStringLiteral("No se ha podido escribir el fichero ") +
                                            p.fichero,
                                        QStringLiteral("Ezin izan da fitxategia idatzi: ") +

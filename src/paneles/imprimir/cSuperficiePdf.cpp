@@ -9,13 +9,24 @@ constexpr int kResolucion = 600;
 }
 
 cSuperficiePdf::cSuperficiePdf(const QString& fichero)
-    : cSuperficiePintor(kResolucion), m_escritor(fichero)
+    : cSuperficiePintor(kResolucion), m_escritor(std::make_unique<QPdfWriter>(fichero))
 {
-    m_escritor.setResolution(kResolucion);
-    m_escritor.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                         QMarginsF(0, 0, 0, 0)));
-    m_escritor.setCreator(QStringLiteral("Veldoria"));
-    m_escritor.setTitle(QStringLiteral("747"));
+    Preparar();
+}
+
+cSuperficiePdf::cSuperficiePdf(QIODevice* destino)
+    : cSuperficiePintor(kResolucion), m_escritor(std::make_unique<QPdfWriter>(destino))
+{
+    Preparar();
+}
+
+void cSuperficiePdf::Preparar()
+{
+    m_escritor->setResolution(kResolucion);
+    m_escritor->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                          QMarginsF(0, 0, 0, 0)));
+    m_escritor->setCreator(QStringLiteral("Veldoria"));
+    m_escritor->setTitle(QStringLiteral("747"));
 }
 
 cSuperficiePdf::~cSuperficiePdf() { Terminar(); }
@@ -24,9 +35,9 @@ void cSuperficiePdf::EmpezarHoja(QPainter& pintor)
 {
     // The painter stays open from one sheet to the next: a later sheet is a new page.
     if (pintor.isActive())
-        m_bien = m_escritor.newPage() && m_bien;
+        m_bien = m_escritor->newPage() && m_bien;
     else
-        m_bien = pintor.begin(&m_escritor);
+        m_bien = pintor.begin(m_escritor.get());
     ++m_paginas;
 }
 

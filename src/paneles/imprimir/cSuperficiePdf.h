@@ -4,10 +4,15 @@
 #include "paneles/imprimir/cSuperficiePintor.h"
 
 #include <QPdfWriter>
+#include <memory>
+
+class QIODevice;
 
 class cSuperficiePdf : public cSuperficiePintor {
 public:
     explicit cSuperficiePdf(const QString& fichero);
+    // Writes to an open device (a QSaveFile, so that a failed printing leaves no half file).
+    explicit cSuperficiePdf(QIODevice* destino);
     ~cSuperficiePdf() override;
 
     void EndDoc() override;
@@ -19,7 +24,9 @@ protected:
     void EmpezarHoja(QPainter& pintor) override;
 
 private:
-    QPdfWriter m_escritor;
+    void Preparar();
+
+    std::unique_ptr<QPdfWriter> m_escritor;
     int m_paginas = 0;
     bool m_bien = true;
 };
