@@ -1,7 +1,8 @@
 #include "registros/imprimir/cImOf.h"
 
+#include "plataforma/Estado.h"
+
 cImOf& ImOf()
 {
-    static cImOf instancia;
-    return instancia;
+    return Estado().de<cImOf>();
 }

@@ -4,6 +4,7 @@
 #include "ApoyoDeclaracion.h"
 #include "ApoyoImpreso.h"
 
+#include "paneles/imprimir/cSuperficieImpresora.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/CopiasImpresas.h"
@@ -127,6 +128,28 @@ private slots:
             if (c.size() >= 7)
                 QVERIFY2(c.at(c.size() - 5) == QLatin1String("yes"), qPrintable(linea));
         }
+    }
+
+    void impresoraEnviaCadaHojaComoUnTrabajo()
+    {
+        // A printer whose output is a file: each sheet is a job of its own that replaces the
+        // file, so the file holds the last sheet only, on one page.
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFormat(QPrinter::PdfFormat);
+        const QString fichero = m_dir.filePath(QStringLiteral("impresora.pdf"));
+        impresora.setOutputFileName(fichero);
+        cSuperficieImpresora s(impresora);
+        ImprimirEjemplar(s, true);
+        QVERIFY(s.Bien());
+        QCOMPARE(palabras(fichero).values(DecDatos().NOMBRESP).size(), 1);
+        ImprimirEjemplarBanco(s);
+        QVERIFY(s.Bien());
+        const QMultiHash<QString, Palabra> leidas = palabras(fichero);
+        QVERIFY(leidas.contains(QStringLiteral("Total")));
+        QVERIFY(!leidas.contains(DecDatos().MARCA));
+        // The millimetres of the form from the paper's edge on this device too.
+        const Palabra p = leidas.value(QStringLiteral("747"));
+        QVERIFY2(qAbs(p.x - 169) < 0.5, qPrintable(QString::number(p.x)));
     }
 
     void cuatroCopiasCuatroPaginas()
