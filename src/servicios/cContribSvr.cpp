@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
@@ -14,6 +15,7 @@
 #include <limits>
 
 using namespace ArreglosPartes;
+namespace P = PosContribuyente;
 
 namespace {
 
@@ -22,7 +24,7 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cContribSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from element 1.
+// The stored columns in the order of the save array, from P::TIPODNI to P::NOMMUNC.
 const QStringList kColumnas = {
     QStringLiteral("TIPODNI"),   QStringLiteral("DNIC"),     QStringLiteral("NOMBREC"),
     QStringLiteral("VIAC"),      QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
@@ -31,41 +33,40 @@ const QStringList kColumnas = {
     QStringLiteral("CODPROVC"),  QStringLiteral("NOMPROVC"), QStringLiteral("CODPOSC"),
     QStringLiteral("CODMUNC"),   QStringLiteral("NOMMUNC"),
 };
-constexpr int kElementos = 20;
-constexpr int kNumSp = 18;
-constexpr int kNumTr = 19;
+// A stored row lacks the code: its value of position p stands at p - kPrimera.
+constexpr int kPrimera = P::TIPODNI;
 
 // The values of a save array in their stored form, in the order of kColumnas.
 QVariantList filaGuardada(const Arreglo& a, const QString& org)
 {
-    const QString tipoDni = TextoGuardado(a, 1, 1, "TIPODNI", org);
-    const QString tipoDomi = TextoGuardado(a, 11, 1, "TIPODOMI", org);
+    const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
+    const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
     if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
         throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
     if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
         throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
     const bool extranjero = tipoDomi == QLatin1String("E");
     // A national postal code has its five digits; a foreign one is kept as it was typed.
-    const QString cp = extranjero ? CifrasGuardadas(a, 15, 5, "CODPOSC", org)
-                                  : CodigoGuardado(a, 15, 5, "CODPOSC", org);
+    const QString cp = extranjero ? CifrasGuardadas(a, P::CODPOSC, 5, "CODPOSC", org)
+                                  : CodigoGuardado(a, P::CODPOSC, 5, "CODPOSC", org);
     return {
         tipoDni,
-        TextoGuardado(a, 2, 9, "DNIC", org),
-        TextoGuardado(a, 3, 40, "NOMBREC", org),
-        TextoGuardado(a, 4, 2, "VIAC", org),
-        TextoGuardado(a, 5, 20, "DOMICILIOC", org),
-        EnteroGuardado(a, 6, 99999, "NUMEROC", org),
-        TextoGuardado(a, 7, 2, "LETRAC", org),
-        TextoGuardado(a, 8, 2, "ESCALERAC", org),
-        TextoGuardado(a, 9, 2, "PISOC", org),
-        TextoGuardado(a, 10, 3, "MANOC", org),
+        TextoGuardado(a, P::DNIC, 9, "DNIC", org),
+        TextoGuardado(a, P::NOMBREC, 40, "NOMBREC", org),
+        TextoGuardado(a, P::VIAC, 2, "VIAC", org),
+        TextoGuardado(a, P::DOMICILIOC, 20, "DOMICILIOC", org),
+        EnteroGuardado(a, P::NUMEROC, 99999, "NUMEROC", org),
+        TextoGuardado(a, P::LETRAC, 2, "LETRAC", org),
+        TextoGuardado(a, P::ESCALERAC, 2, "ESCALERAC", org),
+        TextoGuardado(a, P::PISOC, 2, "PISOC", org),
+        TextoGuardado(a, P::MANOC, 3, "MANOC", org),
         tipoDomi,
-        TextoGuardado(a, 12, 20, "PAIS", org),
-        CodigoGuardado(a, 13, 2, "CODPROVC", org),
-        TextoGuardado(a, 14, 20, "NOMPROVC", org),
+        TextoGuardado(a, P::PAIS, 20, "PAIS", org),
+        CodigoGuardado(a, P::CODPROVC, 2, "CODPROVC", org),
+        TextoGuardado(a, P::NOMPROVC, 20, "NOMPROVC", org),
         cp,
-        CodigoGuardado(a, 16, 3, "CODMUNC", org),
-        TextoGuardado(a, 17, 25, "NOMMUNC", org),
+        CodigoGuardado(a, P::CODMUNC, 3, "CODMUNC", org),
+        TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
     };
 }
 
@@ -148,12 +149,14 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
     datos.clear();
     if (!q.next())
         return;
-    datos.reserve(kElementos);
-    datos << csco;
-    for (int i = 0; i < kColumnas.size(); ++i)
-        datos << q.value(i);
-    datos[6] = q.value(5).toInt();
-    datos << q.value(kNumSp - 1).toDouble() << q.value(kNumTr - 1).toDouble();
+    // The query's columns: those of the stored row, then the two counters.
+    datos.resize(P::Tamano);
+    datos[P::CSCO] = csco;
+    for (int p = P::TIPODNI; p <= P::NOMMUNC; ++p)
+        datos[p] = q.value(p - kPrimera);
+    datos[P::NUMEROC] = q.value(P::NUMEROC - kPrimera).toInt();
+    datos[P::NUMSP] = q.value(P::NUMSP - kPrimera).toDouble();
+    datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
 }
 
 int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos) const
@@ -173,8 +176,8 @@ int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
     const QVariantList fila = filaGuardada(datos, org);
     int32_t csco = modo == Modo::Anadir
         ? 0
-        : EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSCO", org);
-    const QString dni = fila[1].toString();
+        : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
+    const QString dni = fila[P::DNIC - kPrimera].toString();
 
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
@@ -270,15 +273,16 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
                                + donde,
                            valores, org);
-    datos = Arreglo2D(kElementos);
+    // One column per position of the contributor's array; the query's columns stand at them.
+    datos = Arreglo2D(P::Tamano);
     while (q.next()) {
-        datos[0] << q.value(0).toInt();
-        for (int i = 1; i < kElementos; ++i)
-            datos[i] << q.value(i);
-        datos[6].last() = q.value(6).toInt();
-        datos[kNumSp].last() = q.value(kNumSp).toDouble();
-        datos[kNumTr].last() = q.value(kNumTr).toDouble();
+        datos[P::CSCO] << q.value(P::CSCO).toInt();
+        for (int p = P::TIPODNI; p < P::Tamano; ++p)
+            datos[p] << q.value(p);
+        datos[P::NUMEROC].last() = q.value(P::NUMEROC).toInt();
+        datos[P::NUMSP].last() = q.value(P::NUMSP).toDouble();
+        datos[P::NUMTR].last() = q.value(P::NUMTR).toDouble();
     }
-    OrdenarFilas(datos, orden == 2 ? 2 : 3, 0);
+    OrdenarFilas(datos, orden == 2 ? P::DNIC : P::NOMBREC, P::CSCO);
     return static_cast<int32_t>(datos[0].size());
 }
