@@ -1,12 +1,12 @@
 // The main window: menus and toolbar in both languages, the enabling rules with the counters,
 // the recent declarations, the ways out, help, backup and restore from the menu.
-#include "Reinicio.h"
+#include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
-#include "registros/declaracion/ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "registros/declaracion/cDecDatos.h"
 
 #include "aplicacion/Arranque.h"
@@ -26,12 +26,15 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <memory>
+#include <optional>
 
 class TestMDIVeldo : public QObject {
     Q_OBJECT
 
     std::unique_ptr<CarpetaDePrueba> m_carpeta;
     MDIVeldo* m_ventana = nullptr;
+    // Every box of a test has its answer queued; the closing after the test is no part of it.
+    std::optional<MensajesEstrictos> m_estrictos;
 
     QAction* accion(const char* nombre) const
     {
@@ -46,9 +49,11 @@ private slots:
     {
         m_carpeta = ProgramaConAlmacenNuevo();
         m_ventana = VentanaMDI();
+        m_estrictos.emplace();
     }
     void cleanup()
     {
+        m_estrictos.reset();
         ReiniciarEstado();
         m_ventana = nullptr;
         m_carpeta.reset();
@@ -121,7 +126,7 @@ private slots:
     void unaDeclaracionSoloD1()
     {
         const QList<int32_t> codigos = guardarDeclaraciones(1);
-        NuevoContribuyente(DniValido(11111111), QStringLiteral("PEREZ ANA"));
+        NuevoContribuyente(Dni(11111111), QStringLiteral("PEREZ ANA"));
         m_ventana->ActualizarMenus();
         QVERIFY(accion("d1")->isVisible());
         for (const char* d : {"d2", "d3", "d4"})

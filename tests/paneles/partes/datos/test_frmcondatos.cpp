@@ -183,7 +183,7 @@ private slots:
     void rotulosYListasEnEuskera()
     {
         m_prog.reset();
-        m_prog = std::make_unique<ProgramaDePrueba>(true);
+        m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         abrirNuevo();
         QCOMPARE(m_panel->windowTitle(), QStringLiteral("Zergadunaren datuak"));
         QCOMPARE(t("txtviaaux")->text(), QStringLiteral("Kalea"));

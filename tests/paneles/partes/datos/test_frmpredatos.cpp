@@ -129,7 +129,7 @@ private slots:
     void rotulosEnEuskera()
     {
         m_prog.reset();
-        m_prog = std::make_unique<ProgramaDePrueba>(true);
+        m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         abrirNuevo();
         QCOMPARE(m_panel->windowTitle(), QStringLiteral("Aurkezlearen datuak"));
         QCOMPARE(c<QLabel>("lbltelefonop")->text(), QStringLiteral("Telefonoa:"));

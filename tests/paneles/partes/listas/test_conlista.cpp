@@ -51,7 +51,7 @@ using namespace ControlesLista;
 class TestConLista : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<EntornoListas> m_entorno;
+    std::unique_ptr<ProgramaDePrueba> m_entorno;
     // Codes of the five contributors of Poblar().
     int32_t m_abad = 0, m_garcia = 0, m_gil = 0, m_gomez = 0, m_zubiri = 0;
 
@@ -90,7 +90,7 @@ class TestConLista : public QObject {
 private slots:
     void init()
     {
-        m_entorno = std::make_unique<EntornoListas>();
+        m_entorno = std::make_unique<ProgramaDePrueba>();
         QVERIFY(m_entorno->activa());
     }
     void cleanup() { m_entorno.reset(); }
@@ -734,7 +734,7 @@ private slots:
     void lineasEnEuskera()
     {
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>(QStringLiteral("E"));
+        m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QVERIFY(m_entorno->activa());
         Poblar();
         FrmConLista* p = Abrir("A");
