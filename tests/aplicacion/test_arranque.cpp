@@ -49,8 +49,11 @@ class TestArranque : public QObject {
         return true;
     }
 
+    // Start-up as the program runs it. A test folder has no version record beside the
+    // program, so start-up tells so (id 342) before any window: that notice is answered.
     static bool arrancar()
     {
+        MensajeSeam::setNextAnswer(vb::OK);
         bool sigue = false;
         Proceso::Protegido([&] { sigue = Main(); });
         return sigue;

@@ -315,6 +315,7 @@ private slots:
     void copiaDeSeguridadDesdeElMenu()
     {
         const QString copia = m_carpeta->ruta() + "/backups/VELDOMod_bak.mdb";
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         QVERIFY(QFile::exists(copia));
         // No question the first time: at most the notice that the copy was made.
@@ -323,6 +324,7 @@ private slots:
         // A second backup replaces the first, after the question of id 337.
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         QVERIFY(!MensajeSeam::registro().isEmpty());
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(337));
@@ -330,6 +332,7 @@ private slots:
 
     void restaurarTraeElIdiomaDeLaCopia()
     {
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         Entrada().setIDI("E");
         m_ventana->Anadir_captions();
@@ -344,6 +347,7 @@ private slots:
         // Answered Yes: the copy, in Spanish, comes back with its language.
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the store was restored
         accion("mnuRestore")->trigger();
         QCOMPARE(Entrada().IDI(), QStringLiteral("C"));
         QCOMPARE(OffsetIdioma, int16_t(0));

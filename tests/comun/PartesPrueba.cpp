@@ -1,7 +1,7 @@
 #include "comun/PartesPrueba.h"
 
 #include "comun/ArregloPrueba.h"
-#include "plataforma/General.h"
+#include "servicios/Almacen.h"
 #include "servicios/PosicionesContribuyente.h"
 #include "servicios/PosicionesImportar.h"
 #include "servicios/PosicionesPresentador.h"
@@ -19,18 +19,12 @@ namespace {
 
 cContribSvr contribuyentes()
 {
-    cContribSvr svr;
-    svr.mdbmod = mdbmod;
-    svr.mdblec = mdblec;
-    return svr;
+    return Almacen<cContribSvr>();
 }
 
 cPresenSvr presentadores()
 {
-    cPresenSvr svr;
-    svr.mdbmod = mdbmod;
-    svr.mdblec = mdblec;
-    return svr;
+    return Almacen<cPresenSvr>();
 }
 
 int32_t guardarContribuyente(const Arreglo& datos)

@@ -1,6 +1,7 @@
 #pragma once
 // The whole program under test: a new store loaded as start-up loads it (AlmacenNuevo.h) with
 // the main window on screen, the panels open in it, and the event loop let run.
+#include "aplicacion/MDIVeldo.h"
 #include "comun/AlmacenNuevo.h"
 #include "comun/MensajesEstrictos.h"
 
@@ -10,7 +11,6 @@
 #include <memory>
 #include <optional>
 
-class MDIVeldo;
 class QWidget;
 
 // A new store (see AlmacenNuevo) and the main window shown, its first activation still to

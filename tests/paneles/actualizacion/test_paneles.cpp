@@ -256,6 +256,7 @@ private slots:
     void sinNavegadorAvisa()
     {
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().at(0);
@@ -270,6 +271,7 @@ private slots:
     {
         OffsetIdioma = 10000;
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().at(0).texto, TextoFila(10335));
         QCOMPARE(MensajeSeam::registro().at(0).titulo, TextoFila(10336));

@@ -641,6 +641,7 @@ private slots:
         cFlexGrid* g = Grid(p);
         QCOMPARE(ConLista().CSCO, m_abad);
         QCOMPARE(ConLista().NUMTR, 1);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const MensajeSeam::Registro aviso = MensajeSeam::registro().first();
@@ -652,6 +653,7 @@ private slots:
         // As subject too.
         ClicCelda(g, 5, 1);
         QCOMPARE(ConLista().NUMSP, 1);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro().last().texto, Texto(81));

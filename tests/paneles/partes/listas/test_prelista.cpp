@@ -221,6 +221,7 @@ private slots:
         QVERIFY(Etiqueta(p, "PicEliminar")->isVisible());
 
         // One named in a declaration is refused, without a question.
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro().last().texto, Texto(208));
