@@ -137,7 +137,7 @@ constexpr int PosicionDeCarga(int guardar)
 {
     return guardar < PosGuardarDeclaracion::DNISP
         ? guardar
-        : guardar + (PosCargarDeclaracion::DNISP - PosGuardarDeclaracion::DNISP);
+        : guardar + (int(PosCargarDeclaracion::DNISP) - int(PosGuardarDeclaracion::DNISP));
 }
 
 static_assert(PosicionDeCarga(PosGuardarDeclaracion::TOTAL) == PosCargarDeclaracion::TOTAL
