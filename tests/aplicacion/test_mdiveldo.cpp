@@ -300,11 +300,13 @@ private slots:
         QCOMPARE(NavegadorSeam::registro().size(), 1);
         QVERIFY(MensajeSeam::registro().isEmpty());
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         accion("mnuAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
         QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
         QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Exclamation));
+        MensajeSeam::setNextAnswer(vb::OK);  // the description of the service
         accion("mnuDescripAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(361));
