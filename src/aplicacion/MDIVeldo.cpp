@@ -5,6 +5,7 @@
 #include "aplicacion/frmAbout.h"
 #include "aplicacion/frmPreferencias.h"
 #include "aplicacion/Ayuda.h"
+#include "aplicacion/CopiaSeguridad.h"
 #include "aplicacion/Navegacion.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
@@ -16,7 +17,6 @@
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "servicios/cMiscelaneos.h"
-#include "servicios/cSaveAsRestore.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -343,7 +343,7 @@ void MDIVeldo::closeEvent(QCloseEvent* e)
 
 void MDIVeldo::copiaDeSeguridad()
 {
-    cSaveAsRestore copia;
+    CopiaSeguridad copia;
     copia.ArchivoOrigen = QStringLiteral("VELDOMOD.mdb");
     copia.ArchivoDestino = QStringLiteral("VELDOMod_bak.mdb");
     copia.RutaDestino = CarpetaPrograma() + QStringLiteral("/backups/");
@@ -359,7 +359,7 @@ void MDIVeldo::copiaDeSeguridad()
 
 void MDIVeldo::restaurarCopia()
 {
-    cSaveAsRestore copia;
+    CopiaSeguridad copia;
     copia.ArchivoOrigen = QStringLiteral("VELDOMod_bak.mdb");
     copia.ArchivoDestino = QStringLiteral("VELDOMOD.mdb");
     copia.RutaDestino = mdbPath;

@@ -1,9 +1,6 @@
 #include "servicios/cSaveAsRestore.h"
 
-#include "paneles/dialogos/DialogoFichero.h"
 #include "plataforma/Fallo.h"
-#include "paneles/dialogos/Mensaje.h"
-#include "catalogo/Catalogo.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
 
@@ -110,7 +107,7 @@ bool esIdentificador(const QString& nombre)
     return patron.match(nombre).hasMatch();
 }
 
-enum class Veredicto { Valida, Ajena, Posterior };
+using Veredicto = cSaveAsRestore::Examen;
 
 Veredicto examinar(const QString& ruta, qint32 marca)
 {
@@ -174,14 +171,19 @@ bool soltarBaseViva(const QString& ruta)
 }
 }  // namespace
 
-QString cSaveAsRestore::texto(int id) const
+QString cSaveAsRestore::Origen() const
 {
-    return TextoFila(id + (Idioma != 0 ? 10000 : 0));
+    return unir(RutaOrigen, ArchivoOrigen);
 }
 
-QString cSaveAsRestore::segunIdioma(const QString& es, const QString& eu) const
+QString cSaveAsRestore::Destino() const
 {
-    return Idioma != 0 ? eu : es;
+    return unir(RutaDestino, ArchivoDestino);
+}
+
+bool cSaveAsRestore::ExisteDestino() const
+{
+    return QFileInfo::exists(Destino());
 }
 
 qint32 cSaveAsRestore::marca() const
@@ -204,14 +206,10 @@ qint32 cSaveAsRestore::marca() const
     return static_cast<qint32>(numero);
 }
 
-bool cSaveAsRestore::CrearBackup() const
+bool cSaveAsRestore::Copiar() const
 {
-    const QString origen = unir(RutaOrigen, ArchivoOrigen);
-    const QString destino = unir(RutaDestino, ArchivoDestino);
-    if (QFileInfo::exists(destino)
-        && Mensaje(texto(337), vb::Question | vb::YesNo | vb::DefaultButton2, texto(349))
-            != vb::Yes)
-        return false;
+    const QString origen = Origen();
+    const QString destino = Destino();
     try {
         if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
             throw cFallo(76, kOrigen, QStringLiteral("No se puede crear la carpeta de ") + destino);
@@ -222,73 +220,37 @@ bool cSaveAsRestore::CrearBackup() const
         copiar(db, temporal.ruta());
         temporal.colocar(destino);
     } catch (const cFallo&) {
-        Mensaje(texto(338), vb::Critical, texto(339));
         return false;
     }
-    Mensaje(segunIdioma(QStringLiteral("La copia de seguridad se ha realizado correctamente."),
-                        QStringLiteral("Segurtasun kopia ondo egin da.")),
-            vb::Information, texto(349));
     return true;
 }
 
-bool cSaveAsRestore::CrearRestore() const
+cSaveAsRestore::Examen cSaveAsRestore::Examinar(const QString& archivo) const
 {
-    QString origen = unir(RutaOrigen, ArchivoOrigen);
-    const QString destino = unir(RutaDestino, ArchivoDestino);
-    if (!QFileInfo(origen).isFile()) {
-        // No backup where this program keeps it: the user may point at a copy kept elsewhere.
-        origen = DialogoAbrirFichero(Parent, texto(359), RutaOrigen, FiltroDialogo(Filtro));
-        if (origen.isEmpty())
-            return false;
-    }
-    if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
-        throw cFallo(76, kOrigen, QStringLiteral("No se puede crear la carpeta de ") + destino);
-
+    const QString destino = Destino();
+    QDir().mkpath(QFileInfo(destino).absolutePath());
     Temporal temporal(destino);
-    switch (prepararCopia(origen, temporal.ruta(), marca())) {
-    case Veredicto::Valida:
-        break;
-    case Veredicto::Posterior:
-        Mensaje(segunIdioma(QStringLiteral("La copia de seguridad procede de una versión más "
-                                           "moderna del programa y no se puede restaurar con "
-                                           "esta versión."),
-                            QStringLiteral("Segurtasun kopia programaren bertsio berriago "
-                                           "batekoa da, eta ezin da bertsio honekin "
-                                           "leheneratu.")),
-                vb::Exclamation, texto(341));
-        return false;
-    case Veredicto::Ajena:
-        Mensaje(segunIdioma(QStringLiteral("El archivo elegido no es una copia de seguridad de "
-                                           "la base de datos de este programa, o está dañado. "
-                                           "No se ha restaurado nada."),
-                            QStringLiteral("Aukeratutako fitxategia ez da programa honen datu "
-                                           "basearen segurtasun kopia bat, edo hondatuta dago. "
-                                           "Ez da ezer leheneratu.")),
-                vb::Exclamation, texto(341));
-        return false;
-    }
+    return prepararCopia(archivo, temporal.ruta(), marca());
+}
 
-    if (Mensaje(texto(340), vb::Question | vb::YesNo | vb::DefaultButton2, texto(341)) != vb::Yes)
-        return false;
-
-    const QString fallo = segunIdioma(
-        QStringLiteral("No se ha podido restaurar la base de datos. Sus datos no se han "
-                       "modificado."),
-        QStringLiteral("Ezin izan da datu basea leheneratu. Zure datuak ez dira aldatu."));
-    if (!soltarBaseViva(destino)) {
-        Mensaje(fallo, vb::Critical, texto(341));
-        return false;
-    }
+cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) const
+{
+    const QString destino = Destino();
+    Restauracion resultado;
+    if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
+        return resultado;
+    Temporal temporal(destino);
+    if (prepararCopia(archivo, temporal.ruta(), marca()) != Examen::Valida)
+        return resultado;
+    if (!soltarBaseViva(destino))
+        return resultado;
     try {
         temporal.colocar(destino);
     } catch (const cFallo&) {
-        Mensaje(fallo, vb::Critical, texto(341));
-        return false;
+        return resultado;
     }
-    Mensaje(segunIdioma(QStringLiteral("La base de datos se ha restaurado correctamente."),
-                        QStringLiteral("Datu basea ondo leheneratu da.")),
-            vb::Information, texto(341));
-    return true;
+    resultado.hecha = true;
+    return resultado;
 }
 
 QString cSaveAsRestore::FiltroDialogo(const QString& filtro)

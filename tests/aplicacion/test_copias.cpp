@@ -1,5 +1,6 @@
-// Backup and restore of the read/write database: the copy made while the database is open and
-// in WAL mode, the question before replacing a backup, the failures that leave everything as it
+// Backup and restore of the read/write database, as the main window's commands run them (the
+// application's dialogue over the store's copies and checks): the copy made while the
+// database is open and in WAL mode, the question before replacing a backup, the failures that leave everything as it
 // was, and the restore of a good file, of files that are not backups of this program, and one
 // answered No.
 #include "comun/BaseCruda.h"
@@ -13,6 +14,7 @@
 #include "servicios/Esquema.h"
 #include "servicios/cDatosGeneral.h"
 #include "servicios/cGeneralSvr.h"
+#include "aplicacion/CopiaSeguridad.h"
 #include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
 
@@ -30,9 +32,9 @@ const QString kFiltro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
 QString carpetaCopias() { return CarpetaPrograma() + QStringLiteral("/backups/"); }
 QString copia() { return carpetaCopias() + QStringLiteral("VELDOMod_bak.mdb"); }
 
-cSaveAsRestore paraCopia()
+CopiaSeguridad paraCopia()
 {
-    cSaveAsRestore c;
+    CopiaSeguridad c;
     c.ArchivoOrigen = QStringLiteral("VELDOMOD.mdb");
     c.ArchivoDestino = QStringLiteral("VELDOMod_bak.mdb");
     c.RutaDestino = carpetaCopias();
@@ -45,9 +47,9 @@ cSaveAsRestore paraCopia()
     return c;
 }
 
-cSaveAsRestore paraRestaurar()
+CopiaSeguridad paraRestaurar()
 {
-    cSaveAsRestore c;
+    CopiaSeguridad c;
     c.ArchivoOrigen = QStringLiteral("VELDOMod_bak.mdb");
     c.ArchivoDestino = QStringLiteral("VELDOMOD.mdb");
     c.RutaDestino = mdbPath;
@@ -228,7 +230,7 @@ private slots:
     {
         QVERIFY(paraCopia().CrearBackup());
         MensajeSeam::limpiar();
-        cSaveAsRestore c = paraCopia();
+        CopiaSeguridad c = paraCopia();
         c.Idioma = 10000;
         MensajeSeam::setNextAnswer(vb::No);
         c.CrearBackup();
@@ -256,7 +258,7 @@ private slots:
         const QByteArray primera = Bytes(copia());
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
-        cSaveAsRestore c = paraCopia();
+        CopiaSeguridad c = paraCopia();
         c.ArchivoOrigen = QStringLiteral("NO_EXISTE.mdb");
         QCOMPARE(c.CrearBackup(), false);
         QCOMPARE(MensajeSeam::registro().last().texto, Texto(338));
@@ -368,7 +370,7 @@ private slots:
     void rechazoEnEuskera()
     {
         escribir(copia(), "ez da datu basea");
-        cSaveAsRestore c = paraRestaurar();
+        CopiaSeguridad c = paraRestaurar();
         c.Idioma = 10000;
         QCOMPARE(c.CrearRestore(), false);
         QVERIFY(MensajeSeam::registro()[0].texto.contains(QLatin1String("ez da programa honen")));
@@ -414,7 +416,7 @@ private slots:
 
         // A copy kept elsewhere.
         general().CambiarIdioma(QStringLiteral("E"));
-        cSaveAsRestore c = paraCopia();
+        CopiaSeguridad c = paraCopia();
         c.RutaDestino = CarpetaPrograma() + QStringLiteral("/otra/");
         QVERIFY(c.CrearBackup());
         general().CambiarIdioma(QStringLiteral("C"));
