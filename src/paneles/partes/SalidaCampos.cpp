@@ -32,12 +32,16 @@ bool SalidaCampos::eventFilter(QObject* objeto, QEvent* evento)
         return false;
     const auto* foco = static_cast<QFocusEvent*>(evento);
     const Qt::FocusReason razon = foco->reason();
-    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason)
-        return false;
+    // The field holds the focus now, however it came: also when it comes back with the
+    // window's activation (a message box closed, whose panel gave the field the focus while
+    // the box was still active) or after a popup. What the user types next is left from here.
     if (evento->type() == QEvent::FocusIn) {
         m_conFoco = campo;
         return false;
     }
+    // The window lost the activation or a popup opened: the user has not left the field.
+    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason)
+        return false;
     const bool loTenia = m_conFoco == campo;
     if (loTenia)
         m_conFoco = nullptr;

@@ -6,7 +6,8 @@
 //
 // Not every loss of focus is a leaving:
 //  - when the program's window loses the activation (another program, a message box) the user
-//    has not left the field;
+//    has not left the field; when it gets it back, the field that receives the focus is the one
+//    the user will leave next, whether it had the focus before or was given it meanwhile;
 //  - a field that never really held the focus (the focus only passed it on the way to another
 //    widget that was given the focus meanwhile) has nothing to leave;
 //  - the panel can hold the watcher back while it works (a picker open, the panel closing).
