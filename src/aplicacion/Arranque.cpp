@@ -10,6 +10,7 @@
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
+#include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
@@ -77,6 +78,10 @@ bool Main()
     CrearMutex();
     ObtenerVersionPrograma();
     ConfigurarRutas(CarpetaPrograma());
+    // Temporary copies left by a copy of the program that ended half-way through a backup or
+    // a restore (those of a copy still running are kept).
+    cSaveAsRestore::LimpiarTemporales(mdbPath);
+    cSaveAsRestore::LimpiarTemporales(CarpetaPrograma() + QStringLiteral("/backups/"));
     if (!Traspaso())
         return false;
     InicializarAplicacion();

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QUuid>
@@ -100,6 +101,52 @@ private:
     bool m_abierta = false;
     QSqlError m_error;
 };
+
+// Table -> its column names, both in capitals, of the open database (SQLite's own left out).
+QMap<QString, QStringList> disposicionDe(const QSqlDatabase& db, const QString& origen)
+{
+    QMap<QString, QStringList> tablas;
+    QSqlQuery q = Ejecutar(db,
+                           QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' "
+                                          "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"),
+                           {}, origen);
+    while (q.next())
+        tablas.insert(q.value(0).toString().toUpper(), {});
+    for (auto it = tablas.begin(); it != tablas.end(); ++it) {
+        QSqlQuery c = Ejecutar(db, QStringLiteral("SELECT name FROM pragma_table_info(?)"),
+                               {it.key()}, origen);
+        while (c.next())
+            it.value() << c.value(0).toString().toUpper();
+        it.value().sort();
+    }
+    return tablas;
+}
+
+// The tables and columns of layout `version`, built in a database in memory.
+QMap<QString, QStringList> disposicionDeReferencia(int version, const QString& origen)
+{
+    const QString nombre =
+        QStringLiteral("disposicion-") + QUuid::createUuid().toString(QUuid::Id128);
+    QMap<QString, QStringList> tablas;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
+        db.setDatabaseName(QStringLiteral(":memory:"));
+        if (!db.open())
+            throw cFallo(3049, origen, db.lastError().text());
+        if (version == 0) {
+            Ejecutar(db, QStringLiteral("CREATE TABLE CONFIGURACION (IDIOMA TEXT, ACTONLINE INTEGER)"),
+                     {}, origen);
+        } else {
+            for (const Esquema::Paso& paso : Esquema::Pasos())
+                if (paso.version <= version)
+                    paso.aplicar(db, origen);
+        }
+        tablas = disposicionDe(db, origen);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(nombre);
+    return tablas;
+}
 
 int enteroDe(const QSqlDatabase& db, const QString& pragma, const QString& origen)
 {
@@ -199,6 +246,11 @@ Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marc
             return {Clase::NoEsBaseDeDatos, 0};
         throw;
     }
+}
+
+bool TieneDisposicion(const QSqlDatabase& db, int version, const QString& origen)
+{
+    return disposicionDe(db, origen) == disposicionDeReferencia(version, origen);
 }
 
 void Migrar(const QSqlDatabase& db, int desde, const QString& origen)

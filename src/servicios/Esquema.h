@@ -75,6 +75,11 @@ qint32 MarcaDe(const QSqlDatabase& db, const QString& origen);
 int ObjetosDe(const QSqlDatabase& db, const QString& origen);
 bool ExisteTabla(const QSqlDatabase& db, const QString& tabla, const QString& origen);
 
+// True when the open database holds exactly the tables of layout `version`, each with exactly
+// its columns (names compared without regard to case). The reference is built by running the
+// steps up to that layout on an empty database in memory.
+bool TieneDisposicion(const QSqlDatabase& db, int version, const QString& origen);
+
 // Runs every step above `desde` and stamps the mark and the current layout in the header.
 // Must run inside the caller's write transaction, with foreign keys off; checks the foreign
 // keys of the whole file at the end and raises cFallo when any is broken.

@@ -4,13 +4,16 @@
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QUuid>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 namespace {
@@ -23,8 +26,21 @@ QString unir(const QString& ruta, const QString& archivo)
     return ruta + QLatin1Char('/') + archivo;
 }
 
-// A file name beside `destino` that nobody uses, removed on leaving the scope unless it has
-// been renamed into place.
+QString cerrojoDe(const QString& temporal)
+{
+    return temporal + QStringLiteral(".lock");
+}
+
+// The files SQLite may keep beside a database.
+void borrarConCompanneros(const QString& ruta)
+{
+    for (const char* sufijo : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(ruta + QLatin1String(sufijo));
+}
+
+// A file name beside `destino` that nobody uses, held by a lock file for as long as this object
+// lives and removed on leaving the scope unless it has been renamed into place. A copy of the
+// program killed half-way leaves both behind; the stale lock tells LimpiarTemporales so.
 class Temporal {
 public:
     explicit Temporal(const QString& destino)
@@ -34,12 +50,17 @@ public:
             m_ruta = info.absolutePath() + QStringLiteral("/.") + info.fileName()
                 + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128).left(12)
                 + QStringLiteral(".tmp");
-        } while (QFileInfo::exists(m_ruta));
+        } while (QFileInfo::exists(m_ruta) || QFileInfo::exists(cerrojoDe(m_ruta)));
+        m_cerrojo = std::make_unique<QLockFile>(cerrojoDe(m_ruta));
+        m_cerrojo->setStaleLockTime(0);
+        if (!m_cerrojo->tryLock(0))
+            throw cFallo(75, kOrigen, QStringLiteral("No se puede crear ") + cerrojoDe(m_ruta));
     }
     ~Temporal()
     {
         if (!m_colocado)
-            QFile::remove(m_ruta);
+            borrarConCompanneros(m_ruta);
+        m_cerrojo->unlock();
     }
     Temporal(const Temporal&) = delete;
     Temporal& operator=(const Temporal&) = delete;
@@ -61,23 +82,25 @@ public:
 
 private:
     QString m_ruta;
+    std::unique_ptr<QLockFile> m_cerrojo;
     bool m_colocado = false;
 };
 
-// A connection of its own to a file that is only read, removed on leaving the scope, so that
-// the chosen backup is never held open and never joins the stores' cache.
-class Lectura {
+// A connection of its own, removed on leaving the scope, so that neither the chosen backup nor
+// the restore's transaction ever joins the stores' cache.
+class Propia {
 public:
-    explicit Lectura(const QString& ruta)
+    Propia(const QString& ruta, bool lectura)
         : m_nombre(QStringLiteral("copia-") + QUuid::createUuid().toString(QUuid::Id128))
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
         db.setDatabaseName(ruta);
-        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000"));
+        db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
+                                     : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
         if (!db.open())
             throw cFallo(3049, kOrigen, ruta + QStringLiteral(": ") + db.lastError().text());
     }
-    ~Lectura()
+    ~Propia()
     {
         {
             QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
@@ -85,8 +108,8 @@ public:
         }
         QSqlDatabase::removeDatabase(m_nombre);
     }
-    Lectura(const Lectura&) = delete;
-    Lectura& operator=(const Lectura&) = delete;
+    Propia(const Propia&) = delete;
+    Propia& operator=(const Propia&) = delete;
 
     QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
 
@@ -107,67 +130,123 @@ bool esIdentificador(const QString& nombre)
     return patron.match(nombre).hasMatch();
 }
 
-using Veredicto = cSaveAsRestore::Examen;
-
-Veredicto examinar(const QString& ruta, qint32 marca)
+QString entreComillas(const QString& nombre)
 {
-    const Esquema::Reconocimiento r = Esquema::Reconocer(ruta, kOrigen, marca);
-    if (r.clase != Esquema::Clase::Propia)
-        return Veredicto::Ajena;
-    if (r.version > Esquema::VersionActual())
-        return Veredicto::Posterior;
-    return Veredicto::Valida;
+    return QLatin1Char('"') + QString(nombre).replace(QLatin1Char('"'), QStringLiteral("\"\""))
+        + QLatin1Char('"');
 }
 
-// Copies the chosen file to `temporal` and checks the copy: the very bytes that will be
-// renamed into place are the ones checked. A file that cannot be read, or is damaged on the
-// way, is not a usable backup.
-Veredicto prepararCopia(const QString& origen, const QString& temporal, qint32 marca)
+using Examen = cSaveAsRestore::Examen;
+
+// The file by itself: its mark and layout number, then every page (integrity) and the tables
+// and columns of the layout it claims. A file that cannot be read is not a usable backup.
+Examen examinar(const QString& ruta, qint32 marca)
 {
     try {
-        const Veredicto previo = examinar(origen, marca);
-        if (previo != Veredicto::Valida)
-            return previo;
-        {
-            Lectura lectura(origen);
-            copiar(lectura.db(), temporal);
-        }
-        const Veredicto copia = examinar(temporal, marca);
-        if (copia != Veredicto::Valida)
-            return copia;
-        Lectura lectura(temporal);
-        const QString integridad =
-            Escalar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen)
-                .toString();
-        return integridad == QLatin1String("ok") ? Veredicto::Valida : Veredicto::Ajena;
+        const Esquema::Reconocimiento r = Esquema::Reconocer(ruta, kOrigen, marca);
+        if (r.clase != Esquema::Clase::Propia)
+            return Examen::Ajena;
+        if (r.version > Esquema::VersionActual())
+            return Examen::Posterior;
+        Propia lectura(ruta, true);
+        QSqlQuery q = Ejecutar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen);
+        if (!q.next() || q.value(0).toString() != QLatin1String("ok") || q.next())
+            return Examen::Ajena;
+        q.finish();
+        return Esquema::TieneDisposicion(lectura.db(), r.version, kOrigen) ? Examen::Valida
+                                                                           : Examen::Ajena;
     } catch (const cFallo&) {
-        return Veredicto::Ajena;
+        return Examen::Ajena;
     }
 }
 
-// Brings everything written to the live file into the file itself and closes this program's
-// connections to it. Answers false when its write-ahead log still holds data afterwards
-// (another running instance is writing): replacing the file then would lose that data.
-bool soltarBaseViva(const QString& ruta)
+// The live database as it is now, kept under `carpeta` with the date and time in its name.
+QString guardarCopiaPrevia(const QString& viva, const QString& carpeta)
 {
-    if (QFileInfo::exists(ruta)) {
-        try {
-            const QSqlDatabase db = Conexion::Modificable(ruta, kOrigen);
-            QSqlQuery q(db);
-            q.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
-        } catch (const cFallo&) {
-            // A live file that cannot even be opened has nothing to bring in.
-        }
+    if (!QDir().mkpath(carpeta))
+        throw cFallo(76, kOrigen, QStringLiteral("No se puede crear la carpeta ") + carpeta);
+    const QString base = unir(carpeta, QFileInfo(viva).completeBaseName() + QLatin1Char('_')
+                                           + QDateTime::currentDateTime().toString(
+                                               QStringLiteral("yyyyMMdd_HHmmss")));
+    QString nombre = base + QStringLiteral(".mdb");
+    for (int n = 2; QFileInfo::exists(nombre); ++n)
+        nombre = base + QStringLiteral("_%1.mdb").arg(n);
+    Propia lectura(viva, true);
+    Temporal temporal(nombre);
+    copiar(lectura.db(), temporal.ruta());
+    temporal.colocar(nombre);
+    return nombre;
+}
+
+QStringList nombres(const QSqlDatabase& db, const QString& sql)
+{
+    QStringList lista;
+    QSqlQuery q = Ejecutar(db, sql, {}, kOrigen);
+    while (q.next())
+        lista << q.value(0).toString();
+    return lista;
+}
+
+// Inside the caller's transaction: the live file's tables and views go, the copy's are made
+// again from their own statements, the rows are carried over, then the indexes, triggers and
+// the header numbers follow.
+void sustituirContenido(const QSqlDatabase& db)
+{
+    const QString propias = QStringLiteral(" AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
+    for (const QString& v : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
+                                                       "WHERE type = 'view'") + propias))
+        Ejecutar(db, QStringLiteral("DROP VIEW main.") + entreComillas(v), {}, kOrigen);
+    for (const QString& t : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
+                                                       "WHERE type = 'table'") + propias))
+        Ejecutar(db, QStringLiteral("DROP TABLE main.") + entreComillas(t), {}, kOrigen);
+
+    const QStringList tablas = nombres(
+        db, QStringLiteral("SELECT name FROM copia.sqlite_master WHERE type = 'table'") + propias);
+    for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
+                                                         "WHERE type = 'table'") + propias))
+        Ejecutar(db, sql, {}, kOrigen);
+    for (const QString& t : tablas)
+        Ejecutar(db, QStringLiteral("INSERT INTO main.%1 SELECT * FROM copia.%1").arg(entreComillas(t)),
+                 {}, kOrigen);
+    if (Escalar(db, QStringLiteral("SELECT COUNT(*) FROM copia.sqlite_master "
+                                   "WHERE name = 'sqlite_sequence'"), {}, kOrigen).toInt() > 0
+        && Escalar(db, QStringLiteral("SELECT COUNT(*) FROM main.sqlite_master "
+                                      "WHERE name = 'sqlite_sequence'"), {}, kOrigen).toInt() > 0) {
+        Ejecutar(db, QStringLiteral("DELETE FROM main.sqlite_sequence"), {}, kOrigen);
+        Ejecutar(db, QStringLiteral("INSERT INTO main.sqlite_sequence SELECT * FROM copia.sqlite_sequence"),
+                 {}, kOrigen);
     }
-    Conexion::Cerrar(ruta);
-    const QFileInfo wal(ruta + QStringLiteral("-wal"));
-    if (wal.exists() && wal.size() > 0)
-        return false;
-    // An empty log and the shared-memory index are left over from the closed connections;
-    // they must not outlive the file they belong to.
-    QFile::remove(ruta + QStringLiteral("-wal"));
-    QFile::remove(ruta + QStringLiteral("-shm"));
-    return true;
+    for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
+                                                         "WHERE type IN ('index', 'trigger', 'view') "
+                                                         "AND sql IS NOT NULL") + propias
+                                              + QStringLiteral(" ORDER BY type = 'view'")))
+        Ejecutar(db, sql, {}, kOrigen);
+    // PRAGMA takes no bound parameters; both values are integers read from the copy's header.
+    const int version = Escalar(db, QStringLiteral("PRAGMA copia.user_version"), {}, kOrigen).toInt();
+    const qint64 marca = Escalar(db, QStringLiteral("PRAGMA copia.application_id"), {}, kOrigen).toLongLong();
+    Ejecutar(db, QStringLiteral("PRAGMA main.user_version = %1").arg(version), {}, kOrigen);
+    Ejecutar(db, QStringLiteral("PRAGMA main.application_id = %1").arg(marca), {}, kOrigen);
+}
+
+// The checked copy replaces the live content in one transaction of the live file.
+void restaurarEnVivo(const QString& viva, const QString& copia)
+{
+    Propia conexion(viva, false);
+    const QSqlDatabase db = conexion.db();
+    // Foreign keys are checked by the copy's integrity; the switch is ignored inside a
+    // transaction, so it goes off before.
+    Ejecutar(db, QStringLiteral("PRAGMA foreign_keys = OFF"), {}, kOrigen);
+    Ejecutar(db, QStringLiteral("ATTACH DATABASE ? AS copia"), {copia}, kOrigen);
+    try {
+        Transaccion transaccion(db, kOrigen);
+        sustituirContenido(db);
+        transaccion.confirmar();
+    } catch (const cFallo&) {
+        QSqlQuery q(db);
+        q.exec(QStringLiteral("DETACH DATABASE copia"));
+        throw;
+    }
+    Ejecutar(db, QStringLiteral("DETACH DATABASE copia"), {}, kOrigen);
 }
 }  // namespace
 
@@ -227,30 +306,61 @@ bool cSaveAsRestore::Copiar() const
 
 cSaveAsRestore::Examen cSaveAsRestore::Examinar(const QString& archivo) const
 {
-    const QString destino = Destino();
-    QDir().mkpath(QFileInfo(destino).absolutePath());
-    Temporal temporal(destino);
-    return prepararCopia(archivo, temporal.ruta(), marca());
+    return examinar(archivo, marca());
 }
 
 cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) const
 {
     const QString destino = Destino();
     Restauracion resultado;
-    if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
-        return resultado;
-    Temporal temporal(destino);
-    if (prepararCopia(archivo, temporal.ruta(), marca()) != Examen::Valida)
-        return resultado;
-    if (!soltarBaseViva(destino))
+    // The chosen file by itself first: its copy could be whole where the file is not.
+    if (Examinar(archivo) != Examen::Valida)
         return resultado;
     try {
-        temporal.colocar(destino);
+        if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
+            throw cFallo(76, kOrigen, QStringLiteral("No se puede crear la carpeta de ") + destino);
+        LimpiarTemporales(QFileInfo(destino).absolutePath());
+        LimpiarTemporales(RutaOrigen);
+        const QFileInfo viva(destino);
+        if (viva.exists() && !viva.isFile())
+            return resultado;
+        // The very bytes that are checked are the ones that go into the live file.
+        Temporal temporal(destino);
+        {
+            Propia lectura(archivo, true);
+            copiar(lectura.db(), temporal.ruta());
+        }
+        if (examinar(temporal.ruta(), marca()) != Examen::Valida)
+            return resultado;
+        if (viva.exists())
+            resultado.copiaPrevia = guardarCopiaPrevia(destino, RutaOrigen);
+        restaurarEnVivo(destino, temporal.ruta());
+        resultado.hecha = true;
     } catch (const cFallo&) {
-        return resultado;
+        resultado.hecha = false;
     }
-    resultado.hecha = true;
     return resultado;
+}
+
+int cSaveAsRestore::LimpiarTemporales(const QString& carpeta)
+{
+    static const QRegularExpression patron(QStringLiteral("^\\..+\\.[0-9a-f]{12}\\.tmp$"));
+    int quitados = 0;
+    const QDir dir(carpeta);
+    for (const QString& f : dir.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
+        if (!patron.match(f).hasMatch())
+            continue;
+        const QString ruta = dir.filePath(f);
+        QLockFile cerrojo(cerrojoDe(ruta));
+        cerrojo.setStaleLockTime(0);
+        // A lock held by a running copy of the program cannot be taken: its file stays.
+        if (!cerrojo.tryLock(0))
+            continue;
+        borrarConCompanneros(ruta);
+        cerrojo.unlock();
+        ++quitados;
+    }
+    return quitados;
 }
 
 QString cSaveAsRestore::FiltroDialogo(const QString& filtro)

@@ -7,12 +7,22 @@
 // to a temporary file beside the destination, which is then renamed over the former backup.
 // A failure leaves the database and the former backup as they were.
 //
-// Examinar judges a file offered for a restore: a database of this program, of a layout it can
-// migrate, and whole once copied.
+// Examinar judges a file offered for a restore by itself: a database of this program, of a
+// layout it can migrate, whole (PRAGMA integrity_check), holding exactly the tables and
+// columns of the layout its header claims.
 //
-// Restaurar copies the file beside the live database (RutaDestino+ArchivoDestino), checks the
-// copy, closes the connections to the live file and renames the copy over it. Answers whether
-// the live database has been replaced; on every other way out it is untouched.
+// Restaurar replaces the content of the live database (RutaDestino+ArchivoDestino) with that
+// of a file: it copies the file beside the live database, checks the copy as Examinar does,
+// keeps the live database as a dated safety copy in RutaOrigen (the folder of the backups),
+// and then, in one write transaction of SQLite on the live file, drops its tables and builds
+// them again from the attached copy. The live file itself is never removed nor renamed, so a
+// second running copy of the program, with the file open, sees the restored data at once and
+// goes on writing into it. Any failure rolls the transaction back and leaves the live data as
+// they were.
+//
+// Temporary copies are hidden files ".<name>.<12 hex>.tmp" beside their destination, each
+// held by a lock file while its maker runs; LimpiarTemporales removes those whose maker is
+// gone (a copy of the program killed half-way).
 //
 // BDLectura, BDTabla and BDCampo point at the mark of this program's databases in the
 // reference database (the SQLite application_id a restored file must carry).
@@ -32,6 +42,7 @@ public:
     enum class Examen { Valida, Ajena, Posterior };
     struct Restauracion {
         bool hecha = false;
+        QString copiaPrevia;  // the dated safety copy of the live database, when one was made
     };
 
     QString Origen() const;   // RutaOrigen + ArchivoOrigen
@@ -41,6 +52,10 @@ public:
     bool Copiar() const;
     Examen Examinar(const QString& archivo) const;
     Restauracion Restaurar(const QString& archivo) const;
+
+    // Removes the temporary copies left in `carpeta` by a copy of the program that ended
+    // half-way; those of a copy still running are kept. Answers how many were removed.
+    static int LimpiarTemporales(const QString& carpeta);
 
     // The chooser's filter in the form of Qt's file dialogs: "archivos mdb (*.mdb)".
     static QString FiltroDialogo(const QString& filtro);

@@ -18,6 +18,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -217,6 +218,28 @@ private slots:
         QVERIFY(ProcesoSeam::avisos()[0].origen.startsWith("MDIVeldo.Traspaso\r\n"));
         QCOMPARE(ProcesoSeam::finales(), 1);
         QVERIFY(!VentanaMDI());
+    }
+
+    // A copy of the program killed half-way through a restore or a backup left hidden
+    // temporary copies: the next start removes them, but not those of a copy still running.
+    void restosDeCopiasSeLimpianAlArrancar()
+    {
+        CarpetaDePrueba carpeta;
+        QDir().mkpath(carpeta.ruta() + "/backups");
+        const QString enTablas = carpeta.tablas() + ".VELDOMOD.mdb.0123456789ab.tmp";
+        const QString enCopias = carpeta.ruta() + "/backups/.VELDOMod_bak.mdb.0123456789ab.tmp";
+        const QString enUso = carpeta.tablas() + ".VELDOMOD.mdb.aaaaaaaaaaaa.tmp";
+        for (const QString& f : {enTablas, enCopias, enUso}) {
+            QFile resto(f);
+            QVERIFY(resto.open(QIODevice::WriteOnly));
+            resto.write(QByteArray(1024, 'x'));
+        }
+        QLockFile cerrojo(enUso + ".lock");
+        QVERIFY(cerrojo.tryLock(0));
+        QVERIFY(arrancar());
+        QVERIFY(!QFile::exists(enTablas));
+        QVERIFY(!QFile::exists(enCopias));
+        QVERIFY(QFile::exists(enUso));
     }
 
     void segundaInstanciaNoSeRechaza()
