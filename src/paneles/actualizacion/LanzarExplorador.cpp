@@ -5,19 +5,46 @@
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/dialogos/Navegador.h"
 #include "catalogo/Catalogo.h"
+#include "registros/actualizacion/ActualizacionOnline.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace {
 
-// The page, byte for byte. The address is written as it stands, not escaped: an apostrophe in
-// it ends the attribute early.
+// The address as the value of an attribute in apostrophes: the characters that could end it or
+// open markup are written as references. An ampersand is escaped only where it would start a
+// character reference ("&amp;", "&#38;"), so that an address with a plain query ("?x=1&y=2")
+// is written as it stands, and the browser reads back the very same address either way.
+QByteArray escapar(const QString& url)
+{
+    static const QRegularExpression referencia(QStringLiteral("^&(#?[A-Za-z0-9]+);"));
+    QString salida;
+    for (qsizetype i = 0; i < url.size(); ++i) {
+        const QChar c = url.at(i);
+        if (c == QLatin1Char('\''))
+            salida += QStringLiteral("&#39;");
+        else if (c == QLatin1Char('"'))
+            salida += QStringLiteral("&quot;");
+        else if (c == QLatin1Char('<'))
+            salida += QStringLiteral("&lt;");
+        else if (c == QLatin1Char('>'))
+            salida += QStringLiteral("&gt;");
+        else if (c == QLatin1Char('&') && referencia.match(url.mid(i)).hasMatch())
+            salida += QStringLiteral("&amp;");
+        else
+            salida += c;
+    }
+    return salida.toUtf8();
+}
+
+// The page, byte for byte.
 QByteArray pagina(const QString& url)
 {
     return QByteArrayLiteral("<HTML> ")
            + QByteArrayLiteral(" <BODY ONLOAD='document.formulario.submit();'> ")
-           + QByteArrayLiteral(" <FORM NAME='formulario' action='") + url.toUtf8()
+           + QByteArrayLiteral(" <FORM NAME='formulario' action='") + escapar(url)
            + QByteArrayLiteral("' method=post> ") + QByteArrayLiteral(" </FORM></BODY> </HTML>");
 }
 
@@ -51,6 +78,10 @@ QString RutaPaginaTemporal()
 
 void LanzarExplorador(QWidget* /*owner*/, const QString& url)
 {
+    // The version file's address has been checked on reading; anything else here is a fault.
+    if (!EsDireccionWeb(url))
+        throw cFallo(5, QStringLiteral("ActualizacionOnline.LanzarExplorador"),
+                     QStringLiteral("La dirección de descarga no es una dirección web: %1").arg(url));
     const QString ruta = RutaPaginaTemporal();
     escribirPagina(ruta, url);
     // The page stays in place after the browser opens it; the next call deletes it.

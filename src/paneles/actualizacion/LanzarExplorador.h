@@ -8,8 +8,10 @@
 class QWidget;
 
 // Writes the program's folder + "/temphtm.HTM" (deleting an earlier one) and opens it with the
-// desktop's browser (through AbrirEnNavegador, which tests record). No browser: message id 335, title id 336, exclamation. A page that cannot
-// be written is a run-time failure (cFallo).
+// desktop's browser (through AbrirEnNavegador, which tests record). No browser: message id 335,
+// title id 336, exclamation. The address must be an http or https address and is HTML-escaped
+// in the page. A page that cannot be written, or another kind of address, is a run-time
+// failure (cFallo).
 void LanzarExplorador(QWidget* owner, const QString& url);
 
 // The path of the temporary page.

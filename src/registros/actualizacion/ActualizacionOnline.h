@@ -21,12 +21,17 @@ int DescargarVersionIni();
 
 // Downloads `url` into `fichero`. Answers 3 when the download succeeded and version.ini exists
 // in the program's folder, else 1. A server that does not answer within the download's time
-// limit counts as no connection.
+// limit counts as no connection, and so does a reply above 64 KiB: the reading stops there and
+// nothing of it is kept.
 int DescargarFichero(const QString& url, const QString& fichero);
 
 // Fills the offered version, address and description from version.ini and sets ComVer when the
-// versions differ. Answers 4 on any failure (no three-part version), else 3.
+// versions differ. Answers 4 on any failure (no three-part version, a control character in the
+// version, a download address that is not an http or https address), else 3.
 int LeerVersionIni();
+
+// True for an absolute http or https address with a host.
+bool EsDireccionWeb(const QString& direccion);
 
 // One key of an INI file, read with the rules of LeerClaveIni.cpp: sections and keys
 // without regard to case, blanks around keys and values dropped, a value in matching quotes

@@ -23,6 +23,11 @@ namespace {
 
 std::chrono::milliseconds g_esperaMaxima{15000};
 
+// A version file is a few hundred bytes. A reply above this size is not one: the download
+// stops reading there and the check goes on as if there were no connection, so an endless or
+// huge reply neither grows the program nor is ever kept.
+constexpr qint64 kTamannoMaximo = 64 * 1024;
+
 bool esLocal(const QUrl& url)
 {
     const QString host = url.host();
@@ -55,22 +60,39 @@ std::optional<QByteArray> traer(const QUrl& url)
     peticion.setTransferTimeout(static_cast<int>(g_esperaMaxima.count()));
 
     std::unique_ptr<QNetworkReply> respuesta(red.get(peticion));
+    // Qt keeps no more than this unread; the body is taken as it comes and counted.
+    respuesta->setReadBufferSize(kTamannoMaximo + 1);
+    QByteArray cuerpo;
+    bool demasiado = false;
+    auto leer = [&] {
+        cuerpo += respuesta->read(kTamannoMaximo + 1 - cuerpo.size());
+        const QVariant anunciado = respuesta->header(QNetworkRequest::ContentLengthHeader);
+        if (cuerpo.size() > kTamannoMaximo
+            || (anunciado.isValid() && anunciado.toLongLong() > kTamannoMaximo)) {
+            demasiado = true;
+            respuesta->abort();
+        }
+    };
     QEventLoop bucle;
     QTimer limite;
     limite.setSingleShot(true);
     QObject::connect(&limite, &QTimer::timeout, respuesta.get(), &QNetworkReply::abort);
+    QObject::connect(respuesta.get(), &QNetworkReply::metaDataChanged, &bucle, leer);
+    QObject::connect(respuesta.get(), &QNetworkReply::readyRead, &bucle, leer);
     QObject::connect(respuesta.get(), &QNetworkReply::finished, &bucle, &QEventLoop::quit);
     limite.start(g_esperaMaxima);
     if (!respuesta->isFinished())
         bucle.exec(QEventLoop::ExcludeUserInputEvents);
     limite.stop();
+    if (!demasiado)
+        leer();
 
-    if (respuesta->error() != QNetworkReply::NoError)
+    if (demasiado || respuesta->error() != QNetworkReply::NoError)
         return std::nullopt;
     const QVariant estado = respuesta->attribute(QNetworkRequest::HttpStatusCodeAttribute);
     if (estado.isValid() && (estado.toInt() < 200 || estado.toInt() > 299))
         return std::nullopt;
-    return respuesta->readAll();
+    return cuerpo;
 }
 
 bool grabar(const QString& fichero, const QByteArray& datos)

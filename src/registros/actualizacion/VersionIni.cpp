@@ -7,6 +7,17 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <QUrl>
+#include <algorithm>
+
+namespace {
+// A version with a control character (a bell, an escape, a line break inside) is no version.
+bool tieneControl(const QString& texto)
+{
+    return std::any_of(texto.cbegin(), texto.cend(),
+                       [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+}  // namespace
 
 QString RutaVersionIni()
 {
@@ -39,17 +50,21 @@ int LeerVersionIni()
     try {
         cActOnline& act = ActOnline();
         const QString ruta = RutaVersionIni();
-        const QStringList partes = LeerClaveIni(QStringLiteral("informacion"),
-                                                QStringLiteral("currentversion"), ruta)
-                                       .trimmed()
-                                       .split(QLatin1Char('.'));
-        if (partes.size() < 3)
+        const QString version =
+            LeerClaveIni(QStringLiteral("informacion"), QStringLiteral("currentversion"), ruta)
+                .trimmed();
+        const QStringList partes = version.split(QLatin1Char('.'));
+        if (partes.size() < 3 || tieneControl(version))
+            return SitActualizacion::FicheroErroneo;
+        const QString descarga =
+            LeerClaveIni(QStringLiteral("informacion"), QStringLiteral("downloadurl"), ruta).trimmed();
+        // The address goes into a page the browser opens: only a web address is accepted.
+        if (!descarga.isEmpty() && !EsDireccionWeb(descarga))
             return SitActualizacion::FicheroErroneo;
         act.ActVer1 = partes.at(0);
         act.ActVer2 = partes.at(1);
         act.ActVer3 = partes.at(2);
-        act.ActDownloadURL =
-            LeerClaveIni(QStringLiteral("informacion"), QStringLiteral("downloadurl"), ruta).trimmed();
+        act.ActDownloadURL = descarga;
         act.ActDescripcion =
             LeerClaveIni(QStringLiteral("informacion"), QStringLiteral("descripcion"), ruta).trimmed();
         // A difference, not a higher number: an older version offered is offered all the same.
@@ -61,4 +76,12 @@ int LeerVersionIni()
     } catch (...) {
         return SitActualizacion::FicheroErroneo;
     }
+}
+
+bool EsDireccionWeb(const QString& direccion)
+{
+    const QUrl url(direccion);
+    const QString esquema = url.scheme().toLower();
+    return url.isValid() && (esquema == QLatin1String("http") || esquema == QLatin1String("https"))
+        && !url.host().isEmpty();
 }

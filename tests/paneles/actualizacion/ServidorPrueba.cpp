@@ -25,6 +25,22 @@ void ServidorPrueba::responder(int estado, const QByteArray& cuerpo)
 void ServidorPrueba::callar()
 {
     m_calla = true;
+    m_sinFin = false;
+}
+
+void ServidorPrueba::sinFin()
+{
+    m_calla = false;
+    m_sinFin = true;
+}
+
+// One more piece of the endless body each time the former one has gone out.
+void ServidorPrueba::seguir(QTcpSocket* s)
+{
+    if (s->state() != QAbstractSocket::ConnectedState || s->bytesToWrite() > 0)
+        return;
+    const QByteArray trozo(16 * 1024, 'v');
+    m_enviados += s->write(trozo);
 }
 
 void ServidorPrueba::alConectar()
@@ -48,6 +64,12 @@ void ServidorPrueba::alLeer(QTcpSocket* s)
     m_peticiones.append(primera.value(1));
     if (m_calla)
         return;
+    if (m_sinFin) {
+        s->write("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nConnection: close\r\n\r\n"
+                 "[informacion]\r\ncurrentversion=1.30.2\r\n");
+        connect(s, &QTcpSocket::bytesWritten, this, [this, s] { seguir(s); });
+        return;
+    }
     const QByteArray razon = m_estado == 200 ? "OK" : m_estado == 404 ? "Not Found" : "Status";
     QByteArray respuesta = "HTTP/1.1 " + QByteArray::number(m_estado) + ' ' + razon + "\r\n"
                            + "Content-Type: text/plain\r\n"

@@ -22,6 +22,10 @@ public:
     void responder(int estado, const QByteArray& cuerpo);
     // Every later request is accepted and read, and never answered.
     void callar();
+    // Every later request gets a success status without a length and a body that never ends.
+    void sinFin();
+    // Bytes of body written so far by the endless replies.
+    qint64 enviados() const { return m_enviados; }
 
     // The request targets received ("/version.php?Programa=...").
     const QList<QByteArray>& peticiones() const { return m_peticiones; }
@@ -34,7 +38,11 @@ private:
     void alLeer(QTcpSocket* s);
 
     QTcpServer m_servidor;
+    void seguir(QTcpSocket* s);
+
     bool m_calla = false;
+    bool m_sinFin = false;
+    qint64 m_enviados = 0;
     int m_estado = 200;
     QByteArray m_cuerpo;
     QList<QByteArray> m_peticiones;

@@ -17,6 +17,7 @@
 #include "catalogo/Catalogo.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -390,6 +391,73 @@ private slots:
         QCOMPARE(ActOnline().ActVer2, QStringLiteral("30"));
         QCOMPARE(ActOnline().ActDownloadURL,
                  QStringLiteral("http://descargas.veldoria.example/Veldo-1.30.2.exe"));
+    }
+
+    // A reply far above the size of a version file is no version file: the reading stops at
+    // 64 KiB, the check goes on as without connection, and nothing is kept.
+    void respuestaEnormeEsSinConexion()
+    {
+        m_servidor->responder(200, ficheroVersion("1.30.2") + QByteArray(10 * 1024 * 1024, 'x'));
+        QCOMPARE(DescargarVersionIni(), 1);
+        QVERIFY(!QFile::exists(RutaVersionIni()));
+    }
+
+    void respuestaSinFinEsSinConexion()
+    {
+        m_servidor->sinFin();
+        QElapsedTimer reloj;
+        reloj.start();
+        QCOMPARE(DescargarVersionIni(), 1);
+        QVERIFY(!QFile::exists(RutaVersionIni()));
+        // Stopped soon after the limit: far less than the 15 s wait, and not megabytes later.
+        QVERIFY(reloj.elapsed() < 10000);
+        QVERIFY(m_servidor->enviados() < 8 * 1024 * 1024);
+        QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
+    }
+
+    void respuestaEnElLimiteSeGuarda()
+    {
+        QByteArray cuerpo = ficheroVersion("1.30.2");
+        cuerpo += QByteArray(64 * 1024 - cuerpo.size(), ';');
+        m_servidor->responder(200, cuerpo);
+        QCOMPARE(DescargarVersionIni(), 3);
+        QFile f(RutaVersionIni());
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        QCOMPARE(f.readAll(), cuerpo);
+    }
+
+    // A version with a control character is a bad file, as is a download address that is not
+    // a web address.
+    void versionConCaracterDeControlEsDatoErroneo_data()
+    {
+        QTest::addColumn<QByteArray>("version");
+        QTest::newRow("campana") << QByteArray("1.30\a.2");
+        QTest::newRow("escape") << QByteArray("1.\x1b[31m30.2");
+        QTest::newRow("borrar") << QByteArray("1.30.2\x7f");
+        QTest::newRow("tabulador dentro") << QByteArray("1.3\t0.2");
+    }
+    void versionConCaracterDeControlEsDatoErroneo()
+    {
+        QFETCH(QByteArray, version);
+        m_servidor->responder(200, ficheroVersion(version));
+        QCOMPARE(DescargarVersionIni(), 3);
+        QCOMPARE(LeerVersionIni(), 4);
+    }
+
+    void direccionDeDescargaNoWebEsDatoErroneo_data()
+    {
+        QTest::addColumn<QByteArray>("direccion");
+        QTest::newRow("fichero") << QByteArray("file:///etc/passwd");
+        QTest::newRow("javascript") << QByteArray("javascript:alert(1)");
+        QTest::newRow("sin esquema") << QByteArray("descargas.veldoria.example/v.exe");
+    }
+    void direccionDeDescargaNoWebEsDatoErroneo()
+    {
+        QFETCH(QByteArray, direccion);
+        m_servidor->responder(200, "[informacion]\r\ncurrentversion=1.30.2\r\ndownloadurl="
+                                       + direccion + "\r\n");
+        QCOMPARE(DescargarVersionIni(), 3);
+        QCOMPARE(LeerVersionIni(), 4);
     }
 
     void descargaAOtroNombreNoCuenta()

@@ -234,13 +234,28 @@ private slots:
         QCOMPARE(leer(RutaPaginaTemporal()), paginaEsperada("https://www.veldoria.example/d?x=1&y=2"));
     }
 
-    void apostrofeSeEscribeTalCual()
+    // The address cannot end the attribute nor open markup: it is HTML-escaped in the page.
+    void direccionEscapadaEnLaPagina()
     {
-        // An apostrophe ends the attribute early: the address is not escaped.
-        LanzarExplorador(nullptr, QStringLiteral("http://x.example/l'aurrera"));
+        LanzarExplorador(nullptr, QStringLiteral("http://x.example/l'aurrera?a=<b>&amp;c=\"d\""));
         const QByteArray pagina = leer(RutaPaginaTemporal());
-        QCOMPARE(pagina, paginaEsperada("http://x.example/l'aurrera"));
-        QVERIFY(pagina.contains("action='http://x.example/l'aurrera' method=post>"));
+        QCOMPARE(pagina, paginaEsperada("http://x.example/l&#39;aurrera?a=&lt;b&gt;&amp;amp;c=&quot;d&quot;"));
+    }
+
+    // Only a web address is written into the page and opened.
+    void direccionNoWebEsUnFallo_data()
+    {
+        QTest::addColumn<QString>("direccion");
+        QTest::newRow("fichero") << QStringLiteral("file:///etc/passwd");
+        QTest::newRow("javascript") << QStringLiteral("javascript:alert(1)");
+        QTest::newRow("vacia") << QString();
+    }
+    void direccionNoWebEsUnFallo()
+    {
+        QFETCH(QString, direccion);
+        QVERIFY_THROWS_EXCEPTION(cFallo, LanzarExplorador(nullptr, direccion));
+        QVERIFY(!QFile::exists(RutaPaginaTemporal()));
+        QVERIFY(NavegadorSeam::registro().isEmpty());
     }
 
     void paginaAnteriorSeReemplaza()
