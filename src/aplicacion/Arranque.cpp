@@ -15,9 +15,14 @@
 
 #include <QApplication>
 #include <QSystemSemaphore>
+#include <new>
+#include <system_error>
 #include <memory>
 
 namespace {
+// The source of a failure of the migration that is not of the program's own kind.
+const QString kComponenteTraspaso = QStringLiteral("svrVeldoV1.cTraspaso");
+
 // Marks a running instance. Nothing examines it and a second instance is not refused.
 void CrearMutex()
 {
@@ -51,8 +56,19 @@ bool Traspaso()
     } catch (const cFallo& f) {
         // The hourglass stays: the failure ends the program.
         throw f.relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
+    } catch (const std::bad_alloc&) {
+        throw cFallo(7, kComponenteTraspaso, QStringLiteral("Memoria insuficiente"))
+            .relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
+    } catch (const std::system_error& e) {
+        throw cFallo(e.code().value(), kComponenteTraspaso, QString::fromLocal8Bit(e.what()))
+            .relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
     } catch (const std::exception& e) {
-        throw cFallo(0, QStringLiteral("MDIVeldo.Traspaso"), QString::fromLocal8Bit(e.what()));
+        throw cFallo(5, kComponenteTraspaso, QString::fromLocal8Bit(e.what()))
+            .relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
+    } catch (...) {
+        // Whatever else the migration raised ends the program the same way, with its source.
+        throw cFallo(5, kComponenteTraspaso, QStringLiteral("Error desconocido en la migración"))
+            .relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
     }
     if (parar) {
         Proceso::Terminar(0);

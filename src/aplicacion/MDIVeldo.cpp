@@ -7,6 +7,7 @@
 #include "aplicacion/Ayuda.h"
 #include "aplicacion/CopiaSeguridad.h"
 #include "aplicacion/Navegacion.h"
+#include "aplicacion/TraduccionesQt.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
@@ -226,6 +227,7 @@ void MDIVeldo::botonBarra(const QString& etiqueta)
 
 void MDIVeldo::Anadir_captions()
 {
+    CargarTraduccionesQt();
     setWindowTitle(Texto(218));
     for (const Rotulo& r : kRotulos) {
         const QString nombre = QString::fromLatin1(r.nombre);
@@ -248,6 +250,9 @@ void MDIVeldo::ActualizarMenus()
     findChild<QAction*>(QStringLiteral("mnuacerca"))->setEnabled(true);
     m_botones[4]->setEnabled(true);
     m_botones[3]->setEnabled(true);
+    // Entries of returns the store no longer holds (after a restore of an older copy) go.
+    for (QAction* d : m_recientes)
+        d->setVisible(false);
     if (Entrada().NUMDECLA < 1) {
         m_botones[1]->setEnabled(false);
         m_botones[2]->setEnabled(false);

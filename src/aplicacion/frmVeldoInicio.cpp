@@ -60,11 +60,9 @@ void frmVeldoInicio::Mostrar()
     lblVersion->setText(QStringLiteral("Bertsioa/Versión") + VersionPrograma);
     QApplication::processEvents();
 
-    int nominal = 3000;
-    QDeadlineTimer fin(nominal);
+    QDeadlineTimer fin(3000);
     if (ActOnline().ActOnline == 1) {
-        nominal = 4000;
-        fin.setRemainingTime(nominal);
+        fin.setRemainingTime(4000);
         LblAct->setText(QStringLiteral("Eguneratzen / Buscando actualización ..."));
         LblAct->show();
         QApplication::processEvents();
@@ -72,5 +70,5 @@ void frmVeldoInicio::Mostrar()
         LblAct->hide();
     }
     // A check that took longer than the end time adds no further wait.
-    Reloj::EsperarHasta(fin, nominal);
+    Reloj::EsperarHasta(fin);
 }

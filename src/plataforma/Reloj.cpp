@@ -9,10 +9,10 @@ bool g_grabando = false;
 QList<int> g_esperas;
 }
 
-void Reloj::EsperarHasta(const QDeadlineTimer& fin, int nominalMs)
+void Reloj::EsperarHasta(const QDeadlineTimer& fin)
 {
     if (g_grabando) {
-        g_esperas.append(nominalMs);
+        g_esperas.append(static_cast<int>(qMax<qint64>(0, fin.remainingTime())));
         return;
     }
     while (!fin.hasExpired()) {

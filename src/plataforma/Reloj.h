@@ -6,12 +6,13 @@
 class QDeadlineTimer;
 
 namespace Reloj {
-// Pumps window events until `fin` has passed; `nominalMs` is the length the caller meant,
-// kept for tests.
-void EsperarHasta(const QDeadlineTimer& fin, int nominalMs);
+// Pumps window events until `fin` has passed.
+void EsperarHasta(const QDeadlineTimer& fin);
 }
 
 namespace RelojSeam {
 void grabar(bool activo);
-const QList<int>& esperas();  // the nominal length of each wait asked for
+// What each wait asked for would have lasted: the milliseconds left until its deadline when
+// it began (0 for a deadline already past).
+const QList<int>& esperas();
 }

@@ -9,13 +9,16 @@
 
 #include "aplicacion/Arranque.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "plataforma/Fallo.h"
 #include "plataforma/Proceso.h"
 #include "plataforma/Reloj.h"
 #include "catalogo/Catalogo.h"
 #include "valores/cFecha.h"
 #include "servicios/Conexion.h"
+#include "servicios/Esquema.h"
 #include "servicios/cGeneralSvr.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLockFile>
@@ -27,6 +30,8 @@
 #include <QTest>
 #include <memory>
 #include <optional>
+#include <stdexcept>
+#include <system_error>
 
 class TestArranque : public QObject {
     Q_OBJECT
@@ -116,7 +121,8 @@ private slots:
         QVERIFY(QFile::exists(carpeta.tablas() + "VELDOMOD.mdb"));
         // Without a version record in the program's folder, id 342 shows before any window.
         QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(342));
-        QCOMPARE(RelojSeam::esperas(), QList<int>{3000});
+        QCOMPARE(RelojSeam::esperas().size(), 1);
+        QVERIFY(EsperaDe(RelojSeam::esperas()[0], 3000));
         QVERIFY(VentanaMDI() && VentanaMDI()->isVisible());
         VentanaMDI()->activateWindow();
         QTRY_COMPARE(captura.vistos(), QStringList{"FrmIdioma"});
@@ -148,7 +154,7 @@ private slots:
         QCOMPARE(OffsetIdioma, int16_t(10000));
         QCOMPARE(VentanaMDI()->findChild<QMenu*>("mnuDeclaracion")->title(),
                  QStringLiteral("&Aitorpena"));
-        QCOMPARE(RelojSeam::esperas().last(), 3000);
+        QVERIFY(EsperaDe(RelojSeam::esperas().last(), 3000));
     }
 
     void otroIdiomaGuardadoEsCastellano()
@@ -182,7 +188,7 @@ private slots:
         m_captura = std::make_unique<CapturaModal>();
         const CapturaModal& captura = *m_captura;
         QVERIFY(arrancar());
-        QCOMPARE(RelojSeam::esperas().last(), 4000);
+        QVERIFY(EsperaDe(RelojSeam::esperas().last(), 4000));
         QVERIFY(captura.vistos().contains("FrmSinConexion"));
     }
 
@@ -218,6 +224,48 @@ private slots:
         QVERIFY(ProcesoSeam::avisos()[0].origen.startsWith("MDIVeldo.Traspaso\r\n"));
         QCOMPARE(ProcesoSeam::finales(), 1);
         QVERIFY(!VentanaMDI());
+    }
+
+    // A failure of another kind inside the migration ends start-up the same way: its number
+    // kept where it has one, and the source "MDIVeldo.Traspaso" + CRLF + the component's.
+    void unFalloAjenoDelTraspasoLlevaSuOrigen_data()
+    {
+        QTest::addColumn<int>("clase");
+        QTest::addColumn<int>("numero");
+        QTest::newRow("std::runtime_error") << 0 << 5;
+        QTest::newRow("std::system_error") << 1 << 13;
+        QTest::newRow("otro tipo") << 2 << 5;
+    }
+    void unFalloAjenoDelTraspasoLlevaSuOrigen()
+    {
+        QFETCH(int, clase);
+        QFETCH(int, numero);
+        CarpetaDePrueba carpeta;
+        QVERIFY(arrancar());
+        ReiniciarEstado();
+        // A later layout whose step fails with a failure that is not the program's own.
+        EsquemaSeam::agregarPaso({Esquema::VersionActual() + 1, [clase](const QSqlDatabase&, const QString&) {
+                                      if (clase == 0)
+                                          throw std::runtime_error("paso roto");
+                                      if (clase == 1)
+                                          throw std::system_error(13, std::generic_category(), "paso roto");
+                                      throw 42;
+                                  }});
+        ConfigurarRutas(CarpetaPrograma());
+        std::optional<cFallo> fallo;
+        try {
+            Traspaso();
+        } catch (const cFallo& f) {
+            fallo = f;
+        }
+        EsquemaSeam::limpiar();
+        QApplication::restoreOverrideCursor();
+        QVERIFY(fallo);
+        QCOMPARE(fallo->origen(), QStringLiteral("MDIVeldo.Traspaso\r\nsvrVeldoV1.cTraspaso"));
+        QCOMPARE(fallo->numero(), numero);
+        // Nothing of the broken step stays: the store is still of the program's layout.
+        EsquemaSeam::limpiar();
+        QCOMPARE(Traspaso(), true);
     }
 
     // A copy of the program killed half-way through a restore or a backup left hidden

@@ -332,6 +332,38 @@ private slots:
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(337));
     }
 
+    // A restore of a copy with fewer returns leaves no entry of a return that is gone.
+    void restaurarConMenosDeclaracionesQuitaLasRecientes()
+    {
+        const QList<int32_t> antes = guardarDeclaraciones(1);
+        accion("mnuBackup")->trigger();
+        guardarDeclaraciones(3);
+        m_ventana->ActualizarMenus();
+        for (const char* d : {"d1", "d2", "d3", "d4"})
+            QVERIFY2(accion(d)->isVisible(), d);
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        accion("mnuRestore")->trigger();
+        QCOMPARE(Entrada().NUMDECLA, 1);
+        QVERIFY(accion("d1")->isVisible());
+        QCOMPARE(accion("d1")->data().toInt(), antes[0]);
+        for (const char* d : {"d2", "d3", "d4"})
+            QVERIFY2(!accion(d)->isVisible(), d);
+    }
+
+    // Qt's own dialogs (the file chooser) and buttons speak the program's language.
+    void dialogosDeQtEnElIdioma()
+    {
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancelar"));
+        // Qt has no Basque of its own on this system: the Spanish stands in, not English.
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != QLatin1String("Cancel"));
+        Entrada().setIDI("C");
+        m_ventana->Anadir_captions();
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancelar"));
+    }
+
     void restaurarTraeElIdiomaDeLaCopia()
     {
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made

@@ -46,3 +46,8 @@ void GrabarSeams()
 }
 
 QString CarpetaFuentes() { return QStringLiteral(VELDO_FUENTES); }
+
+bool EsperaDe(int medida, int ms)
+{
+    return medida <= ms && medida > ms - 900;
+}

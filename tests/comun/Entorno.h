@@ -22,5 +22,10 @@ private:
 // Starts recording every message box, file dialog, browser, failure notice and ending of
 // the process.
 void GrabarSeams();
+
+// Whether a wait recorded by the clock seam (the milliseconds left to its deadline when it
+// began) is one of `ms`: not longer, and shorter only by what the work before it may have
+// taken on a loaded machine (less than 900 ms), so that a deadline of another length fails.
+bool EsperaDe(int medida, int ms);
 // The source tree (for fixtures kept beside the tests).
 QString CarpetaFuentes();

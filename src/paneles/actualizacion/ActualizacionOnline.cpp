@@ -24,7 +24,7 @@ bool g_comprobando = false;
 void esperarUnSegundo()
 {
     constexpr int unSegundo = 1000;
-    Reloj::EsperarHasta(QDeadlineTimer(unSegundo), unSegundo);
+    Reloj::EsperarHasta(QDeadlineTimer(unSegundo));
 }
 
 // The user asked for the check from the preferences when that panel is on screen.

@@ -1,5 +1,7 @@
 #include "paneles/dialogos/Mensaje.h"
 
+#include "plataforma/General.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
@@ -33,8 +35,20 @@ QList<int> botonesDe(int botones)
     }
 }
 
+// The buttons speak the language in use, as the texts of the box do.
 QString rotulo(int respuesta)
 {
+    if (OffsetIdioma != 0) {
+        switch (respuesta) {
+        case vb::OK: return QStringLiteral("Ados");
+        case vb::Cancel: return QStringLiteral("Utzi");
+        case vb::Abort: return QStringLiteral("Eten");
+        case vb::Retry: return QStringLiteral("Berriro saiatu");
+        case vb::Ignore: return QStringLiteral("Ez ikusi");
+        case vb::Yes: return QStringLiteral("Bai");
+        default: return QStringLiteral("Ez");
+        }
+    }
     switch (respuesta) {
     case vb::OK: return QStringLiteral("Aceptar");
     case vb::Cancel: return QStringLiteral("Cancelar");

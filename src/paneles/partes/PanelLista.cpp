@@ -164,6 +164,10 @@ void PanelLista::ConstruirControles()
     cmdCancelar = Control<QPushButton>(this, "cmdCancelar");
     cmdNuevo = Control<QPushButton>(this, "cmdNuevo");
     CmdDeclaraciones = Control<QPushButton>(this, "CmdDeclaraciones");
+    // Enter on a button that has the focus presses it, as Space does (a list panel has no
+    // Enter-as-Tab rule; Enter in the grid opens the chosen row).
+    for (QPushButton* b : {cmdBuscar, cmdTodos, cmdAceptar, cmdCancelar, cmdNuevo, CmdDeclaraciones})
+        b->setAutoDefault(true);
     ConstruirIconos();
     setTabOrder(m_grid, txtBusqueda);
     setTabOrder(txtBusqueda, cmdBuscar);

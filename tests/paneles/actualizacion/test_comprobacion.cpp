@@ -134,7 +134,8 @@ private slots:
         QCOMPARE(ActOnline().SitAct, int16_t(3));
         QCOMPARE(ActOnline().ComVer, int16_t(0));
         // The check first gives the windows a second to paint.
-        QCOMPARE(RelojSeam::esperas(), QList<int>{1000});
+        QCOMPARE(RelojSeam::esperas().size(), 1);
+        QVERIFY(EsperaDe(RelojSeam::esperas()[0], 1000));
         // The file stays in the program's folder until the next check.
         QFile f(m_carpeta->ruta() + QStringLiteral("/version.ini"));
         QVERIFY(f.open(QIODevice::ReadOnly));
@@ -372,7 +373,8 @@ private slots:
         }
         QCOMPARE(anidadas, 1);
         QCOMPARE(m_servidor->peticiones().size(), 1);
-        QCOMPARE(RelojSeam::esperas(), QList<int>{1000});
+        QCOMPARE(RelojSeam::esperas().size(), 1);
+        QVERIFY(EsperaDe(RelojSeam::esperas()[0], 1000));
         // Once it has ended, the next check runs.
         m_vistas.clear();
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmVersionCheck")});

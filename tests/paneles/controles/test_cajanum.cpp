@@ -3,11 +3,27 @@
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/Colores.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
+
+// Counts the focus entering the widgets it watches.
+class ContadorDeFoco : public QObject {
+public:
+    explicit ContadorDeFoco(int& entradas) : m_entradas(entradas) {}
+    bool eventFilter(QObject*, QEvent* e) override
+    {
+        if (e->type() == QEvent::FocusIn)
+            ++m_entradas;
+        return false;
+    }
+
+private:
+    int& m_entradas;
+};
 
 class TestCajaNum : public QObject {
     Q_OBJECT
@@ -136,10 +152,30 @@ private slots:
         auto* b = new CajaNum(&ventana);
         capa->addWidget(a);
         capa->addWidget(b);
+        QVERIFY(a->locked() && b->locked());
         ventana.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&ventana));
-        a->setFocus();  // returns: the hand-over gives up after a round
-        QVERIFY(true);
+        QApplication::setActiveWindow(&ventana);
+        QVERIFY(QTest::qWaitForWindowActive(&ventana));
+        // Every entry into a locked box hands the focus on; counted, they stop after a round.
+        int entradas = 0;
+        ContadorDeFoco contador(entradas);
+        a->installEventFilter(&contador);
+        b->installEventFilter(&contador);
+        a->setFocus();
+        // The call came back after at most one round of hand-overs, and nothing can be typed
+        // into either box.
+        QVERIFY(entradas <= 65);
+        if (QWidget* foco = QApplication::focusWidget())
+            QTest::keyClicks(foco, QStringLiteral("12"));
+        QVERIFY(a->text().isEmpty() && b->text().isEmpty());
+        // The hand-over is ready again afterwards: with one box open it finds it at once.
+        b->setLocked(false);
+        a->clearFocus();
+        ventana.setFocus();
+        entradas = 0;
+        a->setFocus();
+        QVERIFY(b->hasFocus());
+        QVERIFY(entradas <= 3);
     }
 
     void desbloquearYBloquear()

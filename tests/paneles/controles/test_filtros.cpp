@@ -149,8 +149,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&panel));
         campo->setFocus();
         QApplication::clipboard()->setText(QStringLiteral("calle @mayor 5"));
-        if (QApplication::clipboard()->text() != QStringLiteral("calle @mayor 5"))
-            QSKIP("no clipboard on this platform");
+        // The paste is what is under test: a platform without a clipboard fails it.
+        QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("calle @mayor 5"));
         QTest::keySequence(campo, QKeySequence::Paste);
         QCOMPARE(campo->text(), QStringLiteral("CALLE MAYOR 5"));
     }

@@ -187,6 +187,20 @@ private slots:
         QCOMPARE(p->windowTitle(), QStringLiteral("Eliminar Contribuyente"));
     }
 
+    // Enter on a focused button presses it, as Space does.
+    void enterPulsaElBotonConFoco()
+    {
+        Poblar();
+        FrmConLista* p = Abrir(QStringLiteral("A"));
+        QVERIFY(p);
+        QPushButton* cancelar = Boton(p, "cmdCancelar");
+        cancelar->setFocus(Qt::TabFocusReason);
+        QTRY_VERIFY(cancelar->hasFocus());
+        QTest::keyClick(cancelar, Qt::Key_Return);
+        QTRY_VERIFY(!Panel());
+        QVERIFY(MenusActivos());
+    }
+
     void paginasDeQuinceFilas()
     {
         for (int i = 1; i <= 15; ++i)
