@@ -1,5 +1,8 @@
 #include "aplicacion/Arranque.h"
 
+#include "aplicacion/AvisoAlmacen.h"
+#include "paneles/dialogos/Mensaje.h"
+
 #include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/MDIVeldo.h"
@@ -20,6 +23,9 @@
 #include <memory>
 
 namespace {
+// The status of a program that ends at start-up because its database cannot be used.
+constexpr int kSinAlmacen = 2;
+
 // The source of a failure of the migration that is not of the program's own kind.
 const QString kComponenteTraspaso = QStringLiteral("svrVeldoV1.cTraspaso");
 
@@ -49,9 +55,9 @@ void ConfigurarRutas(const QString& carpetaPrograma)
 bool Traspaso()
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
+    auto traspaso = Almacen<cTraspaso>();
     bool parar = false;
     try {
-        auto traspaso = Almacen<cTraspaso>();
         parar = traspaso.Traspaso();
     } catch (const cFallo& f) {
         // The hourglass stays: the failure ends the program.
@@ -70,11 +76,15 @@ bool Traspaso()
         throw cFallo(5, kComponenteTraspaso, QStringLiteral("Error desconocido en la migración"))
             .relanzadoDesde(QStringLiteral("MDIVeldo.Traspaso"));
     }
+    QApplication::restoreOverrideCursor();
     if (parar) {
-        Proceso::Terminar(0);
+        // The program cannot work on this file: the user is told why and what to do, and the
+        // program ends with a status that says it did not run.
+        Mensaje(TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta()), vb::Critical,
+                QStringLiteral("Veldoria"));
+        Proceso::Terminar(kSinAlmacen);
         return false;
     }
-    QApplication::restoreOverrideCursor();
     return true;
 }
 

@@ -10,6 +10,7 @@ namespace {
 bool g_grabando = false;
 QList<ProcesoSeam::Aviso> g_avisos;
 int g_finales = 0;
+int g_ultimoCodigo = 0;
 std::function<void(const QString&, const QString&)> g_avisoVisible;
 
 void mostrarAviso(const QString& origen, const QString& descripcion)
@@ -29,6 +30,7 @@ void Terminar(int codigo)
 {
     if (g_grabando) {
         ++g_finales;
+        g_ultimoCodigo = codigo;
         return;
     }
     std::fflush(nullptr);
@@ -73,8 +75,10 @@ void grabar(bool activo)
     g_grabando = activo;
     g_avisos.clear();
     g_finales = 0;
+    g_ultimoCodigo = 0;
 }
 bool grabando() { return g_grabando; }
 const QList<Aviso>& avisos() { return g_avisos; }
 int finales() { return g_finales; }
+int ultimoCodigo() { return g_ultimoCodigo; }
 }

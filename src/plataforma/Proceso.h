@@ -34,4 +34,5 @@ void grabar(bool activo);
 bool grabando();
 const QList<Aviso>& avisos();
 int finales();  // how many times the process would have ended
+int ultimoCodigo();  // the status the last of them would have ended with
 }

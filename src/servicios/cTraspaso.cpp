@@ -51,9 +51,50 @@ bool migrar(const QString& ruta)
 }
 }  // namespace
 
+QString cTraspaso::Ruta() const
+{
+    return mdbmod.isEmpty() ? mdbPath + QStringLiteral("VELDOMOD.mdb") : mdbmod;
+}
+
+cTraspaso::Impedimento cTraspaso::Comprobar() const
+{
+    const QString ruta = Ruta();
+    const QFileInfo info(ruta);
+    if (info.isDir())
+        return Impedimento::Carpeta;
+    // The folder holds the file's journal too: a file that can be written in a folder that
+    // cannot is not enough.
+    // A folder that cannot be made is left to the migration, which fails with its cause.
+    const QString carpeta = mdbPath.isEmpty() ? info.absolutePath() : mdbPath;
+    const QFileInfo enCarpeta(carpeta);
+    if (!enCarpeta.exists())
+        QDir().mkpath(carpeta);
+    else if (enCarpeta.isDir() && !enCarpeta.isWritable())
+        return Impedimento::CarpetaSoloLectura;
+    const Esquema::Reconocimiento r = Esquema::Reconocer(ruta, kOrigen);
+    switch (r.clase) {
+    case Esquema::Clase::NoEsBaseDeDatos:
+        return Impedimento::Danada;
+    case Esquema::Clase::Ajena:
+        return Impedimento::Ajena;
+    case Esquema::Clase::Propia:
+        if (r.version > Esquema::VersionActual())
+            return Impedimento::Posterior;
+        break;
+    case Esquema::Clase::Inexistente:
+    case Esquema::Clase::Vacia:
+        break;
+    }
+    if (info.exists() && !info.isWritable())
+        return Impedimento::SoloLectura;
+    return Impedimento::Ninguno;
+}
+
 bool cTraspaso::Traspaso() const
 {
-    const QString ruta = mdbmod.isEmpty() ? mdbPath + QStringLiteral("VELDOMOD.mdb") : mdbmod;
+    if (Comprobar() != Impedimento::Ninguno)
+        return true;
+    const QString ruta = Ruta();
     const Esquema::Reconocimiento r = Esquema::Reconocer(ruta, kOrigen);
     switch (r.clase) {
     case Esquema::Clase::NoEsBaseDeDatos:
@@ -65,11 +106,7 @@ bool cTraspaso::Traspaso() const
         if (r.version == Esquema::VersionActual())
             return false;
         return migrar(ruta);
-    case Esquema::Clase::Inexistente: {
-        const QString carpeta = mdbPath.isEmpty() ? QFileInfo(ruta).absolutePath() : mdbPath;
-        QDir().mkpath(carpeta);
-        return migrar(ruta);
-    }
+    case Esquema::Clase::Inexistente:
     case Esquema::Clase::Vacia:
         return migrar(ruta);
     }

@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLockFile>
 #include <QMenu>
 #include <QMenuBar>
@@ -192,23 +193,84 @@ private slots:
         QVERIFY(captura.vistos().contains("FrmSinConexion"));
     }
 
-    void unaBaseMasNuevaParaElPrograma()
+    // A database the program cannot use: a message says what is wrong with which file and what
+    // the user can do, in both languages (the stored one cannot be read), and the program ends
+    // with a status that is not 0, without a window and without a failure notice.
+    void baseInservibleAvisaYTermina_data()
     {
+        QTest::addColumn<int>("caso");
+        QTest::addColumn<QString>("problema");
+        QTest::addColumn<QString>("arazoa");
+        QTest::addColumn<QString>("remedio");
+        QTest::newRow("mas nueva") << 0 << "es de una versión más moderna del programa"
+                                   << "bertsio berriago batekoa da" << "Instale la versión más reciente";
+        QTest::newRow("cabecera rota") << 1 << "está dañada y el programa no puede abrirla"
+                                       << "hondatuta dago" << "restaurar su copia de seguridad desde el menú Utilidades";
+        QTest::newRow("texto") << 2 << "está dañada" << "hondatuta dago" << "Cambie el nombre de ese archivo";
+        QTest::newRow("otro programa") << 3 << "no es una base de datos de este programa"
+                                       << "ez da programa honen datu base bat" << "Cambie el nombre de ese archivo";
+        QTest::newRow("carpeta") << 4 << "hay una carpeta" << "karpeta bat dago" << "Cambie el nombre de esa carpeta";
+    }
+    void baseInservibleAvisaYTermina()
+    {
+        QFETCH(int, caso);
+        QFETCH(QString, problema);
+        QFETCH(QString, arazoa);
+        QFETCH(QString, remedio);
         CarpetaDePrueba carpeta;
-        {
+        const QString ruta = carpeta.tablas() + "VELDOMOD.mdb";
+        auto escribir = [&](const QByteArray& bytes) {
+            QFile f(ruta);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(bytes);
+        };
+        switch (caso) {
+        case 0: {
             QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "nueva");
-            db.setDatabaseName(carpeta.tablas() + "VELDOMOD.mdb");
+            db.setDatabaseName(ruta);
             QVERIFY(db.open());
             QSqlQuery q(db);
             QVERIFY(q.exec("CREATE TABLE X (A)"));
+            QVERIFY(q.exec(QStringLiteral("PRAGMA application_id = %1").arg(Esquema::MarcaAplicacion)));
             QVERIFY(q.exec("PRAGMA user_version = 999"));
+            q = QSqlQuery();
             db.close();
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase("nueva");
+            break;
         }
-        QSqlDatabase::removeDatabase("nueva");
+        case 1: escribir(QByteArray("SQLite format 3", 16) + QByteArray(8192, '\x5A')); break;
+        case 2: escribir("VELDOMOD\r\nno es una base de datos\r\n"); break;
+        case 3: {
+            QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "ajena");
+            db.setDatabaseName(ruta);
+            QVERIFY(db.open());
+            QSqlQuery q(db);
+            QVERIFY(q.exec("CREATE TABLE AGENDA (NOMBRE TEXT)"));
+            q = QSqlQuery();
+            db.close();
+            db = QSqlDatabase();
+            QSqlDatabase::removeDatabase("ajena");
+            break;
+        }
+        case 4: QVERIFY(QDir().mkpath(ruta)); break;
+        }
         QVERIFY(!arrancar());
+        QString aviso;
+        for (const auto& m : MensajeSeam::registro())
+            if (m.texto.contains(QDir::toNativeSeparators(ruta)) || m.texto.contains(QDir::toNativeSeparators(carpeta.tablas())))
+                aviso = m.texto;
+        QVERIFY2(!aviso.isEmpty(), "no hay aviso con la ruta");
+        QVERIFY2(aviso.contains(problema), qPrintable(aviso));
+        QVERIFY2(aviso.contains(arazoa), qPrintable(aviso));
+        QVERIFY2(aviso.contains(remedio), qPrintable(aviso));
+        QVERIFY(aviso.contains("El programa se cerrará.") && aviso.contains("Programa itxi egingo da."));
         QCOMPARE(ProcesoSeam::finales(), 1);
+        QVERIFY(ProcesoSeam::ultimoCodigo() != 0);
         QVERIFY(ProcesoSeam::avisos().isEmpty());
         QVERIFY(!VentanaMDI());
+        if (caso == 4)
+            QVERIFY(QFileInfo(ruta).isDir());
     }
 
     void unFalloDelTraspasoLlevaSuOrigen()
