@@ -25,26 +25,6 @@ constexpr Capa kCapas[] = {
 // Up to this layer no widget is drawn: no header of Qt Widgets or Qt Gui.
 constexpr int kUltimaCapaSinWidgets = 5;
 
-// The one tolerated upward include. The backup and restore flow of cSaveAsRestore still asks
-// its questions and opens its file chooser from the store; that flow moves to the application
-// layer, and this exception is removed with the move.
-struct Excepcion {
-    const char* ficheros;  // prefix of the files, relative to src/
-    const char* modulo;    // the folder of the module they may include
-};
-constexpr Excepcion kExcepciones[] = {
-    {"servicios/cSaveAsRestore.", "paneles/dialogos"},
-};
-
-bool exceptuado(const QString& fichero, const QString& carpetaCabecera)
-{
-    for (const Excepcion& e : kExcepciones)
-        if (fichero.startsWith(QLatin1String(e.ficheros))
-            && carpetaCabecera == QLatin1String(e.modulo))
-            return true;
-    return false;
-}
-
 const Modulo* moduloDeCarpeta(const QList<Modulo>& modulos, const QString& carpeta)
 {
     for (const Modulo& m : modulos)
@@ -246,7 +226,7 @@ QList<Falta> ComprobarCapas(const QString& raizTexto, const QList<Modulo>& modul
                 continue;
             }
             const QString otraCarpeta = carpetaDe(cabecera);
-            if (otraCarpeta == carpeta || exceptuado(fichero, otraCarpeta))
+            if (otraCarpeta == carpeta)
                 continue;
             const Modulo* otro = moduloDeCarpeta(modulos, otraCarpeta);
             const int otraCapa = CapaDe(otraCarpeta);
