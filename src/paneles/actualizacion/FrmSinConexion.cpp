@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QWindow>
 #include <QVBoxLayout>
 
 FrmSinConexion::FrmSinConexion(QWidget* parent) : QDialog(parent)
@@ -67,6 +68,20 @@ void FrmSinConexion::showEvent(QShowEvent* evento)
 {
     QDialog::showEvent(evento);
     centrarEnPantalla();
+    // Under a window manager the size of the frame it adds is known only once the window is
+    // on screen: the panel is centred again then.
+    if (QWindow* ventana = windowHandle())
+        ventana->installEventFilter(this);
+}
+
+bool FrmSinConexion::eventFilter(QObject* objeto, QEvent* evento)
+{
+    QWindow* ventana = windowHandle();
+    if (ventana && objeto == ventana && evento->type() == QEvent::Expose && ventana->isExposed()) {
+        ventana->removeEventFilter(this);
+        centrarEnPantalla();
+    }
+    return QDialog::eventFilter(objeto, evento);
 }
 
 void FrmSinConexion::centrarEnPantalla()

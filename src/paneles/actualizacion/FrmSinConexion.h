@@ -15,6 +15,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     void construir();

@@ -61,6 +61,11 @@ class TestCajaNum : public QObject {
             capa->addWidget(segunda);
             capa->addWidget(boton);
             ventana.show();
+            // The focus goes only to a widget of the active window (under a window manager
+            // the activation comes after the window is shown).
+            QApplication::setActiveWindow(&ventana);
+            if (!QTest::qWaitForWindowActive(&ventana))
+                qWarning("La ventana de prueba no se activó");
         }
     };
 
