@@ -4,7 +4,6 @@
 //
 // Permissions do not bind the superuser, so when the tests run as root the start-up runs in a
 // copy of this executable started as the user "nobody" (setpriv), on a folder it may read.
-#include "Reinicio.h"
 #include "comun/Entorno.h"
 
 #include "aplicacion/Arranque.h"
