@@ -217,6 +217,7 @@ private slots:
         QFETCH(QString, problema);
         QFETCH(QString, arazoa);
         QFETCH(QString, remedio);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice of the unusable store
         CarpetaDePrueba carpeta;
         const QString ruta = carpeta.tablas() + "VELDOMOD.mdb";
         auto escribir = [&](const QByteArray& bytes) {

@@ -336,6 +336,7 @@ private slots:
     void restaurarConMenosDeclaracionesQuitaLasRecientes()
     {
         const QList<int32_t> antes = guardarDeclaraciones(1);
+        MensajeSeam::setNextAnswer(vb::OK);  // "La copia de seguridad se ha realizado correctamente."
         accion("mnuBackup")->trigger();
         guardarDeclaraciones(3);
         m_ventana->ActualizarMenus();
@@ -343,6 +344,7 @@ private slots:
             QVERIFY2(accion(d)->isVisible(), d);
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);  // the restore is told done
         accion("mnuRestore")->trigger();
         QCOMPARE(Entrada().NUMDECLA, 1);
         QVERIFY(accion("d1")->isVisible());
