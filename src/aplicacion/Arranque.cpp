@@ -40,16 +40,18 @@ void CrearMutex()
 
 void ConfigurarRutas(const QString& carpetaPrograma)
 {
-    QString base = carpetaPrograma;
-    while (base.endsWith(QLatin1Char('/')) && base.size() > 1)
-        base.chop(1);
-    const int posicion = base.indexOf(QStringLiteral("cliente"), 0, Qt::CaseInsensitive);
-    // Found: keep what stands before the "/" that precedes the word.
-    if (posicion >= 0)
-        base = base.left(qMax(0, posicion - 1));
-    mdbPath = base + QStringLiteral("/Tablas/");
+    ConfigurarRutas(carpetaPrograma, carpetaPrograma);
+}
+
+void ConfigurarRutas(const QString& carpetaPrograma, const QString& carpetaDatos)
+{
+    const QString tablasPrograma = TablasDelPrograma(carpetaPrograma);
+    // Data kept beside the program follows the "cliente" rule as the reference database does;
+    // the user's own folder is taken as it is (a home such as /home/clientes must not be cut).
+    mdbPath = carpetaDatos == carpetaPrograma ? tablasPrograma
+                                               : carpetaDatos + QStringLiteral("/Tablas/");
     mdbmod = mdbPath + QStringLiteral("VELDOMOD.mdb");
-    mdblec = mdbPath + QStringLiteral("VELDOLEC.mdb");
+    mdblec = tablasPrograma + QStringLiteral("VELDOLEC.mdb");
 }
 
 bool Traspaso()
@@ -103,11 +105,11 @@ bool Main()
 {
     CrearMutex();
     ObtenerVersionPrograma();
-    ConfigurarRutas(CarpetaPrograma());
+    ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     // Temporary copies left by a copy of the program that ended half-way through a backup or
     // a restore (those of a copy still running are kept).
     cSaveAsRestore::LimpiarTemporales(mdbPath);
-    cSaveAsRestore::LimpiarTemporales(CarpetaPrograma() + QStringLiteral("/backups/"));
+    cSaveAsRestore::LimpiarTemporales(CarpetaDatos() + QStringLiteral("/backups/"));
     if (!Traspaso())
         return false;
     InicializarAplicacion();

@@ -351,7 +351,7 @@ void MDIVeldo::copiaDeSeguridad()
     CopiaSeguridad copia;
     copia.ArchivoOrigen = QStringLiteral("VELDOMOD.mdb");
     copia.ArchivoDestino = QStringLiteral("VELDOMod_bak.mdb");
-    copia.RutaDestino = CarpetaPrograma() + QStringLiteral("/backups/");
+    copia.RutaDestino = CarpetaDatos() + QStringLiteral("/backups/");
     copia.RutaOrigen = mdbPath;
     copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
     copia.Idioma = OffsetIdioma;
@@ -368,7 +368,7 @@ void MDIVeldo::restaurarCopia()
     copia.ArchivoOrigen = QStringLiteral("VELDOMod_bak.mdb");
     copia.ArchivoDestino = QStringLiteral("VELDOMOD.mdb");
     copia.RutaDestino = mdbPath;
-    copia.RutaOrigen = CarpetaPrograma() + QStringLiteral("/backups/");
+    copia.RutaOrigen = CarpetaDatos() + QStringLiteral("/backups/");
     copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
     copia.Idioma = OffsetIdioma;
     copia.Parent = this;

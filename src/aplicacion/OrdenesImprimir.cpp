@@ -119,7 +119,7 @@ void fijarCopias(const PeticionPdf& p)
 
 int imprimirPdf(const PeticionPdf& p)
 {
-    ConfigurarRutas(CarpetaPrograma());
+    ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     if (!QFile::exists(mdbmod) || !QFile::exists(mdblec))
         throw Rechazo{TextoSegunIdioma(QStringLiteral("No se encuentra la base de datos: ") + mdbmod,
                                        QStringLiteral("Ez da datu-basea aurkitu: ") + mdbmod)};
@@ -148,13 +148,6 @@ int imprimirPdf(const PeticionPdf& p)
                                            p.fichero)};
     return 0;
 }
-}
-
-void PrepararSinVentana(int argc, char** argv)
-{
-    for (int i = 1; i < argc; ++i)
-        if (qstrcmp(argv[i], "--pdf") == 0 && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 std::optional<int> OrdenesImprimir(const QStringList& argumentos)

@@ -2,13 +2,12 @@
 // Printing from the command line, with no window: a stored return to a PDF file.
 //   Veldo --pdf CODE FILE [--borrador] [--sin-presentador]
 //         [--copias trafico,interesado,administracion,banco] [--fecha DD/MM/YYYY]
-// The sheets are drawn by the same routines as the print panel's.
+// The sheets are drawn by the same routines as the print panel's. The options are rows of the
+// command line's table (LineaDeOrdenes), which runs this under an application object that can
+// paint, on a platform without windows unless one was asked for.
 #include <QStringList>
 #include <optional>
 
-// Printing needs no display: before the application object exists, a printing command line
-// chooses the platform without windows unless one was asked for.
-void PrepararSinVentana(int argc, char** argv);
 // No answer when the arguments ask for no printing (the program then starts as usual);
 // otherwise the exit status: 0 printed, else the program's message went to stderr.
 std::optional<int> OrdenesImprimir(const QStringList& argumentos);

@@ -1,7 +1,7 @@
 #include "aplicacion/Veldo.h"
 
 #include "aplicacion/Arranque.h"
-#include "aplicacion/OrdenesImprimir.h"
+#include "aplicacion/LineaDeOrdenes.h"
 #include "paneles/dialogos/AvisoFallo.h"
 #include "plataforma/Proceso.h"
 
@@ -26,11 +26,11 @@ public:
 
 int EjecutarVeldo(int argc, char** argv)
 {
-    PrepararSinVentana(argc, argv);
+    if (const std::optional<int> estado = LineaDeOrdenes::Atender(argc, argv))
+        return *estado;
     cAplicacion app(argc, argv);
     app.setApplicationName(QStringLiteral("Veldoria"));
-    if (const auto estado = OrdenesImprimir(QCoreApplication::arguments()))
-        return *estado;
+    app.setDesktopFileName(QStringLiteral("org.veldoria.Veldoria"));
     InstalarAvisoFalloEnCaja();
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
     bool sigue = false;

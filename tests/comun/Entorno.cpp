@@ -7,6 +7,7 @@
 #include "plataforma/Proceso.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QSqlDatabase>
 #include <QTest>
@@ -50,4 +51,15 @@ QString CarpetaFuentes() { return QStringLiteral(VELDO_FUENTES); }
 bool EsperaDe(int medida, int ms)
 {
     return medida <= ms && medida > ms - 900;
+}
+
+QStringList Contenido(const QString& carpeta)
+{
+    QStringList rutas;
+    QDirIterator it(carpeta, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        rutas.append(it.next());
+    rutas.sort();
+    return rutas;
 }

@@ -2,6 +2,7 @@
 // What every test needs: a temporary program folder with the generated reference database in
 // Tablas/, the application paths pointed at it, and the seams recording instead of showing.
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -29,3 +30,6 @@ void GrabarSeams();
 bool EsperaDe(int medida, int ms);
 // The source tree (for fixtures kept beside the tests).
 QString CarpetaFuentes();
+// Every file and folder under `carpeta`, sorted: compared before and after, it tells that
+// nothing was written there.
+QStringList Contenido(const QString& carpeta);

@@ -73,7 +73,7 @@ void escribirPagina(const QString& ruta, const QString& url)
 
 QString RutaPaginaTemporal()
 {
-    return CarpetaPrograma() + QStringLiteral("/temphtm.HTM");
+    return CarpetaDatos() + QStringLiteral("/temphtm.HTM");
 }
 
 void LanzarExplorador(QWidget* /*owner*/, const QString& url)

@@ -7,7 +7,7 @@
 
 class QWidget;
 
-// Writes the program's folder + "/temphtm.HTM" (deleting an earlier one) and opens it with the
+// Writes the data folder + "/temphtm.HTM" (deleting an earlier one) and opens it with the
 // desktop's browser (through AbrirEnNavegador, which tests record). No browser: message id 335,
 // title id 336, exclamation. The address must be an http or https address and is HTML-escaped
 // in the page. A page that cannot be written, or another kind of address, is a run-time

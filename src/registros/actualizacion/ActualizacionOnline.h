@@ -20,7 +20,7 @@ Veredicto LeerVersionPrograma();
 int DescargarVersionIni();
 
 // Downloads `url` into `fichero`. Answers 3 when the download succeeded and version.ini exists
-// in the program's folder, else 1. A server that does not answer within the download's time
+// in the data folder, else 1. A server that does not answer within the download's time
 // limit counts as no connection, and so does a reply above 64 KiB: the reading stops there and
 // nothing of it is kept.
 int DescargarFichero(const QString& url, const QString& fichero);
@@ -39,7 +39,7 @@ bool EsDireccionWeb(const QString& direccion);
 // the default " " when the file, the section or the key is missing.
 QString LeerClaveIni(const QString& seccion, const QString& clave, const QString& fichero);
 
-// The path of the downloaded version file: the program's folder + "/version.ini".
+// The path of the downloaded version file: the data folder + "/version.ini" (CarpetaDatos).
 QString RutaVersionIni();
 
 // The program's title, sent to the update service as "Programa".

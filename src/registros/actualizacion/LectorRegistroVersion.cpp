@@ -2,8 +2,17 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QStringList>
 
 namespace {
+
+QString unir(const RegistroVersion::Numeros& n, std::initializer_list<int> indices)
+{
+    QStringList partes;
+    for (int i : indices)
+        partes.append(QString::number(n[static_cast<std::size_t>(i)]));
+    return partes.join(QLatin1Char('.'));
+}
 
 std::uint16_t numero(const std::uint8_t* p)
 {
@@ -60,4 +69,14 @@ std::optional<RegistroVersion::Version> LeerRegistroVersion(const QString& fiche
         return v;
     }
     return BuscarRegistroVersion(f.readAll());
+}
+
+QString VersionDelPrograma(const RegistroVersion::Numeros& fichero)
+{
+    return unir(fichero, {0, 1, 3});
+}
+
+QString VersionDelProducto(const RegistroVersion::Numeros& producto)
+{
+    return unir(producto, {0, 1, 2, 3});
 }

@@ -21,7 +21,7 @@ bool tieneControl(const QString& texto)
 
 QString RutaVersionIni()
 {
-    return CarpetaPrograma() + QStringLiteral("/version.ini");
+    return CarpetaDatos() + QStringLiteral("/version.ini");
 }
 
 QString TituloPrograma()
