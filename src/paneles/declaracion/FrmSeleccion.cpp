@@ -10,9 +10,6 @@
 
 namespace {
 
-// Both lists are always in the open mode: they choose, they never delete.
-const QString kModoElegir = QStringLiteral("C");
-
 constexpr int kColumnaNombre = 1;
 constexpr int kColumnaDni = 2;
 
@@ -41,6 +38,9 @@ DisenoLista DisenoContribuyentes()
     d.idCancelar = 4;
     d.idTipCancelar = 89;
     d.seleccion = true;
+    // The doorways a selection list does not show keep the captions of the party lists.
+    d.idDeclaraciones = 73;
+    d.idTipNuevo = 79;
     return d;
 }
 
@@ -68,21 +68,10 @@ DisenoLista DisenoPresentadores()
     d.idCancelar = 4;
     d.idTipCancelar = 89;
     d.seleccion = true;
+    // The doorways a selection list does not show keep the captions of the party lists.
+    d.idDeclaraciones = 73;
+    d.idTipNuevo = 79;
     return d;
-}
-
-EstadoLista EstadoContribuyentes()
-{
-    cConSeleccion& s = ConSeleccion();
-    return {s.TABLASELECCION, s.SELECCIONACTUAL, s.CSCO, s.NUMCONTRISEL,
-            s.BUSQUEDA,       kModoElegir,       s.ORDEN, {}};
-}
-
-EstadoLista EstadoPresentadores()
-{
-    cPreSeleccion& s = PreSeleccion();
-    return {s.TABLASELECCION, s.SELECCIONACTUAL, s.CSPR, s.NUMPRESENSEL,
-            s.BUSQUEDA,       kModoElegir,       s.ORDEN, {}};
 }
 
 // The form's LISTA loses the trip's letter: the first letter stays, or nothing.
@@ -97,33 +86,9 @@ void VolverAlFormulario()
 // ----- Contributor -----
 
 FrmConSeleccion::FrmConSeleccion(QWidget* parent)
-    : PanelLista(DisenoContribuyentes(), EstadoContribuyentes(), parent)
+    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent)
 {
-}
-
-void FrmConSeleccion::IniciarEstado()
-{
-    ConSeleccion().IniciarLista();
-    m_seleccionHecha = false;
-}
-
-int32_t FrmConSeleccion::CargarDatos(Arreglo2D& datos)
-{
-    return ConSeleccion().CargarContribuyentes(datos);
-}
-
-void FrmConSeleccion::AnotarBusqueda(const QString& texto) { ConSeleccion().AnotarBusqueda(texto); }
-void FrmConSeleccion::CambiarBusqueda() { ConSeleccion().CambiarBusqueda(); }
-void FrmConSeleccion::TodosEstado() { ConSeleccion().Todos(); }
-bool FrmConSeleccion::OrdenarPor(int columna) { return ConSeleccion().OrdenarPor(columna); }
-bool FrmConSeleccion::ElegirColumnaBusqueda(int columna)
-{
-    return ConSeleccion().ElegirColumnaBusqueda(columna);
-}
-
-void FrmConSeleccion::Seleccionar(int32_t codigo, const QList<int32_t>&)
-{
-    ConSeleccion().CSCO = codigo;
+    ConSeleccion().IniciarSeleccion();
 }
 
 void FrmConSeleccion::Elegido()
@@ -165,29 +130,9 @@ void FrmConSeleccion::closeEvent(QCloseEvent* evento)
 // ----- Presenter -----
 
 FrmPreSeleccion::FrmPreSeleccion(QWidget* parent)
-    : PanelLista(DisenoPresentadores(), EstadoPresentadores(), parent)
+    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent)
 {
-}
-
-void FrmPreSeleccion::IniciarEstado() { PreSeleccion().IniciarLista(); }
-
-int32_t FrmPreSeleccion::CargarDatos(Arreglo2D& datos)
-{
-    return PreSeleccion().CargarPresentadores(datos);
-}
-
-void FrmPreSeleccion::AnotarBusqueda(const QString& texto) { PreSeleccion().AnotarBusqueda(texto); }
-void FrmPreSeleccion::CambiarBusqueda() { PreSeleccion().CambiarBusqueda(); }
-void FrmPreSeleccion::TodosEstado() { PreSeleccion().Todos(); }
-bool FrmPreSeleccion::OrdenarPor(int columna) { return PreSeleccion().OrdenarPor(columna); }
-bool FrmPreSeleccion::ElegirColumnaBusqueda(int columna)
-{
-    return PreSeleccion().ElegirColumnaBusqueda(columna);
-}
-
-void FrmPreSeleccion::Seleccionar(int32_t codigo, const QList<int32_t>&)
-{
-    PreSeleccion().CSPR = codigo;
+    PreSeleccion().IniciarSeleccion();
 }
 
 void FrmPreSeleccion::Elegido()

@@ -14,14 +14,6 @@ public:
     bool SeleccionHecha() const { return m_seleccionHecha; }
 
 protected:
-    void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
-    void AnotarBusqueda(const QString& texto) override;
-    void CambiarBusqueda() override;
-    void TodosEstado() override;
-    bool OrdenarPor(int columna) override;
-    bool ElegirColumnaBusqueda(int columna) override;
-    void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t) override {}
     void Elegido() override;
     void closeEvent(QCloseEvent* evento) override;
@@ -37,14 +29,6 @@ public:
     explicit FrmPreSeleccion(QWidget* parent = nullptr);
 
 protected:
-    void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
-    void AnotarBusqueda(const QString& texto) override;
-    void CambiarBusqueda() override;
-    void TodosEstado() override;
-    bool OrdenarPor(int columna) override;
-    bool ElegirColumnaBusqueda(int columna) override;
-    void Seleccionar(int32_t codigo, const QList<int32_t>& contadores) override;
     void Borrar(int32_t) override {}
     void Elegido() override;
     void closeEvent(QCloseEvent* evento) override;

@@ -1,17 +1,12 @@
 #pragma once
 // The states of the lists from which, while a return is being edited, a contributor is chosen
-// as subject or transmitter (ConSeleccion()) and a presenter is chosen (PreSeleccion()). The
-// declaration form sets ConSeleccion's ENTRADA and CRITERIO before the list opens; the
-// contributor's criteria of one visit survive to the next while CRITERIO is "S", the
-// presenter's never do.
-#include "servicios/Arreglos.h"
-#include "valores/cCriterio.h"
+// as subject or transmitter (ConSeleccion()) and a presenter is chosen (PreSeleccion()). They
+// are party lists (criteria, search, order) that only choose. The declaration form sets
+// ConSeleccion's ENTRADA and CRITERIO before the list opens; the contributor's criteria of one
+// visit survive to the next while CRITERIO is "S", the presenter's never do.
+#include "registros/partes/cListaParte.h"
 
-#include <QString>
-#include <cstdint>
-#include <optional>
-
-class cConSeleccion {
+class cConSeleccion final : public cListaParte {
 public:
     // Whether the contributor CSCO may stand as subject: official number, national address.
     bool ValidarTipoDniDomicilio() const;
@@ -19,44 +14,46 @@ public:
     int32_t CSCO = 0;            // the selected contributor
     int32_t NUMCONTRISEL = 0;    // contributors found
     QString CRITERIO;            // "S" the criteria survive the trip back to the form
-    uint8_t ORDEN = 1;           // column of the order: 1 name, 2 number
-    QString BUSQUEDA = QStringLiteral("N");  // "N" result state, "B" search state
-    QString ENTRADA;             // "S" choosing the subject, "T" the transmitter
-    std::optional<TablaCriterios> TABLASELECCION;
-    QString SELECCIONACTUAL = QStringLiteral("0");
+    // "S" choosing the subject, "T" the transmitter. Kept apart from the list's own way in
+    // (cListaParte::ENTRADA), which the list's moves empty.
+    QString ENTRADA;
 
     // The start: the result state with nothing selected; the criteria and order of the last
     // visit only while CRITERIO is "S".
-    void IniciarLista();
-    bool HayCriterios() const;
-    int32_t CargarContribuyentes(Arreglo2D& datos);
-    // The search box was left: its column's criterion, the order by it; the criteria now
-    // survive the trip back.
-    void AnotarBusqueda(const QString& texto);
-    void CambiarBusqueda();
-    void Todos();
-    bool OrdenarPor(int columna);
-    bool ElegirColumnaBusqueda(int columna);
+    void IniciarSeleccion();
+
+    // The search box was left, or the search ran: the criteria now survive the trip back.
+    void AnotarBusqueda(const QString& texto) override;
+    void CambiarBusqueda() override;
+    // The whole list again: nothing to carry back.
+    void Todos() override;
+
+    int32_t Codigo() const override { return CSCO; }
+    int32_t Seleccionados() const override { return NUMCONTRISEL; }
+    QList<int32_t> Contadores() const override { return {}; }
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    void SeleccionarFila(int32_t codigo, const QList<int32_t>&) override { CSCO = codigo; }
+
+protected:
+    void OlvidarSeleccion(bool cuenta) override;
 };
 
-class cPreSeleccion {
+class cPreSeleccion final : public cListaParte {
 public:
     int32_t CSPR = 0;
     int32_t NUMPRESENSEL = 0;
-    uint8_t ORDEN = 1;
-    QString BUSQUEDA = QStringLiteral("N");
-    std::optional<TablaCriterios> TABLASELECCION;
-    QString SELECCIONACTUAL = QStringLiteral("0");
 
     // The start: criteria and order always reset.
-    void IniciarLista();
-    bool HayCriterios() const;
-    int32_t CargarPresentadores(Arreglo2D& datos);
-    void AnotarBusqueda(const QString& texto);
-    void CambiarBusqueda();
-    void Todos();
-    bool OrdenarPor(int columna);
-    bool ElegirColumnaBusqueda(int columna);
+    void IniciarSeleccion();
+
+    int32_t Codigo() const override { return CSPR; }
+    int32_t Seleccionados() const override { return NUMPRESENSEL; }
+    QList<int32_t> Contadores() const override { return {}; }
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    void SeleccionarFila(int32_t codigo, const QList<int32_t>&) override { CSPR = codigo; }
+
+protected:
+    void OlvidarSeleccion(bool cuenta) override;
 };
 
 cConSeleccion& ConSeleccion();

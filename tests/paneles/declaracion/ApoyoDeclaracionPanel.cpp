@@ -6,6 +6,8 @@
 #include "servicios/ValidarDniOficial.h"
 #include "servicios/cDeclaSvr.h"
 
+#include "paneles/controles/cFlexGrid.h"
+
 #include <QAction>
 
 QString Dni(quint32 numero)
@@ -54,4 +56,27 @@ void EscribirFecha(QLineEdit* campo, const QString& cifras)
     campo->setCursorPosition(0);
     Teclear(campo, cifras);
     Tabular();
+}
+
+namespace {
+QPoint CentroCelda(cFlexGrid* grid, int fila, int columna)
+{
+    const QModelIndex indice = grid->model()->index(fila - 1, columna);
+    grid->scrollTo(indice);
+    return grid->visualRect(indice).center();
+}
+}  // namespace
+
+void ClicEnCelda(cFlexGrid* grid, int fila, int columna)
+{
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, CentroCelda(grid, fila, columna));
+    Procesar();
+}
+
+void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna)
+{
+    const QPoint punto = CentroCelda(grid, fila, columna);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, punto);
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, punto);
+    Procesar();
 }

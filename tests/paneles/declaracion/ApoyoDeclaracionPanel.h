@@ -8,6 +8,7 @@
 #include <cstdint>
 
 class QAction;
+class cFlexGrid;
 
 // A valid DNI (eight digits and the right letter) for a number.
 QString Dni(quint32 numero);
@@ -26,3 +27,7 @@ int Declaraciones();
 
 // Types a date into the masked date field (digits only) and leaves it.
 void EscribirFecha(QLineEdit* campo, const QString& cifras);
+
+// A click and a double click on a data cell of a grid (row from 1), as the mouse gives them.
+void ClicEnCelda(cFlexGrid* grid, int fila, int columna);
+void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna);

@@ -25,10 +25,7 @@ class TestConDeclaraciones : public QObject, ControlesDePanel {
     cFlexGrid* grid() const { return c<cFlexGrid>("flxDeclaraciones"); }
     void clicFila(QWidget* panel, const char* nombreGrid, int fila)
     {
-        auto* g = Control<cFlexGrid>(panel, nombreGrid);
-        const QRect r = g->Celda(fila, 1);
-        QTest::mouseClick(g->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-        Procesar();
+        ClicEnCelda(Control<cFlexGrid>(panel, nombreGrid), fila, 1);
     }
     // The contributors' list, the contributor's row, CmdDeclaraciones.
     void abrirDesdeLaLista(const char* comando, const char* lista, const char* grid, const char* panel)

@@ -9,6 +9,7 @@
 #include "paneles/declaracion/FrmDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/nucleo/CEntrada.h"
 
@@ -228,7 +229,7 @@ private slots:
         QCOMPARE(mensajes(), QStringList{Texto(140) + QStringLiteral("0") + Texto(141)
                                          + QStringLiteral("14,75")});
         QCOMPARE(DecDatos().TIPOIMP, 10.0);
-        QCOMPARE(n("txttipoimp")->text(), QStringLiteral("10,00"));
+        QCOMPARE(n("txttipoimp")->value(), 10.0);
         QCOMPARE(Foco(), n("txttipoimp"));
     }
 
@@ -338,8 +339,8 @@ private slots:
         QVERIFY(!k("chktipodomitr")->isEnabled());
         // A municipality typed on one tab shows on the other.
         EscribirYSalir(n("txtcodmuntr"), QStringLiteral("4"));
-        QCOMPARE(DecDatos().CODMUNTR, QStringLiteral("004"));
-        QCOMPARE(DecDatos().CODMUNSP, QStringLiteral("004"));
+        QCOMPARE(DecDatos().CODMUNTR, QStringLiteral("4"));
+        QCOMPARE(DecDatos().CODMUNSP, QStringLiteral("4"));
         QCOMPARE(t("txtnommunsp")->text(), QStringLiteral("MENDIOLATZA"));
     }
 

@@ -36,12 +36,7 @@ class TestFrmDecLista : public QObject, ControlesDePanel {
         QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier, p);
         Procesar();
     }
-    void clicCelda(int fila, int columna)
-    {
-        const QRect r = grid()->Celda(fila, columna);
-        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-        Procesar();
-    }
+    void clicCelda(int fila, int columna) { ClicEnCelda(grid(), fila, columna); }
     QStringList columna(int col) const
     {
         QStringList textos;
@@ -212,9 +207,7 @@ private slots:
         QCOMPARE(grid()->TextMatrix(grid()->Row(), 1), QStringLiteral("NUEVA"));
         QCOMPARE(grid()->TextMatrix(grid()->Row(), 3), QStringLiteral("950,00"));
         // Opened with a double click.
-        const QRect r = grid()->Celda(grid()->Row(), 1);
-        QTest::mouseDClick(grid()->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-        Procesar();
+        DobleClicEnCelda(grid(), grid()->Row(), 1);
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
         QCOMPARE(DecDatos().CSDE, nueva);

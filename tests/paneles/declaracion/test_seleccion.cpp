@@ -37,12 +37,7 @@ class TestSeleccion : public QObject, ControlesDePanel {
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
     }
     cFlexGrid* grid(const char* nombre) const { return c<cFlexGrid>(nombre); }
-    void clicFila(cFlexGrid* g, int fila)
-    {
-        const QRect r = g->Celda(fila, 1);
-        QTest::mouseClick(g->viewport(), Qt::LeftButton, Qt::NoModifier, r.center());
-        Procesar();
-    }
+    void clicFila(cFlexGrid* g, int fila) { ClicEnCelda(g, fila, 1); }
     int filaDe(cFlexGrid* g, const QString& nombre) const
     {
         for (int f = 1; f < g->Rows(); ++f)
