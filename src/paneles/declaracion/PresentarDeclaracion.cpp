@@ -24,6 +24,13 @@ constexpr int32_t kDesdeReduccion2 = 20090101;
 
 bool marca(const QString& valor) { return valor == QLatin1String("X"); }
 
+// A box takes a format only when it changes: formatting its text again costs a redraw.
+void PonerFormato(CajaNum* caja, const QString& formato)
+{
+    if (caja->formato() != formato)
+        caja->setFormato(formato);
+}
+
 // A whole number shown empty when it is 0.
 void NumeroOVacio(CajaNum* caja, double valor)
 {
@@ -116,7 +123,7 @@ void FrmDeclaracion::PresentarPartes()
     const cDecDatos& d = DecDatos();
     PonerTexto(txtdnisp, d.DNISP);
     PonerTexto(txtnombresp, d.NOMBRESP);
-    m_domSp->txtcodpos->setFormato(QStringLiteral("00000"));
+    PonerFormato(m_domSp->txtcodpos, QStringLiteral("00000"));
     const bool spEnTesoreria = Val(d.CODPROVSP) == 77;
     m_domSp->Presentar(spEnTesoreria);
     if (Val(d.CODPROVSP) == 0)
@@ -127,7 +134,7 @@ void FrmDeclaracion::PresentarPartes()
     PonerTexto(txtpaistr, d.PAISTR);
     const bool nacional = d.TIPODOMITR == QLatin1String("N");
     // A foreign postal code is shown as it was typed.
-    m_domTr->txtcodpos->setFormato(nacional ? QStringLiteral("00000") : QString());
+    PonerFormato(m_domTr->txtcodpos, nacional ? QStringLiteral("00000") : QString());
     m_domTr->Presentar(nacional && d.CODPROVTR == QLatin1String("77"));
     AbrirCampo(m_domTr->txtcodprov, nacional);
     AbrirCampo(txtpaistr, !nacional);
