@@ -5,10 +5,10 @@
 
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/CajaNum.h"
+#include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/BloqueDomicilio.h"
 #include "plataforma/Proceso.h"
-#include "registros/declaracion/Validacion.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConDeclaraciones.h"
@@ -31,7 +31,7 @@ const QString kDesdePresentador = QStringLiteral("P");
 
 bool FrmDeclaracion::ValidarCampos()
 {
-    Veredicto v;
+    VeredictoValidacion v;
     if (::ValidarCampos(txttipoimp->locked(), windowTitle(), cmbOperacion->currentText(), &v))
         return true;
     if (v.pestana != kPestanaNinguna)

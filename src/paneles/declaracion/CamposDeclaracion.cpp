@@ -4,6 +4,7 @@
 
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/CajaNum.h"
+#include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/SalidaCampos.h"
 #include "registros/declaracion/Calculo.h"
