@@ -3,17 +3,11 @@
 #include "aplicacion/MDIVeldo.h"
 #include "plataforma/General.h"
 #include "servicios/Almacen.h"
-#include "servicios/ValidarDniOficial.h"
 #include "servicios/cDeclaSvr.h"
 
 #include "paneles/controles/cFlexGrid.h"
 
 #include <QAction>
-
-QString Dni(quint32 numero)
-{
-    return QStringLiteral("%1").arg(numero, 8, 10, QLatin1Char('0')) + LetraDni(numero);
-}
 
 int32_t DeclaracionGuardada(const QString& referencia, int32_t fecha, const QString& operacion,
                             int32_t cssu, int32_t cstra, int32_t cspr)

@@ -3,15 +3,13 @@
 // parties' panel tests: valid tax numbers, parties and returns put in the store, and the
 // commands of the main window.
 #include "../partes/datos/ApoyoDatos.h"
+#include "comun/PartesPrueba.h"
 
 #include <QString>
 #include <cstdint>
 
 class QAction;
 class cFlexGrid;
-
-// A valid DNI (eight digits and the right letter) for a number.
-QString Dni(quint32 numero);
 
 // A return stored through the store of returns (a valid petrol car of 2010 under T2, subject
 // and transmitter typed; the stored parties' codes when given). Answers its code.
