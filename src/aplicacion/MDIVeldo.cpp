@@ -179,13 +179,9 @@ void MDIVeldo::conectarComandos()
             Proceso::Protegido(hacer);
         });
     };
-    // The declaration form and list, and the export and import panels, are not part of the
-    // program yet: their commands set the modes of the return and open nothing.
-    al("mnuNuevaDeclaracion", [] {
-        DecDatos().ENTRADA = QStringLiteral("A");
-        DecDatos().setMODO(QStringLiteral("A"));
-        DecDatos().LISTA.clear();
-    });
+    al("mnuNuevaDeclaracion", [] { Navegacion::NuevaDeclaracion(); });
+    al("mnuAbrirDeclaracion", [] { Navegacion::AbrirDecLista(QStringLiteral("A")); });
+    al("mnuEliminarDeclaracion", [] { Navegacion::AbrirDecLista(QStringLiteral("E")); });
     for (QAction* d : m_recientes)
         al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
     al("mnuSalir", [] { Proceso::Terminar(0); });
@@ -206,10 +202,7 @@ void MDIVeldo::conectarComandos()
 
 void MDIVeldo::abrirDeclaracionReciente(QAction* entrada)
 {
-    DecDatos().ENTRADA = QStringLiteral("A");
-    DecDatos().setMODO(QStringLiteral("C"));
-    DecDatos().LISTA.clear();
-    DecDatos().CSDE = entrada->data().toInt();
+    Navegacion::AbrirDeclaracionReciente(entrada->data().toInt());
 }
 
 void MDIVeldo::botonBarra(const QString& etiqueta)

@@ -1,27 +1,29 @@
 #include "aplicacion/Navegacion.h"
 
 #include "aplicacion/MDIVeldo.h"
+#include "paneles/declaracion/FrmConDeclaraciones.h"
+#include "paneles/declaracion/FrmDecLista.h"
+#include "paneles/declaracion/FrmDeclaracion.h"
+#include "paneles/declaracion/FrmSeleccion.h"
 #include "paneles/partes/FrmConDatos.h"
 #include "paneles/partes/FrmConLista.h"
 #include "paneles/partes/FrmPreDatos.h"
 #include "paneles/partes/FrmPreLista.h"
+#include "paneles/dialogos/Ventanas.h"
 #include "plataforma/Proceso.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConDatos.h"
+#include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
 
 namespace {
 
-Navegacion::AbridorDeclaraciones& abridorContribuyente()
+Navegacion::AbridorImpresion& abridorImpresion()
 {
-    static Navegacion::AbridorDeclaraciones abrir;
-    return abrir;
-}
-
-Navegacion::AbridorDeclaraciones& abridorPresentador()
-{
-    static Navegacion::AbridorDeclaraciones abrir;
+    static Navegacion::AbridorImpresion abrir;
     return abrir;
 }
 
@@ -41,9 +43,11 @@ void alCerrar()
 
 // The routing of a list panel: every request is answered inside the failure guard, since a
 // signal's receiver runs outside the panel's own guarded handlers.
+using AbridorDeclaraciones = void (*)(const QString& nombre, const QString& dni);
+
 template <typename Lista, typename Datos>
 void conectarLista(Lista* lista, const std::function<void(const QString& modo)>& prepararDatos,
-                   Datos* (*abrirDatos)(), const Navegacion::AbridorDeclaraciones& declaraciones)
+                   Datos* (*abrirDatos)(), AbridorDeclaraciones declaraciones)
 {
     QObject::connect(lista, &PanelLista::cerrado, lista, [] { alCerrar(); });
     QObject::connect(lista, &PanelLista::pideDatos, lista, [lista, prepararDatos, abrirDatos](const QString& modo) {
@@ -54,10 +58,8 @@ void conectarLista(Lista* lista, const std::function<void(const QString& modo)>&
         });
     });
     QObject::connect(lista, &PanelLista::pideDeclaraciones, lista,
-                     [lista, &declaraciones](const QString& nombre, const QString& dni) {
+                     [lista, declaraciones](const QString& nombre, const QString& dni) {
                          Proceso::Protegido([&] {
-                             if (!declaraciones)
-                                 return;
                              lista->Cerrar();
                              declaraciones(nombre, dni);
                          });
@@ -81,7 +83,9 @@ FrmConLista* AbrirConLista(const QString& entrada)
             c.LISTA = QStringLiteral("S");
             c.CSCO = modo == QLatin1String("A") ? 0 : ConLista().CSCO;
         },
-        &AbrirConDatos, abridorContribuyente());
+        &AbrirConDatos, [](const QString& nombre, const QString& dni) {
+            AbrirConDeclaraciones(QStringLiteral("A"), nombre, dni);
+        });
     return lista;
 }
 
@@ -98,7 +102,9 @@ FrmPreLista* AbrirPreLista(const QString& entrada)
             p.LISTA = QStringLiteral("S");
             p.CSPR = modo == QLatin1String("A") ? 0 : PreLista().CSPR;
         },
-        &AbrirPreDatos, abridorPresentador());
+        &AbrirPreDatos, [](const QString& nombre, const QString& dni) {
+            AbrirPreDeclaraciones(QStringLiteral("A"), nombre, dni);
+        });
     return lista;
 }
 
@@ -145,14 +151,191 @@ FrmPreDatos* NuevoPresentador()
     return AbrirPreDatos();
 }
 
-void InstalarDeclaracionesContribuyente(AbridorDeclaraciones abrir)
+// The return a list hands to the form: "A" a new one, "C" the selected one, "D" its copy.
+static void prepararDeclaracion(const QString& modo, const QString& lista, int32_t csde)
 {
-    abridorContribuyente() = std::move(abrir);
+    cDecDatos& d = DecDatos();
+    d.ENTRADA = QStringLiteral("A");
+    d.setMODO(modo);
+    d.LISTA = lista;
+    if (modo != QLatin1String("A"))
+        d.CSDE = csde;
 }
 
-void InstalarDeclaracionesPresentador(AbridorDeclaraciones abrir)
+// A list to choose a party for the return being edited: on closing, either way, the form
+// comes back and reads in DecDatos() what happened.
+static void abrirSeleccion(PanelLista* seleccion)
 {
-    abridorPresentador() = std::move(abrir);
+    alAbrir();
+    AbrirPanel(seleccion);
+    QObject::connect(seleccion, &PanelLista::cerrado, seleccion, [] {
+        alCerrar();
+        AbrirDeclaracion();
+    });
+    seleccion->Iniciar();
+}
+
+FrmDecLista* AbrirDecLista(const QString& entrada)
+{
+    DecLista().ENTRADA = entrada;
+    alAbrir();
+    auto* lista = new FrmDecLista;
+    lista->PermitirImprimir(static_cast<bool>(abridorImpresion()));
+    AbrirPanel(lista);
+    QObject::connect(lista, &PanelDeclaraciones::cerrado, lista, [] { alCerrar(); });
+    QObject::connect(lista, &PanelDeclaraciones::pideDeclaracion, lista, [lista](const QString& modo) {
+        Proceso::Protegido([&] {
+            prepararDeclaracion(modo, QStringLiteral("D"), DecLista().CSDE);
+            lista->Cerrar();
+            AbrirDeclaracion();
+        });
+    });
+    QObject::connect(lista, &PanelDeclaraciones::pideImpresion, lista, [lista](int32_t csde) {
+        Proceso::Protegido([&] {
+            if (!abridorImpresion())
+                return;
+            cDecDatos& d = DecDatos();
+            d.CSDE = csde;
+            d.CargarDeclaracion();
+            d.ObtenerDatosOperacion(false);
+            lista->Cerrar();
+            abridorImpresion()(csde, QStringLiteral("L"));
+        });
+    });
+    lista->Iniciar();
+    return lista;
+}
+
+FrmDeclaracion* AbrirDeclaracion()
+{
+    alAbrir();
+    FrmDeclaracion* form = FrmDeclaracion::Abrir();
+    form->PermitirImprimir(static_cast<bool>(abridorImpresion()));
+    QObject::connect(form, &FrmDeclaracion::cerrado, form, [] {
+        alCerrar();
+        // A side trip (a selection panel, the print) is under way when LISTA has two letters,
+        // or one that names no list: the trip's own panel takes over.
+        const QString lista = DecDatos().LISTA;
+        if (lista.size() != 1)
+            return;
+        if (lista == QLatin1String("D"))
+            AbrirDecLista(QStringLiteral("P"));
+        else if (lista == QLatin1String("C"))
+            AbrirConDeclaraciones(QStringLiteral("P"));
+        else if (lista == QLatin1String("P"))
+            AbrirPreDeclaraciones(QStringLiteral("P"));
+    });
+    QObject::connect(form, &FrmDeclaracion::pideEleccion, form, [form](EleccionParte parte) {
+        Proceso::Protegido([&] {
+            form->Cerrar();
+            if (parte == EleccionParte::Presentador)
+                abrirSeleccion(new FrmPreSeleccion);
+            else
+                abrirSeleccion(new FrmConSeleccion);
+        });
+    });
+    QObject::connect(form, &FrmDeclaracion::pideImpresion, form, [form](int32_t csde) {
+        Proceso::Protegido([&] {
+            form->Cerrar();
+            if (abridorImpresion())
+                abridorImpresion()(csde, QStringLiteral("D"));
+        });
+    });
+    return form;
+}
+
+FrmDeclaracion* NuevaDeclaracion()
+{
+    cDecDatos& d = DecDatos();
+    d.ENTRADA = QStringLiteral("A");
+    d.setMODO(QStringLiteral("A"));
+    d.LISTA.clear();
+    return AbrirDeclaracion();
+}
+
+FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde)
+{
+    cDecDatos& d = DecDatos();
+    d.ENTRADA = QStringLiteral("A");
+    d.setMODO(QStringLiteral("C"));
+    d.LISTA.clear();
+    d.CSDE = csde;
+    return AbrirDeclaracion();
+}
+
+void InstalarImpresion(AbridorImpresion abrir)
+{
+    abridorImpresion() = std::move(abrir);
+}
+
+// The returns of a party: the panel, its state and its doorways. `lista` is the form's LISTA
+// from it, `imprimir` the print's letter, `volver` the party's list on closing.
+template <typename Panel, typename Estado>
+Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*volver)())
+{
+    alAbrir();
+    auto* panel = new Panel;
+    panel->PermitirImprimir(static_cast<bool>(abridorImpresion()));
+    AbrirPanel(panel);
+    QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [&estado, volver] {
+        alCerrar();
+        // With a side trip under way, the form or the print brings the panel back.
+        if (estado.ENTRADA.size() < 2)
+            volver();
+    });
+    QObject::connect(panel, &PanelDeclaraciones::pideDeclaracion, panel,
+                     [panel, &estado, letra](const QString& modo) {
+                         Proceso::Protegido([&] {
+                             prepararDeclaracion(modo, letra, estado.CSDE);
+                             estado.ENTRADA += QStringLiteral("D");
+                             panel->Cerrar();
+                             AbrirDeclaracion();
+                         });
+                     });
+    QObject::connect(panel, &PanelDeclaraciones::pideImpresion, panel,
+                     [panel, &estado, letra](int32_t csde) {
+                         Proceso::Protegido([&] {
+                             if (!abridorImpresion())
+                                 return;
+                             estado.ENTRADA += QStringLiteral("I");
+                             cDecDatos& d = DecDatos();
+                             d.CSDE = csde;
+                             d.CargarDeclaracion();
+                             d.ObtenerDatosOperacion(false);
+                             panel->Cerrar();
+                             abridorImpresion()(csde, letra);
+                         });
+                     });
+    panel->Iniciar();
+    return panel;
+}
+
+FrmConDeclaraciones* AbrirConDeclaraciones(const QString& entrada, const QString& nombre,
+                                           const QString& dni)
+{
+    cConDeclaraciones& e = ConDeclaraciones();
+    e.ENTRADA = entrada;
+    if (entrada == QLatin1String("A")) {
+        e.LBLCONTRI = nombre;
+        e.lbldni = dni;
+    }
+    return abrirDeclaracionesDeParte<FrmConDeclaraciones>(e, QStringLiteral("C"), [] {
+        AbrirConLista(QStringLiteral("P"));
+    });
+}
+
+FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString& nombre,
+                                           const QString& dni)
+{
+    cPreDeclaraciones& e = PreDeclaraciones();
+    e.ENTRADA = entrada;
+    if (entrada == QLatin1String("A")) {
+        e.LBLPRESEN = nombre;
+        e.lbldni = dni;
+    }
+    return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(e, QStringLiteral("P"), [] {
+        AbrirPreLista(QStringLiteral("P"));
+    });
 }
 
 }  // namespace Navegacion

@@ -6,9 +6,14 @@
 //
 // Panels never open each other: they say what the user asked for through their signals.
 #include <QString>
+#include <cstdint>
 #include <functional>
 
 class FrmConDatos;
+class FrmDeclaracion;
+class FrmDecLista;
+class FrmConDeclaraciones;
+class FrmPreDeclaraciones;
 class FrmConLista;
 class FrmPreDatos;
 class FrmPreLista;
@@ -27,10 +32,29 @@ FrmPreDatos* AbrirPreDatos();
 FrmConDatos* NuevoContribuyente();
 FrmPreDatos* NuevoPresentador();
 
-// Where a party list's CmdDeclaraciones leads (the party's name and number). Without an
-// opener the command does nothing and the list stays open.
-using AbridorDeclaraciones = std::function<void(const QString& nombre, const QString& dni)>;
-void InstalarDeclaracionesContribuyente(AbridorDeclaraciones abrir);
-void InstalarDeclaracionesPresentador(AbridorDeclaraciones abrir);
+// The list of returns as ENTRADA of DecLista() is set here ("A" open, "E" delete, "P" back).
+FrmDecLista* AbrirDecLista(const QString& entrada);
+
+// The declaration form as ENTRADA, MODO, LISTA and CSDE of DecDatos() stand; on closing it
+// goes back to the list it came from (LISTA).
+FrmDeclaracion* AbrirDeclaracion();
+// New declaration of the main menu: a new return, no list to go back to.
+FrmDeclaracion* NuevaDeclaracion();
+// One of the recent returns of the main menu (d1 to d4): the stored return `csde`.
+FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde);
+
+// Where the print of a return leads: the print panel, with the return's code and the letter
+// of the panel that asks for it ("D" the declaration form). The print panel is built
+// elsewhere and installs itself here; without it the forms' print buttons stay off.
+using AbridorImpresion = std::function<void(int32_t csde, const QString& entrada)>;
+void InstalarImpresion(AbridorImpresion abrir);
+
+// The returns of a party, as a party list's CmdDeclaraciones asks ("A", with the party's name
+// and number) or as the form hands back ("P"). On closing without a side trip they go back to
+// the party's list.
+FrmConDeclaraciones* AbrirConDeclaraciones(const QString& entrada, const QString& nombre = QString(),
+                                           const QString& dni = QString());
+FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString& nombre = QString(),
+                                           const QString& dni = QString());
 
 }  // namespace Navegacion

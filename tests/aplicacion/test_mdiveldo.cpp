@@ -21,6 +21,8 @@
 #include <QDialog>
 #include <QFile>
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QTest>
 #include <QTextBrowser>
@@ -389,6 +391,46 @@ private slots:
         QCOMPARE(OffsetIdioma, int16_t(0));
         QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoria"));
         QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Declaración"));
+    }
+
+    // Each command and the panel it opens; export and import are built by other pieces of
+    // work and open nothing yet.
+    void comandoAbrePanel_data()
+    {
+        QTest::addColumn<QString>("comando");
+        QTest::addColumn<QString>("panel");
+        const QList<std::pair<const char*, const char*>> tabla = {
+            {"mnuNuevaDeclaracion", "FrmDeclaracion"}, {"d1", "FrmDeclaracion"},
+            {"mnuAbrirDeclaracion", "FrmDecLista"},    {"mnuEliminarDeclaracion", "FrmDecLista"},
+            {"mnuNuevoContribuyente", "FrmConDatos"},  {"mnuAbrirContribuyente", "FrmConLista"},
+            {"mnuEliminarContribuyente", "FrmConLista"}, {"mnuNuevoPresentador", "FrmPreDatos"},
+            {"mnuAbrirPresentador", "FrmPreLista"},    {"mnuEliminarPresentador", "FrmPreLista"},
+            {"boton1", "FrmDeclaracion"},              {"boton2", "FrmDecLista"},
+            {"boton3", "FrmDecLista"},                 {"mnuExport", ""},
+            {"mnuImport", ""}};
+        for (const auto& [comando, panel] : tabla)
+            QTest::newRow(comando) << QString::fromLatin1(comando) << QString::fromLatin1(panel);
+    }
+    void comandoAbrePanel()
+    {
+        QFETCH(QString, comando);
+        QFETCH(QString, panel);
+        ActOnline().ActOnline = 0;
+        guardarDeclaraciones(1);
+        NuevoContribuyente(Dni(22222222), QStringLiteral("AGIRRE ZUBIA MIREN"));
+        NuevoPresentador(Dni(33333333), QStringLiteral("GESTORIA"));
+        m_ventana->ActualizarMenus();
+        if (comando.startsWith(QLatin1String("boton")))
+            boton(comando.right(1).toInt())->trigger();
+        else
+            accion(qPrintable(comando))->trigger();
+        QApplication::processEvents();
+        QStringList abiertos;
+        for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
+            if (sub->widget() && sub->isVisible())
+                abiertos << sub->widget()->objectName();
+        QCOMPARE(abiertos, panel.isEmpty() ? QStringList() : QStringList{panel});
+        QCOMPARE(MensajeSeam::registro().size(), 0);
     }
 };
 

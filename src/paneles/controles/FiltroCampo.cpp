@@ -101,8 +101,15 @@ private:
 
 void AplicarFiltro(QLineEdit* campo, TipoFiltro tipo)
 {
-    if (campo)
-        campo->installEventFilter(new FiltroTeclas(campo, tipo));
+    if (!campo)
+        return;
+    // A field whose filter changes (a search box over columns of several kinds) keeps one.
+    const QString nombre = QStringLiteral("FiltroTeclas");
+    for (QObject* previo : campo->findChildren<QObject*>(nombre, Qt::FindDirectChildrenOnly))
+        delete previo;
+    auto* filtro = new FiltroTeclas(campo, tipo);
+    filtro->setObjectName(nombre);
+    campo->installEventFilter(filtro);
 }
 
 void SeleccionarAlEntrar(QLineEdit* campo)

@@ -7,7 +7,7 @@ class QLineEdit;
 
 enum class TipoFiltro { Texto, Digitos, Fecha };
 
-// The filter object lives as a child of the field.
+// The filter object lives as a child of the field; a new filter replaces the field's last one.
 void AplicarFiltro(QLineEdit* campo, TipoFiltro tipo);
 // SeleccionarTexto each time the field takes the focus, the mouse included.
 void SeleccionarAlEntrar(QLineEdit* campo);

@@ -25,10 +25,10 @@ QByteArray Nombre(const char* raiz, const QString& parte)
 }  // namespace
 
 BloqueDomicilio::BloqueDomicilio(QWidget* panel, QWidget* datos, const QString& parte,
-                                 RegistroDomicilio registro, MarcaCambios marca)
+                                 RegistroDomicilio registro, MarcaCambios marca, bool parteEnTodo)
     : QObject(panel), m_panel(panel), m_parte(parte), m_registro(registro), m_marca(marca)
 {
-    Construir(datos);
+    Construir(datos, parteEnTodo);
 }
 
 void BloqueDomicilio::CrearSelectores(const QList<QWidget*>& marcos)
@@ -43,13 +43,14 @@ void BloqueDomicilio::CrearSelectores(const QList<QWidget*>& marcos)
         s->setMarcos(marcos);
 }
 
-void BloqueDomicilio::Construir(QWidget* d)
+void BloqueDomicilio::Construir(QWidget* d, bool parteEnTodo)
 {
     const QString& p = m_parte;
+    const QString q = parteEnTodo ? p : QString();
     txtvia = CampoTexto(d, Nombre("txtvia", p).constData(), 2, TipoFiltro::Texto);
     cmdVia = new QPushButton(d);
-    cmdVia->setObjectName(QStringLiteral("cmdVia"));
-    txtviaaux = CampoTexto(d, "txtviaaux", 32767, TipoFiltro::Texto, true);
+    cmdVia->setObjectName(QStringLiteral("cmdVia") + q);
+    txtviaaux = CampoTexto(d, Nombre("txtviaaux", q).constData(), 32767, TipoFiltro::Texto, true);
     AbrirCampo(txtviaaux, false);
     txtdomicilio = CampoTexto(d, Nombre("txtdomicilio", p).constData(), 20, TipoFiltro::Texto);
     txtnumero = CajaNumerica(d, Nombre("txtnumero", p).constData(), 5, 5, QStringLiteral("#####"), false);
@@ -59,14 +60,14 @@ void BloqueDomicilio::Construir(QWidget* d)
     txtmano = CampoTexto(d, Nombre("txtmano", p).constData(), 3, TipoFiltro::Texto);
     txtcodprov = CajaNumerica(d, Nombre("txtcodprov", p).constData(), 2, 2, QStringLiteral("00"), false);
     cmdProvincia = new QPushButton(d);
-    cmdProvincia->setObjectName(QStringLiteral("cmdProvincia"));
+    cmdProvincia->setObjectName(QStringLiteral("cmdProvincia") + q);
     txtnomprov = CampoTexto(d, Nombre("txtnomprov", p).constData(), 20, TipoFiltro::Texto, true);
     AbrirCampo(txtnomprov, false);
     // The postal code's format is the panel's: it may follow the kind of domicile.
     txtcodpos = CajaNumerica(d, Nombre("txtcodpos", p).constData(), 5, 5, QString(), false);
     txtcodmun = CajaNumerica(d, Nombre("txtcodmun", p).constData(), 3, 3, QStringLiteral("###"), true);
     cmdMunicipio = new QPushButton(d);
-    cmdMunicipio->setObjectName(QStringLiteral("cmdMunicipio"));
+    cmdMunicipio->setObjectName(QStringLiteral("cmdMunicipio") + q);
     txtnommun = CampoTexto(d, Nombre("txtnommun", p).constData(), 25, TipoFiltro::Texto, true);
     AbrirCampo(txtnommun, false);
     for (QPushButton* b : {cmdVia, cmdProvincia, cmdMunicipio})

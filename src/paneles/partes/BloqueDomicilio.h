@@ -65,9 +65,12 @@ struct EnlacePanel {
 class BloqueDomicilio : public QObject {
     Q_OBJECT
 public:
-    // Makes the fields in `datos`, with the party letter `parte` in their objectNames.
+    // Makes the fields in `datos`, with the party letter `parte` in their objectNames. A panel
+    // that holds two blocks (the declaration form: subject and transmitter) asks for the party
+    // in every name (`parteEnTodo`), the street type's name and the pickers' buttons included,
+    // so that each control keeps a name of its own.
     BloqueDomicilio(QWidget* panel, QWidget* datos, const QString& parte,
-                    RegistroDomicilio registro, MarcaCambios marca);
+                    RegistroDomicilio registro, MarcaCambios marca, bool parteEnTodo = false);
     // The pickers lie over the panel, outside the frames they switch off while open
     // (`marcos`). They are made last, after every other widget of the panel, which keeps the
     // panel's chain of focus as its tab order sets it.
@@ -120,7 +123,7 @@ public:
     QLineEdit* txtnommun = nullptr;
 
 private:
-    void Construir(QWidget* datos);
+    void Construir(QWidget* datos, bool parteEnTodo);
     void Redibujar() { m_enlace.redibujar(); }
     // A leaving that wrote a new value into the record.
     void CambioAlSalir();

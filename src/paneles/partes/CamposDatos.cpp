@@ -103,6 +103,12 @@ void AbrirCampo(QWidget* campo, bool abierto)
 {
     if (!campo)
         return;
+    // A panel draws itself again after every field it leaves: a field already in the state
+    // asked for is left alone, which spares the style its work.
+    const Qt::FocusPolicy politica = abierto ? Qt::StrongFocus : Qt::NoFocus;
+    if (CampoAbierto(campo) == abierto && campo->focusPolicy() == politica
+        && ColorFondo(campo) == QColor::fromRgb(abierto ? kColorAbierto : kColorBloqueado))
+        return;
     if (auto* caja = qobject_cast<CajaNum*>(campo))
         caja->setLocked(!abierto);
     else if (auto* texto = qobject_cast<QLineEdit*>(campo))

@@ -268,10 +268,10 @@ void PanelLista::Anadir_captions()
     PonerTitulo(Texto(m_diseno.idTituloAbrir));
     CmdDeclaraciones->setText(Texto(m_diseno.idDeclaraciones));
     CmdDeclaraciones->setToolTip(Texto(74));
-    cmdAceptar->setText(Texto(75));
+    cmdAceptar->setText(Texto(m_diseno.idAceptar));
     cmdAceptar->setToolTip(m_diseno.tipDatos.texto());
-    cmdCancelar->setText(Texto(76));
-    cmdCancelar->setToolTip(Texto(77));
+    cmdCancelar->setText(Texto(m_diseno.idCancelar));
+    cmdCancelar->setToolTip(Texto(m_diseno.idTipCancelar));
     cmdNuevo->setText(Texto(78));
     cmdNuevo->setToolTip(Texto(m_diseno.idTipNuevo));
     cmdBuscar->setText(Texto(61));
@@ -502,17 +502,18 @@ void PanelLista::PresentaBotones()
 
     if (abrir) {
         PonerTitulo(Texto(m_diseno.idTituloAbrir));
-        cmdAceptar->setText(Texto(75));
+        cmdAceptar->setText(Texto(m_diseno.idAceptar));
         cmdAceptar->setToolTip(m_diseno.tipDatos.texto());
     } else {
         PonerTitulo(Texto(m_diseno.idTituloEliminar));
         cmdAceptar->setText(Texto(86));
         cmdAceptar->setToolTip(m_diseno.tipEliminar.texto());
     }
-    cmdNuevo->setVisible(abrir);
-    CmdDeclaraciones->setVisible(abrir);
-    PicNuevo->setVisible(abrir);
-    PicDeclaraciones->setVisible(abrir);
+    const bool puertas = abrir && !m_diseno.seleccion;
+    cmdNuevo->setVisible(puertas);
+    CmdDeclaraciones->setVisible(puertas);
+    PicNuevo->setVisible(puertas);
+    PicDeclaraciones->setVisible(puertas);
     PicDatos->setVisible(abrir);
     PicAtras->setVisible(abrir);
     PicEliminar->setVisible(!abrir);
@@ -632,7 +633,7 @@ void PanelLista::Aceptar()
     const QString nombre = m_grid->TextMatrix(fila, kColumnaNombre).trimmed();
     const QString dni = m_grid->TextMatrix(fila, kColumnaDni).trimmed();
     if (m_estado.MODO == QLatin1String("C")) {
-        emit pideDatos(QStringLiteral("C"));
+        Elegido();
         return;
     }
     const QString titulo = Texto(m_diseno.idTituloBorrado);
@@ -655,6 +656,11 @@ void PanelLista::Aceptar()
     m_grid->setFocus();
     if (m_estado.Seleccionados() == 0)
         Cerrar();
+}
+
+void PanelLista::Elegido()
+{
+    emit pideDatos(QStringLiteral("C"));
 }
 
 void PanelLista::Buscar()

@@ -61,6 +61,13 @@ struct DisenoLista {
     int idPregunta = 0;                    // question: before the number,
     int idPreguntaEntre = 0;               //   between number and name,
     int idPreguntaFin = 0;                 //   after the name
+    // cmdAceptar's and cmdCancelar's captions and Cancelar's tip.
+    int idAceptar = 75;
+    int idCancelar = 76;
+    int idTipCancelar = 77;
+    // A list that only chooses a party for the return being edited: no new party, no
+    // declarations.
+    bool seleccion = false;
 };
 
 class PanelLista : public QWidget {
@@ -101,6 +108,11 @@ protected:
     // What differs by party besides the design and the state object: the deletion of a party
     // in the store.
     virtual void Borrar(int32_t codigo) = 0;
+
+    // Aceptar in the open mode: the selected party's data, or, on a selection list, the choice.
+    virtual void Elegido();
+    // The grid, for a selection list that reads the chosen row.
+    const cFlexGrid* Grid() const { return m_grid; }
 
     void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;

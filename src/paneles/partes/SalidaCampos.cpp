@@ -17,8 +17,7 @@ void SalidaCampos::Vigilar(QWidget* campo, std::function<void()> alSalir)
 
 void SalidaCampos::setBotonCancelar(QWidget* boton, std::function<void()> alPulsar)
 {
-    m_cancelar = boton;
-    m_alPulsarCancelar = std::move(alPulsar);
+    m_cancelar.append({boton, std::move(alPulsar)});
 }
 
 bool SalidaCampos::eventFilter(QObject* objeto, QEvent* evento)
@@ -47,10 +46,11 @@ bool SalidaCampos::eventFilter(QObject* objeto, QEvent* evento)
         m_conFoco = nullptr;
     if (!loTenia)
         return false;
-    // The mouse went down on the cancel button: the focus is already the button's.
-    if (m_cancelar && QApplication::focusWidget() == m_cancelar && razon == Qt::MouseFocusReason
-        && m_alPulsarCancelar)
-        m_alPulsarCancelar();
+    // The mouse went down on a way out: the focus is already that button's.
+    if (razon == Qt::MouseFocusReason)
+        for (const Salida& salida : std::as_const(m_cancelar))
+            if (salida.boton && QApplication::focusWidget() == salida.boton && salida.alPulsar)
+                salida.alPulsar();
     // The field finishes its own leaving first (a numeric box formats its text again).
     const std::function<void()> alSalir = it->alSalir;
     QPointer<QWidget> vivo = campo;

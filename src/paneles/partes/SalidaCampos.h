@@ -29,7 +29,7 @@ public:
     // Calls `alSalir` each time the user leaves `campo`.
     void Vigilar(QWidget* campo, std::function<void()> alSalir);
     // A press of the mouse on `boton` that takes the focus from a field calls `alPulsar` before
-    // the field's leaving.
+    // the field's leaving. A panel may name several such ways out, one call each.
     void setBotonCancelar(QWidget* boton, std::function<void()> alPulsar);
     // While `activo` answers false, leavings are not reported.
     void setActivo(std::function<bool()> activo) { m_activo = std::move(activo); }
@@ -44,7 +44,10 @@ private:
     };
     QList<Vigilado> m_campos;
     QPointer<QWidget> m_conFoco;  // the watched field that last received the focus
-    QPointer<QWidget> m_cancelar;
-    std::function<void()> m_alPulsarCancelar;
+    struct Salida {
+        QPointer<QWidget> boton;
+        std::function<void()> alPulsar;
+    };
+    QList<Salida> m_cancelar;
     std::function<bool()> m_activo;
 };

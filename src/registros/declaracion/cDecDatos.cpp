@@ -352,6 +352,11 @@ QStringList cDecDatos::CargarListaOperaciones() const
     return descripciones;
 }
 
+QString cDecDatos::DameOperacionporDescripcion(const QString& descripcion) const
+{
+    return Almacen<cDeclaSvr>().DameOperacionporDescripcion(descripcion, FECHAD, OffsetIdioma);
+}
+
 void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 {
     Arreglo datos;

@@ -111,6 +111,8 @@ public:
     void ValidarDniOficial(const QString& dni, bool& resultado) const;
     // The descriptions of the operations that apply on FECHAD, for the form's list.
     QStringList CargarListaOperaciones() const;
+    // The code of the operation that the form's list shows as `descripcion` on FECHAD.
+    QString DameOperacionporDescripcion(const QString& descripcion) const;
     // Loads Operacion() with the operation OPERACION on FECHAD, or empties it.
     void ObtenerDatosOperacion(bool sinReduccion) const;
 

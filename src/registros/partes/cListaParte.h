@@ -37,12 +37,14 @@ public:
     // The search box over column SELECCIONACTUAL was left with `texto`: that column's
     // criterion takes it (a new criterion when there is none), the list is ordered by that
     // column, and no column is under edit any more.
-    void AnotarBusqueda(const QString& texto);
+    virtual void AnotarBusqueda(const QString& texto);
     // cmdBuscar: from the result state to the search state with nothing kept; from the search
     // state back to the result state with the criteria typed.
-    void CambiarBusqueda();
+    virtual void CambiarBusqueda();
     // cmdTodos: the whole list by name, nothing selected.
-    void Todos();
+    // (These three moves are virtual: a selection list also notes whether its criteria
+    // survive the trip back to the declaration form.)
+    virtual void Todos();
     // A click on a heading of the result state: name (1) and number (2) order the list and
     // lose the selection; answers false for any other column, which does nothing.
     bool OrdenarPor(int columna);

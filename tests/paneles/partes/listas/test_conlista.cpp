@@ -3,6 +3,7 @@
 // the search typed over a heading, the buttons and their icons, deletion with its refusal and
 // question, the hand-over to the contributor panel and back, both languages.
 #include "aplicacion/Navegacion.h"
+#include "registros/partes/cConDeclaraciones.h"
 #include "ApoyoListas.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -535,13 +536,12 @@ private slots:
         QVERIFY(Boton(p, "CmdDeclaraciones")->isEnabled());
 
         // The button hands the row's name and number to the declarations' panel.
-        QStringList entregado;
-        Navegacion::InstalarDeclaracionesContribuyente(
-            [&](const QString& nombre, const QString& dni) { entregado = {nombre, dni}; });
+        // The button opens the party's declarations, with the row's name and number.
         QTest::mouseClick(Boton(p, "CmdDeclaraciones"), Qt::LeftButton);
-        Navegacion::InstalarDeclaracionesContribuyente({});
-        QCOMPARE(entregado, (QStringList{kGomez, "11000000D"}));
+        Procesar();
+        QCOMPARE((QStringList{ConDeclaraciones().LBLCONTRI, ConDeclaraciones().lbldni}), (QStringList{kGomez, "11000000D"}));
         QVERIFY(!Panel());
+        QVERIFY(PanelAbierto("FrmConDeclaraciones"));
     }
 
     void losIconosSonSusBotones()

@@ -2,6 +2,7 @@
 // counter, texts, store and data panel. These tests go through what differs, and through the
 // shared behaviour once more on this panel: pages, ordering, search, deletion, the round trip.
 #include "aplicacion/Navegacion.h"
+#include "registros/partes/cConDeclaraciones.h"
 #include "ApoyoListas.h"
 
 #include "aplicacion/MDIVeldo.h"
@@ -198,13 +199,12 @@ private slots:
         ClicCelda(g, 2, 2);
         QCOMPARE(PreLista().NUMDECLARACIONES, 1);
         QVERIFY(Boton(p, "CmdDeclaraciones")->isEnabled());
-        QStringList entregado;
-        Navegacion::InstalarDeclaracionesPresentador(
-            [&](const QString& nombre, const QString& dni) { entregado = {nombre, dni}; });
+        // The button opens the party's declarations, with the row's name and number.
         QTest::mouseClick(Etiqueta(p, "PicDeclaraciones"), Qt::LeftButton);
-        Navegacion::InstalarDeclaracionesPresentador({});
-        QCOMPARE(entregado, (QStringList{kGoiri, "30000000B"}));
+        Procesar();
+        QCOMPARE((QStringList{PreDeclaraciones().LBLPRESEN, PreDeclaraciones().lbldni}), (QStringList{kGoiri, "30000000B"}));
         QVERIFY(!Panel());
+        QVERIFY(PanelAbierto("FrmPreDeclaraciones"));
     }
 
     void eliminar()

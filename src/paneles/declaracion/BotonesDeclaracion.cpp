@@ -1,0 +1,138 @@
+// The buttons of the declaration form: Aceptar (validate, save when changed, close), Cancelar
+// (close without a question), Imprimir (save first when changed, then ask for the print), and
+// the closing that marks the list the form came from for a reload.
+#include "paneles/declaracion/FrmDeclaracion.h"
+
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/CajaNum.h"
+#include "paneles/declaracion/ComprobacionesDeclaracion.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "paneles/partes/BloqueDomicilio.h"
+#include "plataforma/Proceso.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cDecLista.h"
+#include "registros/partes/cConDeclaraciones.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFrame>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QTimer>
+
+namespace {
+
+// The lists that open the form, by the first letter of LISTA.
+const QString kDesdeDecLista = QStringLiteral("D");
+const QString kDesdeContribuyente = QStringLiteral("C");
+const QString kDesdePresentador = QStringLiteral("P");
+
+}  // namespace
+
+bool FrmDeclaracion::ValidarCampos()
+{
+    VeredictoValidacion v;
+    if (::ValidarCampos(txttipoimp->locked(), windowTitle(), cmbOperacion->currentText(), &v))
+        return true;
+    if (v.pestana != kPestanaNinguna)
+        MostrarPestana(v.pestana);
+    if (auto* campo = findChild<QWidget*>(v.control)) {
+        campo->setFocus(Qt::OtherFocusReason);
+        // Under a window manager the panel gets the activation back only after the box.
+        QTimer::singleShot(0, campo, [campo] { campo->setFocus(Qt::OtherFocusReason); });
+    }
+    return false;
+}
+
+bool FrmDeclaracion::Guardar()
+{
+    const int32_t codigo = GuardarDatosDeclaracion();
+    if (codigo < 1)
+        return false;
+    const QString modo = DecDatos().MODO();
+    if (modo == QLatin1String("A") || modo == QLatin1String("D"))
+        AnotarEnLista(codigo);
+    DecDatos().CSDE = codigo;
+    return true;
+}
+
+void FrmDeclaracion::AnotarEnLista(int32_t codigo)
+{
+    // The list that opened the form comes back with the new return selected.
+    const QString origen = DecDatos().LISTA.left(1);
+    if (origen == kDesdeDecLista)
+        DecLista().CSDE = codigo;
+    else if (origen == kDesdeContribuyente)
+        ConDeclaraciones().CSDE = codigo;
+    else if (origen == kDesdePresentador)
+        PreDeclaraciones().CSDE = codigo;
+}
+
+void FrmDeclaracion::Aceptar()
+{
+    // Reached by its access key, the field being typed in is left first, as a click leaves it.
+    if (QWidget* foco = focusWidget(); foco && foco != cmdAceptar && isAncestorOf(foco))
+        cmdAceptar->setFocus(Qt::OtherFocusReason);
+    if (m_domSp->SelectorAbierto() || m_domTr->SelectorAbierto())
+        return;
+    // An unchanged return is not sent to the store.
+    if (DecDatos().MODIFICADO) {
+        if (!ValidarCampos())
+            return;
+        if (ValidarNifIntervinientes(windowTitle()) == -1)
+            return;
+        if (!Guardar())
+            return;
+    }
+    Cerrar();
+}
+
+void FrmDeclaracion::Imprimir()
+{
+    cDecDatos& d = DecDatos();
+    if (d.MODIFICADO) {
+        const QString pregunta = Texto(165) + QStringLiteral("\n") + Texto(166);
+        if (Mensaje(pregunta, vb::YesNo + vb::Information, windowTitle()) != vb::Yes) {
+            cmdImprimir->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+        // The checks in the reverse order of Aceptar's.
+        if (ValidarNifIntervinientes(windowTitle()) == -1)
+            return;
+        if (!ValidarCampos())
+            return;
+        if (!Guardar())
+            return;
+        d.setMODO(QStringLiteral("C"));
+        d.MODIFICADO = false;
+    }
+    d.LISTA += QStringLiteral("I");
+    emit pideImpresion(d.CSDE);
+}
+
+void FrmDeclaracion::Cerrar()
+{
+    m_cerrando = true;
+    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
+        marco->close();
+    else
+        close();
+}
+
+void FrmDeclaracion::closeEvent(QCloseEvent* evento)
+{
+    QWidget::closeEvent(evento);
+    if (m_cerrado)
+        return;
+    m_cerrado = true;
+    m_cerrando = true;
+    // The list the form came from is drawn again from the store when it comes back.
+    const QString origen = DecDatos().LISTA.left(1);
+    if (origen == kDesdeDecLista)
+        DecLista().ENTRADA = QStringLiteral("P");
+    else if (origen == kDesdeContribuyente)
+        ConDeclaraciones().ENTRADA = QStringLiteral("P");
+    else if (origen == kDesdePresentador)
+        PreDeclaraciones().ENTRADA = QStringLiteral("P");
+    Proceso::Protegido([this] { emit cerrado(); });
+}

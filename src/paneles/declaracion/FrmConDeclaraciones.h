@@ -1,0 +1,60 @@
+#pragma once
+// The returns of one party: a contributor's (FrmConDeclaraciones, as subject or transmitter,
+// with the column "S-T") and a presenter's (FrmPreDeclaraciones). Opened from the party lists'
+// CmdDeclaraciones; they show the party's name, number and counters above the grid, and lead
+// to the form (open, copy, new), to the print and to the deletion of a return. Their states
+// live in ConDeclaraciones() and PreDeclaraciones().
+#include "paneles/declaracion/PanelDeclaraciones.h"
+
+class QLabel;
+
+class FrmConDeclaraciones final : public PanelDeclaraciones {
+    Q_OBJECT
+public:
+    explicit FrmConDeclaraciones(QWidget* parent = nullptr);
+    void Anadir_captions() override;
+
+protected:
+    cListaDeclaraciones& estado() const override;
+    void IniciarEstado() override;
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    QString TextoCriterio(int campo, const QString& valor) const override;
+    int idAyudaResultado() const override { return 64; }
+    int idAyudaBusqueda() const override { return 319; }
+    void PresentaCabecera() override;
+    void Eliminar() override;
+
+private:
+    QLabel* lbldcontribuyente = nullptr;
+    QLabel* lblddni = nullptr;
+    QLabel* lblnumsp = nullptr;
+    QLabel* lblnumtr = nullptr;
+    QList<QPair<QLabel*, int>> m_rotulos;
+};
+
+class FrmPreDeclaraciones final : public PanelDeclaraciones {
+    Q_OBJECT
+public:
+    explicit FrmPreDeclaraciones(QWidget* parent = nullptr);
+    void Anadir_captions() override;
+
+protected:
+    cListaDeclaraciones& estado() const override;
+    void IniciarEstado() override;
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    QString TextoCriterio(int campo, const QString& valor) const override;
+    int idAyudaResultado() const override { return 320; }
+    int idAyudaBusqueda() const override { return 321; }
+    void PresentaCabecera() override;
+    void Eliminar() override;
+
+private:
+    QLabel* lbldpresentador = nullptr;
+    QLabel* lblddni = nullptr;
+    QLabel* lblnumdecla = nullptr;
+    QList<QPair<QLabel*, int>> m_rotulos;
+};
+
+// The words of a condition on a party's lists (their wording differs from the list of all
+// returns).
+QString TextoCriterioDeParte(int campo, const QString& valor);

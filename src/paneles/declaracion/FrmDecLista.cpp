@@ -1,0 +1,113 @@
+#include "paneles/declaracion/FrmDecLista.h"
+
+#include "catalogo/Catalogo.h"
+#include "registros/declaracion/cDecLista.h"
+
+#include <QMdiSubWindow>
+#include <QPushButton>
+
+namespace {
+
+const QList<ColumnaDeclaraciones> kColumnas = {
+    {"NºDecl.", "Aitor.Zk.", 900, Qt::AlignRight},
+    {"Referencia", "Erreferentzia", 1600, Qt::AlignLeft},
+    {"Fecha", "Data", 1000, Qt::AlignLeft},
+    {"Importe", "Zenbatekoa", 1100, Qt::AlignRight},
+    {"Oper.", "Erag.", 750, Qt::AlignLeft},
+    {"Descripción Operación", "Eragiketaren deskribapena", 3350, Qt::AlignLeft},
+};
+
+}  // namespace
+
+FrmDecLista::FrmDecLista(QWidget* parent)
+    : PanelDeclaraciones(QStringLiteral("FrmDecLista"), kColumnas, parent)
+{
+}
+
+cListaDeclaraciones& FrmDecLista::estado() const
+{
+    return DecLista();
+}
+
+void FrmDecLista::IniciarEstado()
+{
+    DecLista().IniciarLista();
+}
+
+int32_t FrmDecLista::CargarDatos(Arreglo2D& datos)
+{
+    return DecLista().CargarDeclaraciones(datos);
+}
+
+bool FrmDecLista::ModoEliminar() const
+{
+    return DecLista().MODO == QLatin1String("E");
+}
+
+void FrmDecLista::Anadir_captions()
+{
+    setWindowTitle(Texto(174));
+    cmdAceptar->setText(Texto(75));
+    cmdAceptar->setToolTip(TextoSegunIdioma(QStringLiteral("Datos de la declaración"),
+                                            QStringLiteral("Aitorpenaren datuak")));
+    cmdCancelar->setText(Texto(76));
+    cmdCancelar->setToolTip(Texto(77));
+    cmdNuevo->setText(Texto(176));
+    cmdNuevo->setToolTip(Texto(51));
+    cmdCopiar->setText(Texto(175));
+    cmdCopiar->setToolTip(Texto(49));
+    cmdImprimir->setText(Texto(103));
+    cmdImprimir->setToolTip(Texto(177));
+    cmdBuscar->setText(Texto(61));
+    cmdTodos->setText(Texto(62));
+}
+
+// The title and cmdAceptar follow the mode.
+void FrmDecLista::PresentaCabecera()
+{
+    const bool eliminar = ModoEliminar();
+    const QString titulo = Texto(eliminar ? 59 : 174);
+    setWindowTitle(titulo);
+    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
+        marco->setWindowTitle(titulo);
+    cmdAceptar->setText(Texto(eliminar ? 86 : 75));
+    cmdAceptar->setToolTip(eliminar ? TextoSegunIdioma(QStringLiteral("Eliminar la declaración seleccionada"),
+                                                       QStringLiteral("Deuseztatu hautatutako aitorpena"))
+                                    : TextoSegunIdioma(QStringLiteral("Datos de la declaración"),
+                                                       QStringLiteral("Aitorpenaren datuak")));
+}
+
+QString FrmDecLista::TextoCriterio(int campo, const QString& valor) const
+{
+    switch (campo) {
+    case 1:
+        return TextoSegunIdioma(QStringLiteral("Código de Declaración"), QStringLiteral("Aitorpen kodea"))
+            + QStringLiteral(" >= ") + valor + QStringLiteral(" ");
+    case 2:
+        // The system's text keeps its spelling.
+        return TextoSegunIdioma(QStringLiteral("Refererencia empieza por"),
+                                QStringLiteral("Erreferenztiaren hasierako letra"))
+            + QStringLiteral(" '") + valor + QStringLiteral("' ");
+    case 3:
+        return TextoSegunIdioma(QStringLiteral("Fecha devengo"), QStringLiteral("Sortzapen data"))
+            + QStringLiteral(" >= '") + valor + QStringLiteral("' ");
+    case 4:
+        return TextoSegunIdioma(QStringLiteral("Total a ingresar"), QStringLiteral("Ordaintzekoa, guztira"))
+            + QStringLiteral(" >= ") + valor + QStringLiteral(" ");
+    case 5:
+        return TextoSegunIdioma(QStringLiteral("Operación empieza por"),
+                                QStringLiteral("Eragiketaren hasierako letra"))
+            + QStringLiteral(" '") + valor + QStringLiteral("' ");
+    default:
+        return QString();
+    }
+}
+
+void FrmDecLista::Aceptar()
+{
+    if (ModoEliminar()) {
+        EliminarSeleccionada(178);
+        return;
+    }
+    PanelDeclaraciones::Aceptar();
+}

@@ -1,0 +1,25 @@
+#pragma once
+// The list of all returns: the doorway from the main menu to a stored return (open, copy,
+// print, or a new one) or, in the delete mode, to its deletion. Its state lives in DecLista(),
+// whose ENTRADA the navigator sets before opening it ("A" open, "E" delete, "P" back from the
+// declaration form), shows it in the main window and then calls Iniciar().
+#include "paneles/declaracion/PanelDeclaraciones.h"
+
+class FrmDecLista final : public PanelDeclaraciones {
+    Q_OBJECT
+public:
+    explicit FrmDecLista(QWidget* parent = nullptr);
+
+    void Anadir_captions() override;
+
+protected:
+    cListaDeclaraciones& estado() const override;
+    void IniciarEstado() override;
+    int32_t CargarDatos(Arreglo2D& datos) override;
+    QString TextoCriterio(int campo, const QString& valor) const override;
+    int idAyudaResultado() const override { return 320; }
+    int idAyudaBusqueda() const override { return 321; }
+    bool ModoEliminar() const override;
+    void PresentaCabecera() override;
+    void Aceptar() override;
+};

@@ -1,0 +1,161 @@
+#include "paneles/declaracion/FrmSeleccion.h"
+
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/cFlexGrid.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/partes/cConSeleccion.h"
+
+#include <QCloseEvent>
+
+namespace {
+
+constexpr int kColumnaNombre = 1;
+constexpr int kColumnaDni = 2;
+
+DisenoLista DisenoContribuyentes()
+{
+    DisenoLista d;
+    d.nombrePanel = QStringLiteral("FrmConSeleccion");
+    d.nombreGrid = QStringLiteral("flxContribuyentes");
+    d.columnas = {
+        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
+        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2700, Qt::AlignLeft},
+        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
+        {{0, "Calle", "Helbidea"}, 2000, Qt::AlignLeft},
+        {{0, "Municipio", "Udalerria"}, 2000, Qt::AlignLeft},
+        {{0, "S.P.", "S.P."}, 600, Qt::AlignRight},
+        {{0, "Tr.", "Tr."}, 600, Qt::AlignRight},
+    };
+    d.idTituloAbrir = 87;
+    d.idTituloEliminar = 87;
+    d.tipDatos = {88};
+    d.resultado = {0, " contribuyente(s) seleccionado(s) ", " hautatutako zergaduna(k) "};
+    d.resultadoCriterios = {0, " contribuyente(s) seleccionado(s). ", " hautatutako zergaduna(k). "};
+    d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
+    d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
+    d.idAceptar = 6;
+    d.idCancelar = 4;
+    d.idTipCancelar = 89;
+    d.seleccion = true;
+    // The doorways a selection list does not show keep the captions of the party lists.
+    d.idDeclaraciones = 73;
+    d.idTipNuevo = 79;
+    return d;
+}
+
+DisenoLista DisenoPresentadores()
+{
+    DisenoLista d;
+    d.nombrePanel = QStringLiteral("FrmPreSeleccion");
+    d.nombreGrid = QStringLiteral("flxPresentadores");
+    // The number alone is right-aligned here, unlike on the presenters' list.
+    d.columnas = {
+        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
+        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2800, Qt::AlignLeft},
+        {{0, "DNI", "NA"}, 1000, Qt::AlignRight},
+        {{0, "Calle", "Helbidea"}, 2515, Qt::AlignLeft},
+        {{0, "Municipio", "Udalerria"}, 2500, Qt::AlignLeft},
+    };
+    d.idTituloAbrir = 212;
+    d.idTituloEliminar = 212;
+    d.tipDatos = {213};
+    d.resultado = {0, " presentador(es) seleccionado(s) ", " hautatutako aurkezlea(k) "};
+    d.resultadoCriterios = {0, " presentador(es) seleccionado(s). ", " hautatutako aurkezlea(k). "};
+    d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
+    d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
+    d.idAceptar = 6;
+    d.idCancelar = 4;
+    d.idTipCancelar = 89;
+    d.seleccion = true;
+    // The doorways a selection list does not show keep the captions of the party lists.
+    d.idDeclaraciones = 73;
+    d.idTipNuevo = 79;
+    return d;
+}
+
+// The form's LISTA loses the trip's letter: the first letter stays, or nothing.
+void VolverAlFormulario()
+{
+    cDecDatos& d = DecDatos();
+    d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
+}
+
+}  // namespace
+
+// ----- Contributor -----
+
+FrmConSeleccion::FrmConSeleccion(QWidget* parent)
+    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent)
+{
+    ConSeleccion().IniciarSeleccion();
+}
+
+void FrmConSeleccion::Elegido()
+{
+    cConSeleccion& s = ConSeleccion();
+    cDecDatos& d = DecDatos();
+    d.ENTRADA = s.ENTRADA;
+    if (s.ENTRADA == QLatin1String("S")) {
+        // A subject is official and national.
+        if (!s.ValidarTipoDniDomicilio()) {
+            Mensaje(Texto(90), vb::Information, windowTitle());
+            return;
+        }
+        if (d.CSSU != s.CSCO)
+            d.MODIFICADO = true;
+        d.CSSU = s.CSCO;
+    } else {
+        if (d.CSTRA != s.CSCO)
+            d.MODIFICADO = true;
+        d.CSTRA = s.CSCO;
+    }
+    m_seleccionHecha = true;
+    Cerrar();
+}
+
+void FrmConSeleccion::closeEvent(QCloseEvent* evento)
+{
+    if (!m_devuelto) {
+        m_devuelto = true;
+        cDecDatos& d = DecDatos();
+        if (!m_seleccionHecha)
+            d.ENTRADA = QStringLiteral("P");
+        VolverAlFormulario();
+        d.CRITERIO = ConSeleccion().CRITERIO;
+    }
+    PanelLista::closeEvent(evento);
+}
+
+// ----- Presenter -----
+
+FrmPreSeleccion::FrmPreSeleccion(QWidget* parent)
+    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent)
+{
+    PreSeleccion().IniciarSeleccion();
+}
+
+void FrmPreSeleccion::Elegido()
+{
+    // No check at all on a presenter; nothing reloads it, so the panel writes its name and
+    // number itself.
+    const cPreSeleccion& s = PreSeleccion();
+    cDecDatos& d = DecDatos();
+    if (d.CSPR != s.CSPR)
+        d.MODIFICADO = true;
+    d.CSPR = s.CSPR;
+    const int fila = Grid()->RowSel();
+    d.NOMBREPR = Grid()->TextMatrix(fila, kColumnaNombre);
+    d.DNIPR = Grid()->TextMatrix(fila, kColumnaDni);
+    Cerrar();
+}
+
+void FrmPreSeleccion::closeEvent(QCloseEvent* evento)
+{
+    if (!m_devuelto) {
+        m_devuelto = true;
+        DecDatos().ENTRADA = QStringLiteral("P");
+        VolverAlFormulario();
+    }
+    PanelLista::closeEvent(evento);
+}

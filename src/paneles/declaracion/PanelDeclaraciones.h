@@ -1,0 +1,137 @@
+#pragma once
+// The lists of returns: all returns (FrmDecLista), a contributor's (FrmConDeclaraciones) and a
+// presenter's (FrmPreDeclaraciones). One design: a grid of the returns found by the store, in
+// pages of 15 rows; a search typed in a box laid over a cell, one condition per column; the
+// order by a click on a heading, with an arrow that shows its direction; and the doorway to a
+// return (open, copy, new, print, delete). What differs (state object, columns, texts, the
+// store's call, the header of a party's lists) is each panel's; the behaviour lives here.
+//
+// The state object of each list outlives the panel: a list that comes back from the form
+// finds its order, conditions and selection again.
+#include "paneles/controles/cUtilidadesGrid.h"
+#include "servicios/Arreglos.h"
+
+#include <QLineEdit>
+#include <QList>
+#include <QString>
+#include <QWidget>
+#include <cstdint>
+
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+class cFlexGrid;
+class cListaDeclaraciones;
+
+struct ColumnaDeclaraciones {
+    const char* es;
+    const char* eu;
+    int anchoTwips;
+    Qt::Alignment alineacion;
+};
+
+class PanelDeclaraciones : public QWidget {
+    Q_OBJECT
+public:
+    // The number of rows of a page of the grid.
+    static constexpr int kFilasPorPagina = 15;
+    static constexpr QRgb kColorResaltado = 0x80C0FF;
+
+    // Reloads from the store (result state) or lays out the search (search state), selects
+    // the return of the state object, writes the help and result lines, places the arrow.
+    void PresentaDatos();
+    void PresentaBotones();
+    // The rows of the conditions in force, from the store.
+    void CargarFlxDeclaraciones();
+    // The opening, once the panel is on the screen: the state by ENTRADA, the first load.
+    void Iniciar();
+    void Cerrar();
+    // cmdImprimir works only when the program has a print panel to open.
+    void PermitirImprimir(bool permitir) { m_imprimir = permitir; }
+
+signals:
+    // A return on the declaration form: "C" the selected one, "D" its copy, "A" a new one.
+    void pideDeclaracion(const QString& modo);
+    // The selected return printed.
+    void pideImpresion(int32_t csde);
+    void cerrado();
+
+protected:
+    PanelDeclaraciones(const QString& nombre, QList<ColumnaDeclaraciones> columnas, QWidget* parent);
+
+    // What each list says and does of its own.
+    virtual cListaDeclaraciones& estado() const = 0;
+    virtual void IniciarEstado() = 0;
+    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;
+    // The words of one condition (CAMPOSELECCION `campo`).
+    virtual QString TextoCriterio(int campo, const QString& valor) const = 0;
+    virtual void Anadir_captions() = 0;
+    // Help lines of the result and the search states.
+    virtual int idAyudaResultado() const = 0;
+    virtual int idAyudaBusqueda() const = 0;
+    // The delete mode (cmdAceptar deletes, the other doorways hide).
+    virtual bool ModoEliminar() const { return false; }
+    // After the header of the party's lists has to be drawn again.
+    virtual void PresentaCabecera() {}
+    // The deletion of the selected return; the list reloads after it.
+    void EliminarSeleccionada(int idEntre);
+
+    void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+    // Space above the grid for the header of a party's lists.
+    QVBoxLayout* m_cabecera = nullptr;
+
+    cFlexGrid* flxDeclaraciones = nullptr;
+    QLineEdit* txtBusqueda = nullptr;
+    QLabel* picasc = nullptr;
+    QLabel* picdesc = nullptr;
+    QLabel* lblayuda = nullptr;
+    QLabel* lblResultado = nullptr;
+    QPushButton* cmdBuscar = nullptr;
+    QPushButton* cmdTodos = nullptr;
+    QPushButton* cmdAceptar = nullptr;
+    QPushButton* cmdCancelar = nullptr;
+    QPushButton* cmdNuevo = nullptr;
+    QPushButton* cmdCopiar = nullptr;
+    QPushButton* cmdImprimir = nullptr;
+    QLabel* PicDatos = nullptr;
+    QLabel* PicEliminar = nullptr;
+    QLabel* PicAtras = nullptr;
+    QLabel* PicCancelar = nullptr;
+    QLabel* PicNuevo = nullptr;
+    QLabel* PicCopiar = nullptr;
+    QLabel* PicImprimir = nullptr;
+    // The delete of a party's lists, beside cmdAceptar; hidden on the other lists.
+    QPushButton* cmdEliminar = nullptr;
+    QLabel* PicBorrar = nullptr;
+
+    virtual void Aceptar();
+    virtual void Eliminar() {}
+
+private:
+    void Construir(const QList<ColumnaDeclaraciones>& columnas);
+    void Conectar();
+    void LimpiarGrid();
+    void RellenarGrid(const Arreglo2D& datos);
+    void PresentaResultado();
+    void PresentaBusqueda();
+    QString TextoCriterios() const;
+    void SituarFlecha();
+    void LeerFila();
+
+    void Pulsado(int fila);
+    void Clic(int columna);
+    void DobleClic(int fila);
+    void FilaCambiada();
+    void BusquedaAbandonada();
+    void Buscar();
+    void Todos();
+
+    cUtilidadesGrid Utilidades;
+    bool ClicEnCabecera = false;
+    bool CambioFilaActivo = false;
+    bool m_cerrando = false;
+    bool m_cerrado = false;
+    bool m_imprimir = false;
+};

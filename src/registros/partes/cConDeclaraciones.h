@@ -1,0 +1,49 @@
+#pragma once
+// The state of the lists of one party's returns: a contributor's (ConDeclaraciones()) and a
+// presenter's (PreDeclaraciones()). Each outlives its panel, so that order, direction,
+// conditions and the selected return are found again after a trip to the declaration form or
+// to the print; ENTRADA carries the trip ("D" or "I" appended) and the form, on closing, sets
+// it back to "P".
+#include "servicios/Arreglos.h"
+#include "valores/cListaDeclaraciones.h"
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+// ENTRADA: "A" first entry, "P" coming back; with "D" or "I" appended during a trip.
+class cConDeclaraciones : public cListaDeclaraciones {
+public:
+    QString LBLCONTRI;           // the contributor's name, shown above the grid
+    QString lbldni;              // and number
+    QString MODELO;              // kept for the interface; nothing reads or writes it
+    int32_t CSCO = 0;            // the contributor
+
+    // The start by ENTRADA: "A" a fresh list of the contributor selected in ConLista(); any
+    // other entry keeps order, conditions and selection, in the result state.
+    void IniciarLista();
+
+    // {returns as subject, as transmitter}, asked of the store each time.
+    Arreglo ObtenerContadores() const;
+    // The contributor's returns of the conditions, seven columns (the last "S", "T" or "S-T").
+    int32_t CargarDeclaraciones(Arreglo2D& datos);
+};
+
+class cPreDeclaraciones : public cListaDeclaraciones {
+public:
+    QString LBLPRESEN;
+    QString lbldni;
+    QString MODELO;
+    int32_t CSPR = 0;            // the presenter
+
+    // The same with the presenter selected in PreLista().
+    void IniciarLista();
+
+    // The presenter's returns, asked of the store each time.
+    int32_t ObtenerContador() const;
+    // The presenter's returns of the conditions, six columns.
+    int32_t CargarDeclaraciones(Arreglo2D& datos);
+};
+
+cConDeclaraciones& ConDeclaraciones();
+cPreDeclaraciones& PreDeclaraciones();

@@ -1,0 +1,76 @@
+#include "ApoyoDeclaracionPanel.h"
+
+#include "aplicacion/MDIVeldo.h"
+#include "plataforma/General.h"
+#include "servicios/Almacen.h"
+#include "servicios/cDeclaSvr.h"
+
+#include "paneles/controles/cFlexGrid.h"
+
+#include <QAction>
+
+int32_t DeclaracionGuardada(const QString& referencia, int32_t fecha, const QString& operacion,
+                            int32_t cssu, int32_t cstra, int32_t cspr)
+{
+    const Arreglo datos = {
+        0, referencia, cspr, cssu, cstra, fecha, QString(), QStringLiteral("SEAT"), QStringLiteral("6J"),
+        QStringLiteral("IBIZA"), QStringLiteral("VSSZZZ6JZAR000001"), 1000, QStringLiteral("G"),
+        1598, operacion, QString(), QString(), QString(), 1500000.0, 0.0, 4.75, 71250.0, 0.0,
+        71250.0, Dni(12345678), QStringLiteral("GARCIA LOPEZ JUAN"), QStringLiteral("CL"),
+        QStringLiteral("MAYOR"), 7, QString(), QString(), QString(), QString(),
+        QStringLiteral("77"), QString(), QStringLiteral("77001"), QStringLiteral("001"), QString(),
+        QStringLiteral("O"), Dni(87654321), QStringLiteral("AUTOS VELDO SA"), QStringLiteral("AV"),
+        QStringLiteral("GASTEIZ"), 2, QString(), QString(), QString(), QString(),
+        QStringLiteral("N"), QString(), QStringLiteral("77"), QString(), QStringLiteral("77002"),
+        QStringLiteral("002"), QString()};
+    return Almacen<cDeclaSvr>().GuardarDeclaracion(datos);
+}
+
+void Comando(const ProgramaDePrueba& prog, const char* nombre)
+{
+    QAction* accion = prog.ventana()->findChild<QAction*>(QString::fromLatin1(nombre));
+    if (!accion) {
+        qWarning("Falta el comando %s", nombre);
+        return;
+    }
+    accion->trigger();
+    Procesar();
+}
+
+int Declaraciones()
+{
+    return ValorAlmacenado(QStringLiteral("SELECT COUNT(*) FROM DECLARACIONES")).toInt();
+}
+
+void EscribirFecha(QLineEdit* campo, const QString& cifras)
+{
+    Entrar(campo);
+    campo->selectAll();
+    QTest::keyClick(campo, Qt::Key_Backspace);
+    campo->setCursorPosition(0);
+    Teclear(campo, cifras);
+    Tabular();
+}
+
+namespace {
+QPoint CentroCelda(cFlexGrid* grid, int fila, int columna)
+{
+    const QModelIndex indice = grid->model()->index(fila - 1, columna);
+    grid->scrollTo(indice);
+    return grid->visualRect(indice).center();
+}
+}  // namespace
+
+void ClicEnCelda(cFlexGrid* grid, int fila, int columna)
+{
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, CentroCelda(grid, fila, columna));
+    Procesar();
+}
+
+void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna)
+{
+    const QPoint punto = CentroCelda(grid, fila, columna);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, punto);
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, punto);
+    Procesar();
+}

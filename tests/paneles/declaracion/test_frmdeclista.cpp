@@ -1,0 +1,240 @@
+// The list of returns driven as a user drives it: the open and delete commands, the order by
+// the headings, the search with its conditions, Todos, open, copy and new through the form and
+// the way back to the list with the new row selected; and the whole road of one return.
+#include "ApoyoDeclaracionPanel.h"
+
+#include "aplicacion/MDIVeldo.h"
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/cFlexGrid.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cDecLista.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTabBar>
+
+class TestFrmDecLista : public QObject, ControlesDePanel {
+    Q_OBJECT
+
+    std::unique_ptr<ProgramaDePrueba> m_prog;
+
+    cFlexGrid* grid() const { return c<cFlexGrid>("flxDeclaraciones"); }
+    QLabel* lbl(const char* nombre) const { return c<QLabel>(nombre); }
+    void abrir(const char* comando = "mnuAbrirDeclaracion")
+    {
+        m_prog->ventana()->ActualizarMenus();
+        Comando(*m_prog, comando);
+        m_panel = m_prog->panel(QStringLiteral("FrmDecLista"));
+    }
+    // A click on a heading or on a cell, as the mouse gives it.
+    void clicCabecera(int columna)
+    {
+        QHeaderView* h = grid()->horizontalHeader();
+        const QPoint p(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2, h->height() / 2);
+        QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier, p);
+        Procesar();
+    }
+    void clicCelda(int fila, int columna) { ClicEnCelda(grid(), fila, columna); }
+    QStringList columna(int col) const
+    {
+        QStringList textos;
+        for (int f = 1; f < grid()->Rows() && !grid()->TextMatrix(f, 0).isEmpty(); ++f)
+            textos << grid()->TextMatrix(f, col);
+        return textos;
+    }
+
+private slots:
+    void init()
+    {
+        m_prog = std::make_unique<ProgramaDePrueba>();
+        MensajeSeam::limpiar();
+    }
+    void cleanup()
+    {
+        m_prog.reset();
+        Procesar();
+    }
+
+    void abrirMuestraLasDeclaracionesDeLaMasNueva()
+    {
+        DeclaracionGuardada(QStringLiteral("AAA"), 20100315, QStringLiteral("T2"));
+        DeclaracionGuardada(QStringLiteral("BBB"), 20090101, QStringLiteral("T3"));
+        DeclaracionGuardada(QStringLiteral("CCC"), 20110101, QStringLiteral("T4"));
+        abrir();
+        QVERIFY(m_panel);
+        QCOMPARE(m_panel->windowTitle(), QStringLiteral("Abrir Declaración"));
+        QVERIFY(MenuApagado(*m_prog, "mnuDeclaracion"));
+        QCOMPARE(grid()->TextMatrix(0, 5), QStringLiteral("Descripción Operación"));
+        QCOMPARE(columna(1), (QStringList{"CCC", "BBB", "AAA"}));
+        QCOMPARE(grid()->TextMatrix(1, 2), QStringLiteral("01/01/2011"));
+        QCOMPARE(grid()->TextMatrix(1, 3), QStringLiteral("712,50"));
+        QCOMPARE(DecLista().CSDE, grid()->TextMatrix(1, 0).toInt());
+        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("3 declaración(es) seleccionada(s) "));
+        QVERIFY(c<QWidget>("picdesc")->isVisible() && !c<QWidget>("picasc")->isVisible());
+        QVERIFY(b("cmdAceptar")->isEnabled());
+        QCOMPARE(b("cmdAceptar")->text(), Texto(75));
+        // The description does not order.
+        clicCabecera(5);
+        QCOMPARE(DecLista().ORDEN, 1);
+        QCOMPARE(columna(1), (QStringList{"CCC", "BBB", "AAA"}));
+        // The reference orders ascending, the date descending.
+        clicCabecera(1);
+        QCOMPARE(DecLista().ORDEN, 2);
+        QCOMPARE(DecLista().TIPOORDEN, QStringLiteral("ASC"));
+        QCOMPARE(columna(1), (QStringList{"AAA", "BBB", "CCC"}));
+        QVERIFY(c<QWidget>("picasc")->isVisible());
+        clicCabecera(2);
+        QCOMPARE(DecLista().TIPOORDEN, QStringLiteral("DESC"));
+        QCOMPARE(columna(1), (QStringList{"CCC", "AAA", "BBB"}));
+        // Cancelar: back to the main window.
+        Clic(b("cmdCancelar"));
+        QVERIFY(m_prog->paneles().isEmpty());
+        QVERIFY(!MenuApagado(*m_prog, "mnuDeclaracion"));
+    }
+
+    void busquedaYTodos()
+    {
+        DeclaracionGuardada(QStringLiteral("AAA"), 20100315);
+        DeclaracionGuardada(QStringLiteral("ABB"), 20090101);
+        DeclaracionGuardada(QStringLiteral("CCC"), 20110101);
+        abrir();
+        Clic(b("cmdBuscar"));
+        QCOMPARE(DecLista().BUSQUEDA, QStringLiteral("B"));
+        QCOMPARE(b("cmdBuscar")->text(), Texto(65));
+        QVERIFY(t("txtBusqueda")->isVisible());
+        // The search box stands on the code; a click on the reference moves it there.
+        clicCelda(1, 1);
+        QCOMPARE(DecLista().SELECCIONACTUAL, QStringLiteral("2"));
+        Escribir(t("txtBusqueda"), QStringLiteral("A"));
+        Tabular();
+        Clic(b("cmdBuscar"));
+        QCOMPARE(columna(1), (QStringList{"AAA", "ABB"}));
+        QCOMPARE(lbl("lblResultado")->text(),
+                 QStringLiteral("Refererencia empieza por 'A' 2 declaración(es) seleccionada(s). "));
+        QVERIFY(b("cmdTodos")->isEnabled());
+        // A bad date leaves the conditions as they were.
+        Clic(b("cmdBuscar"));
+        clicCelda(1, 2);
+        MensajeSeam::limpiar();
+        Escribir(t("txtBusqueda"), QStringLiteral("31022010"));
+        MensajeSeam::setNextAnswer(vb::OK);
+        Tabular();
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(70));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(71));
+        const auto& tabla = DecLista().TABLASELECCION;
+        QVERIFY(!tabla || std::none_of(tabla->cbegin(), tabla->cend(), [](const cCriterio& c) {
+                    return c.CAMPOSELECCION == QLatin1String("3");
+                }));
+        QCOMPARE(DecLista().SELECCIONACTUAL, QStringLiteral("3"));
+        // Todos: no conditions, by code, the newest selected.
+        Clic(b("cmdTodos"));
+        QCOMPARE(DecLista().BUSQUEDA, QStringLiteral("N"));
+        QCOMPARE(DecLista().ORDEN, 1);
+        QCOMPARE(columna(1), (QStringList{"CCC", "ABB", "AAA"}));
+        QCOMPARE(grid()->Row(), 1);
+    }
+
+    void eliminarHastaLaUltima()
+    {
+        const int32_t csde = DeclaracionGuardada(QStringLiteral("AAA"));
+        abrir("mnuEliminarDeclaracion");
+        QCOMPARE(m_panel->windowTitle(), Texto(59));
+        QCOMPARE(b("cmdAceptar")->text(), Texto(86));
+        QVERIFY(!b("cmdNuevo")->isVisible() && !b("cmdCopiar")->isVisible());
+        // No: nothing goes.
+        MensajeSeam::setNextAnswer(vb::No);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 Texto(66) + QString::number(csde) + Texto(178) + QStringLiteral("AAA") + Texto(68));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(69));
+        QCOMPARE(MensajeSeam::registro().first().botones, 292);
+        QCOMPARE(Declaraciones(), 1);
+        MensajeSeam::setNextAnswer(vb::Yes);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(Declaraciones(), 0);
+        QCOMPARE(grid()->Rows(), 2);
+        QCOMPARE(lbl("lblResultado")->text(), Texto(63));
+        QVERIFY(!b("cmdAceptar")->isEnabled());
+        Clic(b("cmdCancelar"));
+        // The main window: no recent returns, open and delete off.
+        QVERIFY(!m_prog->ventana()->findChild<QAction*>(QStringLiteral("d1"))->isVisible());
+    }
+
+    // The whole road of one return: new from the list, typed, accepted, found in the list,
+    // opened, copied, deleted.
+    void elCaminoEntero()
+    {
+        DeclaracionGuardada(QStringLiteral("PRIMERA"));
+        abrir();
+        Clic(b("cmdNuevo"));
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QVERIFY(m_panel);
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(DecDatos().MODO(), QStringLiteral("A"));
+        EscribirFecha(t("txtfechad"), QStringLiteral("15032010"));
+        EscribirYSalir(t("txtoperacion"), QStringLiteral("T2"));
+        EscribirYSalir(t("txtreferencia"), QStringLiteral("NUEVA"));
+        EscribirYSalir(t("txtmarca"), QStringLiteral("SEAT"));
+        EscribirYSalir(t("txttipo"), QStringLiteral("6J"));
+        EscribirYSalir(t("txtmodelo"), QStringLiteral("IBIZA"));
+        EscribirYSalir(t("txtbastidor"), QStringLiteral("VSSZZZ6JZAR000001"));
+        EscribirYSalir(n("txtclasificacion"), QStringLiteral("1000"));
+        EscribirYSalir(n("txtcilindrada"), QStringLiteral("1598"));
+        EscribirYSalir(n("txtbasei"), QStringLiteral("20000"));
+        EscribirYSalir(t("txtdnisp"), Dni(12345678));
+        EscribirYSalir(t("txtnombresp"), QStringLiteral("GARCIA LOPEZ JUAN"));
+        EscribirYSalir(t("txtdomiciliosp"), QStringLiteral("MAYOR"));
+        EscribirYSalir(n("txtcodpossp"), QStringLiteral("77001"));
+        EscribirYSalir(n("txtcodmunsp"), QStringLiteral("1"));
+        QTabBar* tab = c<QTabBar>("tabTerceros");
+        QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, tab->tabRect(1).center());
+        Procesar();
+        EscribirYSalir(t("txtdnitr"), Dni(87654321));
+        EscribirYSalir(t("txtnombretr"), QStringLiteral("AUTOS VELDO SA"));
+        EscribirYSalir(t("txtdomiciliotr"), QStringLiteral("GASTEIZ"));
+        EscribirYSalir(n("txtcodpostr"), QStringLiteral("77002"));
+        EscribirYSalir(n("txtcodmuntr"), QStringLiteral("2"));
+        Clic(b("cmdAceptar"));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        // Back in the list, the new return selected.
+        m_panel = m_prog->panel(QStringLiteral("FrmDecLista"));
+        QVERIFY(m_panel);
+        QCOMPARE(Declaraciones(), 2);
+        const int32_t nueva = DecLista().CSDE;
+        QCOMPARE(grid()->TextMatrix(grid()->Row(), 0).toInt(), nueva);
+        QCOMPARE(grid()->TextMatrix(grid()->Row(), 1), QStringLiteral("NUEVA"));
+        QCOMPARE(grid()->TextMatrix(grid()->Row(), 3), QStringLiteral("950,00"));
+        // Opened with a double click.
+        DobleClicEnCelda(grid(), grid()->Row(), 1);
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QVERIFY(m_panel);
+        QCOMPARE(DecDatos().CSDE, nueva);
+        QCOMPARE(t("txtreferencia")->text(), QStringLiteral("NUEVA"));
+        QVERIFY(!DecDatos().MODIFICADO);
+        Clic(b("cmdCancelar"));
+        // Copied.
+        m_panel = m_prog->panel(QStringLiteral("FrmDecLista"));
+        QVERIFY(m_panel);
+        Clic(b("cmdCopiar"));
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QCOMPARE(DecDatos().CSDE, 0);
+        Clic(b("cmdAceptar"));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        QCOMPARE(Declaraciones(), 3);
+        m_panel = m_prog->panel(QStringLiteral("FrmDecLista"));
+        QVERIFY(DecLista().CSDE > nueva);
+        QCOMPARE(grid()->TextMatrix(grid()->Row(), 0).toInt(), DecLista().CSDE);
+        Clic(b("cmdCancelar"));
+        // Deleted from the delete list.
+        abrir("mnuEliminarDeclaracion");
+        MensajeSeam::setNextAnswer(vb::Yes);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(Declaraciones(), 2);
+    }
+};
+
+QTEST_MAIN(TestFrmDecLista)
+#include "test_frmdeclista.moc"

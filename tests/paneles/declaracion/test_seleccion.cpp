@@ -1,0 +1,213 @@
+// Choosing the parties of a return from lists: the subject and the transmitter from the
+// contributors (the subject refused when foreign, id 90), the presenter from the presenters,
+// Cancelar, the criteria that survive a second trip, and the form that comes back.
+#include "ApoyoDeclaracionPanel.h"
+
+#include "aplicacion/MDIVeldo.h"
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/cFlexGrid.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/partes/cConSeleccion.h"
+
+#include <QCheckBox>
+#include <QTabBar>
+
+class TestSeleccion : public QObject, ControlesDePanel {
+    Q_OBJECT
+
+    std::unique_ptr<ProgramaDePrueba> m_prog;
+    int32_t m_nacional = 0;
+    int32_t m_extranjero = 0;
+
+    void nueva()
+    {
+        m_prog->ventana()->ActualizarMenus();
+        Comando(*m_prog, "mnuNuevaDeclaracion");
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+    }
+    // From the form to a list: the button, and the list that opens.
+    void ir(const char* boton, const char* lista)
+    {
+        Clic(b(boton));
+        m_panel = m_prog->panel(QString::fromLatin1(lista));
+    }
+    void volver()
+    {
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+    }
+    cFlexGrid* grid(const char* nombre) const { return c<cFlexGrid>(nombre); }
+    void clicFila(cFlexGrid* g, int fila) { ClicEnCelda(g, fila, 1); }
+    int filaDe(cFlexGrid* g, const QString& nombre) const
+    {
+        for (int f = 1; f < g->Rows(); ++f)
+            if (g->TextMatrix(f, 1) == nombre)
+                return f;
+        return -1;
+    }
+
+private slots:
+    void init()
+    {
+        m_prog = std::make_unique<ProgramaDePrueba>();
+        Contribuyente nacional;
+        nacional.DNIC = Dni(22222222);
+        nacional.NOMBREC = QStringLiteral("AGIRRE ZUBIA MIREN");
+        m_nacional = GuardarEnAlmacen(nacional);
+        Contribuyente extranjero;
+        extranjero.TIPODNI = QStringLiteral("N");
+        extranjero.DNIC = QStringLiteral("X9876");
+        extranjero.NOMBREC = QStringLiteral("DUPONT JEAN");
+        extranjero.TIPODOMI = QStringLiteral("E");
+        extranjero.PAIS = QStringLiteral("FRANCIA");
+        extranjero.CODPROVC.clear();
+        extranjero.NOMPROVC = QStringLiteral("PARIS");
+        extranjero.CODPOSC = QStringLiteral("75002");
+        extranjero.CODMUNC.clear();
+        extranjero.NOMMUNC = QStringLiteral("PARIS");
+        m_extranjero = GuardarEnAlmacen(extranjero);
+        QVERIFY(m_nacional > 0 && m_extranjero > 0);
+        MensajeSeam::limpiar();
+    }
+    void cleanup()
+    {
+        m_prog.reset();
+        Procesar();
+    }
+
+    void sujetoElegido()
+    {
+        nueva();
+        QVERIFY(b("cmdSujetoPasivo")->isEnabled());
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        QVERIFY(m_panel);
+        QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConSeleccion")});
+        QCOMPARE(m_panel->windowTitle(), Texto(87));
+        QCOMPARE(b("cmdAceptar")->text(), Texto(6));
+        QCOMPARE(b("cmdCancelar")->toolTip(), Texto(89));
+        QVERIFY(!b("cmdNuevo")->isVisible());
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("T"));
+        QCOMPARE(ConSeleccion().ENTRADA, QStringLiteral("S"));
+        cFlexGrid* g = grid("flxContribuyentes");
+        clicFila(g, filaDe(g, QStringLiteral("AGIRRE ZUBIA MIREN")));
+        Clic(b("cmdAceptar"));
+        volver();
+        QVERIFY(m_panel);
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("S"));
+        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(DecDatos().CSSU, m_nacional);
+        QVERIFY(DecDatos().MODIFICADO);
+        QCOMPARE(t("txtdnisp")->text(), Dni(22222222));
+        QCOMPARE(t("txtnombresp")->text(), QStringLiteral("AGIRRE ZUBIA MIREN"));
+        // The same one again: no change, but the form still reloads it.
+        DecDatos().MODIFICADO = false;
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        g = grid("flxContribuyentes");
+        clicFila(g, filaDe(g, QStringLiteral("AGIRRE ZUBIA MIREN")));
+        Clic(b("cmdAceptar"));
+        QVERIFY(!DecDatos().MODIFICADO);
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("S"));
+    }
+
+    void extranjeroRechazadoComoSujetoAceptadoComoTransmitente()
+    {
+        nueva();
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        cFlexGrid* g = grid("flxContribuyentes");
+        clicFila(g, filaDe(g, QStringLiteral("DUPONT JEAN")));
+        MensajeSeam::setNextAnswer(vb::OK);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(90));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(87));
+        QVERIFY(m_prog->panel(QStringLiteral("FrmConSeleccion")));
+        QCOMPARE(DecDatos().CSSU, 0);
+        Clic(b("cmdCancelar"));
+        volver();
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        // As transmitter: taken, with its tab up.
+        ir("cmdTransmitente", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().ENTRADA, QStringLiteral("T"));
+        g = grid("flxContribuyentes");
+        clicFila(g, filaDe(g, QStringLiteral("DUPONT JEAN")));
+        Clic(b("cmdAceptar"));
+        volver();
+        QCOMPARE(DecDatos().CSTRA, m_extranjero);
+        QCOMPARE(DecDatos().TIPODOMITR, QStringLiteral("E"));
+        QCOMPARE(c<QTabBar>("tabTerceros")->currentIndex(), 1);
+        QVERIFY(c<QWidget>("FraTransmitente")->isVisible());
+        QCOMPARE(t("txtpaistr")->text(), QStringLiteral("FRANCIA"));
+    }
+
+    void cancelarDejaElRegistro()
+    {
+        DeclaracionGuardada(QStringLiteral("R"));
+        m_prog->ventana()->ActualizarMenus();
+        Comando(*m_prog, "mnuAbrirDeclaracion");
+        Clic(Control<QPushButton>(m_prog->panel(QStringLiteral("FrmDecLista")), "cmdAceptar"));
+        volver();
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        const QString dni = DecDatos().DNISP;
+        ir("cmdTransmitente", "FrmConSeleccion");
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("DT"));
+        Clic(b("cmdCancelar"));
+        volver();
+        QVERIFY(m_panel);
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(DecDatos().DNISP, dni);
+        QVERIFY(!DecDatos().MODIFICADO);
+        // Back to the list from the form.
+        Clic(b("cmdCancelar"));
+        QVERIFY(m_prog->panel(QStringLiteral("FrmDecLista")));
+    }
+
+    void losCriteriosVuelvenEnLaSegundaVisita()
+    {
+        nueva();
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        Clic(b("cmdBuscar"));
+        cFlexGrid* g = grid("flxContribuyentes");
+        clicFila(g, 1);  // the name column under edit
+        Escribir(t("txtBusqueda"), QStringLiteral("AG"));
+        Tabular();
+        Clic(b("cmdBuscar"));
+        QCOMPARE(ConSeleccion().CRITERIO, QStringLiteral("S"));
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
+        Clic(b("cmdAceptar"));
+        volver();
+        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
+        ir("cmdTransmitente", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
+        QCOMPARE(grid("flxContribuyentes")->TextMatrix(1, 1), QStringLiteral("AGIRRE ZUBIA MIREN"));
+        Clic(b("cmdCancelar"));
+    }
+
+    void presentador()
+    {
+        const int32_t cspr = NuevoPresentador(QStringLiteral("87654321X"), QStringLiteral("GESTORIA ARBELIA"), QStringLiteral("NUEVA"));
+        nueva();
+        QVERIFY(b("CmdPresentador")->isEnabled());
+        ir("CmdPresentador", "FrmPreSeleccion");
+        QVERIFY(m_panel);
+        QCOMPARE(m_panel->windowTitle(), Texto(212));
+        QCOMPARE(grid("flxPresentadores")->Cols(), 5);
+        Clic(b("cmdAceptar"));
+        volver();
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(DecDatos().CSPR, cspr);
+        QCOMPARE(t("txtnombrepr")->text(), QStringLiteral("GESTORIA ARBELIA"));
+        QCOMPARE(t("txtdnipr")->text(), QStringLiteral("87654321X"));
+        QCheckBox* con = c<QCheckBox>("chkConPresentador");
+        QVERIFY(con->isChecked() && con->isEnabled());
+        // Unticked: the presenter goes.
+        QTest::mouseClick(con, Qt::LeftButton, Qt::NoModifier, QPoint(6, con->height() / 2));
+        Procesar();
+        QCOMPARE(DecDatos().CSPR, 0);
+        QCOMPARE(t("txtnombrepr")->text(), QString());
+        QVERIFY(!con->isEnabled());
+    }
+};
+
+QTEST_MAIN(TestSeleccion)
+#include "test_seleccion.moc"
