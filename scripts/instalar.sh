@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, running and testing Veldoria needs on Debian (as root or with sudo).
 set -euo pipefail
-paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev
+paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libsqlite3-dev libgl-dev
           fonts-liberation2 xvfb xauth)
 faltan=()
 for p in "${paquetes[@]}"; do

@@ -20,6 +20,8 @@
 #include "partes/cConLista.h"
 #include "partes/cPreDatos.h"
 #include "partes/cPreLista.h"
+#include "paneles/intercambio/FrmExportar.h"
+#include "paneles/intercambio/FrmImportar.h"
 #include "servicios/cMiscelaneos.h"
 #include "servicios/cSaveAsRestore.h"
 
@@ -184,8 +186,8 @@ void MDIVeldo::conectarComandos()
             Proceso::Protegido(hacer);
         });
     };
-    // The declaration form and list, and the export and import panels, are not part of the
-    // program yet: their commands set the modes of the return and open nothing.
+    // The declaration form and list are not part of the program yet: their commands set the
+    // modes of the return and open nothing.
     al("mnuNuevaDeclaracion", [] {
         DecDatos().ENTRADA = QStringLiteral("A");
         DecDatos().setMODO(QStringLiteral("A"));
@@ -222,6 +224,8 @@ void MDIVeldo::conectarComandos()
         PreLista().ENTRADA = QStringLiteral("E");
         FrmPreLista::Abrir();
     });
+    al("mnuExport", [] { FrmExportar::Abrir(); });
+    al("mnuImport", [] { FrmImportar::Abrir(); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });
     al("mnuRestore", [this] { restaurarCopia(); });
     al("mnuPreferencias", [this] { preferencias(); });

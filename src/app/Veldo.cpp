@@ -1,5 +1,6 @@
 #include "app/Veldo.h"
 
+#include "aplicacion/OrdenesIntercambio.h"
 #include "app/Arranque.h"
 #include "app/plataforma/Proceso.h"
 
@@ -24,6 +25,8 @@ public:
 
 int EjecutarVeldo(int argc, char** argv)
 {
+    if (OrdenesIntercambio::Pedida(argc, argv))
+        return OrdenesIntercambio::Ejecutar(argc, argv);
     cAplicacion app(argc, argv);
     app.setApplicationName(QStringLiteral("Veldoria"));
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));

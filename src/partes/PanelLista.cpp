@@ -11,6 +11,7 @@
 #include "fields/Twips.h"
 #include "fields/Val.h"
 #include "fields/cFlexGrid.h"
+#include "partes/CriteriosLista.h"
 
 #include <QCloseEvent>
 #include <QFocusEvent>
@@ -87,8 +88,10 @@ void Pintar(QLabel* icono)
         i->Pintar();
 }
 
+}  // namespace
+
 // The small arrow of the ordering column: ascending.
-QPixmap FlechaAscendente()
+QPixmap PanelLista::FlechaAscendente()
 {
     QPixmap flecha(9, 6);
     flecha.fill(Qt::transparent);
@@ -99,6 +102,21 @@ QPixmap FlechaAscendente()
     p.drawPolygon(QPolygon({QPoint(0, 6), QPoint(9, 6), QPoint(4, 0)}));
     return flecha;
 }
+
+void PanelLista::PrepararGrid(cFlexGrid* grid)
+{
+    // The columns have the widths of the panel's design: a number of nine characters fills its
+    // column in the small type of a list.
+    QFont letra = grid->font();
+    letra.setPointSizeF(std::min(letra.pointSizeF(), kPuntosLetraGrid));
+    grid->setFont(letra);
+    grid->horizontalHeader()->setFont(letra);
+    grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(letra).height() + 6);
+    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+namespace {
 
 template <class W>
 W* Control(QWidget* padre, const char* nombre)
@@ -136,15 +154,7 @@ void PanelLista::ConstruirControles()
 {
     m_grid = new cFlexGrid(this);
     m_grid->setObjectName(m_diseno.nombreGrid);
-    // The columns have the widths of the panel's design: a number of nine characters fills its
-    // column in the small type of a list.
-    QFont letra = m_grid->font();
-    letra.setPointSizeF(std::min(letra.pointSizeF(), kPuntosLetraGrid));
-    m_grid->setFont(letra);
-    m_grid->horizontalHeader()->setFont(letra);
-    m_grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(letra).height() + 6);
-    m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    PrepararGrid(m_grid);
     txtBusqueda = Control<QLineEdit>(this, "txtBusqueda");
     txtBusqueda->hide();
     txtBusqueda->setEnabled(false);
@@ -355,36 +365,11 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
     Utilidades.SeleccionarGrid(QColor::fromRgb(kColorResaltado), m_grid->ForeColor(), 0);
 }
 
-QString PanelLista::TextoCriterio(int i) const
-{
-    if (!m_estado.TABLASELECCION || i < 0 || i >= m_estado.TABLASELECCION->size())
-        return QString();
-    const cCriterio& c = m_estado.TABLASELECCION->at(i);
-    const int campo = int(Val(c.CAMPOSELECCION));
-    if (c.VALORSELECCION.isEmpty() || campo == 0)
-        return QString();
-    QString texto;
-    if (campo == kColumnaNombre)
-        texto = m_diseno.criterioNombre.texto();
-    else if (campo == kColumnaDni)
-        texto = m_diseno.criterioDni.texto();
-    else
-        return QString();
-    return texto + QStringLiteral(" '") + c.VALORSELECCION + QStringLiteral("' ");
-}
-
 // The criteria in words, joined by ", " where both sides say something.
 QString PanelLista::TextoCriterios() const
 {
-    QString texto;
-    const int n = m_estado.TABLASELECCION ? int(m_estado.TABLASELECCION->size()) : 0;
-    for (int i = 0; i < n; ++i) {
-        const QString parte = TextoCriterio(i);
-        if (i > 0 && !parte.trimmed().isEmpty() && !texto.trimmed().isEmpty())
-            texto += QStringLiteral(", ");
-        texto += parte;
-    }
-    return texto;
+    return CriteriosLista::Texto(m_estado.TABLASELECCION, m_diseno.criterioNombre.texto(),
+                                 m_diseno.criterioDni.texto());
 }
 
 bool PanelLista::HayCriterios() const

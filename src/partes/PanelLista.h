@@ -87,6 +87,11 @@ public:
     // Captions and tips of the opening, in the current language.
     void Anadir_captions();
 
+    // The small type, row height and scroll bars of a list's grid; and the arrow that shows its
+    // ordering column. Shared by every panel that lists parties.
+    static void PrepararGrid(cFlexGrid* grid);
+    static QPixmap FlechaAscendente();
+
     // The row highlight and the grid's place for a page of rows.
     static constexpr QRgb kColorResaltado = 0x80C0FF;
     static constexpr int kFilasPorPagina = 15;
@@ -131,7 +136,6 @@ private:
     void IniciarLista();
     void LimpiarGrid();
     void RellenarGrid(const Arreglo2D& datos);
-    QString TextoCriterio(int i) const;
     QString TextoCriterios() const;
     void SituarFlecha();
     void PresentaBotones();

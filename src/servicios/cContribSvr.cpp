@@ -5,6 +5,7 @@
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/GuardadoContribuyente.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
@@ -22,58 +23,14 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cContribSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from element 1.
-const QStringList kColumnas = {
-    QStringLiteral("TIPODNI"),   QStringLiteral("DNIC"),     QStringLiteral("NOMBREC"),
-    QStringLiteral("VIAC"),      QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
-    QStringLiteral("LETRAC"),    QStringLiteral("ESCALERAC"), QStringLiteral("PISOC"),
-    QStringLiteral("MANOC"),     QStringLiteral("TIPODOMI"), QStringLiteral("PAIS"),
-    QStringLiteral("CODPROVC"),  QStringLiteral("NOMPROVC"), QStringLiteral("CODPOSC"),
-    QStringLiteral("CODMUNC"),   QStringLiteral("NOMMUNC"),
-};
+const QStringList& kColumnas = GuardadoContribuyente::Columnas();
 constexpr int kElementos = 20;
 constexpr int kNumSp = 18;
 constexpr int kNumTr = 19;
 
-// The values of a save array in their stored form, in the order of kColumnas.
-QVariantList filaGuardada(const Arreglo& a, const QString& org)
-{
-    const QString tipoDni = TextoGuardado(a, 1, 1, "TIPODNI", org);
-    const QString tipoDomi = TextoGuardado(a, 11, 1, "TIPODOMI", org);
-    if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
-        throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
-    if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
-        throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
-    const bool extranjero = tipoDomi == QLatin1String("E");
-    // A national postal code has its five digits; a foreign one is kept as it was typed.
-    const QString cp = extranjero ? CifrasGuardadas(a, 15, 5, "CODPOSC", org)
-                                  : CodigoGuardado(a, 15, 5, "CODPOSC", org);
-    return {
-        tipoDni,
-        TextoGuardado(a, 2, 9, "DNIC", org),
-        TextoGuardado(a, 3, 40, "NOMBREC", org),
-        TextoGuardado(a, 4, 2, "VIAC", org),
-        TextoGuardado(a, 5, 20, "DOMICILIOC", org),
-        EnteroGuardado(a, 6, 99999, "NUMEROC", org),
-        TextoGuardado(a, 7, 2, "LETRAC", org),
-        TextoGuardado(a, 8, 2, "ESCALERAC", org),
-        TextoGuardado(a, 9, 2, "PISOC", org),
-        TextoGuardado(a, 10, 3, "MANOC", org),
-        tipoDomi,
-        TextoGuardado(a, 12, 20, "PAIS", org),
-        CodigoGuardado(a, 13, 2, "CODPROVC", org),
-        TextoGuardado(a, 14, 20, "NOMPROVC", org),
-        cp,
-        CodigoGuardado(a, 16, 3, "CODMUNC", org),
-        TextoGuardado(a, 17, 25, "NOMMUNC", org),
-    };
-}
-
 const TablaParte& tabla()
 {
-    static const TablaParte t(QStringLiteral("CONTRIBUYENTES"), QStringLiteral("CSCO"),
-                              QStringLiteral("DNIC"), kColumnas);
-    return t;
+    return GuardadoContribuyente::Tabla();
 }
 
 QString condiciones(const Arreglo& criterios, QVariantList& valores)
@@ -104,13 +61,7 @@ bool cContribSvr::ValidarDniOficial(const QString& dni) const
 void cContribSvr::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
 {
     const QString org = origen("ValidarDatosImportar");
-    const QList<int> codigos = ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org));
-    QVariantList columna;
-    columna.reserve(codigos.size() + 1);
-    for (int c : codigos)
-        columna << c;
-    columna << 0;  // the spare element: the upper bound is the number of errors
-    errores = Arreglo2D{columna};
+    errores = ArregloErrores(ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org)));
 }
 
 bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
@@ -169,30 +120,13 @@ int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir) 
 int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
 {
     const QString org = origen("GuardarContribuyente");
-    // Every value is put in its stored form before anything is written.
-    const QVariantList fila = filaGuardada(datos, org);
-    int32_t csco = modo == Modo::Anadir
-        ? 0
-        : EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSCO", org);
-    const QString dni = fila[1].toString();
-
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
-    if (modo == Modo::Sustituir && csco == 0)
-        csco = tabla().CodigoPorDni(db, dni, org);
-    const int32_t titular = tabla().CodigoPorDni(db, dni, org);
-    if (csco == 0) {
-        if (titular != 0)
-            return 1;
-        tabla().Insertar(db, 0, fila, org);
-    } else {
-        if (titular != 0 && titular != csco)
-            return 2;
-        if (!tabla().Actualizar(db, csco, fila, org))
-            tabla().Insertar(db, csco, fila, org);
-    }
-    transaccion.confirmar();
-    return 0;
+    AccesoPreparado acceso(tabla(), db, org);
+    const int16_t veredicto = GuardadoContribuyente::Guardar(acceso, datos, modo, org);
+    if (veredicto == 0)
+        transaccion.confirmar();
+    return veredicto;
 }
 
 bool cContribSvr::BorrarContribuyente(int32_t csco) const
