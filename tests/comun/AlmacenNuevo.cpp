@@ -10,6 +10,8 @@
 #include "partes/cConLista.h"
 #include "partes/cPreDatos.h"
 #include "partes/cPreLista.h"
+#include "registros/intercambio/cExportar.h"
+#include "registros/intercambio/cImportar.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
@@ -27,6 +29,8 @@ void ReiniciarEstado()
     PreLista() = cPreLista();
     ConDatos() = cConDatos();
     PreDatos() = cPreDatos();
+    Exportar() = cExportar();
+    Importar() = cImportar();
     OffsetIdioma = 0;
     VersionPrograma.clear();
     VersionProducto.clear();
