@@ -3,14 +3,16 @@
 // program folder. Prints the figures; the target is under 300 ms.
 #include "comun/Entorno.h"
 
-#include "actualizacion/cActOnline.h"
-#include "app/Arranque.h"
-#include "app/MDIVeldo.h"
-#include "app/nucleo/CEntrada.h"
-#include "app/plataforma/General.h"
-#include "app/plataforma/Reloj.h"
+#include "registros/actualizacion/cActOnline.h"
+#include "aplicacion/Arranque.h"
+#include "aplicacion/MDIVeldo.h"
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/General.h"
+#include "plataforma/Reloj.h"
 #include "servicios/Conexion.h"
 #include "servicios/cGeneralSvr.h"
+
+#include "plataforma/Estado.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -24,8 +26,7 @@ double medirArranque()
     // A new process opens its databases anew.
     Conexion::Cerrar(mdbmod);
     Conexion::Cerrar(mdblec);
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
+    Estado().Reiniciar();
     QElapsedTimer reloj;
     reloj.start();
     Main();

@@ -4,8 +4,8 @@
 // Prints the figures; the targets are a search under 200 ms and a save under 5 ms.
 #include "comun/Entorno.h"
 
-#include "app/plataforma/General.h"
-#include "declaracion/cDecDatos.h"
+#include "plataforma/General.h"
+#include "registros/declaracion/cDecDatos.h"
 #include "servicios/Conexion.h"
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cTraspaso.h"

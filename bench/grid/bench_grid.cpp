@@ -1,9 +1,9 @@
 // How the list grid copes with a large file: fills 100 000 rows of seven columns as a list
 // panel does, then pages through it, marks rows and finds a code. Prints the times.
 // Run with QT_QPA_PLATFORM=offscreen when there is no screen.
-#include "fields/FilaDeGrid.h"
-#include "fields/cFlexGrid.h"
-#include "fields/cUtilidadesGrid.h"
+#include "paneles/controles/FilaDeGrid.h"
+#include "paneles/controles/cFlexGrid.h"
+#include "paneles/controles/cUtilidadesGrid.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -7,10 +7,10 @@
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
 
-#include "app/plataforma/General.h"
-#if VELDO_CON_PANEL
+#include "plataforma/General.h"
+
 #include "paneles/intercambio/FrmExportar.h"
-#endif
+
 #include "registros/intercambio/cExportar.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/LoteContribuyentes.h"
@@ -182,7 +182,7 @@ int main(int argc, char** argv)
                 kContribuyentes, cargar, seleccionar, comprobar, escribir,
                 cargar + seleccionar + comprobar + escribir);
 
-#if VELDO_CON_PANEL
+
     // The panel: open it over 100 000 contributors and press CmdSelTodos.
     t.restart();
     FrmExportar* panel = FrmExportar::Abrir();
@@ -196,6 +196,6 @@ int main(int argc, char** argv)
     std::printf("export panel over %d: opening %.1f ms, CmdSelTodos (select all and show "
                 "both grids) %.1f ms\n",
                 kContribuyentes, abrir, selTodos);
-#endif
+
     return 0;
 }

@@ -3,9 +3,9 @@
 // one call at a time, as the import does. Prints the times and the peak memory.
 #include "comun/Entorno.h"
 
-#include "app/plataforma/General.h"
-#include "partes/cConDatos.h"
-#include "partes/cConLista.h"
+#include "plataforma/General.h"
+#include "registros/partes/cConDatos.h"
+#include "registros/partes/cConLista.h"
 #include "servicios/Conexion.h"
 #include "servicios/ValidarDniOficial.h"
 #include "servicios/cContribSvr.h"

@@ -1,9 +1,9 @@
 #include "aplicacion/OrdenesIntercambio.h"
 
-#include "app/Arranque.h"
-#include "app/plataforma/Fallo.h"
-#include "app/plataforma/General.h"
-#include "catalogue/Catalogo.h"
+#include "aplicacion/Arranque.h"
+#include "plataforma/Fallo.h"
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "registros/intercambio/cExportar.h"
 #include "registros/intercambio/cImportar.h"

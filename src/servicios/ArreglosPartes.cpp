@@ -1,6 +1,6 @@
 #include "servicios/ArreglosPartes.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/CodigoPostal.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "servicios/Conexion.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 
 #include <QFileInfo>
 #include <QSqlError>

@@ -1,6 +1,6 @@
 #include "servicios/GuardadoContribuyente.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesContribuyente.h"
 

@@ -1,6 +1,6 @@
 #include "servicios/SentenciaNativa.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 
 #include <QSqlDriver>
 #include <sqlite3.h>

@@ -1,6 +1,6 @@
 #include "servicios/SentenciaPreparada.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 
 #include <QHash>
 #include <QSqlDriver>

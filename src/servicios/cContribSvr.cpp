@@ -1,6 +1,6 @@
 #include "servicios/cContribSvr.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"

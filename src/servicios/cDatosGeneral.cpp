@@ -1,6 +1,6 @@
 #include "servicios/cDatosGeneral.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 
 #include <QRegularExpression>

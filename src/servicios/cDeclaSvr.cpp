@@ -5,7 +5,7 @@
 // inside the same transaction as everything it writes.
 #include "servicios/cDeclaSvr.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 

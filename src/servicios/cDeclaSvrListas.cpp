@@ -8,8 +8,8 @@
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cDeclaSvrTablaOperaciones.h"
 
-#include "fields/Formato.h"
-#include "fields/Val.h"
+#include "valores/Formato.h"
+#include "valores/Val.h"
 #include "servicios/Conexion.h"
 
 #include <QStringList>

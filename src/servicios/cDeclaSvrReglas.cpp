@@ -30,7 +30,7 @@
 //  37    the subject's number given
 #include "servicios/cDeclaSvr.h"
 
-#include "fields/Val.h"
+#include "valores/Val.h"
 #include "servicios/ValidarDniOficial.h"
 
 #include <QStringList>

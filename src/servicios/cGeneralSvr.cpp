@@ -1,6 +1,6 @@
 #include "servicios/cGeneralSvr.h"
 
-#include "app/plataforma/Fallo.h"
+#include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 
 // The settings are the single row (ID 1) of CONFIGURACION, created with the database.

@@ -1,7 +1,7 @@
 #include "servicios/cMiscelaneos.h"
 
-#include "app/plataforma/Mensaje.h"
-#include "catalogue/Catalogo.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
 
 #include <QUrlQuery>
 

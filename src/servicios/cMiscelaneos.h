@@ -2,7 +2,7 @@
 // Small services of the treasury shared by its programs: the online assistance, the
 // description of that service, and the name of the treasury's department for the form.
 // `Idioma` tells the language: 0 Spanish, any other value Basque.
-#include "app/plataforma/Navegador.h"
+#include "paneles/dialogos/Navegador.h"
 
 #include <QList>
 #include <QString>

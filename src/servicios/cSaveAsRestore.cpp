@@ -1,9 +1,9 @@
 #include "servicios/cSaveAsRestore.h"
 
-#include "app/plataforma/DialogoFichero.h"
-#include "app/plataforma/Fallo.h"
-#include "app/plataforma/Mensaje.h"
-#include "catalogue/Catalogo.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "plataforma/Fallo.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
 

@@ -1,17 +1,10 @@
 #include "comun/AlmacenNuevo.h"
 
-#include "actualizacion/cActOnline.h"
-#include "app/Arranque.h"
-#include "app/MDIVeldo.h"
-#include "app/nucleo/CEntrada.h"
-#include "app/plataforma/General.h"
-#include "app/plataforma/Reloj.h"
-#include "partes/cConDatos.h"
-#include "partes/cConLista.h"
-#include "partes/cPreDatos.h"
-#include "partes/cPreLista.h"
-#include "registros/intercambio/cExportar.h"
-#include "registros/intercambio/cImportar.h"
+#include "aplicacion/Arranque.h"
+#include "aplicacion/MDIVeldo.h"
+#include "plataforma/Estado.h"
+#include "plataforma/General.h"
+#include "plataforma/Reloj.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
@@ -23,17 +16,7 @@ void ReiniciarEstado()
         w->close();
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    Entrada() = CEntrada();
-    ActOnline() = cActOnline();
-    ConLista() = cConLista();
-    PreLista() = cPreLista();
-    ConDatos() = cConDatos();
-    PreDatos() = cPreDatos();
-    Exportar() = cExportar();
-    Importar() = cImportar();
-    OffsetIdioma = 0;
-    VersionPrograma.clear();
-    VersionProducto.clear();
+    Estado().Reiniciar();
 }
 
 std::unique_ptr<CarpetaDePrueba> AlmacenNuevo()

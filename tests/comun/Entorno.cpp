@@ -1,10 +1,10 @@
 #include "comun/Entorno.h"
 
-#include "app/plataforma/DialogoFichero.h"
-#include "app/plataforma/General.h"
-#include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Navegador.h"
-#include "app/plataforma/Proceso.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "plataforma/General.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/Navegador.h"
+#include "plataforma/Proceso.h"
 
 #include <QDir>
 #include <QFile>

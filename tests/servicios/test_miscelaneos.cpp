@@ -2,8 +2,8 @@
 // no browser opens, the description of the service, and the department's name for the form.
 #include "comun/Entorno.h"
 
-#include "app/plataforma/Mensaje.h"
-#include "catalogue/Catalogo.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
 #include "servicios/cMiscelaneos.h"
 
 #include <QTest>

@@ -5,8 +5,8 @@
 #include "Apoyo.h"
 #include "comun/Entorno.h"
 
-#include "app/plataforma/Fallo.h"
-#include "app/plataforma/General.h"
+#include "plataforma/Fallo.h"
+#include "plataforma/General.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
 #include "servicios/cDatosGeneral.h"

@@ -1,26 +1,25 @@
 #include "paneles/intercambio/FrmExportar.h"
 
-#include "app/plataforma/DialogoFichero.h"
-#include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Proceso.h"
-#include "app/plataforma/Ventanas.h"
-#include "catalogue/Catalogo.h"
-#include "fields/FilaDeGrid.h"
-#include "fields/FiltroCampo.h"
-#include "fields/Filtros.h"
-#include "fields/MostrarAyuda.h"
-#include "fields/Rutas.h"
-#include "fields/Twips.h"
-#include "fields/Val.h"
-#include "fields/cFlexGrid.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "plataforma/Proceso.h"
+#include "paneles/dialogos/Ventanas.h"
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/FilaDeGrid.h"
+#include "paneles/controles/FiltroCampo.h"
+#include "valores/Filtros.h"
+#include "paneles/controles/MostrarAyuda.h"
+#include "valores/Rutas.h"
+#include "valores/Twips.h"
+#include "valores/Val.h"
+#include "paneles/controles/cFlexGrid.h"
 #include "paneles/intercambio/ControlNombrado.h"
-#include "partes/CriteriosLista.h"
-#include "partes/PanelLista.h"
+#include "registros/partes/CriteriosLista.h"
+#include "paneles/partes/PanelLista.h"
 #include "registros/intercambio/cExportar.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -39,8 +38,6 @@ constexpr int kColumnaCodigo = 0;
 constexpr int kColumnaNombre = 1;
 constexpr int kColumnaDni = 2;
 constexpr int kAnchos[] = {800, 2700, 1100};  // twips
-constexpr int kFlechaDerecha = 250;  // the arrow stands this far left of the column's right edge
-constexpr int kFlechaArriba = 65;    // and this far below the grid's top
 const QString kFiltro = QStringLiteral("*.txt (*.txt);;*.* (*)");
 
 QString TituloColumna(int columna)
@@ -113,7 +110,6 @@ FrmExportar::FrmExportar(QWidget* parent) : QWidget(parent)
     Situar();
     Conectar();
     Anadir_captions();
-    DeshabilitarMenus();
     Exportar().Iniciar();
     LblFichero->setText(Exportar().FICHEROAEXPORTAR);
     PresentaDatos();
@@ -330,30 +326,12 @@ void FrmExportar::PresentaBusqueda()
 {
     cExportar& e = Exportar();
     picasc->hide();
-    flxDeclaraciones->setRows(1);
-    flxDeclaraciones->setRows(2);
-    if (e.TABLASELECCION)
-        for (const cCriterio& c : *e.TABLASELECCION)
-            flxDeclaraciones->setTextMatrix(1, int(Val(c.CAMPOSELECCION)), c.VALORSELECCION);
     e.lblayuda = Texto(246);
     e.lblResultado1.clear();
     MostrarAyuda(lblayuda, e.lblayuda, flxDeclaraciones->width());
     lblResultado1->clear();
-    const int columna = CriteriosLista::ColumnaDeBusqueda(e.SELECCIONACTUAL);
-    if (columna == 0) {
-        Utilidades.OcultarTxtBusqueda();
-        return;
-    }
-    // The box lies over the heading of the column being searched, and starts from the prefix
-    // already typed under it.
-    flxDeclaraciones->setRow(0);
-    flxDeclaraciones->setCol(columna);
-    txtBusqueda->setEnabled(true);
-    txtBusqueda->setMaxLength(columna == kColumnaDni ? 9 : 40);
-    Utilidades.PosicionarTxtBusqueda();
-    txtBusqueda->setText(flxDeclaraciones->TextMatrix(1, columna));
-    SeleccionarTexto(txtBusqueda);
-    txtBusqueda->setFocus(Qt::OtherFocusReason);
+    PanelLista::MostrarBusqueda(flxDeclaraciones, txtBusqueda, Utilidades, e.TABLASELECCION,
+                                e.SELECCIONACTUAL);
 }
 
 // The chosen contributors, in the order they were chosen, and the one selected among them.
@@ -371,17 +349,9 @@ void FrmExportar::PresentaSeleccionados()
     LblResultado2->setText(e.LblResultado2);
 }
 
-// The arrow stands in the heading of the ordering column, near its right edge.
 void FrmExportar::SituarFlecha()
 {
-    const int orden = Exportar().ORDEN;
-    if (orden == kColumnaNombre || orden == kColumnaDni) {
-        const QRect celda = flxDeclaraciones->Celda(0, orden);
-        picasc->move(flxDeclaraciones->x() + celda.left() + celda.width()
-                         - TwipsAPixeles(kFlechaDerecha),
-                     flxDeclaraciones->y() + TwipsAPixeles(kFlechaArriba));
-    }
-    picasc->raise();
+    PanelLista::ColocarFlecha(picasc, flxDeclaraciones, Exportar().ORDEN);
 }
 
 void FrmExportar::PresentaBotones()
@@ -479,13 +449,8 @@ void FrmExportar::FilaSeleccionadosCambiada()
 
 bool FrmExportar::eventFilter(QObject* objeto, QEvent* evento)
 {
-    if (objeto == txtBusqueda && evento->type() == QEvent::FocusOut) {
-        // Only leaving the box for another control of the program counts, as a lost focus;
-        // switching to another application or opening a menu does not.
-        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
-        if (motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason)
-            Proceso::Protegido([this] { BusquedaAbandonada(); });
-    }
+    if (objeto == txtBusqueda && PanelLista::AbandonaBusqueda(evento))
+        Proceso::Protegido([this] { BusquedaAbandonada(); });
     return QWidget::eventFilter(objeto, evento);
 }
 
@@ -605,5 +570,5 @@ void FrmExportar::closeEvent(QCloseEvent* evento)
     if (m_cerrado)
         return;
     m_cerrado = true;
-    Proceso::Protegido([] { ActualizarMenus(); });
+    emit cerrado();
 }

@@ -3,7 +3,7 @@
 // the party lists), the ones chosen for the file in a second grid, and the file they go to.
 // Its state and both tables live in Exportar(); the checks and the writing of the file are
 // Exportar()'s, and this panel shows what they answer.
-#include "fields/cUtilidadesGrid.h"
+#include "paneles/controles/cUtilidadesGrid.h"
 
 #include <QLineEdit>  // held by the grid utilities through a QPointer
 #include <QWidget>
@@ -28,6 +28,11 @@ public:
     void PresentaBotones();
 
     static constexpr int kFilasPorPagina = 13;
+
+signals:
+    // The panel has closed (once, whatever closed it); the navigator brings the main window's
+    // commands back.
+    void cerrado();
 
 protected:
     void closeEvent(QCloseEvent* evento) override;

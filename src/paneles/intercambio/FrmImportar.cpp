@@ -1,11 +1,11 @@
 #include "paneles/intercambio/FrmImportar.h"
 
-#include "app/plataforma/DialogoFichero.h"
-#include "app/plataforma/Mensaje.h"
-#include "app/plataforma/Proceso.h"
-#include "app/plataforma/Ventanas.h"
-#include "catalogue/Catalogo.h"
-#include "fields/Rutas.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "plataforma/Proceso.h"
+#include "paneles/dialogos/Ventanas.h"
+#include "catalogo/Catalogo.h"
+#include "valores/Rutas.h"
 #include "paneles/intercambio/ControlNombrado.h"
 #include "registros/intercambio/cImportar.h"
 
@@ -41,7 +41,6 @@ FrmImportar::FrmImportar(QWidget* parent) : QWidget(parent)
     Construir();
     Conectar();
     Anadir_captions();
-    DeshabilitarMenus();
     Importar().Iniciar();
     MostrarDatos();
     MostrarBotones();
@@ -255,5 +254,5 @@ void FrmImportar::closeEvent(QCloseEvent* evento)
     if (m_cerrado)
         return;
     m_cerrado = true;
-    Proceso::Protegido([] { ActualizarMenus(); });
+    emit cerrado();
 }

@@ -23,6 +23,11 @@ public:
     void MostrarDatos();
     void MostrarBotones();
 
+signals:
+    // The panel has closed (once, whatever closed it); the navigator brings the main window's
+    // commands back.
+    void cerrado();
+
 protected:
     void closeEvent(QCloseEvent* evento) override;
 

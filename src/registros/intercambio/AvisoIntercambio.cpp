@@ -1,6 +1,6 @@
 #include "registros/intercambio/AvisoIntercambio.h"
 
-#include "catalogue/Catalogo.h"
+#include "catalogo/Catalogo.h"
 
 namespace {
 // A list of numbers is shown without the ", " that opens it.

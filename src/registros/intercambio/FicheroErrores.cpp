@@ -1,7 +1,7 @@
 #include "registros/intercambio/FicheroErrores.h"
 
-#include "catalogue/Catalogo.h"
-#include "partes/cConDatos.h"
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/LineaIntercambio.h"
 

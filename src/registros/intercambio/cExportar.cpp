@@ -1,9 +1,11 @@
 #include "registros/intercambio/cExportar.h"
 
-#include "app/plataforma/General.h"
-#include "fields/Val.h"
-#include "partes/CriteriosLista.h"
+#include "plataforma/Estado.h"
+#include "plataforma/General.h"
+#include "valores/Val.h"
+#include "registros/partes/CriteriosLista.h"
 #include "registros/intercambio/Cp1252.h"
+#include "servicios/Almacen.h"
 #include "servicios/PosicionesContribuyente.h"
 #include "servicios/cContribSvr.h"
 
@@ -162,8 +164,7 @@ bool cExportar::HayCriterios() const
 
 int32_t cExportar::CargarFlxDeclaraciones()
 {
-    cContribSvr svr;
-    svr.mdbmod = mdbmod;
+    cContribSvr svr = Almacen<cContribSvr>();
     Arreglo2D datos;
     NUMCONTRISEL = svr.dameResultadoBusquedaTodo(CriteriosLista::Arreglo3(TABLASELECCION), datos,
                                                  ORDEN);
@@ -326,6 +327,5 @@ AvisoIntercambio cExportar::EscribirFichero() const
 
 cExportar& Exportar()
 {
-    static cExportar instancia;
-    return instancia;
+    return Estado().de<cExportar>();
 }

@@ -3,7 +3,7 @@
 // tables behind its grids (what the store found, what goes into the file) and the export
 // itself. The tables count from 1. The export table keeps the order in which contributors were
 // selected, which is the order of the lines, and never holds one contributor twice.
-#include "fields/cCriterio.h"
+#include "valores/cCriterio.h"
 #include "registros/intercambio/AvisoIntercambio.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "servicios/Arreglos.h"

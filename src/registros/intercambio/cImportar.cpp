@@ -1,9 +1,10 @@
 #include "registros/intercambio/cImportar.h"
 
-#include "app/plataforma/Fallo.h"
-#include "app/plataforma/General.h"
-#include "catalogue/Catalogo.h"
-#include "partes/cConDatos.h"
+#include "plataforma/Fallo.h"
+#include "plataforma/Estado.h"
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LectorLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
@@ -285,6 +286,5 @@ AvisoIntercambio cImportar::Cierre() const
 
 cImportar& Importar()
 {
-    static cImportar instancia;
-    return instancia;
+    return Estado().de<cImportar>();
 }

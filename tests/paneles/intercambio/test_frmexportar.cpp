@@ -6,12 +6,12 @@
 #include "ApoyoIntercambio.h"
 #include "ApoyoListas.h"
 
-#include "app/MDIVeldo.h"
-#include "app/plataforma/DialogoFichero.h"
-#include "app/plataforma/General.h"
-#include "app/plataforma/Mensaje.h"
-#include "catalogue/Catalogo.h"
-#include "fields/cFlexGrid.h"
+#include "aplicacion/MDIVeldo.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "plataforma/General.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
+#include "paneles/controles/cFlexGrid.h"
 #include "registros/intercambio/cExportar.h"
 
 #include <QAction>

@@ -4,7 +4,7 @@
 #include "ApoyoIntercambio.h"
 #include "comun/Entorno.h"
 
-#include "app/plataforma/General.h"
+#include "plataforma/General.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cTraspaso.h"
 

@@ -5,7 +5,7 @@
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
 
-#include "app/plataforma/General.h"
+#include "plataforma/General.h"
 #include "registros/intercambio/cExportar.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cContribSvr.h"

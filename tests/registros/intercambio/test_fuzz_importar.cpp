@@ -7,9 +7,9 @@
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
 
-#include "app/plataforma/General.h"
-#include "catalogue/Catalogo.h"
-#include "partes/cConDatos.h"
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LineaIntercambio.h"

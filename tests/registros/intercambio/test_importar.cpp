@@ -5,8 +5,8 @@
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
 
-#include "app/plataforma/General.h"
-#include "catalogue/Catalogo.h"
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cContribSvr.h"
 

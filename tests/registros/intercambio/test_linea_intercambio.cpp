@@ -3,7 +3,7 @@
 // masks, the reading of lines whatever their ends, and the lines of the error file.
 #include "ApoyoIntercambio.h"
 
-#include "app/plataforma/General.h"
+#include "plataforma/General.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LectorLineas.h"

@@ -1,0 +1,40 @@
+#include "aplicacion/Ayuda.h"
+
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
+
+#include <QDialog>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+QString RutaAyuda(const QString& tema)
+{
+    return CarpetaPrograma() + TextoSegunIdioma(QStringLiteral("/Ayuda/Ayuda/"),
+                                                QStringLiteral("/Ayuda/Laguntza/"))
+        + tema;
+}
+
+void MostrarAyudaHtml(const QString& tema, QWidget* propietario)
+{
+    auto* visor = propietario ? propietario->findChild<QDialog*>(QStringLiteral("VisorAyuda"))
+                              : nullptr;
+    if (!visor) {
+        visor = new QDialog(propietario, Qt::Window);
+        visor->setObjectName(QStringLiteral("VisorAyuda"));
+        visor->setAttribute(Qt::WA_DeleteOnClose);
+        auto* pagina = new QTextBrowser(visor);
+        pagina->setObjectName(QStringLiteral("txtAyuda"));
+        pagina->setOpenExternalLinks(true);
+        auto* capas = new QVBoxLayout(visor);
+        capas->setContentsMargins(0, 0, 0, 0);
+        capas->addWidget(pagina);
+        visor->resize(720, 600);
+    }
+    auto* pagina = visor->findChild<QTextBrowser*>(QStringLiteral("txtAyuda"));
+    pagina->setSource(QUrl::fromLocalFile(RutaAyuda(tema)));
+    visor->setWindowTitle(Texto(219) + QStringLiteral(" - ") + Texto(218));
+    visor->show();
+    visor->raise();
+    visor->activateWindow();
+}

@@ -1,0 +1,118 @@
+#include "aplicacion/FrmIdioma.h"
+
+#include "registros/actualizacion/ActualizacionOnline.h"
+#include "registros/actualizacion/cActOnline.h"
+#include "aplicacion/MDIVeldo.h"
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/Proceso.h"
+#include "paneles/dialogos/Ventanas.h"
+#include "catalogo/Catalogo.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+FrmIdioma::FrmIdioma(QWidget* parent) : QDialog(parent)
+{
+    setObjectName(QStringLiteral("FrmIdioma"));
+    setModal(true);
+    Frame1 = new QGroupBox(this);
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    cmdcastellano = new QPushButton(Frame1);
+    cmdcastellano->setObjectName(QStringLiteral("cmdcastellano"));
+    cmdeuskera = new QPushButton(Frame1);
+    cmdeuskera->setObjectName(QStringLiteral("cmdeuskera"));
+    for (QPushButton* b : {cmdcastellano, cmdeuskera}) {
+        b->setMinimumSize(150, 70);
+        b->setAutoDefault(false);
+    }
+    auto* botones = new QHBoxLayout(Frame1);
+    botones->addWidget(cmdcastellano);
+    botones->addWidget(cmdeuskera);
+
+    chkActOnline = new QCheckBox(this);
+    chkActOnline->setObjectName(QStringLiteral("chkActOnline"));
+    chkActOnline->setText(QStringLiteral("¿desea que se le informe sobre la existencia de "
+                                         "actualizaciones cada vez que se inicie el programa?"));
+    chkActOnline->setChecked(false);
+    LblAct = new QLabel(this);
+    LblAct->setObjectName(QStringLiteral("LblAct"));
+    LblAct->hide();
+
+    auto* todo = new QVBoxLayout(this);
+    todo->addWidget(Frame1);
+    todo->addWidget(chkActOnline);
+    todo->addWidget(LblAct);
+
+    connect(chkActOnline, &QCheckBox::toggled, this, [this](bool marcado) {
+        Proceso::Protegido([this, marcado] { alCambiarActOnline(marcado); });
+    });
+    connect(cmdcastellano, &QPushButton::clicked, this,
+            [this] { Proceso::Protegido([this] { elegir(QStringLiteral("C")); }); });
+    connect(cmdeuskera, &QPushButton::clicked, this,
+            [this] { Proceso::Protegido([this] { elegir(QStringLiteral("E")); }); });
+
+    // When it opens: captions, commands off, the update box from the setting.
+    Anadir_captions();
+    if (MDIVeldo* ventana = VentanaMDI())
+        ventana->DeshabilitarMenus();
+    const int ajuste = ActOnline().ActOnline;
+    chkActOnline->setChecked(ajuste == -1 || ajuste > 0);
+}
+
+void FrmIdioma::Anadir_captions()
+{
+    // The inverted rows 315 to 318 give the other language, so both always show.
+    setWindowTitle(Texto(214) + QStringLiteral("/") + Texto(315));
+    Frame1->setTitle(Texto(215) + QStringLiteral("/") + Texto(316));
+    cmdcastellano->setText(Texto(216) + QStringLiteral("\n\n") + Texto(317));
+    cmdeuskera->setText(Texto(217) + QStringLiteral("\n\n") + Texto(318));
+}
+
+void FrmIdioma::showEvent(QShowEvent* e)
+{
+    QDialog::showEvent(e);
+    if (!m_abierto) {
+        m_abierto = true;
+        if (parentWidget()) {
+            adjustSize();
+            move(parentWidget()->geometry().center() - rect().center());
+        }
+    }
+    if (Entrada().IDI() == QLatin1String("C"))
+        cmdcastellano->setFocus();
+    else
+        cmdeuskera->setFocus();
+}
+
+void FrmIdioma::keyPressEvent(QKeyEvent* e)
+{
+    // Enter moves to the next control.
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
+        focusNextChild();
+        return;
+    }
+    QDialog::keyPressEvent(e);
+}
+
+void FrmIdioma::alCambiarActOnline(bool marcado)
+{
+    ActOnline().ActOnline = marcado ? 1 : 0;
+    ActOnline().GuardarActOnline();
+}
+
+void FrmIdioma::elegir(const QString& idioma)
+{
+    Entrada().setIDI(idioma);
+    if (MDIVeldo* principal = VentanaMDI())
+        principal->Anadir_captions();
+    if (ActOnline().ActOnline == -1) {
+        chkActOnline->hide();
+        ComprobarActualizacion();
+    }
+    accept();
+}

@@ -1,0 +1,409 @@
+#include "aplicacion/MDIVeldo.h"
+
+#include "aplicacion/Arranque.h"
+#include "aplicacion/FrmIdioma.h"
+#include "aplicacion/frmAbout.h"
+#include "aplicacion/frmPreferencias.h"
+#include "aplicacion/Ayuda.h"
+#include "aplicacion/Navegacion.h"
+#include "registros/actualizacion/cActOnline.h"
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/General.h"
+#include "plataforma/Proceso.h"
+#include "paneles/dialogos/Ventanas.h"
+#include "catalogo/Catalogo.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "servicios/cMiscelaneos.h"
+#include "servicios/cSaveAsRestore.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMap>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QStyle>
+#include <QToolBar>
+#include <functional>
+
+namespace {
+MDIVeldo* g_ventana = nullptr;
+
+// Menu entries and their caption ids.
+struct Rotulo {
+    const char* nombre;
+    int id;
+};
+constexpr Rotulo kRotulos[] = {
+    {"mnuDeclaracion", 221}, {"mnuNuevaDeclaracion", 222}, {"mnuAbrirDeclaracion", 223},
+    {"mnuEliminarDeclaracion", 224}, {"separa2", 225}, {"d1", 226}, {"d2", 227}, {"d3", 228},
+    {"d4", 229}, {"sepa2", 225}, {"mnuSalir", 230}, {"mnuContribuyente", 231},
+    {"mnuNuevoContribuyente", 232}, {"mnuAbrirContribuyente", 233},
+    {"mnuEliminarContribuyente", 234}, {"mnuPresentador", 235}, {"mnuNuevoPresentador", 236},
+    {"mnuAbrirPresentador", 237}, {"mnuEliminarPresentador", 238}, {"mnuUtilidades", 239},
+    {"mnuExport", 240}, {"mnuImport", 241}, {"mnuBackup", 358}, {"mnuRestore", 359},
+    {"mnuPreferencias", 332}, {"mnuAsistenciaOnline", 360}, {"mnuDescripAsisOnline", 361},
+    {"mnuAsisOnline", 360}, {"mnuAyuda", 243}, {"mnucontind", 333}, {"mnuacerca", 334},
+};
+
+// Toolbar buttons: tag, tool tip id, icon.
+struct Boton {
+    const char* etiqueta;
+    int idTip;
+    QStyle::StandardPixmap icono;
+};
+constexpr Boton kBotones[] = {
+    {"nuedec", 51, QStyle::SP_FileIcon},
+    {"abrdec", 174, QStyle::SP_DialogOpenButton},
+    {"elidec", 59, QStyle::SP_TrashIcon},
+    {"ayu", 219, QStyle::SP_DialogHelpButton},
+    {"salir", 220, QStyle::SP_DialogCloseButton},
+};
+}
+
+MDIVeldo* VentanaMDI() { return g_ventana; }
+void EstablecerVentanaMDI(MDIVeldo* ventana) { g_ventana = ventana; }
+
+MDIVeldo::MDIVeldo(QWidget* parent) : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("MDIVeldo"));
+    m_area = new QMdiArea(this);
+    m_area->setObjectName(QStringLiteral("areaMDI"));
+    m_area->setBackground(QColor(0x80, 0x80, 0x80));
+    setCentralWidget(m_area);
+    construirMenus();
+    construirBarra();
+    conectarComandos();
+    resize(1024, 720);
+    EstablecerVentanaMDI(this);
+    Ventanas::instalar({[this](QWidget* panel) { AbrirPanel(panel); }, [this] { return this; }});
+    // When loaded: captions, and the first activation still to come.
+    Anadir_captions();
+    primeraVez = true;
+}
+
+MDIVeldo::~MDIVeldo()
+{
+    if (g_ventana == this) {
+        g_ventana = nullptr;
+        Ventanas::instalar({});
+    }
+}
+
+QAction* MDIVeldo::accion(QMenu* menu, const char* nombre)
+{
+    auto* a = menu->addAction(QString::fromLatin1(nombre));
+    a->setObjectName(QString::fromLatin1(nombre));
+    return a;
+}
+
+QAction* MDIVeldo::separador(QMenu* menu, const char* nombre)
+{
+    QAction* a = menu->addSeparator();
+    a->setObjectName(QString::fromLatin1(nombre));
+    return a;
+}
+
+void MDIVeldo::construirMenus()
+{
+    auto menu = [this](const char* nombre) {
+        QMenu* m = menuBar()->addMenu(QString::fromLatin1(nombre));
+        m->setObjectName(QString::fromLatin1(nombre));
+        m->menuAction()->setObjectName(QString::fromLatin1(nombre));
+        connect(m, &QMenu::aboutToShow, this, [this, m] { alDesplegar(m); });
+        return m;
+    };
+    QMenu* dec = menu("mnuDeclaracion");
+    accion(dec, "mnuNuevaDeclaracion");
+    accion(dec, "mnuAbrirDeclaracion");
+    accion(dec, "mnuEliminarDeclaracion");
+    separador(dec, "separa2");
+    for (const char* d : {"d1", "d2", "d3", "d4"}) {
+        QAction* a = accion(dec, d);
+        a->setVisible(false);
+        m_recientes.append(a);
+    }
+    separador(dec, "sepa2");
+    accion(dec, "mnuSalir");
+
+    QMenu* con = menu("mnuContribuyente");
+    accion(con, "mnuNuevoContribuyente");
+    accion(con, "mnuAbrirContribuyente");
+    accion(con, "mnuEliminarContribuyente");
+
+    QMenu* pre = menu("mnuPresentador");
+    accion(pre, "mnuNuevoPresentador");
+    accion(pre, "mnuAbrirPresentador");
+    accion(pre, "mnuEliminarPresentador");
+
+    QMenu* uti = menu("mnuUtilidades");
+    accion(uti, "mnuExport");
+    accion(uti, "mnuImport");
+    separador(uti, "separador");
+    accion(uti, "mnuBackup");
+    accion(uti, "mnuRestore");
+    separador(uti, "separa0");
+    accion(uti, "mnuPreferencias");
+
+    QMenu* asis = menu("mnuAsistenciaOnline");
+    accion(asis, "mnuDescripAsisOnline");
+    accion(asis, "mnuAsisOnline");
+
+    QMenu* ayu = menu("mnuAyuda");
+    accion(ayu, "mnucontind");
+    accion(ayu, "mnuacerca");
+}
+
+void MDIVeldo::construirBarra()
+{
+    m_barra = addToolBar(QStringLiteral("Toolbar1"));
+    m_barra->setObjectName(QStringLiteral("Toolbar1"));
+    m_barra->setMovable(false);
+    for (const Boton& b : kBotones) {
+        QAction* a = m_barra->addAction(style()->standardIcon(b.icono), QString());
+        a->setObjectName(QStringLiteral("Toolbar1_") + QString::fromLatin1(b.etiqueta));
+        a->setData(QString::fromLatin1(b.etiqueta));
+        connect(a, &QAction::triggered, this, [this, a] { botonBarra(a->data().toString()); });
+        m_botones.append(a);
+    }
+}
+
+void MDIVeldo::conectarComandos()
+{
+    auto al = [this](const char* nombre, std::function<void()> hacer) {
+        QAction* a = findChild<QAction*>(QString::fromLatin1(nombre));
+        connect(a, &QAction::triggered, this, [hacer = std::move(hacer)] {
+            Proceso::Protegido(hacer);
+        });
+    };
+    // The declaration form and list are not part of the program yet: their commands set the
+    // modes of the return and open nothing.
+    al("mnuNuevaDeclaracion", [] {
+        DecDatos().ENTRADA = QStringLiteral("A");
+        DecDatos().setMODO(QStringLiteral("A"));
+        DecDatos().LISTA.clear();
+    });
+    for (QAction* d : m_recientes)
+        al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
+    al("mnuSalir", [] { Proceso::Terminar(0); });
+    al("mnuNuevoContribuyente", [] { Navegacion::NuevoContribuyente(); });
+    al("mnuAbrirContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("A")); });
+    al("mnuEliminarContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("E")); });
+    al("mnuNuevoPresentador", [] { Navegacion::NuevoPresentador(); });
+    al("mnuAbrirPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("A")); });
+    al("mnuEliminarPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("E")); });
+    al("mnuExport", [] { Navegacion::AbrirExportar(); });
+    al("mnuImport", [] { Navegacion::AbrirImportar(); });
+    al("mnuBackup", [this] { copiaDeSeguridad(); });
+    al("mnuRestore", [this] { restaurarCopia(); });
+    al("mnuPreferencias", [this] { preferencias(); });
+    al("mnucontind", [this] { MostrarAyudaHtml(TextoSegunIdioma("cap.html", "kap.html"), this); });
+    al("mnuacerca", [this] { acercaDe(); });
+    al("mnuAsisOnline", [this] { asistenciaOnline(); });
+    al("mnuDescripAsisOnline", [this] { descripcionAsistencia(); });
+}
+
+void MDIVeldo::abrirDeclaracionReciente(QAction* entrada)
+{
+    DecDatos().ENTRADA = QStringLiteral("A");
+    DecDatos().setMODO(QStringLiteral("C"));
+    DecDatos().LISTA.clear();
+    DecDatos().CSDE = entrada->data().toInt();
+}
+
+void MDIVeldo::botonBarra(const QString& etiqueta)
+{
+    static const QMap<QString, const char*> mismaAccion = {
+        {QStringLiteral("nuedec"), "mnuNuevaDeclaracion"},
+        {QStringLiteral("abrdec"), "mnuAbrirDeclaracion"},
+        {QStringLiteral("elidec"), "mnuEliminarDeclaracion"},
+        {QStringLiteral("ayu"), "mnucontind"},
+        {QStringLiteral("salir"), "mnuSalir"},
+    };
+    if (const char* nombre = mismaAccion.value(etiqueta))
+        findChild<QAction*>(QString::fromLatin1(nombre))->trigger();
+}
+
+void MDIVeldo::Anadir_captions()
+{
+    setWindowTitle(Texto(218));
+    for (const Rotulo& r : kRotulos) {
+        const QString nombre = QString::fromLatin1(r.nombre);
+        if (auto* m = findChild<QMenu*>(nombre)) {
+            m->setTitle(Texto(r.id));
+            continue;
+        }
+        if (auto* a = findChild<QAction*>(nombre); a && !a->isSeparator())
+            a->setText(Texto(r.id));
+    }
+    for (int i = 0; i < m_botones.size(); ++i)
+        m_botones[i]->setToolTip(Texto(kBotones[i].idTip));
+}
+
+void MDIVeldo::ActualizarMenus()
+{
+    Entrada().InicializarContadores();
+    for (const char* m : {"mnuDeclaracion", "mnuContribuyente", "mnuPresentador", "mnuUtilidades"})
+        findChild<QMenu*>(QString::fromLatin1(m))->menuAction()->setEnabled(true);
+    findChild<QAction*>(QStringLiteral("mnuacerca"))->setEnabled(true);
+    m_botones[4]->setEnabled(true);
+    m_botones[3]->setEnabled(true);
+    if (Entrada().NUMDECLA < 1) {
+        m_botones[1]->setEnabled(false);
+        m_botones[2]->setEnabled(false);
+    } else {
+        Arreglo2D ultimas;
+        DecDatos().ObtenerUltimasDeclaraciones(ultimas);
+        m_botones[1]->setEnabled(true);
+        m_botones[2]->setEnabled(true);
+        const int mostradas = qMin<int>(Entrada().NUMDECLA, 4);
+        for (int i = 0; i < mostradas && i < ultimas.size(); ++i) {
+            QAction* d = m_recientes[i];
+            d->setVisible(true);
+            d->setText(ultimas[i].value(0).toString() + QStringLiteral(" - ")
+                       + ultimas[i].value(1).toString());
+            d->setData(ultimas[i].value(0));
+        }
+    }
+    m_botones[0]->setEnabled(true);
+}
+
+void MDIVeldo::DeshabilitarMenus()
+{
+    for (const char* m : {"mnuDeclaracion", "mnuPresentador", "mnuContribuyente", "mnuUtilidades"})
+        findChild<QMenu*>(QString::fromLatin1(m))->menuAction()->setEnabled(false);
+    findChild<QAction*>(QStringLiteral("mnuacerca"))->setEnabled(false);
+    for (int i : {0, 1, 2, 4})
+        m_botones[i]->setEnabled(false);
+    for (QAction* d : m_recientes)
+        d->setVisible(false);
+}
+
+void MDIVeldo::alDesplegar(QMenu* menu)
+{
+    auto poner = [this](const char* nombre, bool activo) {
+        findChild<QAction*>(QString::fromLatin1(nombre))->setEnabled(activo);
+    };
+    const QString nombre = menu->objectName();
+    if (nombre == QLatin1String("mnuDeclaracion")) {
+        poner("mnuAbrirDeclaracion", Entrada().NUMDECLA >= 1);
+        poner("mnuEliminarDeclaracion", Entrada().NUMDECLA >= 1);
+    } else if (nombre == QLatin1String("mnuContribuyente")) {
+        poner("mnuAbrirContribuyente", Entrada().NUMCONTRI >= 1);
+        poner("mnuEliminarContribuyente", Entrada().NUMCONTRI >= 1);
+    } else if (nombre == QLatin1String("mnuPresentador")) {
+        poner("mnuAbrirPresentador", Entrada().NUMPRESEN >= 1);
+        poner("mnuEliminarPresentador", Entrada().NUMPRESEN >= 1);
+    } else if (nombre == QLatin1String("mnuUtilidades")) {
+        poner("mnuExport", Entrada().NUMCONTRI >= 1);
+    }
+}
+
+void MDIVeldo::AbrirPanel(QWidget* panel)
+{
+    QMdiSubWindow* sub = m_area->addSubWindow(panel);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->setWindowTitle(panel->windowTitle());
+    sub->setObjectName(QStringLiteral("sub_") + panel->objectName());
+    sub->show();
+    panel->setFocus();
+}
+
+bool MDIVeldo::event(QEvent* e)
+{
+    if (e->type() == QEvent::WindowActivate && primeraVez) {
+        primeraVez = false;
+        // Queued, so that the window finishes showing before the modal chooser opens.
+        QMetaObject::invokeMethod(this, [this] { Proceso::Protegido([this] { primeraActivacion(); }); },
+                                  Qt::QueuedConnection);
+    }
+    return QMainWindow::event(e);
+}
+
+void MDIVeldo::primeraActivacion()
+{
+    if (ActOnline().ActOnline < 0) {
+        FrmIdioma idioma(this);
+        idioma.exec();
+    }
+    ActualizarMenus();
+}
+
+void MDIVeldo::closeEvent(QCloseEvent* e)
+{
+    // Every other window of the program is closed in turn, then the program ends.
+    const QString propio = objectName();
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w != this && w->isVisible() && w->objectName() != propio)
+            w->close();
+    m_area->closeAllSubWindows();
+    e->accept();
+    Proceso::Terminar(0);
+}
+
+void MDIVeldo::copiaDeSeguridad()
+{
+    cSaveAsRestore copia;
+    copia.ArchivoOrigen = QStringLiteral("VELDOMOD.mdb");
+    copia.ArchivoDestino = QStringLiteral("VELDOMod_bak.mdb");
+    copia.RutaDestino = CarpetaPrograma() + QStringLiteral("/backups/");
+    copia.RutaOrigen = mdbPath;
+    copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
+    copia.Idioma = OffsetIdioma;
+    copia.Parent = this;
+    copia.BDLectura = mdblec;
+    copia.BDTabla = QStringLiteral("T10_GENERAL");
+    copia.BDCampo = QStringLiteral("T10_BACKUP_TVC");
+    copia.CrearBackup();
+}
+
+void MDIVeldo::restaurarCopia()
+{
+    cSaveAsRestore copia;
+    copia.ArchivoOrigen = QStringLiteral("VELDOMod_bak.mdb");
+    copia.ArchivoDestino = QStringLiteral("VELDOMOD.mdb");
+    copia.RutaDestino = mdbPath;
+    copia.RutaOrigen = CarpetaPrograma() + QStringLiteral("/backups/");
+    copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
+    copia.Idioma = OffsetIdioma;
+    copia.Parent = this;
+    copia.BDLectura = mdblec;
+    copia.BDTabla = QStringLiteral("T10_GENERAL");
+    copia.BDCampo = QStringLiteral("T10_BACKUP_TVC");
+    if (copia.CrearRestore()) {
+        // The file may be of an older layout, and its language may differ.
+        if (!Traspaso())
+            return;
+        InicializarAplicacion();
+        Anadir_captions();
+        ActualizarMenus();
+    }
+}
+
+void MDIVeldo::asistenciaOnline()
+{
+    cMiscelaneos misc;
+    misc.Idioma = OffsetIdioma;
+    misc.AccesoAyuOnline();
+}
+
+void MDIVeldo::descripcionAsistencia()
+{
+    cMiscelaneos misc;
+    misc.Idioma = OffsetIdioma;
+    misc.Parent = this;
+    misc.MostrarOnlineInfo();
+}
+
+void MDIVeldo::acercaDe()
+{
+    frmAbout acerca(this);
+    acerca.setWindowTitle(windowTitle());
+    acerca.exec();
+}
+
+void MDIVeldo::preferencias()
+{
+    frmPreferencias prefs(this);
+    prefs.exec();
+}

@@ -1,0 +1,6 @@
+#include "aplicacion/Veldo.h"
+
+int main(int argc, char** argv)
+{
+    return EjecutarVeldo(argc, argv);
+}

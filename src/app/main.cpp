@@ -1,6 +1,0 @@
-#include "app/Veldo.h"
-
-int main(int argc, char** argv)
-{
-    return EjecutarVeldo(argc, argv);
-}

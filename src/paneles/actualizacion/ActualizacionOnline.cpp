@@ -1,0 +1,74 @@
+#include "registros/actualizacion/ActualizacionOnline.h"
+
+#include "paneles/actualizacion/FrmSinConexion.h"
+#include "paneles/actualizacion/FrmVersionCheck.h"
+#include "registros/actualizacion/cActOnline.h"
+
+#include "plataforma/General.h"
+#include "plataforma/Reloj.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QWidget>
+
+namespace {
+
+// A check started while another one waits (a second click during the wait) does nothing.
+bool g_comprobando = false;
+
+// Gives a freshly shown window a second to paint before the download blocks.
+void esperarUnSegundo()
+{
+    constexpr int unSegundo = 1000;
+    Reloj::EsperarHasta(QDeadlineTimer(unSegundo), unSegundo);
+}
+
+// The user asked for the check from the preferences when that panel is on screen.
+bool preferenciasVisibles()
+{
+    const QList<QWidget*> ventanas = QApplication::allWidgets();
+    for (const QWidget* w : ventanas)
+        if (w->objectName() == QLatin1String("frmPreferencias") && w->isVisible())
+            return true;
+    return false;
+}
+
+template <typename Panel>
+void abrirModal()
+{
+    Panel panel(QApplication::activeWindow());
+    panel.exec();
+}
+
+}  // namespace
+
+void ComprobarActualizacion()
+{
+    if (g_comprobando)
+        return;
+    g_comprobando = true;
+    struct Fin {
+        ~Fin() { g_comprobando = false; }
+    } fin;
+
+    cActOnline& act = ActOnline();
+    esperarUnSegundo();
+    const int descarga = DescargarVersionIni();
+    if (descarga == SitActualizacion::FicheroErroneo)
+        return;
+    if (descarga == SitActualizacion::SinConexion) {
+        act.SitAct = SitActualizacion::SinConexion;
+        abrirModal<FrmSinConexion>();
+        return;
+    }
+    if (LeerVersionIni() == SitActualizacion::FicheroErroneo) {
+        act.SitAct = SitActualizacion::FicheroErroneo;
+        abrirModal<FrmSinConexion>();
+        return;
+    }
+    if (act.ComVer == 1 || preferenciasVisibles())
+        abrirModal<FrmVersionCheck>();
+    act.SitAct = SitActualizacion::FicheroLeido;
+}

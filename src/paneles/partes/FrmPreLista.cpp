@@ -1,0 +1,58 @@
+#include "paneles/partes/FrmPreLista.h"
+
+#include "paneles/dialogos/Ventanas.h"
+#include "registros/partes/cPreDatos.h"
+#include "registros/partes/cPreLista.h"
+
+namespace {
+
+DisenoLista Diseno()
+{
+    DisenoLista d;
+    d.nombrePanel = QStringLiteral("FrmPreLista");
+    d.nombreGrid = QStringLiteral("flxPresentadores");
+    d.columnas = {
+        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
+        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2800, Qt::AlignLeft},
+        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
+        {{0, "Calle", "Helbidea"}, 2165, Qt::AlignLeft},
+        {{0, "Municipio", "Udalerria"}, 2200, Qt::AlignLeft},
+        {{0, "Nº Decla", "Aitor.Zk."}, 750, Qt::AlignRight},
+    };
+    d.columnasContadores = {5};
+    d.idTituloAbrir = 204;
+    d.idTituloEliminar = 211;
+    d.tipDatos = {0, "Datos del presentador", "Aurkezlearen datuak"};
+    d.tipEliminar = {0, "Eliminar el presentador seleccionado", "Deuseztatu hautatutako aurkezlea"};
+    d.idTipNuevo = 205;
+    d.idDeclaraciones = 206;
+    // The Basque result line has no point after the criteria, unlike the contributors' one.
+    d.resultado = {0, " presentador(es) seleccionado(s) ", " hautatutako aurkezlea(k) "};
+    d.resultadoCriterios = {0, " presentador(es) seleccionado(s). ", " hautatutako aurkezlea(k) "};
+    d.criterioNombre = {0, "Nombre empieza por", "Izzenaren hasierako letra"};
+    d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
+    d.idTituloBorrado = 207;
+    d.idNoBorrar = 208;
+    d.idPregunta = 209;
+    d.idPreguntaEntre = 210;
+    d.idPreguntaFin = 179;
+    return d;
+}
+
+}  // namespace
+
+FrmPreLista* FrmPreLista::Abrir()
+{
+    auto* panel = new FrmPreLista;
+    AbrirPanel(panel);
+    panel->Iniciar();
+    return panel;
+}
+
+FrmPreLista::FrmPreLista(QWidget* parent) : PanelLista(Diseno(), PreLista(), parent) {}
+
+void FrmPreLista::Borrar(int32_t codigo)
+{
+    PreDatos().CSPR = codigo;
+    PreDatos().BorrarPresentador();
+}

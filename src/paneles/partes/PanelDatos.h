@@ -1,0 +1,101 @@
+#pragma once
+// What the data panels of a contributor (FrmConDatos) and of a presenter (FrmPreDatos) do
+// alike: a frame of fields above a frame with Aceptar and Cancelar, the address block, the
+// watcher of the fields' leaving, the opening in a fixed order, Aceptar (validate, save when
+// something changed, close) and Cancelar (close without a question), and the closing that
+// gives the menus back and hands over to the party's list when the panel came from it.
+//
+// Each panel works straight on its own shared record and says what is its own: its fields,
+// captions, loading and drawing, the store's verdicts, and the list it hands back to.
+#include "paneles/dialogos/Ventanas.h"
+
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+
+class BloqueDomicilio;
+class QFrame;
+class QLabel;
+class QPushButton;
+class SalidaCampos;
+
+class PanelDatos : public QWidget {
+    Q_OBJECT
+public:
+    // Asks the store whether the record is valid; shows the verdict's message and puts the
+    // focus on the field concerned when it is not.
+    virtual bool ValidarCampos() = 0;
+
+    bool Modificado() const { return m_modificado; }
+    bool SaltarValidacion() const { return m_saltarValidacion; }
+
+signals:
+    // The panel has closed (once, whatever closed it); the navigator refreshes the main window
+    // and goes back to the party's list when the panel came from it.
+    void cerrado();
+
+protected:
+    // Makes the two frames; the panel then makes its fields and its address block in fraDatos
+    // and calls Pie().
+    PanelDatos(const QString& nombre, QWidget* parent);
+
+    // The buttons under the fields, the panel's layout of the two frames, and the address
+    // pickers over them.
+    void Pie();
+    // The watcher of the fields' leaving, held back while a picker is open or the panel
+    // closes; the buttons' actions; Enter as Tab. The panel then watches its own fields.
+    void ConectarPanel();
+
+    // Builds a panel, opens it (Iniciar), shows it in the main window and gives the focus to
+    // its first field.
+    template <class Panel, class Campo>
+    static Panel* Mostrar(Campo* Panel::*primerCampo)
+    {
+        auto panel = std::make_unique<Panel>();
+        panel->Iniciar();
+        Panel* abierto = panel.release();
+        AbrirPanel(abierto);
+        (abierto->*primerCampo)->setFocus(Qt::OtherFocusReason);
+        return abierto;
+    }
+
+    // Opening: captions, pickers filled, record loaded, panel drawn, flags cleared.
+    void Iniciar();
+
+    // The panel's own steps.
+    virtual void Anadir_captions() = 0;
+    virtual void CargarDatos() = 0;
+    // Draws the panel from the record and enables the pickers' buttons.
+    virtual void Redibujar() = 0;
+    // Saves the record and shows the message of a refusal; answers the store's verdict.
+    virtual int16_t Guardar() = 0;
+    // After a save: a new party made from its list is the one the list selects on coming back.
+    virtual void AnotarEnLista() = 0;
+
+    // Fills the address pickers.
+    void CargarListas();
+    bool SelectorAbierto() const;
+    void MarcarModificado() { m_modificado = true; }
+    bool Saltando() const { return m_saltarValidacion; }
+
+    void closeEvent(QCloseEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+    QFrame* fraDatos = nullptr;
+    QFrame* fraBotones = nullptr;
+    QPushButton* cmdAceptar = nullptr;
+    QPushButton* cmdCancelar = nullptr;
+    QLabel* PicAce = nullptr;
+    QLabel* PicCan = nullptr;
+    BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
+    SalidaCampos* m_salidas = nullptr;
+
+private:
+    void Aceptar();
+    void Cerrar();
+
+    bool m_modificado = false;
+    bool m_saltarValidacion = false;
+    bool m_cerrando = false;
+    bool m_cerrado = false;
+};

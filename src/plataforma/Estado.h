@@ -1,0 +1,39 @@
+#pragma once
+// The one owner of the program's shared records (Entrada, Fecha, Operacion, DecDatos, ConDatos,
+// the lists, ActOnline, ...). Each record is created at its first use and lives until the
+// process ends, so the panels can hand a record over to the next panel; Reiniciar() puts every
+// record back to its state at creation, in place, so references taken earlier stay valid.
+//
+// Each record's module keeps its own accessor (`cDecDatos& DecDatos()`), a thin function over
+// Estado().de<cDecDatos>(), so this layer knows none of the record types.
+#include <functional>
+#include <memory>
+#include <typeindex>
+#include <unordered_map>
+#include <vector>
+
+class cEstado {
+public:
+    template <typename T>
+    T& de()
+    {
+        const std::type_index clave(typeid(T));
+        if (auto it = m_registros.find(clave); it != m_registros.end())
+            return *static_cast<T*>(it->second.get());
+        auto nuevo = std::make_unique<T>();
+        T* registro = nuevo.get();
+        m_registros.emplace(clave, Propio(nuevo.release(), [](void* p) { delete static_cast<T*>(p); }));
+        m_reinicios.push_back([registro] { *registro = T(); });
+        return *registro;
+    }
+
+    // Every record as new, and the application-wide values of General.h as at start.
+    void Reiniciar();
+
+private:
+    using Propio = std::unique_ptr<void, void (*)(void*)>;
+    std::unordered_map<std::type_index, Propio> m_registros;
+    std::vector<std::function<void()>> m_reinicios;
+};
+
+cEstado& Estado();

@@ -1,0 +1,80 @@
+#include "plataforma/Proceso.h"
+
+#include "plataforma/Fallo.h"
+
+#include <QList>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+bool g_grabando = false;
+QList<ProcesoSeam::Aviso> g_avisos;
+int g_finales = 0;
+std::function<void(const QString&, const QString&)> g_avisoVisible;
+
+void mostrarAviso(const QString& origen, const QString& descripcion)
+{
+    if (g_grabando) {
+        g_avisos.append({origen, descripcion});
+        return;
+    }
+    std::fprintf(stderr, "%s\n%s\n", qPrintable(origen), qPrintable(descripcion));
+    if (g_avisoVisible)
+        g_avisoVisible(origen, descripcion);
+}
+}
+
+namespace Proceso {
+void Terminar(int codigo)
+{
+    if (g_grabando) {
+        ++g_finales;
+        return;
+    }
+    std::fflush(nullptr);
+    // Every write of the stores is a committed transaction, so nothing is lost by ending here.
+    std::_Exit(codigo);
+}
+
+void AvisoFalloEjecucion(const cFallo& fallo)
+{
+    mostrarAviso(fallo.origen(), fallo.descripcion());
+    Terminar(1);
+}
+
+void AvisoFalloEjecucion(const std::exception& fallo)
+{
+    if (const auto* f = dynamic_cast<const cFallo*>(&fallo)) {
+        AvisoFalloEjecucion(*f);
+        return;
+    }
+    mostrarAviso(QStringLiteral("Veldoria"), QString::fromLocal8Bit(fallo.what()));
+    Terminar(1);
+}
+
+void EstablecerAvisoVisible(std::function<void(const QString&, const QString&)> aviso)
+{
+    g_avisoVisible = std::move(aviso);
+}
+
+void Protegido(const std::function<void()>& accion)
+{
+    try {
+        accion();
+    } catch (const std::exception& e) {
+        AvisoFalloEjecucion(e);
+    }
+}
+}
+
+namespace ProcesoSeam {
+void grabar(bool activo)
+{
+    g_grabando = activo;
+    g_avisos.clear();
+    g_finales = 0;
+}
+bool grabando() { return g_grabando; }
+const QList<Aviso>& avisos() { return g_avisos; }
+int finales() { return g_finales; }
+}

@@ -1,0 +1,37 @@
+#pragma once
+// How the program ends. Production code calls these; while a test records, the ending is
+// counted and the call returns, so every caller returns at once after calling them.
+#include <QList>
+#include <QString>
+#include <functional>
+#include <exception>
+
+class cFallo;
+
+namespace Proceso {
+// Ends the process at once: no question, no closing step of any panel.
+void Terminar(int codigo = 0);
+
+// The runtime failure notice: shows the failure's source and description, then ends.
+void AvisoFalloEjecucion(const cFallo& fallo);
+void AvisoFalloEjecucion(const std::exception& fallo);
+
+// How the notice reaches the screen: the dialog layer installs a box at start-up. Without one
+// the notice goes to the standard error only (a run without windows).
+void EstablecerAvisoVisible(std::function<void(const QString& origen, const QString& descripcion)> aviso);
+
+// Runs `accion`, turning any failure that escapes it into the runtime failure notice.
+void Protegido(const std::function<void()>& accion);
+}
+
+namespace ProcesoSeam {
+struct Aviso {
+    QString origen;
+    QString descripcion;
+};
+// While recording, Terminar only counts and the notice is kept instead of shown.
+void grabar(bool activo);
+bool grabando();
+const QList<Aviso>& avisos();
+int finales();  // how many times the process would have ended
+}

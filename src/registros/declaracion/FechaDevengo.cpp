@@ -1,0 +1,78 @@
+#include "registros/declaracion/FechaDevengo.h"
+
+#include "registros/nucleo/CEntrada.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
+#include "registros/declaracion/Calculo.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cOperacion.h"
+#include "valores/cFecha.h"
+
+namespace {
+
+// A date number yyyymmdd written in the catalogue's date picture ("dd/mm/yyyy" in Spanish,
+// "yyyy/mm/dd" in Basque).
+QString fechaSegunPatron(int32_t numero, QString patron)
+{
+    const QString cifras = QString::number(numero).rightJustified(8, QLatin1Char('0'));
+    patron.replace(QLatin1String("yyyy"), cifras.left(4));
+    patron.replace(QLatin1String("mm"), cifras.mid(4, 2));
+    patron.replace(QLatin1String("dd"), cifras.right(2));
+    return patron;
+}
+
+}  // namespace
+
+bool ValidarFecha(const QString& texto)
+{
+    if (!Fecha().EsFecha(texto)) {
+        Mensaje(Texto(169), vb::Exclamation, Texto(131));
+        return false;
+    }
+    const int32_t minima = Entrada().FECMIN;
+    const int32_t maxima = Entrada().FECMAX;
+    const int32_t d = Fecha().StringToLong(texto);
+    if (minima <= d && d <= maxima)
+        return true;
+    Mensaje(Texto(170) + fechaSegunPatron(minima, Texto(171)) + Texto(172)
+                + fechaSegunPatron(maxima, Texto(171)) + QStringLiteral("\n"),
+            vb::Exclamation, Texto(131));
+    return false;
+}
+
+bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambio)
+{
+    if (!ValidarFecha(texto))
+        return false;
+    DecDatos().FECHAD = Fecha().StringToLong(texto);
+    if (trasCambio)
+        trasCambio();
+    return true;
+}
+
+QStringList ActualizarOperacionPorFecha(bool tipoBloqueado)
+{
+    cDecDatos& d = DecDatos();
+    const QStringList lista = d.CargarListaOperaciones();
+    d.ObtenerDatosOperacion(false);
+    if (EntradaDeLista(lista, Operacion().DESCRIP) < 0) {
+        // The operation does not apply on the new date.
+        LimpiarOperacion();
+        d.InicializaFecha();
+    }
+    AjustarTipoImpositivo(tipoBloqueado);
+    AplicarOperacion();
+    return lista;
+}
+
+int EntradaDeLista(const QStringList& lista, const QString& texto)
+{
+    if (texto.isEmpty())
+        return -1;
+    const QString mayusculas = texto.toUpper();
+    for (int i = 0; i < lista.size(); ++i) {
+        if (lista[i].startsWith(mayusculas) || lista[i].startsWith(texto))
+            return i;
+    }
+    return -1;
+}

@@ -1,0 +1,32 @@
+#include "registros/partes/cConLista.h"
+
+#include "plataforma/Estado.h"
+#include "servicios/Almacen.h"
+#include "servicios/cContribSvr.h"
+
+int32_t cConLista::CargarContribuyentes(Arreglo2D& datos)
+{
+    NUMCONTRISEL = Almacen<cContribSvr>().dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
+    return NUMCONTRISEL;
+}
+
+void cConLista::Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr)
+{
+    CSCO = codigo;
+    NUMSP = numsp;
+    NUMTR = numtr;
+}
+
+void cConLista::OlvidarSeleccion(bool cuenta)
+{
+    CSCO = 0;
+    if (cuenta)
+        NUMCONTRISEL = 0;
+    NUMSP = 0;
+    NUMTR = 0;
+}
+
+cConLista& ConLista()
+{
+    return Estado().de<cConLista>();
+}

@@ -1,0 +1,71 @@
+#pragma once
+// The state of a party's list, shared by the contributors' list (cConLista) and the
+// presenters' (cPreLista): criteria, search state, mode and order, and the moves a list panel
+// makes on them. One instance of each list lives for the whole run, so a panel that comes back
+// after a side trip finds its order, criteria and selection again.
+//
+// What differs by party (the name of the selected code, the counters of declarations, the
+// store asked for the rows) is each list's own: the panel reads it through the virtual calls
+// below, while the party's own names (CSCO, NUMSP, ... / CSPR, ...) stay the record's fields.
+#include "servicios/Arreglos.h"
+#include "valores/cCriterio.h"
+
+#include <QList>
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+class cListaParte {
+public:
+    std::optional<TablaCriterios> TABLASELECCION;  // the criteria in force; absent: none
+    QString SELECCIONACTUAL = QStringLiteral("0");  // search state: column under edit, "0" none
+    QString ENTRADA;             // next opening: "A" open list, "E" delete list, "P" come back
+    QString BUSQUEDA = QStringLiteral("N");  // "N" result state, "B" search state
+    QString MODO = QStringLiteral("C");      // "C" open mode, "E" delete mode
+    uint8_t ORDEN = 1;           // column of the order: 1 name, 2 number
+
+    virtual ~cListaParte() = default;
+
+    // The start of the list by ENTRADA: "A" and "E" a fresh list (open or delete mode) ordered
+    // by name, with no criteria and nothing selected; anything else ("P") keeps order,
+    // criteria and selection, and comes back in open mode and in the result state.
+    void IniciarLista();
+    bool HayCriterios() const;
+    // Three elements: 1 the name prefix, 2 the number prefix, as text; the whole number 0
+    // where no criterion is given.
+    Arreglo CriteriosBusqueda() const;
+    // The search box over column SELECCIONACTUAL was left with `texto`: that column's
+    // criterion takes it (a new criterion when there is none), the list is ordered by that
+    // column, and no column is under edit any more.
+    void AnotarBusqueda(const QString& texto);
+    // cmdBuscar: from the result state to the search state with nothing kept; from the search
+    // state back to the result state with the criteria typed.
+    void CambiarBusqueda();
+    // cmdTodos: the whole list by name, nothing selected.
+    void Todos();
+    // A click on a heading of the result state: name (1) and number (2) order the list and
+    // lose the selection; answers false for any other column, which does nothing.
+    bool OrdenarPor(int columna);
+    // A click on a column in the search state: name (1) and number (2) become the column under
+    // edit; answers false for any other column, which does nothing.
+    bool ElegirColumnaBusqueda(int columna);
+
+    // The party's own part.
+    virtual int32_t Codigo() const = 0;          // the selected party, 0 none
+    virtual int32_t Seleccionados() const = 0;   // parties found
+    // The counters of declarations of the selected party, in the grid's order.
+    virtual QList<int32_t> Contadores() const = 0;
+    // Asks the store for the parties of the criteria, in ORDEN (datos[columna][fila]); the
+    // count found is kept and answered.
+    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;
+    // A row became current: its code and counters are the selection.
+    virtual void SeleccionarFila(int32_t codigo, const QList<int32_t>& contadores) = 0;
+
+protected:
+    cListaParte() = default;
+    cListaParte(const cListaParte&) = default;
+    cListaParte& operator=(const cListaParte&) = default;
+
+    // Nothing selected any more; with `cuenta`, no party found either.
+    virtual void OlvidarSeleccion(bool cuenta) = 0;
+};

@@ -1,0 +1,161 @@
+#include "valores/cFecha.h"
+
+#include "plataforma/Estado.h"
+
+#include "plataforma/Fallo.h"
+#include "catalogo/Catalogo.h"
+#include "valores/Val.h"
+
+#include <QDate>
+#include <QStringList>
+#include <cmath>
+
+const QString cFecha::kVaciaCastellano = QStringLiteral("__/__/____");
+const QString cFecha::kVaciaEuskera = QStringLiteral("____/__/__");
+
+namespace {
+
+// A two-character part of a date, read with a "0" in front as a 16-bit whole number; a part
+// that is not a number is a failure.
+std::optional<int> ParteFija(const QString& parte)
+{
+    const auto v = EnteroEstricto(QLatin1Char('0') + parte, -32768, 32767);
+    if (!v)
+        return std::nullopt;
+    return static_cast<int>(*v);
+}
+
+// The part that runs to the end of the text, read by its leading number (0 if none), into a
+// 16-bit whole number: a year that does not fit is a failure.
+std::optional<int> ParteLibre(const QString& parte)
+{
+    const double v = std::nearbyint(Val(parte));  // halves to even, as the old conversion did
+    if (v < -32768.0 || v > 32767.0)
+        return std::nullopt;
+    return static_cast<int>(v);
+}
+
+bool EsBisiesto(int anio)
+{
+    return anio % 4 == 0 && (anio % 100 != 0 || anio % 400 == 0);
+}
+
+[[noreturn]] void FalloDeTipo(const QString& fecha)
+{
+    throw cFallo(13, QStringLiteral("cFecha.miYear"),
+                 QStringLiteral("No coinciden los tipos: \"%1\" no es una fecha").arg(fecha));
+}
+
+}  // namespace
+
+QString cFecha::FecVacia() const
+{
+    return fecidioma == QLatin1String("E") ? kVaciaEuskera : kVaciaCastellano;
+}
+
+int32_t cFecha::miYear(const QString& fecha) const
+{
+    if (fecidioma == QLatin1String("E")) {
+        QString anio = fecha.left(4);
+        while (anio.startsWith(QLatin1Char(' ')))
+            anio.remove(0, 1);
+        const auto v = EnteroEstricto(anio, INT32_MIN, INT32_MAX);
+        if (!v)
+            FalloDeTipo(fecha);
+        return static_cast<int32_t>(*v);
+    }
+    // A dd/mm/yyyy text as the calendar reads it: one or two digits of day and month.
+    const QStringList partes = fecha.trimmed().split(QLatin1Char('/'));
+    if (partes.size() != 3)
+        FalloDeTipo(fecha);
+    const auto d = EnteroEstricto(partes[0], 1, 31);
+    const auto m = EnteroEstricto(partes[1], 1, 12);
+    const auto y = EnteroEstricto(partes[2], 100, 9999);
+    if (!d || !m || !y || partes[0].trimmed().size() > 2 || partes[1].trimmed().size() > 2)
+        FalloDeTipo(fecha);
+    const QDate fechaLeida(static_cast<int>(*y), static_cast<int>(*m), static_cast<int>(*d));
+    if (!fechaLeida.isValid())
+        FalloDeTipo(fecha);
+    return fechaLeida.year();
+}
+
+bool cFecha::EsFecha(const QString& fecha, std::optional<int16_t> minimo) const
+{
+    if (fecha == FecVacia())
+        return true;
+
+    std::optional<int> dia, mes, anio;
+    if (EsCastellano()) {
+        dia = ParteFija(fecha.mid(0, 2));
+        mes = ParteFija(fecha.mid(3, 2));
+        anio = ParteLibre(fecha.mid(6));
+    } else {
+        anio = ParteFija(fecha.mid(0, 4));
+        mes = ParteFija(fecha.mid(5, 2));
+        dia = ParteLibre(fecha.mid(8));
+    }
+    if (!dia || !mes || !anio)
+        return false;
+
+    // At least four digits: years below 1000 are out, whatever was typed.
+    if (QString::number(*anio).size() < 4)
+        return false;
+    if (*anio < minimo.value_or(0))
+        return false;
+    if (*dia < 1 || *dia > 31 || *mes < 1 || *mes > 12)
+        return false;
+    if (*mes == 2) {
+        if (*dia >= 30)
+            return false;
+        if (*dia == 29)
+            return EsBisiesto(*anio);
+    }
+    if ((*mes == 4 || *mes == 6 || *mes == 9 || *mes == 11) && *dia == 31)
+        return false;
+    return true;
+}
+
+int32_t cFecha::StringToLong(const QString& fecha, std::optional<int16_t> minimo) const
+{
+    if (fecha == FecVacia())
+        return 0;
+    if (!EsFecha(fecha, minimo))
+        return -1;
+    // The pieces are taken as they stand from the ends of the text: four characters of year,
+    // two of month, two of day.
+    const QString numero = EsCastellano()
+        ? fecha.right(4) + fecha.mid(3, 2) + fecha.left(2)
+        : fecha.left(4) + fecha.mid(5, 2) + fecha.right(2);
+    const auto v = EnteroEstricto(numero, INT32_MIN, INT32_MAX);
+    return v ? static_cast<int32_t>(*v) : 0;
+}
+
+QString cFecha::LongToString(int32_t numero, std::optional<QString> marcador)
+{
+    if (numero < 1)
+        return FecVacia();
+
+    const QString cifras = QString::number(numero);
+    QString dia, mes, anio;
+    if (marcador) {
+        dia = cifras.left(2);
+        mes = cifras.mid(2, 2);
+        anio = cifras.right(4);
+    } else {
+        anio = cifras.left(4);
+        mes = cifras.mid(4, 2);
+        dia = cifras.right(2);
+    }
+    const QChar barra(QLatin1Char('/'));
+    const QString texto = EsCastellano() ? dia + barra + mes + barra + anio
+                                         : anio + barra + mes + barra + dia;
+    if (EsFecha(texto, 0))
+        return texto;
+    MensajeError = Texto(2);
+    return FecVacia();
+}
+
+cFecha& Fecha()
+{
+    return Estado().de<cFecha>();
+}

@@ -1,0 +1,330 @@
+// The main window: menus and toolbar in both languages, the enabling rules with the counters,
+// the recent declarations, the ways out, help, backup and restore from the menu.
+#include "Reinicio.h"
+#include "registros/actualizacion/cActOnline.h"
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/General.h"
+#include "comun/CapturaModal.h"
+#include "comun/Entorno.h"
+#include "registros/declaracion/ApoyoDeclaracion.h"
+#include "registros/declaracion/cDecDatos.h"
+
+#include "aplicacion/Arranque.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "plataforma/Proceso.h"
+#include "plataforma/Reloj.h"
+#include "catalogo/Catalogo.h"
+#include "servicios/cGeneralSvr.h"
+#include "servicios/cTraspaso.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QTest>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <memory>
+
+class TestMDIVeldo : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<CarpetaDePrueba> m_carpeta;
+    MDIVeldo* m_ventana = nullptr;
+
+    QAction* accion(const char* nombre) const
+    {
+        return m_ventana->findChild<QAction*>(QLatin1String(nombre));
+    }
+    QMenu* menu(const char* nombre) const { return m_ventana->findChild<QMenu*>(QLatin1String(nombre)); }
+    QAction* boton(int n) const { return m_ventana->findChild<QToolBar*>("Toolbar1")->actions().at(n - 1); }
+    void desplegar(const char* nombre) const { emit menu(nombre)->aboutToShow(); }
+
+private slots:
+    void init()
+    {
+        m_carpeta = ProgramaConAlmacenNuevo();
+        m_ventana = VentanaMDI();
+    }
+    void cleanup()
+    {
+        ReiniciarEstado();
+        m_ventana = nullptr;
+        m_carpeta.reset();
+    }
+
+    void arbolDeMenusYBarra()
+    {
+        for (const char* n : {"mnuNuevaDeclaracion", "mnuAbrirDeclaracion", "mnuEliminarDeclaracion",
+                              "separa2", "d1", "d2", "d3", "d4", "sepa2", "mnuSalir",
+                              "mnuNuevoContribuyente", "mnuAbrirContribuyente",
+                              "mnuEliminarContribuyente", "mnuNuevoPresentador",
+                              "mnuAbrirPresentador", "mnuEliminarPresentador", "mnuExport",
+                              "mnuImport", "separador", "mnuBackup", "mnuRestore", "separa0",
+                              "mnuPreferencias", "mnuDescripAsisOnline", "mnuAsisOnline",
+                              "mnucontind", "mnuacerca"})
+            QVERIFY2(accion(n), n);
+        QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoria"));
+        QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Declaración"));
+        QCOMPARE(accion("mnuBackup")->text(), QStringLiteral("Crear copia de seguridad"));
+        QCOMPARE(accion("mnuacerca")->text(), QStringLiteral("&Acerca de Veldoria"));
+        const QStringList tips = {"Nueva declaración", "Abrir Declaración", "Eliminar declaración",
+                                  "Ayuda", "Salir de la Aplicación"};
+        for (int i = 1; i <= 5; ++i) {
+            QCOMPARE(boton(i)->toolTip(), tips[i - 1]);
+            QVERIFY(!boton(i)->icon().isNull());
+        }
+        QCOMPARE(boton(1)->data().toString(), QStringLiteral("nuedec"));
+        QCOMPARE(boton(5)->data().toString(), QStringLiteral("salir"));
+    }
+
+    void basaDeDatosVacia()
+    {
+        m_ventana->ActualizarMenus();
+        for (const char* d : {"d1", "d2", "d3", "d4"})
+            QVERIFY(!accion(d)->isVisible());
+        QVERIFY(boton(1)->isEnabled());
+        QVERIFY(!boton(2)->isEnabled());
+        QVERIFY(!boton(3)->isEnabled());
+        QVERIFY(boton(4)->isEnabled());
+        QVERIFY(boton(5)->isEnabled());
+        desplegar("mnuDeclaracion");
+        QVERIFY(!accion("mnuAbrirDeclaracion")->isEnabled());
+        QVERIFY(!accion("mnuEliminarDeclaracion")->isEnabled());
+        QVERIFY(accion("mnuNuevaDeclaracion")->isEnabled());
+        desplegar("mnuContribuyente");
+        QVERIFY(!accion("mnuAbrirContribuyente")->isEnabled());
+        desplegar("mnuPresentador");
+        QVERIFY(!accion("mnuEliminarPresentador")->isEnabled());
+        desplegar("mnuUtilidades");
+        QVERIFY(!accion("mnuExport")->isEnabled());
+        QVERIFY(accion("mnuImport")->isEnabled());
+        QVERIFY(accion("mnuBackup")->isEnabled());
+        QVERIFY(accion("mnuRestore")->isEnabled());
+    }
+
+    // Stores `n` valid returns, each with its own reference; answers their codes in order.
+    static QList<int32_t> guardarDeclaraciones(int n)
+    {
+        QList<int32_t> codigos;
+        for (int i = 0; i < n; ++i) {
+            DeclaracionValida();
+            DecDatos().REFERENCIA = QStringLiteral("REF-%1").arg(i + 1);
+            int32_t codigo = 0;
+            DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo);
+            codigos.append(codigo);
+        }
+        return codigos;
+    }
+
+    void unaDeclaracionSoloD1()
+    {
+        const QList<int32_t> codigos = guardarDeclaraciones(1);
+        NuevoContribuyente(DniValido(11111111), QStringLiteral("PEREZ ANA"));
+        m_ventana->ActualizarMenus();
+        QVERIFY(accion("d1")->isVisible());
+        for (const char* d : {"d2", "d3", "d4"})
+            QVERIFY(!accion(d)->isVisible());
+        QCOMPARE(accion("d1")->data().toInt(), codigos[0]);
+        QCOMPARE(accion("d1")->text(), QStringLiteral("%1 - REF-1").arg(codigos[0]));
+        QVERIFY(boton(2)->isEnabled());
+        QVERIFY(boton(3)->isEnabled());
+        desplegar("mnuDeclaracion");
+        QVERIFY(accion("mnuAbrirDeclaracion")->isEnabled());
+        QVERIFY(accion("mnuEliminarDeclaracion")->isEnabled());
+        desplegar("mnuContribuyente");
+        QVERIFY(accion("mnuAbrirContribuyente")->isEnabled());
+        desplegar("mnuUtilidades");
+        QVERIFY(accion("mnuExport")->isEnabled());
+    }
+
+    void sieteDeclaracionesCuatroEntradas()
+    {
+        const QList<int32_t> codigos = guardarDeclaraciones(7);
+        m_ventana->ActualizarMenus();
+        // The most recently saved first.
+        for (int i = 0; i < 4; ++i) {
+            QAction* d = accion(qPrintable(QStringLiteral("d%1").arg(i + 1)));
+            QVERIFY(d->isVisible());
+            QCOMPARE(d->data().toInt(), codigos[6 - i]);
+            QCOMPARE(d->text(), QStringLiteral("%1 - REF-%2").arg(codigos[6 - i]).arg(7 - i));
+        }
+    }
+
+    void trasBorrarLaUltimaDeclaracion()
+    {
+        const QList<int32_t> codigos = guardarDeclaraciones(1);
+        m_ventana->ActualizarMenus();
+        QVERIFY(accion("d1")->isVisible());
+        // A panel opens, the return is deleted through it, the panel closes.
+        m_ventana->DeshabilitarMenus();
+        DecDatos().CSDE = codigos[0];
+        DecDatos().BorrarDeclaracion();
+        m_ventana->ActualizarMenus();
+        for (const char* d : {"d1", "d2", "d3", "d4"})
+            QVERIFY(!accion(d)->isVisible());
+        QVERIFY(!boton(2)->isEnabled());
+        QVERIFY(!boton(3)->isEnabled());
+        QVERIFY(boton(1)->isEnabled());
+    }
+
+    void entradaRecientePreparaLaDeclaracion()
+    {
+        const QList<int32_t> codigos = guardarDeclaraciones(2);
+        m_ventana->ActualizarMenus();
+        DecDatos().setMODO(QStringLiteral("A"));
+        accion("d2")->trigger();
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("A"));
+        QCOMPARE(DecDatos().MODO(), QStringLiteral("C"));
+        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(DecDatos().CSDE, codigos[0]);
+    }
+
+    void conUnPanelAbiertoSoloQuedaCerrar()
+    {
+        m_ventana->ActualizarMenus();
+        m_ventana->DeshabilitarMenus();
+        for (const char* m : {"mnuDeclaracion", "mnuContribuyente", "mnuPresentador", "mnuUtilidades"})
+            QVERIFY(!menu(m)->menuAction()->isEnabled());
+        QVERIFY(!accion("mnuacerca")->isEnabled());
+        QVERIFY(menu("mnuAyuda")->menuAction()->isEnabled());
+        QVERIFY(menu("mnuAsistenciaOnline")->menuAction()->isEnabled());
+        for (int i : {1, 2, 3, 5})
+            QVERIFY(!boton(i)->isEnabled());
+        QVERIFY(boton(4)->isEnabled());
+        // mnuSalir hangs under a menu that is off, and the exit button is off too.
+        QVERIFY(!menu("mnuDeclaracion")->menuAction()->isEnabled());
+        m_ventana->ActualizarMenus();
+        QVERIFY(menu("mnuDeclaracion")->menuAction()->isEnabled());
+        QVERIFY(boton(5)->isEnabled());
+    }
+
+    void salirTerminaEnElActo()
+    {
+        accion("mnuSalir")->trigger();
+        QCOMPARE(ProcesoSeam::finales(), 1);
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        boton(5)->trigger();
+        QCOMPARE(ProcesoSeam::finales(), 2);
+    }
+
+    void cerrarLaVentanaCierraLasDemas()
+    {
+        accion("mnucontind")->trigger();
+        auto* visor = m_ventana->findChild<QDialog*>("VisorAyuda");
+        QVERIFY(visor && visor->isVisible());
+        m_ventana->close();
+        QVERIFY(!visor->isVisible());
+        QCOMPARE(ProcesoSeam::finales(), 1);
+    }
+
+    void ayudaEnCadaIdioma()
+    {
+        accion("mnucontind")->trigger();
+        auto* pagina = m_ventana->findChild<QTextBrowser*>("txtAyuda");
+        QVERIFY(pagina);
+        QVERIFY(pagina->source().toLocalFile().endsWith("/Ayuda/Ayuda/cap.html"));
+        Entrada().setIDI("E");
+        boton(4)->trigger();
+        QVERIFY(pagina->source().toLocalFile().endsWith("/Ayuda/Laguntza/kap.html"));
+        // The pages ship with the program.
+        QVERIFY(QFile::exists(QStringLiteral(VELDO_CARPETA_CONSTRUIDA) + "/Ayuda/Ayuda/cap.html"));
+        QVERIFY(QFile::exists(QStringLiteral(VELDO_CARPETA_CONSTRUIDA) + "/Ayuda/Laguntza/kap.html"));
+    }
+
+    void rotulosEnEuskeraYMarcadores()
+    {
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
+        QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Aitorpena"));
+        QCOMPARE(accion("mnuSalir")->text(), QStringLiteral("I&rten"));
+        QCOMPARE(boton(5)->toolTip(), QStringLiteral("Irten aplikaziotik"));
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(accion(qPrintable(QStringLiteral("d%1").arg(i + 1)))->text(),
+                     QStringLiteral("d%1").arg(i + 1));
+    }
+
+    void unPanelTomaElIdiomaAlAbrirse()
+    {
+        m_ventana->ActualizarMenus();
+        accion("mnuNuevoContribuyente")->trigger();
+        auto* panel = m_ventana->findChild<QWidget*>("FrmConDatos");
+        QVERIFY(panel);
+        QCOMPARE(panel->windowTitle(), Texto(3));
+        QVERIFY(!menu("mnuDeclaracion")->menuAction()->isEnabled());
+        panel->close();
+        QTRY_VERIFY(!m_ventana->findChild<QWidget*>("FrmConDatos"));
+        QVERIFY(menu("mnuDeclaracion")->menuAction()->isEnabled());
+        // The language changes while no panel is open; the next panel is a new one, in Basque.
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        accion("mnuNuevoContribuyente")->trigger();
+        panel = m_ventana->findChild<QWidget*>("FrmConDatos");
+        QVERIFY(panel);
+        QCOMPARE(panel->windowTitle(), QStringLiteral("Zergadunaren datuak"));
+    }
+
+    void acercaDeEnCadaIdioma()
+    {
+        QString titulo, version, boton;
+        CapturaModal captura([&](QWidget* w) {
+            if (w->objectName() != QLatin1String("frmAbout"))
+                return;
+            titulo = w->windowTitle();
+            version = w->findChild<QLabel*>("lblVersion")->text();
+        });
+        VersionPrograma = QStringLiteral("1.0.0");
+        accion("mnuacerca")->trigger();
+        QCOMPARE(captura.vistos().last(), QStringLiteral("frmAbout"));
+        QCOMPARE(titulo, QStringLiteral("Acerca de Veldoria"));
+        QCOMPARE(version, QStringLiteral("Versión 1.0.0"));
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        accion("mnuacerca")->trigger();
+        QCOMPARE(titulo, QStringLiteral("Acerca de Veldoriak"));
+        QCOMPARE(version, QStringLiteral("1.0.0 bertsioa"));
+    }
+
+    void copiaDeSeguridadDesdeElMenu()
+    {
+        const QString copia = m_carpeta->ruta() + "/backups/VELDOMod_bak.mdb";
+        accion("mnuBackup")->trigger();
+        QVERIFY(QFile::exists(copia));
+        // No question the first time: at most the notice that the copy was made.
+        for (const auto& m : MensajeSeam::registro())
+            QVERIFY(m.texto != Texto(337));
+        // A second backup replaces the first, after the question of id 337.
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        accion("mnuBackup")->trigger();
+        QVERIFY(!MensajeSeam::registro().isEmpty());
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(337));
+    }
+
+    void restaurarTraeElIdiomaDeLaCopia()
+    {
+        accion("mnuBackup")->trigger();
+        Entrada().setIDI("E");
+        m_ventana->Anadir_captions();
+        QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
+        // Answered No: nothing changes.
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::No);
+        accion("mnuRestore")->trigger();
+        QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(340));
+        QCOMPARE(Entrada().IDI(), QStringLiteral("E"));
+        QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
+        // Answered Yes: the copy, in Spanish, comes back with its language.
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        accion("mnuRestore")->trigger();
+        QCOMPARE(Entrada().IDI(), QStringLiteral("C"));
+        QCOMPARE(OffsetIdioma, int16_t(0));
+        QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoria"));
+        QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Declaración"));
+    }
+};
+
+QTEST_MAIN(TestMDIVeldo)
+#include "test_mdiveldo.moc"

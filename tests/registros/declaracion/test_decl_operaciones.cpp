@@ -1,0 +1,229 @@
+// The table of operations in the reference database, as the store gives it: which codes apply
+// on which date, their rates, limits, deductions and marks, the descriptions in both
+// languages, the print keys, and what loading one does to the operation record.
+#include "ApoyoDeclaracion.h"
+
+#include "plataforma/General.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cOperacion.h"
+#include "servicios/cDeclaSvr.h"
+
+#include <QTest>
+
+namespace {
+cDeclaSvr servidor()
+{
+    cDeclaSvr svr;
+    svr.mdblec = mdblec;
+    return svr;
+}
+
+struct Datos {
+    bool existe = false;
+    Arreglo a;
+};
+
+Datos datos(const QString& codigo, int32_t fecha, int16_t offset = 0)
+{
+    Datos d;
+    d.existe = servidor().ObtenerDatosOperacion(codigo, fecha, d.a, offset);
+    return d;
+}
+}  // namespace
+
+class TestOperaciones : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<CarpetaDePrueba> m_carpeta;
+
+private slots:
+    void initTestCase()
+    {
+        m_carpeta = std::make_unique<CarpetaDePrueba>();
+        GrabarSeams();
+    }
+
+    void tiposPorFecha_data()
+    {
+        QTest::addColumn<QString>("codigo");
+        QTest::addColumn<int>("fecha");
+        QTest::addColumn<bool>("existe");
+        QTest::addColumn<double>("tipo");
+        QTest::addColumn<double>("deduccion");
+        QTest::newRow("T7 2007") << "T7" << 20071231 << true << 7.0 << 0.0;
+        QTest::newRow("T7 2008") << "T7" << 20080101 << false << 0.0 << 0.0;
+        QTest::newRow("TN 1993") << "TN" << 19930101 << true << 12.0 << 0.0;
+        QTest::newRow("TN 2008") << "TN" << 20080101 << false << 0.0 << 0.0;
+        QTest::newRow("P6 1996") << "P6" << 19961231 << false << 0.0 << 0.0;
+        QTest::newRow("P6 1997") << "P6" << 19970101 << true << 12.0 << 48081.0;
+        QTest::newRow("P7 1999") << "P7" << 19991231 << false << 0.0 << 0.0;
+        QTest::newRow("P7 2000") << "P7" << 20000101 << true << 12.0 << 72121.0;
+        QTest::newRow("P6B 2003") << "P6B" << 20030101 << true << 7.0 << 48081.0;
+        QTest::newRow("P7B 2007") << "P7B" << 20071231 << true << 7.0 << 72121.0;
+        QTest::newRow("P7B 2008") << "P7B" << 20080101 << false << 0.0 << 0.0;
+        QTest::newRow("T1 2007") << "T1" << 20071231 << false << 0.0 << 0.0;
+        QTest::newRow("T1 2008") << "T1" << 20080101 << true << 0.0 << 0.0;
+        QTest::newRow("T2") << "T2" << 20150101 << true << 4.75 << 0.0;
+        QTest::newRow("T3") << "T3" << 20150101 << true << 9.75 << 0.0;
+        QTest::newRow("T4") << "T4" << 20150101 << true << 14.75 << 0.0;
+        QTest::newRow("T5") << "T5" << 20271231 << true << 14.75 << 0.0;
+        QTest::newRow("N43 1993") << "N43" << 19930101 << true << 0.0 << 0.0;
+        QTest::newRow("TE 2027") << "TE" << 20271231 << true << 0.0 << 0.0;
+        QTest::newRow("sin fecha") << "TN" << 0 << false << 0.0 << 0.0;
+        QTest::newRow("desconocida") << "XX" << 20100101 << false << 0.0 << 0.0;
+    }
+
+    void tiposPorFecha()
+    {
+        QFETCH(QString, codigo);
+        QFETCH(int, fecha);
+        QFETCH(bool, existe);
+        QFETCH(double, tipo);
+        QFETCH(double, deduccion);
+        const Datos d = datos(codigo, fecha);
+        QCOMPARE(d.existe, existe);
+        if (!existe) {
+            QVERIFY(d.a.isEmpty());
+            QVERIFY(servidor().ObtenImpresion(fecha, codigo).isEmpty());
+            return;
+        }
+        QCOMPARE(d.a.size(), 8);
+        QCOMPARE(d.a[4].toDouble(), tipo);
+        QCOMPARE(d.a[7].toDouble(), deduccion);
+        QVERIFY(!servidor().ObtenImpresion(fecha, codigo).isEmpty());
+    }
+
+    void tasaLibreYSusLimitesPorFecha()
+    {
+        Datos antes = datos(QStringLiteral("TL"), 20071231);
+        QVERIFY(antes.existe);
+        Operacion().ActualizaOperacion(antes.a, false);
+        QVERIFY(EsTasaLibre(Operacion().T_TIP()));
+        QCOMPARE(Operacion().T_MIN(), 7.0);
+        QCOMPARE(Operacion().T_MAX(), 12.0);
+        Datos despues = datos(QStringLiteral("TL"), 20080101);
+        QVERIFY(despues.existe);
+        Operacion().ActualizaOperacion(despues.a, false);
+        QVERIFY(EsTasaLibre(Operacion().T_TIP()));
+        QCOMPARE(Operacion().T_MIN(), 0.0);
+        QCOMPARE(Operacion().T_MAX(), 14.75);
+        // The value as it comes from the store, unrounded, is already the sentinel.
+        QVERIFY(EsTasaLibre(despues.a[4].toDouble()));
+    }
+
+    void marcasDeNoSujetoYExento()
+    {
+        const Datos ns = datos(QStringLiteral("N43"), 20100101);
+        QCOMPARE(ns.a[2].toString(), QStringLiteral("X"));
+        QVERIFY(ns.a[3].toString().isEmpty());
+        for (const char* c : {"TE", "E1", "E2", "E3", "E4", "E5", "E6"}) {
+            const Datos ex = datos(QString::fromLatin1(c), 20100101);
+            QVERIFY2(ex.existe, c);
+            QVERIFY(ex.a[2].toString().isEmpty());
+            QCOMPARE(ex.a[3].toString(), QStringLiteral("X"));
+            QCOMPARE(ex.a[4].toDouble(), 0.0);
+        }
+        const Datos gravada = datos(QStringLiteral("T3"), 20100101);
+        QVERIFY(gravada.a[2].toString().isEmpty() && gravada.a[3].toString().isEmpty());
+    }
+
+    void losCodigosQueNombranLosMensajesExisten()
+    {
+        const QStringList antes{"N43", "TN", "TE", "T7", "P6", "P7", "P6B", "P7B"};
+        for (const QString& c : antes)
+            QVERIFY2(datos(c, 20050101).existe, qPrintable(c));
+        const QStringList despues{"N43", "TE", "T1", "T2", "T3", "T4", "T5"};
+        for (const QString& c : despues)
+            QVERIFY2(datos(c, 20100101).existe, qPrintable(c));
+    }
+
+    void clavesDeImpresion()
+    {
+        QCOMPARE(servidor().ObtenImpresion(20050101, QStringLiteral("P6B")), QStringLiteral("P6"));
+        QCOMPARE(servidor().ObtenImpresion(20050101, QStringLiteral("P7B")), QStringLiteral("P7"));
+        QCOMPARE(servidor().ObtenImpresion(20100101, QStringLiteral("T4")), QStringLiteral("T4"));
+        QCOMPARE(servidor().ObtenImpresion(20100101, QStringLiteral(" N43 ")),
+                 QStringLiteral("N43"));
+    }
+
+    void listaPorFechaEIdioma()
+    {
+        Arreglo antes, despues, vasco;
+        servidor().ObtenerOperaciones(20050101, antes, 0);
+        servidor().ObtenerOperaciones(20100101, despues, 0);
+        servidor().ObtenerOperaciones(20100101, vasco, 10000);
+        QCOMPARE(antes.size(), 15);   // 8 of every period, 6 up to 2007, TL
+        QCOMPARE(despues.size(), 14); // 8 of every period, T1 to T5, TL
+        QCOMPARE(vasco.size(), despues.size());
+        QVERIFY(antes.contains(QStringLiteral("Tipo general: 12 %")));
+        QVERIFY(!despues.contains(QStringLiteral("Tipo general: 12 %")));
+        QVERIFY(despues.contains(QStringLiteral("Emisiones de CO2 hasta 120 g/km: tipo 0 %")));
+        QVERIFY(vasco.contains(QStringLiteral("CO2 isurpenak 120 g/km arte: % 0ko tasa")));
+        Arreglo ninguna;
+        servidor().ObtenerOperaciones(0, ninguna, 0);
+        QVERIFY(ninguna.isEmpty());
+    }
+
+    void codigoPorDescripcion()
+    {
+        QCOMPARE(servidor().DameOperacionporDescripcion(QStringLiteral("Tipo general: 12 %"),
+                                                         20050101, 0),
+                 QStringLiteral("TN"));
+        QCOMPARE(servidor().DameOperacionporDescripcion(QStringLiteral("Tasa orokorra: % 12"),
+                                                         20050101, 10000),
+                 QStringLiteral("TN"));
+        QVERIFY(servidor()
+                    .DameOperacionporDescripcion(QStringLiteral("Tipo general: 12 %"), 20100101, 0)
+                    .isEmpty());
+        // The same description on each side of 2008 names the operation of that date only.
+        QCOMPARE(servidor().DameOperacionporDescripcion(
+                     QStringLiteral("Tipo a declarar, entre el 0 % y el 14,75 %"), 20100101, 0),
+                 QStringLiteral("TL"));
+    }
+
+    void descripcionEnElIdiomaDelOffset()
+    {
+        const Datos es = datos(QStringLiteral("E6"), 20100101, 0);
+        const Datos eu = datos(QStringLiteral("E6"), 20100101, 10000);
+        QCOMPARE(es.a[0].toString(), QStringLiteral("Exento: traslado de la residencia habitual"));
+        QCOMPARE(eu.a[0].toString(), QStringLiteral("Salbuetsia: ohiko bizilekuaren lekualdaketa"));
+    }
+
+    void registroCargaOVaciaLaOperacion()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.FECHAD = 20050101;
+        d.OPERACION = QStringLiteral("P7B");
+        d.ObtenerDatosOperacion(false);
+        QCOMPARE(Operacion().T_IMPR, QStringLiteral("P7"));
+        QCOMPARE(Operacion().T_TIP(), 7.0);
+        QCOMPARE(Operacion().T_DEDU(), 72121.0);
+        const QStringList lista = d.CargarListaOperaciones();
+        QCOMPARE(lista.size(), 15);
+        QVERIFY(lista.contains(Operacion().DESCRIP));
+        d.FECHAD = 20100101;
+        d.ObtenerDatosOperacion(false);
+        QVERIFY(Operacion().DESCRIP.isEmpty());
+        QCOMPARE(Operacion().T_TIP(), 0.0);
+        QCOMPARE(Operacion().T_DEDU(), 0.0);
+    }
+
+    void cadaCodigoRigeUnaSolaVezPorFecha()
+    {
+        // On any date, a code has at most one row: the periods of a code do not overlap.
+        for (int32_t fecha : {19930101, 19970101, 20000101, 20071231, 20080101, 20271231}) {
+            Arreglo lista;
+            servidor().ObtenerOperaciones(fecha, lista, 0);
+            QStringList codigos;
+            for (const QVariant& v : lista)
+                codigos << servidor().DameOperacionporDescripcion(v, fecha, 0);
+            QCOMPARE(codigos.removeDuplicates(), 0);
+            QVERIFY(!codigos.contains(QString()));
+        }
+    }
+};
+
+QTEST_MAIN(TestOperaciones)
+#include "test_decl_operaciones.moc"

@@ -1,0 +1,452 @@
+// The declaration record on its own: the clean new return of MODO "A", the date and amount
+// initialisations, the save and load arrays by index, and the copying of parties.
+#include "ApoyoDeclaracion.h"
+
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cOperacion.h"
+
+#include <QTest>
+
+namespace {
+
+// A return with a value in every field that differs from the new return's.
+void rellenarTodo(cDecDatos& d)
+{
+    d.CSDE = 41;
+    d.REFERENCIA = QStringLiteral("R");
+    d.CSPR = 2;
+    d.CSSU = 3;
+    d.CSTRA = 4;
+    d.FECHAD = 20100101;
+    d.ADQUIRIDO = QStringLiteral("X");
+    d.MARCA = QStringLiteral("M");
+    d.TIPO = QStringLiteral("T");
+    d.MODELO = QStringLiteral("MO");
+    d.BASTIDOR = QStringLiteral("B");
+    d.CLASIFICACION = 1000;
+    d.MOTOR = QStringLiteral("D");
+    d.CILINDRADA = 1900;
+    d.OPERACION = QStringLiteral("T2");
+    d.NOSUJETO = QStringLiteral("X");
+    d.EXENTO = QStringLiteral("X");
+    d.REDUCCION = QStringLiteral("Z");
+    d.BASEI = 1;
+    d.BASEIREDUCIDA = 2;
+    d.TIPOIMP = 3;
+    d.CUOTA = 4;
+    d.DEDUCCION = 5;
+    d.TOTAL = 6;
+    d.DNIPR = QStringLiteral("P");
+    d.NOMBREPR = QStringLiteral("NP");
+    d.DNISP = QStringLiteral("S");
+    d.NOMBRESP = QStringLiteral("NS");
+    d.VIASP = QStringLiteral("AV");
+    d.DOMICILIOSP = QStringLiteral("D");
+    d.NUMEROSP = 9;
+    d.LETRASP = QStringLiteral("L");
+    d.ESCALERASP = QStringLiteral("E");
+    d.PISOSP = QStringLiteral("P");
+    d.MANOSP = QStringLiteral("M");
+    d.CODPROVSP = QStringLiteral("48");
+    d.CODPOSSP = QStringLiteral("48001");
+    d.CODMUNSP = QStringLiteral("001");
+    d.NOMMUNSP = QStringLiteral("N");
+    d.TIPODNITR = QStringLiteral("N");
+    d.DNITR = QStringLiteral("T");
+    d.NOMBRETR = QStringLiteral("NT");
+    d.TIPODOMITR = QStringLiteral("E");
+    d.VIATR = QStringLiteral("PZ");
+    d.DOMICILIOTR = QStringLiteral("DT");
+    d.NUMEROTR = 8;
+    d.LETRATR = QStringLiteral("LT");
+    d.ESCALERATR = QStringLiteral("ET");
+    d.PISOTR = QStringLiteral("PT");
+    d.MANOTR = QStringLiteral("MT");
+    d.PAISTR = QStringLiteral("FR");
+    d.CODPROVTR = QStringLiteral("01");
+    d.NOMPROVTR = QStringLiteral("NPT");
+    d.CODPOSTR = QStringLiteral("75");
+    d.CODMUNTR = QStringLiteral("9");
+    d.NOMMUNTR = QStringLiteral("NMT");
+    d.DECLASP = 3;
+}
+
+void comprobarNueva(const cDecDatos& d)
+{
+    QCOMPARE(d.CSDE, 0);
+    QVERIFY(d.REFERENCIA.isEmpty());
+    QCOMPARE(d.CSPR, 0);
+    QCOMPARE(d.CSSU, 0);
+    QCOMPARE(d.CSTRA, 0);
+    QCOMPARE(d.FECHAD, 0);
+    QVERIFY(d.ADQUIRIDO.isEmpty() && d.MARCA.isEmpty() && d.TIPO.isEmpty()
+            && d.MODELO.isEmpty() && d.BASTIDOR.isEmpty());
+    QCOMPARE(d.CLASIFICACION, int16_t(0));
+    QCOMPARE(d.MOTOR, QStringLiteral("G"));
+    QCOMPARE(d.CILINDRADA, 0);
+    QVERIFY(d.OPERACION.isEmpty() && d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty()
+            && d.REDUCCION.isEmpty());
+    QCOMPARE(d.BASEI, 0.0);
+    QCOMPARE(d.BASEIREDUCIDA, 0.0);
+    QCOMPARE(d.TIPOIMP, 0.0);
+    QCOMPARE(d.CUOTA, 0.0);
+    QCOMPARE(d.DEDUCCION, 0.0);
+    QCOMPARE(d.TOTAL, 0.0);
+    QVERIFY(d.DNIPR.isEmpty() && d.NOMBREPR.isEmpty() && d.DNISP.isEmpty()
+            && d.NOMBRESP.isEmpty());
+    QCOMPARE(d.VIASP, QStringLiteral("CL"));
+    QVERIFY(d.DOMICILIOSP.isEmpty());
+    QCOMPARE(d.NUMEROSP, 0);
+    QVERIFY(d.LETRASP.isEmpty() && d.ESCALERASP.isEmpty() && d.PISOSP.isEmpty()
+            && d.MANOSP.isEmpty());
+    QCOMPARE(d.CODPROVSP, QStringLiteral("77"));
+    QVERIFY(d.CODPOSSP.isEmpty() && d.CODMUNSP.isEmpty() && d.NOMMUNSP.isEmpty());
+    QCOMPARE(d.TIPODNITR, QStringLiteral("O"));
+    QVERIFY(d.DNITR.isEmpty() && d.NOMBRETR.isEmpty());
+    QCOMPARE(d.TIPODOMITR, QStringLiteral("N"));
+    QCOMPARE(d.VIATR, QStringLiteral("CL"));
+    QVERIFY(d.DOMICILIOTR.isEmpty());
+    QCOMPARE(d.NUMEROTR, 0);
+    QVERIFY(d.LETRATR.isEmpty() && d.ESCALERATR.isEmpty() && d.PISOTR.isEmpty()
+            && d.MANOTR.isEmpty() && d.PAISTR.isEmpty());
+    QCOMPARE(d.CODPROVTR, QStringLiteral("77"));
+    QVERIFY(d.NOMPROVTR.isEmpty() && d.CODPOSTR.isEmpty() && d.CODMUNTR.isEmpty()
+            && d.NOMMUNTR.isEmpty());
+    QCOMPARE(d.DECLASP, 0.0);
+    // The subject's province name, kept without a property, is saved empty.
+    QCOMPARE(d.DatosGuardar().at(34).toString(), QString());
+}
+
+// A contributor's 19-value array.
+Arreglo parte(const QString& tipoDomi, const QString& prov, const QString& cp)
+{
+    return {15, QStringLiteral("N"), QStringLiteral("X1234567L"), QStringLiteral("NOMBRE"),
+            QStringLiteral("AV"), QStringLiteral("CALLE"), 12, QStringLiteral("A"),
+            QStringLiteral("B"), QStringLiteral("3"), QStringLiteral("DCH"), tipoDomi,
+            QStringLiteral("PAIS"), prov, QStringLiteral("PROVINCIA"), cp,
+            QStringLiteral("005"), QStringLiteral("MUNICIPIO"), 4.0};
+}
+
+}  // namespace
+
+class TestRegistro : public QObject {
+    Q_OBJECT
+
+private slots:
+    void modoAltaDejaLaDeclaracionNueva()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        d.ENTRADA = QStringLiteral("A");
+        d.LISTA = QStringLiteral("D");
+        Operacion().ActualizaOperacion({QStringLiteral("D"), QStringLiteral("K"), QString(),
+                                        QString(), 12, 0, 0, 5},
+                                       false);
+        d.setMODO(QStringLiteral("A"));
+        QCOMPARE(d.MODO(), QStringLiteral("A"));
+        comprobarNueva(d);
+        QVERIFY(Operacion().DESCRIP.isEmpty());
+        QCOMPARE(Operacion().T_TIP(), 0.0);
+        // The routing of the form is not part of the return.
+        QCOMPARE(d.ENTRADA, QStringLiteral("A"));
+        QCOMPARE(d.LISTA, QStringLiteral("D"));
+    }
+
+    void modoAltaDosVecesDaLoMismo()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        d.setMODO(QStringLiteral("A"));
+        const Arreglo primera = d.DatosGuardar();
+        d.setMODO(QStringLiteral("A"));
+        QCOMPARE(d.DatosGuardar(), primera);
+        comprobarNueva(d);
+    }
+
+    void modosConsultaYCopiaSoloGuardanLaLetra()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        const Arreglo antes = d.DatosGuardar();
+        d.setMODO(QStringLiteral("C"));
+        QCOMPARE(d.MODO(), QStringLiteral("C"));
+        QCOMPARE(d.DatosGuardar(), antes);
+        d.setMODO(QStringLiteral("D"));
+        QCOMPARE(d.MODO(), QStringLiteral("D"));
+        QCOMPARE(d.DatosGuardar(), antes);
+    }
+
+    void inicializaFechaConservaLaBaseDeUnaAbierta()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        d.setMODO(QStringLiteral("C"));
+        d.InicializaFecha();
+        QVERIFY(d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty() && d.REDUCCION.isEmpty());
+        QCOMPARE(d.BASEI, 1.0);
+        QCOMPARE(d.BASEIREDUCIDA, 0.0);
+        QCOMPARE(d.TIPOIMP, 0.0);
+        QCOMPARE(d.CUOTA, 0.0);
+        QCOMPARE(d.DEDUCCION, 0.0);
+        QCOMPARE(d.TOTAL, 0.0);
+        QCOMPARE(d.OPERACION, QStringLiteral("T2"));
+    }
+
+    void inicializaFechaBorraLaBaseDeUnaNueva()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.BASEI = 500;
+        d.TOTAL = 6;
+        d.InicializaFecha();
+        QCOMPARE(d.BASEI, 0.0);
+        QCOMPARE(d.TOTAL, 0.0);
+    }
+
+    void arregloDeGuardarEnSuOrden()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        const Arreglo a = d.DatosGuardar();
+        QCOMPARE(a.size(), 55);
+        const QVariantList esperado{
+            41, QStringLiteral("R"), 2, 3, 4, 20100101, QStringLiteral("X"), QStringLiteral("M"),
+            QStringLiteral("T"), QStringLiteral("MO"), QStringLiteral("B"), int16_t(1000),
+            QStringLiteral("D"), 1900, QStringLiteral("T2"), QStringLiteral("X"),
+            QStringLiteral("X"), QStringLiteral("Z"), 1.0, 2.0, 3.0, 4.0, 5.0, 6.0,
+            QStringLiteral("S"), QStringLiteral("NS"), QStringLiteral("AV"), QStringLiteral("D"),
+            9, QStringLiteral("L"), QStringLiteral("E"), QStringLiteral("P"), QStringLiteral("M"),
+            QStringLiteral("48"), QString(), QStringLiteral("48001"), QStringLiteral("001"),
+            QStringLiteral("N"), QStringLiteral("N"), QStringLiteral("T"), QStringLiteral("NT"),
+            QStringLiteral("PZ"), QStringLiteral("DT"), 8, QStringLiteral("LT"),
+            QStringLiteral("ET"), QStringLiteral("PT"), QStringLiteral("MT"), QStringLiteral("E"),
+            QStringLiteral("FR"), QStringLiteral("01"), QStringLiteral("NPT"),
+            QStringLiteral("75"), QStringLiteral("9"), QStringLiteral("NMT")};
+        QCOMPARE(esperado.size(), 55);
+        for (int i = 0; i < 55; ++i)
+            QVERIFY2(a[i].toString() == esperado[i].toString(), qPrintable(QString::number(i)));
+    }
+
+    void arregloDeCargaPorIndice()
+    {
+        // Each load index carries its own number as text, or as a number for numeric fields.
+        Arreglo carga;
+        for (int i = 0; i < 58; ++i)
+            carga << QStringLiteral("v%1").arg(i);
+        for (int i : {2, 3, 4, 5, 11, 13, 18, 19, 20, 21, 22, 23, 30, 45, 57})
+            carga[i] = 1000 + i;
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("C"));
+        d.CSDE = 7;
+        d.DatosCargados(carga);
+        QCOMPARE(d.CSDE, 7);
+        QCOMPARE(d.REFERENCIA, QStringLiteral("v1"));
+        QCOMPARE(d.CSPR, 1002);
+        QCOMPARE(d.CSSU, 1003);
+        QCOMPARE(d.CSTRA, 1004);
+        QCOMPARE(d.FECHAD, 1005);
+        QCOMPARE(d.ADQUIRIDO, QStringLiteral("v6"));
+        QCOMPARE(d.MARCA, QStringLiteral("v7"));
+        QCOMPARE(d.TIPO, QStringLiteral("v8"));
+        QCOMPARE(d.MODELO, QStringLiteral("v9"));
+        QCOMPARE(d.BASTIDOR, QStringLiteral("v10"));
+        QCOMPARE(d.CLASIFICACION, int16_t(1011));
+        QCOMPARE(d.MOTOR, QStringLiteral("v12"));
+        QCOMPARE(d.CILINDRADA, 1013);
+        QCOMPARE(d.OPERACION, QStringLiteral("v14"));
+        QCOMPARE(d.NOSUJETO, QStringLiteral("v15"));
+        QCOMPARE(d.EXENTO, QStringLiteral("v16"));
+        QCOMPARE(d.REDUCCION, QStringLiteral("v17"));
+        QCOMPARE(d.BASEI, 1018.0);
+        QCOMPARE(d.BASEIREDUCIDA, 1019.0);
+        QCOMPARE(d.TIPOIMP, 1020.0);
+        QCOMPARE(d.CUOTA, 1021.0);
+        QCOMPARE(d.DEDUCCION, 1022.0);
+        QCOMPARE(d.TOTAL, 1023.0);
+        QCOMPARE(d.DNIPR, QStringLiteral("v24"));
+        QCOMPARE(d.NOMBREPR, QStringLiteral("v25"));
+        QCOMPARE(d.DNISP, QStringLiteral("v26"));
+        QCOMPARE(d.NOMBRESP, QStringLiteral("v27"));
+        QCOMPARE(d.VIASP, QStringLiteral("v28"));
+        QCOMPARE(d.DOMICILIOSP, QStringLiteral("v29"));
+        QCOMPARE(d.NUMEROSP, 1030);
+        QCOMPARE(d.LETRASP, QStringLiteral("v31"));
+        QCOMPARE(d.ESCALERASP, QStringLiteral("v32"));
+        QCOMPARE(d.PISOSP, QStringLiteral("v33"));
+        QCOMPARE(d.MANOSP, QStringLiteral("v34"));
+        QCOMPARE(d.CODPROVSP, QStringLiteral("v35"));
+        QCOMPARE(d.CODPOSSP, QStringLiteral("v37"));
+        QCOMPARE(d.CODMUNSP, QStringLiteral("v38"));
+        QCOMPARE(d.NOMMUNSP, QStringLiteral("v39"));
+        QCOMPARE(d.TIPODNITR, QStringLiteral("v40"));
+        QCOMPARE(d.DNITR, QStringLiteral("v41"));
+        QCOMPARE(d.NOMBRETR, QStringLiteral("v42"));
+        QCOMPARE(d.VIATR, QStringLiteral("v43"));
+        QCOMPARE(d.DOMICILIOTR, QStringLiteral("v44"));
+        QCOMPARE(d.NUMEROTR, 1045);
+        QCOMPARE(d.LETRATR, QStringLiteral("v46"));
+        QCOMPARE(d.ESCALERATR, QStringLiteral("v47"));
+        QCOMPARE(d.PISOTR, QStringLiteral("v48"));
+        QCOMPARE(d.MANOTR, QStringLiteral("v49"));
+        QCOMPARE(d.TIPODOMITR, QStringLiteral("v50"));
+        QCOMPARE(d.PAISTR, QStringLiteral("v51"));
+        QCOMPARE(d.CODPROVTR, QStringLiteral("v52"));
+        QCOMPARE(d.NOMPROVTR, QStringLiteral("v53"));
+        QCOMPARE(d.CODPOSTR, QStringLiteral("v54"));
+        QCOMPARE(d.CODMUNTR, QStringLiteral("v55"));
+        QCOMPARE(d.NOMMUNTR, QStringLiteral("v56"));
+        QCOMPARE(d.DECLASP, 1057.0);
+        // The subject's province name (load value 36) is never saved.
+        QCOMPARE(d.DatosGuardar().at(34).toString(), QString());
+    }
+
+    void cargarSujetoNacional()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("1"), QStringLiteral("1001")));
+        QCOMPARE(d.CSSU, 15);
+        QCOMPARE(d.DNISP, QStringLiteral("X1234567L"));
+        QCOMPARE(d.NOMBRESP, QStringLiteral("NOMBRE"));
+        QCOMPARE(d.VIASP, QStringLiteral("AV"));
+        QCOMPARE(d.DOMICILIOSP, QStringLiteral("CALLE"));
+        QCOMPARE(d.NUMEROSP, 12);
+        QCOMPARE(d.LETRASP, QStringLiteral("A"));
+        QCOMPARE(d.ESCALERASP, QStringLiteral("B"));
+        QCOMPARE(d.PISOSP, QStringLiteral("3"));
+        QCOMPARE(d.MANOSP, QStringLiteral("DCH"));
+        QCOMPARE(d.CODPROVSP, QStringLiteral("01"));
+        QCOMPARE(d.CODPOSSP, QStringLiteral("1001"));  // as it stands
+        QCOMPARE(d.CODMUNSP, QStringLiteral("005"));
+        QCOMPARE(d.NOMMUNSP, QStringLiteral("MUNICIPIO"));
+        // Rows 1, 11, 12, 14 and 18 are not the subject's.
+        QCOMPARE(d.DECLASP, 0.0);
+        QCOMPARE(d.TIPODNITR, QStringLiteral("O"));
+    }
+
+    void cargarSujetoExtranjero()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.CargarSujetoPasivo(parte(QStringLiteral("E"), QStringLiteral("00"), QStringLiteral("7500")));
+        // Province and municipality stay those of the return; the postal code is five digits.
+        QCOMPARE(d.CODPROVSP, QStringLiteral("77"));
+        QVERIFY(d.CODMUNSP.isEmpty() && d.NOMMUNSP.isEmpty());
+        QCOMPARE(d.CODPOSSP, QStringLiteral("07500"));
+        d.CargarSujetoPasivo(parte(QStringLiteral("E"), QStringLiteral("8"), QStringLiteral("ABC")));
+        QCOMPARE(d.CODPROVSP, QStringLiteral("08"));
+        QCOMPARE(d.CODMUNSP, QStringLiteral("005"));
+        QCOMPARE(d.NOMMUNSP, QStringLiteral("MUNICIPIO"));
+        QCOMPARE(d.CODPOSSP, QStringLiteral("ABC"));
+    }
+
+    void arregloDesconocidoLimpiaLaParte()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("48"), QStringLiteral("48001")));
+        Arreglo vacia{0};
+        for (int i = 1; i <= 17; ++i)
+            vacia << (i == 6 ? QVariant(0) : QVariant(QString()));
+        vacia << 0.0;
+        d.CargarSujetoPasivo(vacia);
+        QCOMPARE(d.CSSU, 0);
+        QVERIFY(d.DNISP.isEmpty() && d.NOMBRESP.isEmpty() && d.DOMICILIOSP.isEmpty()
+                && d.CODPROVSP.isEmpty() && d.CODPOSSP.isEmpty() && d.CODMUNSP.isEmpty());
+        QCOMPARE(d.NUMEROSP, 0);
+    }
+
+    void cargarTransmitente()
+    {
+        cDecDatos& d = DecDatos();
+        d.setMODO(QStringLiteral("A"));
+        d.CargarTransmitente(parte(QStringLiteral("E"), QStringLiteral("9"), QStringLiteral("75002")));
+        QCOMPARE(d.CSTRA, 15);
+        QCOMPARE(d.TIPODNITR, QStringLiteral("N"));
+        QCOMPARE(d.DNITR, QStringLiteral("X1234567L"));
+        QCOMPARE(d.NOMBRETR, QStringLiteral("NOMBRE"));
+        QCOMPARE(d.VIATR, QStringLiteral("AV"));
+        QCOMPARE(d.DOMICILIOTR, QStringLiteral("CALLE"));
+        QCOMPARE(d.NUMEROTR, 12);
+        QCOMPARE(d.LETRATR, QStringLiteral("A"));
+        QCOMPARE(d.ESCALERATR, QStringLiteral("B"));
+        QCOMPARE(d.PISOTR, QStringLiteral("3"));
+        QCOMPARE(d.MANOTR, QStringLiteral("DCH"));
+        QCOMPARE(d.TIPODOMITR, QStringLiteral("E"));
+        QCOMPARE(d.PAISTR, QStringLiteral("PAIS"));
+        QCOMPARE(d.CODPROVTR, QStringLiteral("09"));
+        QCOMPARE(d.NOMPROVTR, QStringLiteral("PROVINCIA"));
+        QCOMPARE(d.CODPOSTR, QStringLiteral("75002"));
+        QCOMPARE(d.CODMUNTR, QStringLiteral("005"));
+        QCOMPARE(d.NOMMUNTR, QStringLiteral("MUNICIPIO"));
+        QCOMPARE(d.DECLASP, 4.0);
+    }
+
+    void volcarTransmitenteNacionalEnSujeto()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        d.TIPODOMITR = QStringLiteral("N");
+        d.CODPROVTR = QStringLiteral("77");
+        d.CODPOSTR = QStringLiteral("77005");
+        d.CODMUNTR = QStringLiteral("005");
+        d.NOMMUNTR = QString();
+        d.VolcarTrSp();
+        QCOMPARE(d.DNISP, QStringLiteral("T"));
+        QCOMPARE(d.NOMBRESP, QStringLiteral("NT"));
+        QCOMPARE(d.VIASP, QStringLiteral("PZ"));
+        QCOMPARE(d.DOMICILIOSP, QStringLiteral("DT"));
+        QCOMPARE(d.NUMEROSP, 8);
+        QCOMPARE(d.LETRASP, QStringLiteral("LT"));
+        QCOMPARE(d.ESCALERASP, QStringLiteral("ET"));
+        QCOMPARE(d.PISOSP, QStringLiteral("PT"));
+        QCOMPARE(d.MANOSP, QStringLiteral("MT"));
+        QCOMPARE(d.CODPROVSP, QStringLiteral("77"));
+        QCOMPARE(d.CODPOSSP, QStringLiteral("77005"));
+        QCOMPARE(d.CODMUNSP, QStringLiteral("005"));
+        QVERIFY(d.NOMMUNSP.isEmpty());
+        QCOMPARE(d.TIPODNITR, QStringLiteral("N"));  // a national address changes nothing else
+    }
+
+    void volcarTransmitenteExtranjeroLoHaceNacional()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);  // foreign address, foreign number
+        d.VolcarTrSp();
+        QCOMPARE(d.DNISP, QStringLiteral("T"));
+        QCOMPARE(d.CODPROVSP, QStringLiteral("48"));  // the subject keeps its province
+        QCOMPARE(d.CODPOSSP, QStringLiteral("00000"));
+        QCOMPARE(d.CODPROVTR, QStringLiteral("77"));
+        QVERIFY(d.NOMPROVTR.isEmpty() && d.CODMUNTR.isEmpty() && d.NOMMUNTR.isEmpty()
+                && d.PAISTR.isEmpty());
+        QCOMPARE(d.TIPODNITR, QStringLiteral("O"));
+        QCOMPARE(d.TIPODOMITR, QStringLiteral("N"));
+        QCOMPARE(d.CODPOSTR, QStringLiteral("00000"));
+    }
+
+    void volcarSujetoEnTransmitente()
+    {
+        cDecDatos& d = DecDatos();
+        rellenarTodo(d);
+        d.VolcarSpTR();
+        QCOMPARE(d.DNITR, QStringLiteral("S"));
+        QCOMPARE(d.NOMBRETR, QStringLiteral("NS"));
+        QCOMPARE(d.VIATR, QStringLiteral("AV"));
+        QCOMPARE(d.DOMICILIOTR, QStringLiteral("D"));
+        QCOMPARE(d.NUMEROTR, 9);
+        QCOMPARE(d.LETRATR, QStringLiteral("L"));
+        QCOMPARE(d.ESCALERATR, QStringLiteral("E"));
+        QCOMPARE(d.PISOTR, QStringLiteral("P"));
+        QCOMPARE(d.MANOTR, QStringLiteral("M"));
+        QCOMPARE(d.CODPROVTR, QStringLiteral("48"));
+        QCOMPARE(d.CODPOSTR, QStringLiteral("48001"));
+        QCOMPARE(d.CODMUNTR, QStringLiteral("001"));
+        QCOMPARE(d.NOMMUNTR, QStringLiteral("N"));
+        QVERIFY(d.NOMPROVTR.isEmpty() && d.PAISTR.isEmpty());
+        QCOMPARE(d.TIPODNITR, QStringLiteral("O"));
+        QCOMPARE(d.TIPODOMITR, QStringLiteral("N"));
+    }
+};
+
+QTEST_MAIN(TestRegistro)
+#include "test_decl_registro.moc"

@@ -1,0 +1,446 @@
+// The whole-return check as the declaration form runs it: the 33 values, the message and the
+// control that takes the focus for each rule, the check of the parties' tax numbers, and the
+// date of accrual with what a new date does to the operation, in both languages.
+#include "ApoyoDeclaracion.h"
+
+#include "registros/nucleo/CEntrada.h"
+#include "plataforma/General.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
+#include "registros/declaracion/Calculo.h"
+#include "registros/declaracion/FechaDevengo.h"
+#include "registros/declaracion/Validacion.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/declaracion/cOperacion.h"
+#include "valores/cFecha.h"
+
+#include <QTest>
+
+namespace {
+const QString kTitulo = QStringLiteral("Declaración");
+
+void euskera(bool si)
+{
+    OffsetIdioma = si ? 10000 : 0;
+    Fecha().fecidioma = si ? QStringLiteral("E") : QStringLiteral("C");
+}
+}  // namespace
+
+class TestValidacion : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<AlmacenDePrueba> m_almacen;
+
+private slots:
+    void init()
+    {
+        m_almacen = std::make_unique<AlmacenDePrueba>();
+        Entrada().FECMIN = 19930101;
+        Entrada().FECMAX = 20271231;
+        DeclaracionValida();
+        MensajeSeam::limpiar();
+    }
+
+    void cleanup()
+    {
+        euskera(false);
+        m_almacen.reset();
+    }
+
+    // --- The array ---------------------------------------------------------------------------
+
+    void arregloDeTreintaYTresValores()
+    {
+        cDecDatos& d = DecDatos();
+        d.CODPROVSP = QStringLiteral("1");
+        d.CODPOSSP = QStringLiteral("1001");
+        d.CODPROVTR = QStringLiteral("8");
+        d.CODPOSTR = QStringLiteral("8001");
+        const Arreglo a = DatosValidacion(true);
+        QCOMPARE(a.size(), 33);
+        QCOMPARE(a[0].toString(), d.MARCA);
+        QCOMPARE(a[1].toString(), d.MODELO);
+        QCOMPARE(a[2].toString(), d.TIPO);
+        QCOMPARE(a[3].toString(), d.BASTIDOR);
+        QCOMPARE(a[4].toInt(), 1000);
+        QCOMPARE(a[5].toInt(), 1598);
+        QCOMPARE(a[6].toString(), QStringLiteral("T2"));
+        QCOMPARE(a[7].toDouble(), 1500000.0);
+        QCOMPARE(a[8].toDouble(), 4.75);
+        QCOMPARE(a[9].toDouble(), 0.0);
+        QCOMPARE(a[12].toString(), d.DNISP);
+        QCOMPARE(a[16].toString(), QStringLiteral("01"));
+        QCOMPARE(a[17].toString(), QStringLiteral("01001"));
+        QCOMPARE(a[20].toString(), QStringLiteral("O"));
+        QCOMPARE(a[25].toString(), QStringLiteral("N"));
+        QCOMPARE(a[27].toString(), QStringLiteral("08"));
+        QCOMPARE(a[29].toString(), QStringLiteral("08001"));
+        QCOMPARE(a[32].toString(), QStringLiteral("G"));
+        // A foreign address passes its postal code as typed.
+        d.TIPODOMITR = QStringLiteral("E");
+        d.CODPOSTR = QStringLiteral("8001");
+        QCOMPARE(DatosValidacion(true)[29].toString(), QStringLiteral("8001"));
+        d.CODPOSTR = QStringLiteral("SW1A 1AA");
+        QCOMPARE(DatosValidacion(true)[29].toString(), QStringLiteral("SW1A 1AA"));
+    }
+
+    void tipoAbiertoLlevaLaTasaLibre()
+    {
+        DecDatos().OPERACION = QStringLiteral("TL");
+        DecDatos().ObtenerDatosOperacion(false);
+        const Arreglo a = DatosValidacion(false);
+        QVERIFY(EsTasaLibre(a[9].toDouble()));
+        QCOMPARE(a[10].toDouble(), 0.0);
+        QCOMPARE(a[11].toDouble(), 14.75);
+        QCOMPARE(DatosValidacion(true)[9].toDouble(), 0.0);
+    }
+
+    // --- Messages and focus ------------------------------------------------------------------
+
+    void mapaDeReglas_data()
+    {
+        QTest::addColumn<int>("numero");
+        QTest::addColumn<int>("id");
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<int>("pestana");
+        const int n = kPestanaNinguna, s = kPestanaSujeto, t = kPestanaTransmitente;
+        const struct {
+            int numero, id;
+            const char* control;
+            int pestana;
+        } tabla[] = {
+            {1, 132, "txtmarca", n}, {2, 133, "txtmodelo", n}, {3, 134, "txttipo", n},
+            {4, 135, "txtbastidor", n}, {5, 136, "txtclasificacion", n},
+            {6, 137, "txtcilindrada", n}, {7, 138, "txtoperacion", n}, {8, 139, "txtbasei", n},
+            {10, 330, "txtdnisp", s}, {11, 143, "txtnombresp", s}, {12, 144, "txtviasp", s},
+            {13, 145, "txtdomiciliosp", s}, {14, 146, "txtcodmunsp", s},
+            {15, 147, "txtnommunsp", s}, {16, 148, "txtcodpossp", s},
+            {17, 149, "txtcodpossp", s}, {18, 150, "txtcodpossp", s}, {19, 151, "txtdnitr", t},
+            {20, 152, "txtdnitr", t}, {21, 153, "txtnombretr", t}, {22, 154, "txtviatr", t},
+            {23, 155, "txtdomiciliotr", t}, {24, 156, "txtpaistr", t},
+            {25, 157, "txtcodpostr", t}, {26, 158, "txtcodpostr", t},
+            {27, 159, "txtcodpostr", t}, {28, 160, "txtcodpostr", t},
+            {29, 161, "txtnomprovtr", t}, {30, 162, "txtnommuntr", t},
+            {31, 163, "txtcodprovtr", t}, {32, 164, "txtcodmuntr", t},
+            {33, 283, "txtcilindrada", n}, {34, 284, "txtcilindrada", n},
+            {35, 281, "txtcilindrada", n}, {36, 282, "txtcilindrada", n},
+            {37, 323, "txtdnisp", s}, {38, 324, "txtoperacion", n}, {40, 362, "txtoperacion", n},
+        };
+        for (const auto& f : tabla)
+            QTest::newRow(qPrintable(QString::number(f.numero)))
+                << f.numero << f.id << QString::fromLatin1(f.control) << f.pestana;
+    }
+
+    void mapaDeReglas()
+    {
+        QFETCH(int, numero);
+        QFETCH(int, id);
+        QFETCH(QString, control);
+        QFETCH(int, pestana);
+        const Veredicto v = VeredictoDeclaracion(static_cast<int16_t>(numero), QString());
+        QCOMPARE(v.mensaje, Texto(id));
+        QCOMPARE(v.control, control);
+        QCOMPARE(v.pestana, pestana);
+    }
+
+    void mensajesCompuestos()
+    {
+        Operacion().setT_MIN(7);
+        Operacion().setT_MAX(12.5);
+        Veredicto v = VeredictoDeclaracion(9, QString());
+        QCOMPARE(v.mensaje,
+                 QStringLiteral("El Tipo Impositivo no puede ser menor que 7 ni mayor que 12,5\n"));
+        QCOMPARE(v.control, QStringLiteral("txttipoimp"));
+        v = VeredictoDeclaracion(39, QStringLiteral("Tipo 12 % con baja"));
+        QCOMPARE(v.mensaje,
+                 QStringLiteral("La operación no puede ser \"Tipo 12 % con baja\" si el año de "
+                                "devengo es superior al 2006 y la cilindrada es superior a "
+                                "2499CC"));
+        QCOMPARE(v.control, QStringLiteral("txtoperacion"));
+        euskera(true);
+        v = VeredictoDeclaracion(39, QStringLiteral("X"));
+        QCOMPARE(v.mensaje, Texto(356) + QStringLiteral("X") + Texto(357));
+        QVERIFY(v.mensaje.startsWith(QStringLiteral("Eragiketa ez daiteke")));
+    }
+
+    void numerosSinMensaje()
+    {
+        for (int n : {0, 41, 57, -1}) {
+            const Veredicto v = VeredictoDeclaracion(static_cast<int16_t>(n), QString());
+            QVERIFY(v.mensaje.isEmpty());
+            QVERIFY(v.control.isEmpty());
+        }
+    }
+
+    void declaracionValidaPasaSinMensaje()
+    {
+        Veredicto v;
+        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+        QCOMPARE(v.numero, int16_t(0));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
+
+    void soloSeDiceLaPrimeraRegla()
+    {
+        DecDatos().MARCA.clear();
+        DecDatos().DNISP = QStringLiteral("12345678A");
+        const Arreglo antes = DecDatos().DatosGuardar();
+        Veredicto v;
+        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+        QCOMPARE(v.numero, int16_t(1));
+        QCOMPARE(v.control, QStringLiteral("txtmarca"));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        const auto& m = MensajeSeam::registro().first();
+        QCOMPARE(m.texto, QStringLiteral("El campo Marca debe tener algún valor"));
+        QCOMPARE(m.titulo, kTitulo);
+        QCOMPARE(m.icono(), int(vb::Information));
+        // Nothing in the record changes during validation.
+        QCOMPARE(DecDatos().DatosGuardar(), antes);
+    }
+
+    void reglaDelTransmitenteLlevaSuPestana()
+    {
+        DecDatos().NOMBRETR.clear();
+        Veredicto v;
+        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+        QCOMPARE(v.numero, int16_t(21));
+        QCOMPARE(v.control, QStringLiteral("txtnombretr"));
+        QCOMPARE(v.pestana, kPestanaTransmitente);
+    }
+
+    void tasaLibreFueraDeLimitesEsLaNueve()
+    {
+        DecDatos().OPERACION = QStringLiteral("TL");
+        DecDatos().ObtenerDatosOperacion(false);
+        DecDatos().TIPOIMP = 15;
+        Veredicto v;
+        QVERIFY(!ValidarCampos(false, kTitulo, Operacion().DESCRIP, &v));
+        QCOMPARE(v.numero, int16_t(9));
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 QStringLiteral("El Tipo Impositivo no puede ser menor que 0 ni mayor que 14,75\n"));
+        // The same return with the box locked does not check the limits.
+        MensajeSeam::limpiar();
+        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+    }
+
+    void exentoPasaConTipoCero()
+    {
+        DecDatos().OPERACION = QStringLiteral("E4");
+        DecDatos().ObtenerDatosOperacion(false);
+        AplicarOperacion();
+        QCOMPARE(DecDatos().TIPOIMP, 0.0);
+        QCOMPARE(DatosValidacion(true)[9].toDouble(), 0.0);
+        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP));
+    }
+
+    void operacionQueYaNoRigeSeDetiene()
+    {
+        DecDatos().OPERACION = QStringLiteral("TN");  // ended in 2007; the return is of 2010
+        Veredicto v;
+        QVERIFY(!ValidarCampos(true, kTitulo, QString(), &v));
+        QCOMPARE(v.numero, int16_t(7));
+    }
+
+    void planDeBajasConMensajeDeLaOperacion()
+    {
+        cDecDatos& d = DecDatos();
+        d.FECHAD = 20070601;
+        d.OPERACION = QStringLiteral("P6");
+        d.CILINDRADA = 2998;
+        d.ObtenerDatosOperacion(false);
+        AplicarOperacion();
+        Veredicto v;
+        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+        QCOMPARE(v.numero, int16_t(39));
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 Texto(356) + Operacion().DESCRIP + Texto(357));
+    }
+
+    // --- ValidarNifIntervinientes --------------------------------------------------------------
+
+    void numerosBuenos()
+    {
+        DecDatos().DNIPR = DniValido(99999999);
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(0));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
+
+    void presentadorErroneoParaTodo()
+    {
+        DecDatos().DNIPR = QStringLiteral("11111111A");
+        DecDatos().DNISP = QStringLiteral("22222222A");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(-1));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(331));
+        QCOMPARE(MensajeSeam::registro().first().icono(), int(vb::Information));
+    }
+
+    void sujetoYTransmitenteALaVez()
+    {
+        DecDatos().DNISP = QStringLiteral("22222222A");
+        DecDatos().DNITR = QStringLiteral("33333333A");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(-1));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        const auto& m = MensajeSeam::registro().first();
+        QCOMPARE(m.texto, QStringLiteral("El/Los Interviniente/s con NIF:  22222222A, 33333333A "
+                                         "tiene/n un NIF erróneo o necesita/n llevar el dígito de "
+                                         "control"));
+        QCOMPARE(m.icono(), int(vb::Exclamation));
+        QCOMPARE(m.titulo, kTitulo);
+    }
+
+    void enEuskera()
+    {
+        euskera(true);
+        DecDatos().DNITR = QStringLiteral("33333333A");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(-1));
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 QStringLiteral(" 33333333A IFZ duten esku hartzailea(e)k IFZ okerra du(te) edo "
+                                "kontrol digitua eraman behar du(te)."));
+    }
+
+    void transmitenteExtranjero()
+    {
+        DecDatos().TIPODNITR = QStringLiteral("N");
+        DecDatos().DNITR = QStringLiteral("X99");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(0));
+        DecDatos().DNITR = QStringLiteral("AB1234567");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(0));
+        DecDatos().DNITR = QStringLiteral("000");
+        QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(-1));
+        QVERIFY(MensajeSeam::registro().first().texto.contains(QStringLiteral("NIF:  000 ")));
+    }
+
+    // --- The date of accrual -----------------------------------------------------------------
+
+    void fechaErronea()
+    {
+        QVERIFY(!ValidarFecha(QStringLiteral("31/04/2010")));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 QStringLiteral("La Fecha de Devengo introducida no es correcta"));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(MensajeSeam::registro().first().icono(), int(vb::Exclamation));
+    }
+
+    void fechaFueraDeLimites()
+    {
+        QVERIFY(!ValidarFecha(QStringLiteral("31/12/1992")));
+        QCOMPARE(MensajeSeam::registro().first().texto,
+                 QStringLiteral("La Fecha de Devengo no puede ser anterior al 01/01/1993 ni "
+                                "posterior al 31/12/2027\n"));
+        QVERIFY(!ValidarFecha(QStringLiteral("01/01/2028")));
+        QVERIFY(ValidarFecha(QStringLiteral("01/01/1993")));
+        QVERIFY(ValidarFecha(QStringLiteral("31/12/2027")));
+        QCOMPARE(MensajeSeam::registro().size(), 2);
+    }
+
+    void fechaEnEuskera()
+    {
+        euskera(true);
+        QVERIFY(!ValidarFecha(QStringLiteral("2010/02/30")));
+        QCOMPARE(MensajeSeam::registro().last().texto, Texto(169));
+        QVERIFY(!ValidarFecha(QStringLiteral("2028/01/01")));
+        QCOMPARE(MensajeSeam::registro().last().texto,
+                 QStringLiteral("Sortzapen data ezin da lehenagokoa izan egun hau baino "
+                                "1993/01/01ezta geroakoa ere egun hau baino 2027/12/31\n"));
+        QCOMPARE(MensajeSeam::registro().last().titulo, Texto(131));
+        QVERIFY(ValidarFecha(QStringLiteral("2010/02/28")));
+    }
+
+    void comprobarFechaGuardaYAvisa()
+    {
+        bool avisado = false;
+        QVERIFY(ComprobarFecha(QStringLiteral("15/06/2012"), [&] { avisado = true; }));
+        QVERIFY(avisado);
+        QCOMPARE(DecDatos().FECHAD, 20120615);
+        avisado = false;
+        QVERIFY(!ComprobarFecha(QStringLiteral("15/13/2012"), [&] { avisado = true; }));
+        QVERIFY(!avisado);
+        QCOMPARE(DecDatos().FECHAD, 20120615);
+        euskera(true);
+        QVERIFY(ComprobarFecha(QStringLiteral("2013/01/02"), {}));
+        QCOMPARE(DecDatos().FECHAD, 20130102);
+    }
+
+    // --- A new date and the operation ----------------------------------------------------------
+
+    void operacionQueSigueRigiendo()
+    {
+        DecDatos().FECHAD = 20200101;
+        const QStringList lista = ActualizarOperacionPorFecha(true);
+        QCOMPARE(lista.size(), 14);
+        QCOMPARE(DecDatos().OPERACION, QStringLiteral("T2"));
+        QCOMPARE(DecDatos().TIPOIMP, 4.75);
+        QCOMPARE(DecDatos().CUOTA, 71250.0);
+        QVERIFY(EntradaDeLista(lista, Operacion().DESCRIP) >= 0);
+    }
+
+    void operacionQueDejaDeRegirEnUnaNueva()
+    {
+        DecDatos().FECHAD = 20050101;
+        const QStringList lista = ActualizarOperacionPorFecha(true);
+        QCOMPARE(lista.size(), 15);
+        QVERIFY(DecDatos().OPERACION.isEmpty());
+        QCOMPARE(DecDatos().BASEI, 0.0);  // a new return loses its base too
+        QCOMPARE(DecDatos().TIPOIMP, 0.0);
+        QCOMPARE(DecDatos().CUOTA, 0.0);
+        QCOMPARE(DecDatos().TOTAL, 0.0);
+        QVERIFY(Operacion().DESCRIP.isEmpty());
+    }
+
+    void operacionQueDejaDeRegirEnUnaAbierta()
+    {
+        DecDatos().setMODO(QStringLiteral("C"));
+        DecDatos().FECHAD = 20050101;
+        ActualizarOperacionPorFecha(true);
+        QVERIFY(DecDatos().OPERACION.isEmpty());
+        QCOMPARE(DecDatos().BASEI, 1500000.0);
+        QCOMPARE(DecDatos().TOTAL, 0.0);
+    }
+
+    void tasaLibreConLosLimitesDeLaNuevaFecha()
+    {
+        cDecDatos& d = DecDatos();
+        d.OPERACION = QStringLiteral("TL");
+        d.ObtenerDatosOperacion(false);
+        d.TIPOIMP = 13;
+        AplicarOperacion();
+        QCOMPARE(d.TIPOIMP, 13.0);  // typed within 0 to 14,75
+        d.FECHAD = 20050101;
+        ActualizarOperacionPorFecha(false);
+        QCOMPARE(d.OPERACION, QStringLiteral("TL"));
+        QCOMPARE(Operacion().T_MAX(), 12.0);
+        QCOMPARE(d.TIPOIMP, 0.0);  // out of 7 to 12: set to 0 without a word
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        d.TIPOIMP = 10;
+        d.FECHAD = 20090101;
+        ActualizarOperacionPorFecha(false);
+        QCOMPARE(d.TIPOIMP, 10.0);
+    }
+
+    void laReduccionElegidaSeConservaConLaFecha()
+    {
+        cDecDatos& d = DecDatos();
+        ActualizarReduccion({true, true, true, false});
+        CalcularValores();
+        QCOMPARE(d.REDUCCION, QStringLiteral("X"));
+        d.FECHAD = 20110101;
+        ActualizarOperacionPorFecha(true);
+        QCOMPARE(d.REDUCCION, QStringLiteral("X"));
+        QCOMPARE(d.BASEIREDUCIDA, 750000.0);
+    }
+
+    void entradaDeLista()
+    {
+        const QStringList lista{QStringLiteral("Tipo general: 12 %"), QStringLiteral("TIPO X")};
+        QCOMPARE(EntradaDeLista(lista, QStringLiteral("Tipo general: 12 %")), 0);
+        QCOMPARE(EntradaDeLista(lista, QStringLiteral("tipo x")), 1);
+        QCOMPARE(EntradaDeLista(lista, QString()), -1);
+        QCOMPARE(EntradaDeLista(lista, QStringLiteral("Otra")), -1);
+    }
+};
+
+QTEST_MAIN(TestValidacion)
+#include "test_decl_validacion.moc"

@@ -1,0 +1,688 @@
+// The store of contributors: each verdict of the validation on its own and the order between
+// them, the import's errors, saving, loading and deleting, the counters, and the search.
+#include "AlmacenPartes.h"
+
+#include "plataforma/Fallo.h"
+#include "plataforma/General.h"
+#include "servicios/Conexion.h"
+#include "servicios/ValidacionPartes.h"
+#include "servicios/cContribSvr.h"
+
+#include <QtTest>
+
+namespace {
+
+cContribSvr Svr()
+{
+    cContribSvr s;
+    s.mdbmod = mdbmod;
+    s.mdblec = mdblec;
+    return s;
+}
+
+// The validation arrays of three valid contributors: national in the treasury's province,
+// national elsewhere, foreign with a foreign document.
+Arreglo Tesoreria()
+{
+    return {"O", "12345678Z", "GARCIA LOPEZ JUAN", "MAYOR", "N", "", "77", "77001", "", "", "1"};
+}
+Arreglo OtraProvincia()
+{
+    return {"O", "12345678Z", "GARCIA LOPEZ JUAN", "MAYOR", "N", "", "48", "48001", "", "BILBAO", ""};
+}
+Arreglo Extranjero()
+{
+    return {"N", "AB1234567", "SMITH JOHN", "HIGH STREET", "E", "REINO UNIDO", "", "", "LONDRES",
+            "LONDRES", ""};
+}
+
+Arreglo Con(Arreglo a, std::initializer_list<std::pair<int, QVariant>> cambios)
+{
+    for (const auto& [i, v] : cambios)
+        a[i] = v;
+    return a;
+}
+
+// Validation array indexes.
+enum { TIPODNI, DNI, NOMBRE, DOMICILIO, TIPODOMI, PAIS, CODPROV, CODPOS, NOMPROV, NOMMUN, CODMUN };
+// Import array extra indexes.
+enum { NUMERO = 11, NUMSPI, NUMTRI, SIGLA };
+
+QList<int> Errores(const Arreglo& importar)
+{
+    Arreglo2D e;
+    Svr().ValidarDatosImportar(importar, e);
+    QList<int> codigos;
+    if (e.isEmpty())
+        return codigos;
+    const qsizetype ubound = e[0].size() - 1;
+    for (qsizetype k = 0; k < ubound; ++k)
+        codigos << e[0][k].toInt();
+    return codigos;
+}
+
+Arreglo Cargar(int32_t csco)
+{
+    Arreglo d;
+    Svr().CargarContribuyente(csco, d);
+    return d;
+}
+
+int32_t Guardar(const Arreglo& a)
+{
+    const int16_t v = Svr().GuardarContribuyente(a);
+    if (v != 0)
+        return -v;
+    return Svr().ObtenerCodigoContribuyente(a[2].toString());
+}
+
+QStringList Columna(const Arreglo2D& datos, int c)
+{
+    QStringList t;
+    for (const QVariant& v : datos[c])
+        t << v.toString();
+    return t;
+}
+
+Arreglo Criterios(const QVariant& nombre, const QVariant& dni)
+{
+    return {0, nombre, dni};
+}
+
+}  // namespace
+
+class TestContribSvr : public QObject {
+    Q_OBJECT
+
+private slots:
+    // --- Verdicts of ValidarDatosContribuyentes, each on its own -----------------------------
+    void validos()
+    {
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Tesoreria()), 0);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(OtraProvincia()), 0);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Extranjero()), 0);
+        // Each form of official number.
+        for (const char* n : {"X1234567L", "K1234567L", "B12345674", "Q2826000H"})
+            QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{DNI, n}})), 0);
+        // The validation needs no database at all.
+        QCOMPARE(cContribSvr().ValidarDatosContribuyentes(Tesoreria()), 0);
+    }
+
+    void veredictos_data()
+    {
+        QTest::addColumn<Arreglo>("datos");
+        QTest::addColumn<int>("veredicto");
+        QTest::newRow("1 forma") << Con(Tesoreria(), {{DNI, "1234X678Z"}}) << 1;
+        QTest::newRow("1 largo") << Con(Tesoreria(), {{DNI, "1234567Z"}}) << 1;
+        QTest::newRow("1 extranjero cero") << Con(Extranjero(), {{DNI, "0000"}}) << 1;
+        QTest::newRow("2 vacío") << Con(Tesoreria(), {{DNI, ""}}) << 2;
+        QTest::newRow("2 extranjero vacío") << Con(Extranjero(), {{DNI, "  "}}) << 2;
+        QTest::newRow("3") << Con(Tesoreria(), {{NOMBRE, " "}}) << 3;
+        QTest::newRow("4") << Con(Tesoreria(), {{DOMICILIO, ""}}) << 4;
+        QTest::newRow("5") << Con(Extranjero(), {{PAIS, ""}}) << 5;
+        QTest::newRow("6") << Con(Tesoreria(), {{CODPOS, "48001"}}) << 6;
+        QTest::newRow("6 provincia 1") << Con(OtraProvincia(), {{CODPROV, "1"}}) << 6;
+        QTest::newRow("7 cuatro") << Con(Tesoreria(), {{CODPOS, "7700"}}) << 7;
+        QTest::newRow("7 seis") << Con(Tesoreria(), {{CODPOS, "770011"}}) << 7;
+        QTest::newRow("7 letras") << Con(Tesoreria(), {{CODPOS, "77A01"}}) << 7;
+        QTest::newRow("8") << Con(Tesoreria(), {{CODPOS, "77000"}}) << 8;
+        QTest::newRow("9 vacío") << Con(Tesoreria(), {{CODPOS, ""}}) << 9;
+        QTest::newRow("9 ceros") << Con(Tesoreria(), {{CODPOS, "00000"}}) << 9;
+        QTest::newRow("10") << Con(Extranjero(), {{NOMPROV, ""}}) << 10;
+        QTest::newRow("11 nacional") << Con(OtraProvincia(), {{NOMMUN, ""}}) << 11;
+        QTest::newRow("11 extranjero") << Con(Extranjero(), {{NOMMUN, ""}}) << 11;
+        QTest::newRow("12") << Con(OtraProvincia(), {{CODPROV, ""}}) << 12;
+        QTest::newRow("12 cero") << Con(OtraProvincia(), {{CODPROV, "00"}}) << 12;
+        QTest::newRow("13") << Con(Tesoreria(), {{CODMUN, ""}}) << 13;
+        QTest::newRow("13 cero") << Con(Tesoreria(), {{CODMUN, "000"}}) << 13;
+        QTest::newRow("14 letra") << Con(Tesoreria(), {{DNI, "12345678A"}}) << 14;
+        QTest::newRow("14 sin letra") << Con(Tesoreria(), {{DNI, "12345678"}}) << 14;
+        QTest::newRow("14 cif") << Con(Tesoreria(), {{DNI, "B12345675"}}) << 14;
+    }
+
+    void veredictos()
+    {
+        QFETCH(Arreglo, datos);
+        QFETCH(int, veredicto);
+        QCOMPARE(int(Svr().ValidarDatosContribuyentes(datos)), veredicto);
+    }
+
+    // --- The order between the verdicts --------------------------------------------------------
+    void ordenDeLosVeredictos()
+    {
+        // Each pair breaks two rules; the lower number is told.
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{DNI, ""}, {NOMBRE, ""}, {DOMICILIO, ""}})), 2);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{DNI, "1234"}, {NOMBRE, ""}})), 1);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{NOMBRE, ""}, {DOMICILIO, ""}})), 3);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Extranjero(), {{DOMICILIO, ""}, {PAIS, ""}})), 4);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Extranjero(), {{PAIS, ""}, {NOMPROV, ""}, {NOMMUN, ""}})), 5);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{CODPOS, "48001"}, {CODMUN, ""}})), 6);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{CODPOS, "77000"}, {CODMUN, ""}})), 8);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{CODPOS, ""}, {CODMUN, ""}})), 9);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Extranjero(), {{NOMPROV, ""}, {NOMMUN, ""}})), 10);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(OtraProvincia(), {{NOMMUN, ""}, {DNI, "12345678A"}})), 11);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{CODMUN, ""}, {DNI, "12345678A"}})), 13);
+        // The check character comes last: a wrong letter and an empty name tell the name.
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Tesoreria(), {{NOMBRE, ""}, {DNI, "12345678A"}})), 3);
+        // A domicile made national again, with no province: the missing province is told
+        // (id 39), not a municipality name or a postal code of another province.
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Extranjero(), {{TIPODOMI, "N"}, {DNI, "12345678Z"}, {TIPODNI, "O"},
+                                        {PAIS, ""}, {NOMPROV, ""}, {NOMMUN, ""},
+                                        {CODPOS, "48001"}})),
+                 12);
+    }
+
+    void documentoExtranjero()
+    {
+        // The Spanish rules do not hold for a foreign document, but an empty or zero number is
+        // still refused; the same number as an official one is judged by its letter.
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Extranjero(), {{DNI, "12345678A"}})), 0);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(
+                     Con(Extranjero(), {{DNI, "12345678A"}, {TIPODNI, "O"}})), 14);
+        // A foreign document with a national domicile is a valid contributor (a transmitter).
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{TIPODNI, "N"}, {DNI, "P12"}})), 0);
+    }
+
+    // --- Import errors ------------------------------------------------------------------------
+    void importarSinErrores()
+    {
+        AlmacenDePrueba almacen;
+        Arreglo2D e;
+        Svr().ValidarDatosImportar(ImportacionNacional(), e);
+        QCOMPARE(e.size(), 1);
+        QVERIFY(e[0].size() - 1 <= 0);
+        // A foreign contributor with 00 and 000 for its codes.
+        Arreglo ext = ImportacionNacional();
+        ext[TIPODNI] = "N";
+        ext[DNI] = QStringLiteral("AB1234   ");
+        ext[TIPODOMI] = "E";
+        ext[PAIS] = QStringLiteral("FRANCIA").leftJustified(20);
+        ext[CODPROV] = "00";
+        ext[CODPOS] = "75001";
+        ext[NOMPROV] = QStringLiteral("PARIS").leftJustified(20);
+        ext[NOMMUN] = QStringLiteral("PARIS").leftJustified(25);
+        ext[CODMUN] = "000";
+        QCOMPARE(Errores(ext), QList<int>());
+        // Another province, its municipality typed.
+        Arreglo otra = ImportacionNacional();
+        otra[CODPROV] = "01";
+        otra[CODPOS] = "01001";
+        otra[CODMUN] = "000";
+        otra[NOMMUN] = QStringLiteral("VITORIA").leftJustified(25);
+        QCOMPARE(Errores(otra), QList<int>());
+    }
+
+    void importarCadaError_data()
+    {
+        QTest::addColumn<Arreglo>("datos");
+        QTest::addColumn<QList<int>>("errores");
+        const Arreglo n = ImportacionNacional();
+        Arreglo ext = n;
+        ext[TIPODOMI] = "E";
+        ext[PAIS] = "FRANCIA";
+        ext[CODPROV] = "00";
+        ext[CODPOS] = "75001";
+        ext[NOMPROV] = "PARIS";
+        ext[NOMMUN] = "PARIS";
+        ext[CODMUN] = "000";
+        Arreglo otra = n;
+        otra[CODPROV] = "01";
+        otra[CODPOS] = "01001";
+        otra[CODMUN] = "000";
+        otra[NOMMUN] = "VITORIA";
+        using L = QList<int>;
+        QTest::newRow("1") << Con(n, {{DNI, "12345678A"}}) << L{1};
+        QTest::newRow("1 forma") << Con(n, {{DNI, "1234"}}) << L{1};
+        QTest::newRow("2") << Con(n, {{DNI, "         "}}) << L{2};
+        QTest::newRow("3") << Con(n, {{NOMBRE, QString(40, ' ')}}) << L{3};
+        QTest::newRow("4") << Con(n, {{DOMICILIO, ""}}) << L{4};
+        QTest::newRow("5") << Con(ext, {{PAIS, "   "}}) << L{5};
+        QTest::newRow("6") << Con(n, {{CODPOS, "48001"}}) << L{6};
+        QTest::newRow("7") << Con(n, {{CODPOS, " 7701"}}) << L{7};
+        QTest::newRow("8") << Con(n, {{CODPOS, "77000"}}) << L{8};
+        QTest::newRow("9") << Con(n, {{CODPOS, "00000"}}) << L{9};
+        QTest::newRow("10") << Con(ext, {{NOMPROV, ""}}) << L{10};
+        QTest::newRow("11") << Con(otra, {{NOMMUN, ""}}) << L{11};
+        QTest::newRow("12") << Con(otra, {{CODPROV, "00"}, {CODPOS, "00000"}}) << L{9, 12};
+        QTest::newRow("13") << Con(n, {{CODMUN, "000"}}) << L{13};
+        QTest::newRow("14") << Con(n, {{NUMERO, "12A  "}}) << L{14};
+        QTest::newRow("15") << Con(n, {{CODPROV, "7X"}}) << L{15};
+        QTest::newRow("16") << Con(n, {{CODPOS, "77O01"}}) << L{16};
+        QTest::newRow("17") << Con(n, {{CODMUN, "0O1"}}) << L{17};
+        QTest::newRow("18") << Con(n, {{NUMSPI, "00000-1"}}) << L{18};
+        QTest::newRow("19") << Con(n, {{NUMTRI, "ABC    "}}) << L{19};
+        QTest::newRow("20") << Con(n, {{TIPODNI, "X"}}) << L{20};
+        QTest::newRow("21") << Con(n, {{TIPODOMI, "Z"}}) << L{21};
+        QTest::newRow("22") << Con(n, {{SIGLA, "QQ"}}) << L{22};
+        QTest::newRow("22 vacía") << Con(n, {{SIGLA, "  "}}) << L{22};
+        QTest::newRow("22 minúsculas") << Con(n, {{SIGLA, "cl"}}) << L{22};
+        QTest::newRow("23") << Con(ext, {{CODPROV, "48"}}) << L{23};
+        QTest::newRow("24") << Con(ext, {{CODMUN, "001"}}) << L{24};
+        QTest::newRow("25") << Con(n, {{NOMPROV, "ARBELIA"}}) << L{25};
+        QTest::newRow("26") << Con(n, {{CODMUN, "999"}}) << L{26};
+        QTest::newRow("27") << Con(n, {{NOMMUN, "ARBELGAIN"}}) << L{27};
+        QTest::newRow("28") << Con(n, {{CODPROV, "99"}, {CODPOS, "99001"}, {CODMUN, "000"},
+                                      {NOMMUN, "NINGUNA"}})
+                            << L{28};
+        QTest::newRow("29") << Con(otra, {{CODMUN, "005"}}) << L{29};
+        QTest::newRow("30") << Con(n, {{PAIS, "ESPAÑA"}}) << L{30};
+        // Blanks in a number field stand for 0.
+        QTest::newRow("número en blanco") << Con(n, {{NUMERO, "     "}, {NUMSPI, "       "}}) << L{};
+    }
+
+    void importarCadaError()
+    {
+        AlmacenDePrueba almacen;
+        QFETCH(Arreglo, datos);
+        QFETCH(QList<int>, errores);
+        QCOMPARE(Errores(datos), errores);
+    }
+
+    void importarTodosLosErroresALaVez()
+    {
+        AlmacenDePrueba almacen;
+        Arreglo a = ImportacionNacional();
+        a[TIPODNI] = "Q";
+        a[DNI] = "12345678A";
+        a[NOMBRE] = "";
+        a[DOMICILIO] = "";
+        a[PAIS] = "FRANCIA";
+        a[NOMPROV] = "X";
+        a[NOMMUN] = "Y";
+        a[NUMERO] = "A";
+        a[NUMSPI] = "B";
+        a[NUMTRI] = "C";
+        a[SIGLA] = "ZZ";
+        a[CODMUN] = "998";
+        const QList<int> esperados{1, 3, 4, 14, 18, 19, 20, 22, 25, 26, 27, 30};
+        QCOMPARE(Errores(a), esperados);
+        // The array has one spare element after the errors.
+        Arreglo2D e;
+        Svr().ValidarDatosImportar(a, e);
+        QCOMPARE(e[0].size() - 1, esperados.size());
+    }
+
+    void importarNecesitaLaBaseDeReferencia()
+    {
+        AlmacenDePrueba almacen;
+        cContribSvr s;
+        s.mdbmod = mdbmod;
+        s.mdblec = almacen.carpeta().tablas() + QStringLiteral("NOEXISTE.mdb");
+        Arreglo2D e;
+        QVERIFY_THROWS_EXCEPTION(cFallo, s.ValidarDatosImportar(ImportacionNacional(), e));
+    }
+
+    // --- Save, load, delete ------------------------------------------------------------------
+    void guardarYCargar()
+    {
+        AlmacenDePrueba almacen;
+        const Arreglo a = ContribuyenteNacional(Dni(11111111), QStringLiteral("PEREZ ANA"));
+        const int32_t csco = Guardar(a);
+        QVERIFY(csco > 0);
+        const Arreglo d = Cargar(csco);
+        QCOMPARE(d.size(), 20);
+        for (int i = 1; i < 18; ++i)
+            QCOMPARE(d[i].toString(), a[i].toString());
+        QCOMPARE(d[6].typeId(), QMetaType::Int);
+        QCOMPARE(d[18].toDouble(), 0.0);
+        QCOMPARE(d[19].toDouble(), 0.0);
+
+        const Arreglo e = ContribuyenteExtranjero(QStringLiteral("AB123"), QStringLiteral("SMITH"));
+        const int32_t otro = Guardar(e);
+        QVERIFY(otro > csco);
+        const Arreglo de = Cargar(otro);
+        QCOMPARE(de[15].toString(), QStringLiteral("1234"));  // a foreign postal code as typed
+        QCOMPARE(de[13].toString(), QString());
+    }
+
+    void guardarFormaAlmacenada()
+    {
+        // The raw strings of an exchange line are stored in their plain form.
+        AlmacenDePrueba almacen;
+        Arreglo a = ContribuyenteNacional(QStringLiteral("12345678Z"), QString());
+        a[3] = QStringLiteral("GARCIA LOPEZ JUAN").leftJustified(40);
+        a[5] = QStringLiteral("MAYOR").leftJustified(20);
+        a[6] = QStringLiteral("00012");
+        a[13] = QStringLiteral("7");
+        a[15] = QStringLiteral("7001");
+        a[16] = QStringLiteral("1");
+        a[18] = QStringLiteral("0000005");
+        const int32_t csco = Guardar(a);
+        QVERIFY(csco > 0);
+        const Arreglo d = Cargar(csco);
+        QCOMPARE(d[3].toString(), QStringLiteral("GARCIA LOPEZ JUAN"));
+        QCOMPARE(d[5].toString(), QStringLiteral("MAYOR"));
+        QCOMPARE(d[6].toInt(), 12);
+        QCOMPARE(d[13].toString(), QStringLiteral("07"));
+        QCOMPARE(d[15].toString(), QStringLiteral("07001"));
+        QCOMPARE(d[16].toString(), QStringLiteral("001"));
+        // The counter of the array is not stored: no declaration names the contributor.
+        QCOMPARE(d[18].toDouble(), 0.0);
+    }
+
+    void guardarVeredictos()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(1), QStringLiteral("UNO")));
+        const int32_t b = Guardar(ContribuyenteNacional(Dni(2), QStringLiteral("DOS")));
+        QVERIFY(a > 0 && b > 0);
+        // 1: insert of a number already in the store, whatever its case or blanks.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), QStringLiteral("OTRO"))), 1);
+        QCOMPARE(Svr().GuardarContribuyente(
+                     ContribuyenteExtranjero(QStringLiteral("ab12"), QStringLiteral("X"))),
+                 0);
+        QCOMPARE(Svr().GuardarContribuyente(
+                     ContribuyenteExtranjero(QStringLiteral(" AB12 "), QStringLiteral("Y"))),
+                 1);
+        // 2: update to a number held by another.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(2), QStringLiteral("UNO"), a)), 2);
+        // Neither changed anything.
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 3);
+        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("UNO"));
+        // An update keeping the own number, and one changing it to a free number.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), QStringLiteral("UNO BIS"), a)), 0);
+        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("UNO BIS"));
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(3), QStringLiteral("TRES"), a)), 0);
+        QCOMPARE(Svr().ObtenerCodigoContribuyente(Dni(3)), a);
+        QCOMPARE(Svr().ObtenerCodigoContribuyente(Dni(1)), 0);
+    }
+
+    void guardarSustituir()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(5), QStringLiteral("VIEJO")));
+        // The import's replace: element 0 from ExisteContribuyente.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("NUEVO"), a), true), 0);
+        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("NUEVO"));
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
+        // Replace without a code replaces the one that has the number.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("OTRA VEZ")), true), 0);
+        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("OTRA VEZ"));
+        // Add: a new one; the number must be free.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("X"), a), false), 1);
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(6), QStringLiteral("X"), a), false), 0);
+        QVERIFY(Svr().ExisteContribuyente(Dni(6)) != a);
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
+    }
+
+    void guardarCodigoDesaparecido()
+    {
+        // An update of a code the store no longer has writes the record back under that code.
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(7), QStringLiteral("SIETE")));
+        QVERIFY(Svr().BorrarContribuyente(a));
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(7), QStringLiteral("SIETE"), a)), 0);
+        QCOMPARE(Svr().ExisteContribuyente(Dni(7)), a);
+    }
+
+    void guardarValorImposibleNoEscribeNada()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(8), QStringLiteral("OCHO")));
+        Arreglo malo = ContribuyenteNacional(Dni(8), QStringLiteral("CAMBIADO"), a);
+        malo[6] = QStringLiteral("12A");
+        QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
+        malo = ContribuyenteNacional(Dni(8), QString(41, QLatin1Char('N')), a);
+        QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
+        malo = ContribuyenteNacional(Dni(8), QStringLiteral("CAMBIADO"), a);
+        malo[11] = QStringLiteral("X");
+        QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
+        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("OCHO"));
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
+    }
+
+    void cargarCodigoInexistente()
+    {
+        AlmacenDePrueba almacen;
+        QVERIFY(Cargar(12345).isEmpty());
+    }
+
+    void borrar()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(9), QStringLiteral("NUEVE")));
+        QVERIFY(Svr().BorrarContribuyente(a));
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
+        // A code the store no longer has: no row, no failure.
+        QVERIFY(!Svr().BorrarContribuyente(a));
+    }
+
+    void existeYCodigo()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(10), QStringLiteral("DIEZ")));
+        const int32_t b = Guardar(ContribuyenteExtranjero(QStringLiteral("AB123"), QStringLiteral("E")));
+        QCOMPARE(Svr().ExisteContribuyente(Dni(10)), a);
+        // The field of an exchange line, with its blanks.
+        QCOMPARE(Svr().ExisteContribuyente(QStringLiteral("AB123    ")), b);
+        QCOMPARE(Svr().ExisteContribuyente(QStringLiteral("ab123")), b);
+        QCOMPARE(Svr().ExisteContribuyente(Dni(11)), 0);
+        QCOMPARE(Svr().ExisteContribuyente(QString()), 0);
+        QCOMPARE(Svr().ObtenerCodigoContribuyente(Dni(10)), a);
+    }
+
+    void tipoDniDomicilio()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t nacional = Guardar(ContribuyenteNacional(Dni(20), QStringLiteral("A")));
+        const int32_t extranjero = Guardar(ContribuyenteExtranjero(QStringLiteral("AB20"), QStringLiteral("B")));
+        Arreglo docExtranjero = ContribuyenteNacional(QStringLiteral("PX20"), QStringLiteral("C"));
+        docExtranjero[1] = "N";
+        const int32_t noOficial = Guardar(docExtranjero);
+        Arreglo domExtranjero = ContribuyenteExtranjero(Dni(21), QStringLiteral("D"));
+        domExtranjero[1] = "O";
+        const int32_t fuera = Guardar(domExtranjero);
+        QVERIFY(Svr().ValidarTipoDniDomicilio(nacional));
+        QVERIFY(!Svr().ValidarTipoDniDomicilio(extranjero));
+        QVERIFY(!Svr().ValidarTipoDniDomicilio(noOficial));
+        QVERIFY(!Svr().ValidarTipoDniDomicilio(fuera));
+        QVERIFY(!Svr().ValidarTipoDniDomicilio(99999));
+    }
+
+    // --- Counters --------------------------------------------------------------------------
+    void contadores()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t a = Guardar(ContribuyenteNacional(Dni(30), QStringLiteral("SUJETO")));
+        const int32_t b = Guardar(ContribuyenteNacional(Dni(31), QStringLiteral("VENDEDOR")));
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{0, 0}));
+        const int32_t d1 = almacen.NuevaDeclaracion(a, b);
+        almacen.NuevaDeclaracion(a, b);
+        almacen.NuevaDeclaracion(a, a);
+        almacen.NuevaDeclaracion(0, b);
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(b), (Arreglo{0, 3}));
+        const Arreglo d = Cargar(a);
+        QCOMPARE(d[18].toDouble(), 3.0);
+        QCOMPARE(d[19].toDouble(), 1.0);
+
+        // Whatever a save array carries, the counters stay those of the declarations.
+        Arreglo g = ContribuyenteNacional(Dni(30), QStringLiteral("SUJETO"), a);
+        g[18] = 0.0;
+        g[19] = 77.0;
+        QCOMPARE(Svr().GuardarContribuyente(g), 0);
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
+        QCOMPARE(Svr().GuardarContribuyente(g, true), 0);
+        QCOMPARE(Cargar(a)[18].toDouble(), 3.0);
+
+        // The list shows the same.
+        Arreglo2D datos;
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), datos, 1), 2);
+        const qsizetype fila = datos[0].indexOf(QVariant(a));
+        QCOMPARE(datos[5][fila].toInt(), 3);
+        QCOMPARE(datos[6][fila].toInt(), 1);
+        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), datos, 1), 2);
+        QCOMPARE(datos[18][datos[0].indexOf(QVariant(b))].toDouble(), 0.0);
+        QCOMPARE(datos[19][datos[0].indexOf(QVariant(b))].toDouble(), 3.0);
+
+        // A declaration deleted: the counter follows.
+        almacen.BorrarDeclaracion(d1);
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{2, 1}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(b), (Arreglo{0, 2}));
+    }
+
+    void borrarNombradoEnDeclaracion()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t sujeto = Guardar(ContribuyenteNacional(Dni(40), QStringLiteral("S")));
+        const int32_t transmitente = Guardar(ContribuyenteNacional(Dni(41), QStringLiteral("T")));
+        const int32_t d = almacen.NuevaDeclaracion(sujeto, transmitente);
+        QVERIFY(!Svr().BorrarContribuyente(sujeto));
+        QVERIFY(!Svr().BorrarContribuyente(transmitente));
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
+        // Its number may still change.
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(42), QStringLiteral("S"), sujeto)), 0);
+        almacen.BorrarDeclaracion(d);
+        QVERIFY(Svr().BorrarContribuyente(sujeto));
+        QVERIFY(Svr().BorrarContribuyente(transmitente));
+    }
+
+    // --- Search --------------------------------------------------------------------------
+    void busquedaPrefijos()
+    {
+        AlmacenDePrueba almacen;
+        Guardar(ContribuyenteNacional(Dni(50), QStringLiteral("GARCIA PEREZ ANA")));
+        Guardar(ContribuyenteNacional(Dni(51), QStringLiteral("GARCES LUIS")));
+        Guardar(ContribuyenteNacional(Dni(60), QStringLiteral("ALONSO JUAN")));
+        Guardar(ContribuyenteNacional(QStringLiteral("X1234567L"), QStringLiteral("GARZA MARIA")));
+        Arreglo2D d;
+        // No criteria: all, by name.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 1), 4);
+        QCOMPARE(d.size(), 7);
+        QCOMPARE(Columna(d, 1), (QStringList{"ALONSO JUAN", "GARCES LUIS", "GARCIA PEREZ ANA", "GARZA MARIA"}));
+        // By DNI.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 2), 4);
+        QCOMPARE(Columna(d, 2), (QStringList{Dni(50), Dni(51), Dni(60), "X1234567L"}));
+        // Name prefix, without regard to case.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GARC", 0), d, 1), 2);
+        QCOMPARE(Columna(d, 1), (QStringList{"GARCES LUIS", "GARCIA PEREZ ANA"}));
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("garc", 0), d, 1), 2);
+        // DNI prefix; a prefix "0" given as text is a criterion.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "0000005"), d, 1), 2);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "0"), d, 1), 3);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "x"), d, 1), 1);
+        // Both at once.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GAR", "X"), d, 1), 1);
+        QCOMPARE(Columna(d, 1), QStringList{"GARZA MARIA"});
+        // Both, ordered by DNI.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GAR", 0), d, 2), 3);
+        QCOMPARE(Columna(d, 2), (QStringList{Dni(50), Dni(51), "X1234567L"}));
+        // An emptied criterion matches all.
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("", 0), d, 1), 4);
+        // Nothing found: the seven columns, no rows (an upper bound of -1).
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("ZZ", 0), d, 1), 0);
+        QCOMPARE(d.size(), 7);
+        QCOMPARE(d[0].size() - 1, -1);
+    }
+
+    void busquedaCaracteresEspeciales()
+    {
+        AlmacenDePrueba almacen;
+        Guardar(ContribuyenteNacional(Dni(70), QStringLiteral("O'BRIEN SEAN")));
+        Guardar(ContribuyenteNacional(Dni(71), QStringLiteral("OXBRIEN ANA")));
+        Guardar(ContribuyenteNacional(Dni(72), QStringLiteral("100% MOTOR SL")));
+        Guardar(ContribuyenteNacional(Dni(73), QStringLiteral("1000 MOTOS SL")));
+        Guardar(ContribuyenteNacional(Dni(74), QStringLiteral("A_B SL")));
+        Guardar(ContribuyenteNacional(Dni(75), QStringLiteral("AXB SL")));
+        Guardar(ContribuyenteNacional(Dni(76), QStringLiteral("AB SL")));
+        Arreglo2D d;
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("O'", 0), d, 1), 1);
+        QCOMPARE(Columna(d, 1), QStringList{"O'BRIEN SEAN"});
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("O'BRIEN SEAN", 0), d, 1), 1);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("100%", 0), d, 1), 1);
+        QCOMPARE(Columna(d, 1), QStringList{"100% MOTOR SL"});
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("%", 0), d, 1), 0);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("A_", 0), d, 1), 1);
+        QCOMPARE(Columna(d, 1), QStringList{"A_B SL"});
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("_", 0), d, 1), 0);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("' OR 1=1 --", 0), d, 1), 0);
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "%"), d, 1), 0);
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 7);
+    }
+
+    void ordenDeLaLista()
+    {
+        // Ñ after N, accents and case aside; ties by the code.
+        AlmacenDePrueba almacen;
+        Guardar(ContribuyenteNacional(Dni(100), QStringLiteral("MUOZ A")));
+        Guardar(ContribuyenteNacional(Dni(101), QStringLiteral("MUÑOZ B")));
+        Guardar(ContribuyenteNacional(Dni(102), QStringLiteral("MUNOZ C")));
+        Guardar(ContribuyenteNacional(Dni(103), QStringLiteral("MUNIZ D")));
+        Guardar(ContribuyenteNacional(Dni(104), QStringLiteral("muñoz a")));
+        Guardar(ContribuyenteNacional(Dni(105), QStringLiteral("MÚGICA")));
+        Guardar(ContribuyenteNacional(Dni(106), QStringLiteral("MUZA")));
+        Guardar(ContribuyenteNacional(Dni(107), QStringLiteral("MUZA")));
+        Arreglo2D d;
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("M", 0), d, 1), 8);
+        QCOMPARE(Columna(d, 1), (QStringList{"MÚGICA", "MUNIZ D", "MUNOZ C", "muñoz a", "MUÑOZ B",
+                                             "MUOZ A", "MUZA", "MUZA"}));
+        QCOMPARE(Columna(d, 2).mid(6), (QStringList{Dni(106), Dni(107)}));
+        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("m", 0), d, 1), 8);
+        QCOMPARE(Columna(d, 3).first(), QStringLiteral("MÚGICA"));
+        QCOMPARE(Columna(d, 3).at(4), QStringLiteral("MUÑOZ B"));
+    }
+
+    void conexionCerradaEntreLlamadas()
+    {
+        // A statement kept from an earlier call is compiled again once its connection has been
+        // closed (a restore, for one).
+        AlmacenDePrueba almacen;
+        QVERIFY(Guardar(ContribuyenteNacional(Dni(110), QStringLiteral("ANTES"))) > 0);
+        Conexion::Cerrar(mdbmod);
+        QVERIFY(Guardar(ContribuyenteNacional(Dni(111), QStringLiteral("DESPUES"))) > 0);
+        QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(110), QStringLiteral("X"))), 1);
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
+    }
+
+    void busquedaMunicipio()
+    {
+        AlmacenDePrueba almacen;
+        const int32_t tesoreria = Guardar(ContribuyenteNacional(Dni(80), QStringLiteral("A")));
+        Arreglo otra = ContribuyenteNacional(Dni(81), QStringLiteral("B"));
+        otra[13] = "48";
+        otra[15] = "48001";
+        otra[16] = "";
+        otra[17] = "BILBAO";
+        const int32_t bilbao = Guardar(otra);
+        const int32_t londres = Guardar(ContribuyenteExtranjero(QStringLiteral("AB81"), QStringLiteral("C")));
+        Arreglo2D d;
+        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 1), 3);
+        const auto municipio = [&d](int32_t c) { return d[4][d[0].indexOf(QVariant(c))].toString(); };
+        QCOMPARE(municipio(tesoreria), QStringLiteral("ARBELGAIN"));
+        QCOMPARE(municipio(bilbao), QStringLiteral("BILBAO"));
+        QCOMPARE(municipio(londres), QStringLiteral("LONDRES"));
+        QCOMPARE(d[3][d[0].indexOf(QVariant(bilbao))].toString(), QStringLiteral("MAYOR"));
+    }
+
+    void busquedaTodo()
+    {
+        AlmacenDePrueba almacen;
+        const Arreglo a = ContribuyenteNacional(Dni(90), QStringLiteral("TODO"));
+        const int32_t c = Guardar(a);
+        Guardar(ContribuyenteNacional(Dni(91), QStringLiteral("OTRO")));
+        Arreglo2D d;
+        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("TO", 0), d, 1), 1);
+        QCOMPARE(d.size(), 20);
+        QCOMPARE(d[0][0].toInt(), c);
+        for (int i = 1; i < 18; ++i)
+            QCOMPARE(d[i][0].toString(), a[i].toString());
+        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), d, 2), 2);
+        QCOMPARE(Columna(d, 2), (QStringList{Dni(90), Dni(91)}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestContribSvr)
+#include "test_contribsvr.moc"

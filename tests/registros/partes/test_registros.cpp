@@ -1,0 +1,546 @@
+// The program's records of a contributor and a presenter (their defaults, the reset of MODO
+// "A", loading and the arrays they give the store) and the state of the two party lists.
+#include "AlmacenPartes.h"
+
+#include "plataforma/General.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
+#include "registros/partes/cConLista.h"
+#include "registros/partes/cPreDatos.h"
+#include "registros/partes/cPreLista.h"
+#include "servicios/cContribSvr.h"
+
+#include <QtTest>
+
+namespace {
+
+void LlenarContribuyente(cConDatos& c)
+{
+    c.TIPODNI = "N";
+    c.DNIC = "AB123";
+    c.NOMBREC = "VIEJO";
+    c.TIPODOMI = "E";
+    c.VIAC = "AV";
+    c.DOMICILIOC = "CALLE";
+    c.NUMEROC = 5;
+    c.LETRAC = "A";
+    c.ESCALERAC = "B";
+    c.PISOC = "C";
+    c.MANOC = "D";
+    c.PAIS = "FRANCIA";
+    c.CODPROVC = "";
+    c.NOMPROVC = "PARIS";
+    c.CODPOSC = "75001";
+    c.CODMUNC = "";
+    c.NOMMUNC = "PARIS";
+    c.NUMSP = 3;
+    c.NUMTR = 4;
+}
+
+void ComprobarDefectos(const cConDatos& c)
+{
+    QCOMPARE(c.TIPODNI, QStringLiteral("O"));
+    QCOMPARE(c.DNIC, QString());
+    QCOMPARE(c.NOMBREC, QString());
+    QCOMPARE(c.TIPODOMI, QStringLiteral("N"));
+    QCOMPARE(c.VIAC, QStringLiteral("CL"));
+    QCOMPARE(c.DOMICILIOC, QString());
+    QCOMPARE(c.NUMEROC, 0);
+    QCOMPARE(c.LETRAC, QString());
+    QCOMPARE(c.ESCALERAC, QString());
+    QCOMPARE(c.PISOC, QString());
+    QCOMPARE(c.MANOC, QString());
+    QCOMPARE(c.PAIS, QString());
+    QCOMPARE(c.CODPROVC, QStringLiteral("77"));
+    QCOMPARE(c.NOMPROVC, QString());
+    QCOMPARE(c.CODPOSC, QString());
+    QCOMPARE(c.CODMUNC, QString());
+    QCOMPARE(c.NOMMUNC, QString());
+    QCOMPARE(c.NUMSP, 0.0);
+    QCOMPARE(c.NUMTR, 0.0);
+}
+
+}  // namespace
+
+class TestRegistros : public QObject {
+    Q_OBJECT
+
+private slots:
+    // --- cConDatos ---------------------------------------------------------------------
+    void modoAReiniciaSalvoCodigoYLista()
+    {
+        cConDatos c;
+        LlenarContribuyente(c);
+        c.CSCO = 42;
+        c.LISTA = "S";
+        c.setMODO("A");
+        QCOMPARE(c.MODO(), QStringLiteral("A"));
+        ComprobarDefectos(c);
+        QCOMPARE(c.CSCO, 42);
+        QCOMPARE(c.LISTA, QStringLiteral("S"));
+    }
+
+    void modoADosVecesYLuegoC()
+    {
+        cConDatos c;
+        c.setMODO("A");
+        c.NOMBREC = "ESCRITO";
+        c.setMODO("A");
+        ComprobarDefectos(c);
+        // "C" after "A" changes nothing but MODO.
+        c.setMODO("C");
+        QCOMPARE(c.MODO(), QStringLiteral("C"));
+        ComprobarDefectos(c);
+        LlenarContribuyente(c);
+        c.setMODO("C");
+        QCOMPARE(c.NOMBREC, QStringLiteral("VIEJO"));
+    }
+
+    void instanciaCompartida()
+    {
+        QCOMPARE(&ConDatos(), &ConDatos());
+        QCOMPARE(&PreDatos(), &PreDatos());
+        QCOMPARE(&ConLista(), &ConLista());
+        QCOMPARE(&PreLista(), &PreLista());
+        ConDatos().NOMBREC = "COMPARTIDO";
+        QCOMPARE(ConDatos().NOMBREC, QStringLiteral("COMPARTIDO"));
+    }
+
+    void guardarYCargarDesdeElRegistro()
+    {
+        AlmacenDePrueba almacen;
+        cConDatos c;
+        c.setMODO("A");
+        c.CSCO = 0;
+        c.DNIC = Dni(123);
+        c.NOMBREC = "REGISTRO";
+        c.DOMICILIOC = "MAYOR";
+        c.NUMEROC = 4;
+        c.CODPOSC = "77003";
+        c.CODMUNC = "3";
+        QCOMPARE(c.ValidarDatosContribuyente(c.ArregloValidacion()), 0);
+        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 0);
+        const int32_t csco = c.ObtenerCodigoContribuyente(c.DNIC);
+        QVERIFY(csco > 0);
+
+        cConDatos l;
+        l.setMODO("C");
+        l.LISTA = "S";
+        l.CSCO = csco;
+        l.CargarContribuyente(csco);
+        QCOMPARE(l.MODO(), QStringLiteral("C"));
+        QCOMPARE(l.LISTA, QStringLiteral("S"));
+        QCOMPARE(l.DNIC, Dni(123));
+        QCOMPARE(l.NOMBREC, QStringLiteral("REGISTRO"));
+        QCOMPARE(l.NUMEROC, 4);
+        QCOMPARE(l.CODPROVC, QStringLiteral("77"));
+        QCOMPARE(l.CODPOSC, QStringLiteral("77003"));
+        QCOMPARE(l.CODMUNC, QStringLiteral("003"));
+        QCOMPARE(l.TIPODNI, QStringLiteral("O"));
+        QCOMPARE(l.TIPODOMI, QStringLiteral("N"));
+
+        // The counters come from the declarations.
+        almacen.NuevaDeclaracion(csco, 0);
+        l.CargarContribuyente(csco);
+        QCOMPARE(l.NUMSP, 1.0);
+        QCOMPARE(l.NUMTR, 0.0);
+
+        // The verdict of a duplicate number.
+        c.NOMBREC = "OTRO";
+        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 1);
+        QCOMPARE(cConDatos::IdMensajeGuardar(1), 41);
+        QCOMPARE(cConDatos::IdMensajeGuardar(2), 42);
+    }
+
+    void provinciaUnoLeeCeroUno()
+    {
+        // A store that holds the province as 1: it reads "01"; municipality and postal code
+        // pass through untouched.
+        AlmacenDePrueba almacen;
+        almacen.Ejecutar(QStringLiteral(
+            "INSERT INTO CONTRIBUYENTES (CSCO, TIPODNI, DNIC, NOMBREC, TIPODOMI, CODPROVC, "
+            "CODPOSC, CODMUNC, NOMMUNC) VALUES (7, 'O', '12345678Z', 'ALAVES', 'N', '1', '1001', "
+            "'5', 'VITORIA')"));
+        cConDatos c;
+        c.setMODO("C");
+        c.CSCO = 7;
+        c.CargarContribuyente(7);
+        QCOMPARE(c.CODPROVC, QStringLiteral("01"));
+        QCOMPARE(c.CODPOSC, QStringLiteral("1001"));
+        QCOMPARE(c.CODMUNC, QStringLiteral("5"));
+        QCOMPARE(c.NOMMUNC, QStringLiteral("VITORIA"));
+    }
+
+    void cargarCodigoInexistenteNoToca()
+    {
+        AlmacenDePrueba almacen;
+        cConDatos c;
+        LlenarContribuyente(c);
+        c.CargarContribuyente(999);
+        QCOMPARE(c.NOMBREC, QStringLiteral("VIEJO"));
+        QCOMPARE(c.NUMSP, 3.0);
+    }
+
+    void borrarCodigoInexistenteNoSeInforma()
+    {
+        AlmacenDePrueba almacen;
+        GrabarSeams();
+        cConDatos c;
+        c.CSCO = 4242;
+        MensajeSeam::limpiar();
+        c.BorrarContribuyente();
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
+    }
+
+    void borrarDesdeElRegistro()
+    {
+        AlmacenDePrueba almacen;
+        cConDatos c;
+        c.setMODO("A");
+        c.DNIC = Dni(124);
+        c.NOMBREC = "BORRAR";
+        c.DOMICILIOC = "X";
+        c.CODPOSC = "77001";
+        c.CODMUNC = "1";
+        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 0);
+        c.CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
+        c.BorrarContribuyente();
+        QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
+    }
+
+    void veredictoFueraDeTabla()
+    {
+        // A verdict of 15 or more has no message (and is not 0, so no acceptance).
+        QCOMPARE(cConDatos::IdMensajeValidacion(0), 0);
+        QCOMPARE(cConDatos::IdMensajeValidacion(1), 330);
+        QCOMPARE(cConDatos::IdMensajeValidacion(2), 29);
+        QCOMPARE(cConDatos::IdMensajeValidacion(13), 40);
+        QCOMPARE(cConDatos::IdMensajeValidacion(14), 329);
+        QCOMPARE(cConDatos::IdMensajeValidacion(15), 0);
+        QCOMPARE(cConDatos::IdMensajeValidacion(300), 0);
+        QCOMPARE(cConDatos::IdMensajeValidacion(-1), 0);
+        QCOMPARE(Texto(cConDatos::IdMensajeValidacion(6)),
+                 QStringLiteral("El Código de Provincia y el Código Postal no coinciden"));
+    }
+
+    void idsDeImportacion()
+    {
+        const QList<int> ids{330, 293, 294, 295, 296, 33,  34,  35,  36,  297,
+                             298, 299, 300, 285, 286, 287, 288, 289, 290, 301,
+                             302, 308, 306, 307, 304, 310, 311, 309, 305, 303};
+        for (int codigo = 1; codigo <= 30; ++codigo)
+            QCOMPARE(cConDatos::IdMensajeImportar(codigo), ids[codigo - 1]);
+        QCOMPARE(cConDatos::IdMensajeImportar(0), 0);
+        QCOMPARE(cConDatos::IdMensajeImportar(31), 0);
+        QCOMPARE(Texto(cConDatos::IdMensajeImportar(27)),
+                 QStringLiteral("Al ser la provincia Arbelia, no se admite el nombre de municipio"));
+    }
+
+    void importarSinErroresDesdeElRegistro()
+    {
+        AlmacenDePrueba almacen;
+        Arreglo2D errores;
+        ConDatos().ValidarDatosImportar(ImportacionNacional(), errores);
+        QVERIFY(errores.size() == 1 && errores[0].size() - 1 <= 0);
+        Arreglo malo = ImportacionNacional();
+        malo[2] = QString(40, QLatin1Char(' '));
+        ConDatos().ValidarDatosImportar(malo, errores);
+        QCOMPARE(errores[0].size() - 1, 1);
+        QCOMPARE(errores[0][0].toInt(), 3);
+    }
+
+    void arreglosDelRegistro()
+    {
+        cConDatos c;
+        LlenarContribuyente(c);
+        c.CSCO = 9;
+        QCOMPARE(c.ArregloValidacion(),
+                 (Arreglo{"N", "AB123", "VIEJO", "CALLE", "E", "FRANCIA", "", "75001", "PARIS",
+                          "PARIS", ""}));
+        const Arreglo g = c.ArregloGuardar();
+        QCOMPARE(g.size(), 20);
+        QCOMPARE(g[0].toInt(), 9);
+        QCOMPARE(g[4].toString(), QStringLiteral("AV"));
+        QCOMPARE(g[6].toInt(), 5);
+        QCOMPARE(g[11].toString(), QStringLiteral("E"));
+        QCOMPARE(g[14].toString(), QStringLiteral("PARIS"));
+        QCOMPARE(g[18].toDouble(), 3.0);
+        QCOMPARE(g[19].toDouble(), 4.0);
+    }
+
+    // --- cPreDatos ---------------------------------------------------------------------
+    void presentadorModoA()
+    {
+        cPreDatos p;
+        p.CSPR = 5;
+        p.LISTA = "S";
+        p.DNIP = "X";
+        p.TELEFONOP = "945000000";
+        p.CODPROVP = "48";
+        p.VIAP = "AV";
+        p.NUMEROP = 3;
+        p.setMODO("A");
+        QCOMPARE(p.DNIP, QString());
+        QCOMPARE(p.TELEFONOP, QString());
+        QCOMPARE(p.CODPROVP, QStringLiteral("77"));
+        QCOMPARE(p.VIAP, QStringLiteral("CL"));
+        QCOMPARE(p.NUMEROP, 0);
+        QCOMPARE(p.CSPR, 5);
+        QCOMPARE(p.LISTA, QStringLiteral("S"));
+        p.DNIP = "Y";
+        p.setMODO("C");
+        QCOMPARE(p.DNIP, QStringLiteral("Y"));
+    }
+
+    void presentadorCargarFormatos()
+    {
+        AlmacenDePrueba almacen;
+        almacen.Ejecutar(QStringLiteral(
+            "INSERT INTO PRESENTADORES (CSPR, DNIP, NOMBREP, CODPROVP, CODPOSP, CODMUNP, NOMMUNP, "
+            "TELEFONOP) VALUES (3, '12345678Z', 'P', '1', '1001', '', 'VITORIA', '0')"));
+        cPreDatos p;
+        p.setMODO("C");
+        p.TELEFONOP = "ANTES";
+        p.CargarPresentador(3);
+        QCOMPARE(p.CODPROVP, QStringLiteral("01"));
+        QCOMPARE(p.CODPOSP, QStringLiteral("01001"));
+        QCOMPARE(p.TELEFONOP, QString());
+        QCOMPARE(p.NOMMUNP, QStringLiteral("VITORIA"));
+    }
+
+    void presentadorDesdeElRegistro()
+    {
+        AlmacenDePrueba almacen;
+        cPreDatos p;
+        p.setMODO("A");
+        p.CSPR = 0;
+        p.DNIP = Dni(150);
+        p.NOMBREP = "GESTOR";
+        p.DOMICILIOP = "MAYOR";
+        p.CODMUNP = "2";
+        p.CODPOSP = "77002";
+        p.TELEFONOP = "94512345";
+        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 9);
+        QCOMPARE(cPreDatos::IdMensajeValidacion(9), 198);
+        p.TELEFONOP = "";
+        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 10);
+        QCOMPARE(cPreDatos::IdMensajeValidacion(10), 199);
+        p.TELEFONOP = "945123456";
+        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 0);
+        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 0);
+        p.CSPR = p.ObtenerCodigoPresentador(p.DNIP);
+        QVERIFY(p.CSPR > 0);
+        almacen.NuevaDeclaracion(0, 0, p.CSPR);
+        QCOMPARE(p.NDeclaPresentador(), int16_t(1));
+        p.DNIP = Dni(151);
+        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 3);
+        QCOMPARE(cPreDatos::IdMensajeGuardar(3), 197);
+        QCOMPARE(p.DNIP, Dni(151));  // the record keeps what was typed
+        p.BorrarPresentador();
+        QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 1);
+        cPreDatos l;
+        l.CargarPresentador(p.CSPR);
+        QCOMPARE(l.DNIP, Dni(150));
+        QCOMPARE(l.CODMUNP, QStringLiteral("002"));
+        QCOMPARE(cPreDatos::IdMensajeValidacion(12), 0);
+        QCOMPARE(cPreDatos::IdMensajeValidacion(11), 329);
+        QCOMPARE(cPreDatos::IdMensajeGuardar(4), 0);
+    }
+
+    // --- cConLista, cPreLista ------------------------------------------------------------
+    void iniciarListaPorEntrada()
+    {
+        cConLista l;
+        l.ORDEN = 2;
+        l.CSCO = 7;
+        l.NUMSP = 1;
+        l.NUMCONTRISEL = 3;
+        l.TABLASELECCION = TablaCriterios{cCriterio{"1", "GAR"}};
+        l.BUSQUEDA = "B";
+        l.ENTRADA = "P";
+        l.MODO = "E";
+        l.IniciarLista();
+        // Coming back keeps order, criteria and selection, in open mode.
+        QCOMPARE(l.ORDEN, uint8_t(2));
+        QCOMPARE(l.CSCO, 7);
+        QVERIFY(l.HayCriterios());
+        QCOMPARE(l.MODO, QStringLiteral("C"));
+        QCOMPARE(l.BUSQUEDA, QStringLiteral("N"));
+        l.ENTRADA = "E";
+        l.IniciarLista();
+        QCOMPARE(l.MODO, QStringLiteral("E"));
+        QCOMPARE(l.ORDEN, uint8_t(1));
+        QCOMPARE(l.CSCO, 0);
+        QCOMPARE(l.NUMSP, 0);
+        QCOMPARE(l.NUMCONTRISEL, 0);
+        QVERIFY(!l.TABLASELECCION.has_value());
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
+        l.ENTRADA = "A";
+        l.IniciarLista();
+        QCOMPARE(l.MODO, QStringLiteral("C"));
+    }
+
+    void criteriosDniYLuegoNombre()
+    {
+        // Typing a prefix under DNI and then under the name: two criteria, the order of the
+        // second.
+        cConLista l;
+        l.ENTRADA = "A";
+        l.IniciarLista();
+        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, 0}));
+        l.CambiarBusqueda();
+        QCOMPARE(l.BUSQUEDA, QStringLiteral("B"));
+        // In the search state a click on column 3 does nothing; on DNI it opens its box.
+        QVERIFY(!l.ElegirColumnaBusqueda(3));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
+        QVERIFY(l.ElegirColumnaBusqueda(2));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("2"));
+        l.AnotarBusqueda("123");
+        QCOMPARE(l.ORDEN, uint8_t(2));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
+        l.SELECCIONACTUAL = "1";
+        l.AnotarBusqueda("GAR");
+        QCOMPARE(l.TABLASELECCION->size(), 2);
+        QCOMPARE(l.ORDEN, uint8_t(1));
+        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, "GAR", "123"}));
+        // Typing again under DNI replaces its criterion; an emptied one stays, as "".
+        l.SELECCIONACTUAL = "2";
+        l.AnotarBusqueda("");
+        QCOMPARE(l.TABLASELECCION->size(), 2);
+        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, "GAR", ""}));
+        QCOMPARE(l.ORDEN, uint8_t(2));
+        // A column other than name and DNI takes no criterion.
+        l.SELECCIONACTUAL = "3";
+        l.AnotarBusqueda("CALLE");
+        QCOMPARE(l.TABLASELECCION->size(), 2);
+        QCOMPARE(l.ORDEN, uint8_t(2));
+        // Back to the result state with the criteria typed.
+        l.CambiarBusqueda();
+        QCOMPARE(l.BUSQUEDA, QStringLiteral("N"));
+        QVERIFY(l.HayCriterios());
+    }
+
+    void buscarYTodos()
+    {
+        cConLista l;
+        l.ENTRADA = "P";
+        l.CSCO = 5;
+        l.NUMSP = 1;
+        l.NUMTR = 2;
+        l.NUMCONTRISEL = 9;
+        l.CambiarBusqueda();
+        QCOMPARE(l.BUSQUEDA, QStringLiteral("B"));
+        QCOMPARE(l.CSCO, 0);
+        QCOMPARE(l.NUMCONTRISEL, 0);
+        QCOMPARE(l.NUMSP, 0);
+        QCOMPARE(l.NUMTR, 0);
+        QCOMPARE(l.ENTRADA, QString());
+        QVERIFY(!l.HayCriterios());
+        l.SELECCIONACTUAL = "2";
+        l.AnotarBusqueda("1");
+        l.Todos();
+        QCOMPARE(l.BUSQUEDA, QStringLiteral("N"));
+        QVERIFY(!l.HayCriterios());
+        QCOMPARE(l.ORDEN, uint8_t(1));
+        QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
+    }
+
+    void ordenarPorCabecera()
+    {
+        cConLista l;
+        l.Seleccionar(4, 1, 2);
+        QVERIFY(!l.OrdenarPor(3));  // "Calle" does nothing
+        QCOMPARE(l.CSCO, 4);
+        QCOMPARE(l.ORDEN, uint8_t(1));
+        QVERIFY(l.OrdenarPor(2));   // "DNI" reorders and loses the selection
+        QCOMPARE(l.ORDEN, uint8_t(2));
+        QCOMPARE(l.CSCO, 0);
+        QCOMPARE(l.NUMSP, 0);
+        QCOMPARE(l.NUMTR, 0);
+    }
+
+    void listaLlamaAlAlmacen()
+    {
+        AlmacenDePrueba almacen;
+        cContribSvr s;
+        s.mdbmod = mdbmod;
+        s.GuardarContribuyente(ContribuyenteNacional(Dni(200), QStringLiteral("ZURITA")));
+        s.GuardarContribuyente(ContribuyenteNacional(Dni(201), QStringLiteral("ABAD")));
+        s.GuardarContribuyente(ContribuyenteNacional(Dni(202), QStringLiteral("ABELLA")));
+        cConLista l;
+        l.ENTRADA = "A";
+        l.IniciarLista();
+        Arreglo2D d;
+        QCOMPARE(l.CargarContribuyentes(d), 3);
+        QCOMPARE(l.NUMCONTRISEL, 3);
+        QCOMPARE(d[1][0].toString(), QStringLiteral("ABAD"));
+        l.SELECCIONACTUAL = "1";
+        l.AnotarBusqueda("AB");
+        QCOMPARE(l.CargarContribuyentes(d), 2);
+        QCOMPARE(l.NUMCONTRISEL, 2);
+        l.OrdenarPor(2);
+        l.CargarContribuyentes(d);
+        QCOMPARE(d[2][0].toString(), Dni(201));
+        l.SELECCIONACTUAL = "1";
+        l.AnotarBusqueda("NADIE");
+        QCOMPARE(l.CargarContribuyentes(d), 0);
+        QCOMPARE(l.NUMCONTRISEL, 0);
+
+        // Deleting the contributors of the list one by one leaves it empty (the panel then
+        // closes).
+        l.Todos();
+        QCOMPARE(l.CargarContribuyentes(d), 3);
+        for (const QVariant& codigo : d[0]) {
+            ConDatos().CSCO = codigo.toInt();
+            ConDatos().BorrarContribuyente();
+        }
+        QCOMPARE(l.CargarContribuyentes(d), 0);
+        QCOMPARE(l.NUMCONTRISEL, 0);
+        QCOMPARE(d.size(), 7);
+    }
+
+    void listaDePresentadores()
+    {
+        AlmacenDePrueba almacen;
+        cPreDatos p;
+        p.setMODO("A");
+        p.DNIP = Dni(300);
+        p.NOMBREP = "GESTORA";
+        p.DOMICILIOP = "X";
+        p.CODMUNP = "1";
+        p.CODPOSP = "77001";
+        p.TELEFONOP = "945000001";
+        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 0);
+        cPreLista l;
+        l.ENTRADA = "A";
+        l.IniciarLista();
+        Arreglo2D d;
+        QCOMPARE(l.CargarPresentadores(d), 1);
+        QCOMPARE(l.NUMPRESENSEL, 1);
+        QCOMPARE(d.size(), 6);
+        l.Seleccionar(d[0][0].toInt(), d[5][0].toInt());
+        QCOMPARE(l.CSPR, PreDatos().ObtenerCodigoPresentador(Dni(300)));
+        QCOMPARE(l.NUMDECLARACIONES, 0);
+        l.CambiarBusqueda();
+        QCOMPARE(l.CSPR, 0);
+        QCOMPARE(l.NUMPRESENSEL, 0);
+        QVERIFY(!l.ElegirColumnaBusqueda(5));
+        QVERIFY(l.ElegirColumnaBusqueda(2));
+        l.AnotarBusqueda("0000030");
+        l.CambiarBusqueda();
+        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, "0000030"}));
+        QCOMPARE(l.CargarPresentadores(d), 1);
+        QVERIFY(!l.OrdenarPor(5));
+        QVERIFY(l.OrdenarPor(1));
+        l.Todos();
+        QVERIFY(!l.HayCriterios());
+        l.ENTRADA = "E";
+        l.IniciarLista();
+        QCOMPARE(l.MODO, QStringLiteral("E"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRegistros)
+#include "test_registros.moc"
