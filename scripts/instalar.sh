@@ -2,7 +2,7 @@
 # Installs what building, running and testing Veldoria needs on Debian (as root or with sudo).
 set -euo pipefail
 paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libsqlite3-dev libgl-dev
-          fonts-liberation2 xvfb xauth)
+          fonts-liberation2 xvfb xauth poppler-utils)
 faltan=()
 for p in "${paquetes[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || faltan+=("$p")

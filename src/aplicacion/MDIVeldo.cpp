@@ -10,6 +10,8 @@
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
 #include "plataforma/Proceso.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
+#include "paneles/dialogos/Navegador.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -384,15 +386,14 @@ void MDIVeldo::asistenciaOnline()
 {
     cMiscelaneos misc;
     misc.Idioma = OffsetIdioma;
-    misc.AccesoAyuOnline();
+    MostrarVeredicto(misc.AccesoAyuOnline(AbrirEnNavegador), this);
 }
 
 void MDIVeldo::descripcionAsistencia()
 {
     cMiscelaneos misc;
     misc.Idioma = OffsetIdioma;
-    misc.Parent = this;
-    misc.MostrarOnlineInfo();
+    MostrarVeredicto(misc.MostrarOnlineInfo(), this);
 }
 
 void MDIVeldo::acercaDe()

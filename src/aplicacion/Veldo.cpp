@@ -2,6 +2,7 @@
 
 #include "aplicacion/OrdenesIntercambio.h"
 #include "aplicacion/Arranque.h"
+#include "aplicacion/OrdenesImprimir.h"
 #include "paneles/dialogos/AvisoFallo.h"
 #include "plataforma/Proceso.h"
 
@@ -28,8 +29,11 @@ int EjecutarVeldo(int argc, char** argv)
 {
     if (OrdenesIntercambio::Pedida(argc, argv))
         return OrdenesIntercambio::Ejecutar(argc, argv);
+    PrepararSinVentana(argc, argv);
     cAplicacion app(argc, argv);
     app.setApplicationName(QStringLiteral("Veldoria"));
+    if (const auto estado = OrdenesImprimir(QCoreApplication::arguments()))
+        return *estado;
     InstalarAvisoFalloEnCaja();
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
     bool sigue = false;

@@ -1,6 +1,6 @@
 #include "aplicacion/frmPreferencias.h"
 
-#include "registros/actualizacion/ActualizacionOnline.h"
+#include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/MDIVeldo.h"
 #include "registros/nucleo/CEntrada.h"

@@ -1,6 +1,6 @@
 #include "aplicacion/frmVeldoInicio.h"
 
-#include "registros/actualizacion/ActualizacionOnline.h"
+#include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "plataforma/General.h"
 #include "plataforma/Reloj.h"

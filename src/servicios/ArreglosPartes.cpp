@@ -11,7 +11,7 @@ namespace {
 
 [[noreturn]] void noCoincide(const char* campo, const QVariant& valor, const QString& origen)
 {
-    // 13 is the classic "type mismatch" of a value that cannot become its field's type.
+    // Failure 13, "type mismatch": a value of the array cannot become its field's type.
     throw cFallo(13, origen,
                  QStringLiteral("No coinciden los tipos: %1 = '%2'")
                      .arg(QLatin1String(campo), valor.toString()));

@@ -69,7 +69,7 @@ int indiceDeCarga(int indiceGuardar)
 
 [[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
 {
-    // 13 is the classic "type mismatch" of a value that cannot become its field's type.
+    // Failure 13, "type mismatch": a value of the array cannot become its column's type.
     throw cFallo(13, o,
                  QStringLiteral("No coinciden los tipos: %1 = '%2'")
                      .arg(QLatin1String(c.nombre), v.toString()));

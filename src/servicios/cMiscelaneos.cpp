@@ -1,6 +1,5 @@
 #include "servicios/cMiscelaneos.h"
 
-#include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 
 #include <QUrlQuery>
@@ -22,14 +21,19 @@ QUrl cMiscelaneos::DireccionAyuOnline(int16_t idioma)
     return url;
 }
 
-void cMiscelaneos::AccesoAyuOnline() const
+Veredicto cMiscelaneos::AccesoAyuOnline(const std::function<bool(const QUrl&)>& abrir) const
 {
-    if (!AbrirEnNavegador(DireccionAyuOnline(Idioma)))
-        Mensaje(TextoFila(euskera(Idioma) ? 10335 : 335), vb::Exclamation,
-                TextoFila(euskera(Idioma) ? 10336 : 336));
+    if (abrir && abrir(DireccionAyuOnline(Idioma)))
+        return {};
+    Veredicto v;
+    v.id = 335;
+    v.mensaje = TextoFila(euskera(Idioma) ? 10335 : 335);
+    v.botones = vb::Exclamation;
+    v.titulo = TextoFila(euskera(Idioma) ? 10336 : 336);
+    return v;
 }
 
-void cMiscelaneos::MostrarOnlineInfo() const
+Veredicto cMiscelaneos::MostrarOnlineInfo() const
 {
     const QString direccion = DireccionAyuOnline(Idioma).toString();
     const QString texto = euskera(Idioma)
@@ -46,7 +50,11 @@ void cMiscelaneos::MostrarOnlineInfo() const
                          "«Asistencia on-line» en el menú: se abrirá en su navegador la "
                          "dirección\n")
             + direccion;
-    Mensaje(texto, vb::Information, TextoFila(euskera(Idioma) ? 10361 : 361));
+    Veredicto v;
+    v.mensaje = texto;
+    v.botones = vb::Information;
+    v.titulo = TextoFila(euskera(Idioma) ? 10361 : 361);
+    return v;
 }
 
 QString cMiscelaneos::HaciendaFiscalidad() const

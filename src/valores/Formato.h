@@ -1,6 +1,6 @@
 #pragma once
 // Display formats of numbers, always the Spanish way ("1.234,50") whatever the machine's
-// locale. A format is written with the classic picture characters:
+// locale. A format is written with these characters:
 //   0  a digit that is always shown        #  a digit shown only when significant
 //   .  the decimal comma on screen         ,  (in the integer part) group thousands with "."
 //   %  the value times 100, with a "%"    "..." or \c  literal text

@@ -11,6 +11,7 @@
 
 #include "aplicacion/Arranque.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/Navegador.h"
 #include "plataforma/Proceso.h"
 #include "plataforma/Reloj.h"
 #include "catalogo/Catalogo.h"
@@ -284,6 +285,26 @@ private slots:
         accion("mnuacerca")->trigger();
         QCOMPARE(titulo, QStringLiteral("Acerca de Veldoriak"));
         QCOMPARE(version, QStringLiteral("1.0.0 bertsioa"));
+    }
+
+    // The main window opens the online assistance and shows what the treasury's service
+    // answers: the message when no browser opens, and the description of the service.
+    void asistenciaOnlineDesdeElMenu()
+    {
+        accion("mnuAsisOnline")->trigger();
+        QCOMPARE(NavegadorSeam::registro().size(), 1);
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        NavegadorSeam::setNextResult(false);
+        accion("mnuAsisOnline")->trigger();
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
+        QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Exclamation));
+        accion("mnuDescripAsisOnline")->trigger();
+        QCOMPARE(MensajeSeam::registro().size(), 2);
+        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(361));
+        QCOMPARE(MensajeSeam::registro()[1].icono(), int(vb::Information));
+        QCOMPARE(NavegadorSeam::registro().size(), 2);
     }
 
     void copiaDeSeguridadDesdeElMenu()

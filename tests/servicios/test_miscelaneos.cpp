@@ -3,6 +3,8 @@
 #include "comun/Entorno.h"
 
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
+#include "paneles/dialogos/Navegador.h"
 #include "catalogo/Catalogo.h"
 #include "servicios/cMiscelaneos.h"
 
@@ -24,7 +26,7 @@ private slots:
     {
         cMiscelaneos m;
         m.Idioma = 0;
-        m.AccesoAyuOnline();
+        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
         QCOMPARE(NavegadorSeam::registro().size(), 1);
         const QUrl url = NavegadorSeam::registro()[0];
         QVERIFY(url.host().endsWith(QLatin1String(".example")));
@@ -37,7 +39,7 @@ private slots:
     {
         cMiscelaneos m;
         m.Idioma = 10000;
-        m.AccesoAyuOnline();
+        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
         QCOMPARE(NavegadorSeam::registro().size(), 1);
         QCOMPARE(QUrlQuery(NavegadorSeam::registro()[0]).queryItemValue(QStringLiteral("idioma")),
                  QStringLiteral("e"));
@@ -47,14 +49,14 @@ private slots:
     {
         NavegadorSeam::setNextResult(false);
         cMiscelaneos m;
-        m.AccesoAyuOnline();
+        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
         QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
 
         NavegadorSeam::setNextResult(false);
         m.Idioma = 10000;
-        m.AccesoAyuOnline();
+        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
         QCOMPARE(MensajeSeam::registro()[1].texto, TextoFila(10335));
         QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(10336));
     }
@@ -62,7 +64,7 @@ private slots:
     void descripcionDelServicio()
     {
         cMiscelaneos m;
-        m.MostrarOnlineInfo();
+        MostrarVeredicto(m.MostrarOnlineInfo());
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& r = MensajeSeam::registro()[0];
         QCOMPARE(r.titulo, TextoFila(361));
@@ -72,11 +74,32 @@ private slots:
         QVERIFY(NavegadorSeam::registro().isEmpty());
 
         m.Idioma = 10000;
-        m.MostrarOnlineInfo();
+        MostrarVeredicto(m.MostrarOnlineInfo());
         const auto& e = MensajeSeam::registro()[1];
         QCOMPARE(e.titulo, TextoFila(10361));
         QVERIFY(e.texto.contains(cMiscelaneos::DireccionAyuOnline(10000).toString()));
         QVERIFY(e.texto.contains(QLatin1String("laguntza")));
+    }
+
+    // The service answers what to show and never shows it: the browser is the caller's.
+    void laLogicaNoMuestraNada()
+    {
+        cMiscelaneos m;
+        QUrl pedida;
+        const Veredicto abierto = m.AccesoAyuOnline([&](const QUrl& url) {
+            pedida = url;
+            return true;
+        });
+        QVERIFY(abierto.vacio());
+        QCOMPARE(pedida, cMiscelaneos::DireccionAyuOnline(0));
+        const Veredicto cerrado = m.AccesoAyuOnline([](const QUrl&) { return false; });
+        QCOMPARE(cerrado.id, 335);
+        QCOMPARE(cerrado.mensaje, TextoFila(335));
+        QCOMPARE(cerrado.botones, int(vb::Exclamation));
+        QCOMPARE(cerrado.titulo, TextoFila(336));
+        QCOMPARE(m.MostrarOnlineInfo().botones, int(vb::Information));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        QVERIFY(NavegadorSeam::registro().isEmpty());
     }
 
     // The form asks for the Basque name with Idioma 1000 and for the Spanish one with 0.

@@ -1,7 +1,9 @@
-#include "registros/actualizacion/ActualizacionOnline.h"
+#include "paneles/actualizacion/ActualizacionOnline.h"
 
 #include "paneles/actualizacion/FrmSinConexion.h"
 #include "paneles/actualizacion/FrmVersionCheck.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
+#include "registros/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 
 #include "plataforma/General.h"
@@ -43,6 +45,11 @@ void abrirModal()
 }
 
 }  // namespace
+
+void ObtenerVersionPrograma()
+{
+    MostrarVeredicto(LeerVersionPrograma());
+}
 
 void ComprobarActualizacion()
 {

@@ -11,8 +11,8 @@
 
 namespace {
 
-// The page, byte for byte. The address is written as it stands: an apostrophe in it ends the
-// attribute early, as it always has.
+// The page, byte for byte. The address is written as it stands, not escaped: an apostrophe in
+// it ends the attribute early.
 QByteArray pagina(const QString& url)
 {
     return QByteArrayLiteral("<HTML> ")

@@ -1,18 +1,11 @@
 #pragma once
 // Every message box of the program goes through Mensaje(). The flags and answers are the
-// classic message-box numbers the panels are written with (64 information, 292 a question
-// with Yes/No and No as default, ...). Tests script the answers and read what was shown.
+// classic message-box numbers of valores/BotonesMensaje.h. Tests script the answers and read
+// what was shown.
+#include "valores/BotonesMensaje.h"
+
 #include <QString>
 #include <QList>
-
-namespace vb {
-enum Botones : int {
-    OKOnly = 0, OKCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5,
-    Critical = 16, Question = 32, Exclamation = 48, Information = 64,
-    DefaultButton1 = 0, DefaultButton2 = 256, DefaultButton3 = 512,
-};
-enum Respuesta : int { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
-}
 
 class QWidget;
 

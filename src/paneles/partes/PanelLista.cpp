@@ -56,7 +56,8 @@ public:
     IconoBoton(QPushButton* boton, QStyle::StandardPixmap imagen, QWidget* parent)
         : QLabel(parent), m_boton(boton), m_icono(parent->style()->standardIcon(imagen))
     {
-        // Taking the focus on a click, as the picture did, lets a field being typed in be left.
+        // The icon takes the focus on a click, so that a field being typed in is left (and its
+        // leaving checks run) before the icon acts.
         setFocusPolicy(Qt::ClickFocus);
         setAlignment(Qt::AlignCenter);
         Pintar();

@@ -1,21 +1,19 @@
 #pragma once
 // The online update check: the program's own version, read from its file at start-up, compared
 // with a small INI text that the update service gives back. The program never updates itself;
-// at most it opens the download page in the browser (FrmVersionCheck).
+// at most it opens the download page in the browser (FrmVersionCheck). This is the part without
+// widgets; the check as the user sees it is in paneles/actualizacion/ActualizacionOnline.h.
+#include "valores/Veredicto.h"
+
 #include <QString>
 #include <chrono>
 
-// Start-up: reads the version record of the program's file (the program's folder + "/Veldo",
-// whatever name the process runs under) into ActOnline().ActFile and ProgVer1..3, and sets
+// Reads the version record of the program's file (the program's folder + "/Veldo", whatever
+// name the process runs under) into ActOnline().ActFile and ProgVer1..3, and sets
 // VersionPrograma (major.minor.revision) and VersionProducto (four parts). A file without the
-// record gives the message id 342; start-up goes on with the versions empty.
-void ObtenerVersionPrograma();
-
-// The whole check, for the splash, the first-run language chooser and the preferences: waits a
-// second for a freshly shown window to paint, downloads version.ini, reads it and shows
-// FrmSinConexion or FrmVersionCheck as the outcome asks. A check of a current program is silent
-// unless the preferences panel (objectName "frmPreferencias") is visible.
-void ComprobarActualizacion();
+// record leaves the versions empty and answers the verdict of id 342 (OK only, no icon); a
+// good one answers an empty verdict. The panel side (ObtenerVersionPrograma) shows it.
+Veredicto LeerVersionPrograma();
 
 // Deletes an earlier version.ini and downloads a new one from URLAct with the query keys
 // "?Programa=" and "&idioma=". Answers 3 downloaded, 1 not downloaded, 4 unexpected failure.
@@ -30,7 +28,7 @@ int DescargarFichero(const QString& url, const QString& fichero);
 // versions differ. Answers 4 on any failure (no three-part version), else 3.
 int LeerVersionIni();
 
-// One key of an INI file, read with the rules of the classic profile reader: sections and keys
+// One key of an INI file, read with the rules of LeerClaveIni.cpp: sections and keys
 // without regard to case, blanks around keys and values dropped, a value in matching quotes
 // loses them, only the first section of a name is searched, values cut at 1023 characters, and
 // the default " " when the file, the section or the key is missing.

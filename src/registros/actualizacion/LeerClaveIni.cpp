@@ -1,5 +1,4 @@
-// A reader of INI text with the rules of the classic profile reader, so that the version file
-// of the update service reads the same as it always has:
+// A reader of INI text with the rules the update service writes its version file for:
 // - a line whose first non-blank character is "[" opens a section named by what lies between
 //   it and the last "]" of the line; a line starting with ";" is a comment;
 // - "key = value" lines: blanks around the key and around the value are dropped; a line

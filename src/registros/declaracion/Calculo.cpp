@@ -1,6 +1,5 @@
 #include "registros/declaracion/Calculo.h"
 
-#include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
@@ -98,7 +97,7 @@ void ActualizarReduccion(const CasillasReduccion& c)
         d.BASEIREDUCIDA = 0;
 }
 
-ResultadoTipo ValidarTipoImpositivo(double valor, bool bloqueada, bool saltarValidacion)
+ResultadoTipo AceptarTipoImpositivo(double valor, bool bloqueada, bool saltarValidacion)
 {
     ResultadoTipo r;
     if (saltarValidacion || bloqueada)
@@ -111,8 +110,12 @@ ResultadoTipo ValidarTipoImpositivo(double valor, bool bloqueada, bool saltarVal
         if (valor >= op.T_MIN() && valor <= op.T_MAX()) {
             d.TIPOIMP = valor;
         } else {
-            Mensaje(Texto(140) + TextoTasa(op.T_MIN()) + Texto(141) + TextoTasa(op.T_MAX()),
-                    vb::Exclamation, Texto(131));
+            r.veredicto.id = 140;
+            r.veredicto.mensaje =
+                Texto(140) + TextoTasa(op.T_MIN()) + Texto(141) + TextoTasa(op.T_MAX());
+            r.veredicto.botones = vb::Exclamation;
+            r.veredicto.titulo = Texto(131);
+            r.veredicto.control = QStringLiteral("txttipoimp");
             r.volverAlTipo = true;
         }
     } else {

@@ -2,6 +2,8 @@
 // The computation of a return on the shared records DecDatos() and Operacion(): what the
 // chosen operation does to the return, the amounts, the reductions of the base and the typed
 // rate. The declaration form calls these routines and then repaints itself from the record.
+#include "valores/Veredicto.h"
+
 #include <QString>
 #include <optional>
 
@@ -23,16 +25,18 @@ struct CasillasReduccion {
 // REDUCCION (and the operation's T_RED, so that a reload keeps the choice) from the boxes.
 void ActualizarReduccion(const CasillasReduccion& casillas);
 
-// What the form must do after ValidarTipoImpositivo.
+// What the form must do after the rate typed in txttipoimp was judged.
 struct ResultadoTipo {
     bool presentar = false;  // the amounts were computed: repaint the form from the record
     bool volverAlTipo = false;  // the rate was refused: the focus goes back to txttipoimp
+    Veredicto veredicto;        // the refusal, for the form to show; empty otherwise
 };
 // The rate typed in txttipoimp, when the box is left. Nothing happens while the form skips
 // validation or the box is locked, nor when the value equals the stored non-zero rate. A rate
 // outside the operation's limits (only for an operation without fixed rate) is refused with
-// the message of ids 140 and 141 under the title of id 131, and the stored rate stays.
-ResultadoTipo ValidarTipoImpositivo(double valor, bool bloqueada, bool saltarValidacion);
+// the verdict of ids 140 and 141 (exclamation, title id 131, focus on txttipoimp), and the
+// stored rate stays. The form's ValidarTipoImpositivo (paneles/declaracion) shows the verdict.
+ResultadoTipo AceptarTipoImpositivo(double valor, bool bloqueada, bool saltarValidacion);
 
 // After a change of date: a typed rate outside the limits of the new date becomes 0, with no
 // message (only when the box is open and the operation has no fixed rate).

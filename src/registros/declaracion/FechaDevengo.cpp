@@ -1,7 +1,6 @@
 #include "registros/declaracion/FechaDevengo.h"
 
 #include "registros/nucleo/CEntrada.h"
-#include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -23,31 +22,34 @@ QString fechaSegunPatron(int32_t numero, QString patron)
 
 }  // namespace
 
-bool ValidarFecha(const QString& texto)
+Veredicto VeredictoFecha(const QString& texto)
 {
+    Veredicto v;
+    v.botones = vb::Exclamation;
+    v.titulo = Texto(131);
+    v.control = QStringLiteral("txtfechad");
     if (!Fecha().EsFecha(texto)) {
-        Mensaje(Texto(169), vb::Exclamation, Texto(131));
-        return false;
+        v.id = 169;
+        v.mensaje = Texto(169);
+        return v;
     }
     const int32_t minima = Entrada().FECMIN;
     const int32_t maxima = Entrada().FECMAX;
     const int32_t d = Fecha().StringToLong(texto);
     if (minima <= d && d <= maxima)
-        return true;
-    Mensaje(Texto(170) + fechaSegunPatron(minima, Texto(171)) + Texto(172)
-                + fechaSegunPatron(maxima, Texto(171)) + QStringLiteral("\n"),
-            vb::Exclamation, Texto(131));
-    return false;
+        return {};
+    v.id = 170;
+    v.mensaje = Texto(170) + fechaSegunPatron(minima, Texto(171)) + Texto(172)
+        + fechaSegunPatron(maxima, Texto(171)) + QStringLiteral("\n");
+    return v;
 }
 
-bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambio)
+Veredicto CambiarFecha(const QString& texto)
 {
-    if (!ValidarFecha(texto))
-        return false;
-    DecDatos().FECHAD = Fecha().StringToLong(texto);
-    if (trasCambio)
-        trasCambio();
-    return true;
+    Veredicto v = VeredictoFecha(texto);
+    if (v.vacio())
+        DecDatos().FECHAD = Fecha().StringToLong(texto);
+    return v;
 }
 
 QStringList ActualizarOperacionPorFecha(bool tipoBloqueado)

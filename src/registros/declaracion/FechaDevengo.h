@@ -1,17 +1,21 @@
 #pragma once
 // The date of accrual of the return: its check when txtfechad is left, and what a new date
 // does to the operation.
+#include "valores/Veredicto.h"
+
 #include <QString>
 #include <QStringList>
-#include <functional>
 
 // A date text of the current language within the program's limits (Entrada().FECMIN and
-// FECMAX). A bad date or one out of the limits is told (title id 131, exclamation); false.
-bool ValidarFecha(const QString& texto);
+// FECMAX): an empty verdict. A bad date (id 169) or one out of the limits (ids 170 to 172)
+// answers its message, with the exclamation icon and the title of id 131. The form's
+// ValidarFecha (paneles/declaracion) shows it.
+Veredicto VeredictoFecha(const QString& texto);
 
-// ValidarFecha; when good, FECHAD takes the date and `trasCambio` runs (the form's
-// ActualizarOperacionPorFecha and PresentarDeclaracion). False leaves the record as it was.
-bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambio);
+// VeredictoFecha; when the date is good, FECHAD takes it. A verdict with a message leaves the
+// record as it was. The form's ComprobarFecha (paneles/declaracion) shows the verdict or, on a
+// good date, runs what a new date does.
+Veredicto CambiarFecha(const QString& texto);
 
 // The operation on the new FECHAD: the list of operations is made again, the operation is
 // reloaded, and one that does not apply on the date is dropped with the marks and amounts

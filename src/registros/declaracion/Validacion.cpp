@@ -1,6 +1,5 @@
 #include "registros/declaracion/Validacion.h"
 
-#include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -9,7 +8,6 @@
 #include "valores/Val.h"
 #include "servicios/cDeclaSvr.h"
 
-#include <QGuiApplication>
 #include <QRegularExpression>
 #include <array>
 
@@ -67,8 +65,8 @@ constexpr std::array<Regla, cDeclaSvr::kUltimaRegla> kReglas{{
 
 const QString kSaltoLinea = QStringLiteral("\n");
 
-// VB's notion of a numeric text, as far as a tax number can be one: digits, with a sign and a
-// decimal point allowed, and blanks around.
+// A tax number that reads as a number: digits, with a sign and a decimal point allowed, and
+// blanks around.
 bool esNumerico(const QString& texto)
 {
     static const QRegularExpression numero(QStringLiteral(R"(^\s*[+-]?(\d+\.?\d*|\.\d+)\s*$)"));
@@ -126,13 +124,15 @@ Arreglo DatosValidacion(bool tipoBloqueado)
     };
 }
 
-Veredicto VeredictoDeclaracion(int16_t numero, const QString& textoOperacion)
+VeredictoValidacion VeredictoDeclaracion(int16_t numero, const QString& textoOperacion)
 {
-    Veredicto v;
+    VeredictoValidacion v;
     v.numero = numero;
+    v.botones = vb::Information;
     if (numero < 1 || numero > cDeclaSvr::kUltimaRegla)
         return v;
     const Regla& r = kReglas[numero - 1];
+    v.id = r.id;
     v.control = QLatin1String(r.control);
     v.pestana = r.pestana;
     if (numero == 9) {
@@ -147,26 +147,27 @@ Veredicto VeredictoDeclaracion(int16_t numero, const QString& textoOperacion)
     return v;
 }
 
-bool ValidarCampos(bool tipoBloqueado, const QString& titulo, const QString& textoOperacion,
-                   Veredicto* veredicto)
+VeredictoValidacion VeredictoCampos(bool tipoBloqueado, const QString& titulo,
+                                    const QString& textoOperacion)
 {
     const Arreglo datos = DatosValidacion(tipoBloqueado);
     int16_t numero = 0;
     DecDatos().ValidarDatosDeclaracion(datos, DecDatos().FECHAD, numero);
-    const Veredicto v = VeredictoDeclaracion(numero, textoOperacion);
-    if (!v.mensaje.isEmpty())
-        Mensaje(v.mensaje, vb::Information, titulo);
-    if (veredicto)
-        *veredicto = v;
-    return numero == 0;
+    VeredictoValidacion v = VeredictoDeclaracion(numero, textoOperacion);
+    v.titulo = titulo;
+    return v;
 }
 
-int16_t ValidarNifIntervinientes(const QString& titulo)
+Veredicto VeredictoNifIntervinientes(const QString& titulo)
 {
     const cDecDatos& d = DecDatos();
+    Veredicto v;
+    v.titulo = titulo;
     if (!d.DNIPR.trimmed().isEmpty() && !dniBueno(d.DNIPR)) {
-        Mensaje(Texto(331), vb::Information, titulo);
-        return -1;
+        v.id = 331;
+        v.mensaje = Texto(331);
+        v.botones = vb::Information;
+        return v;
     }
     QString lista;
     if (!dniBueno(d.DNISP))
@@ -178,19 +179,16 @@ int16_t ValidarNifIntervinientes(const QString& titulo)
         lista += QStringLiteral(", ") + d.DNITR;
     }
     if (lista.isEmpty())
-        return 0;
+        return {};
     // The first character goes, so one blank stays ahead of the first number.
     const QString numeros = lista.mid(1);
-    Mensaje(TextoSegunIdioma(
-                QStringLiteral("El/Los Interviniente/s con NIF: ") + numeros
-                    + QStringLiteral(" tiene/n un NIF erróneo o necesita/n llevar el dígito de "
-                                     "control"),
-                numeros
-                    + QStringLiteral(" IFZ duten esku hartzailea(e)k IFZ okerra du(te) edo "
-                                     "kontrol digitua eraman behar du(te).")),
-            vb::Exclamation, titulo);
-    // The check may have run under a busy pointer: the message leaves the normal one.
-    if (QGuiApplication::overrideCursor())
-        QGuiApplication::restoreOverrideCursor();
-    return -1;
+    v.mensaje = TextoSegunIdioma(
+        QStringLiteral("El/Los Interviniente/s con NIF: ") + numeros
+            + QStringLiteral(" tiene/n un NIF erróneo o necesita/n llevar el dígito de "
+                             "control"),
+        numeros
+            + QStringLiteral(" IFZ duten esku hartzailea(e)k IFZ okerra du(te) edo "
+                             "kontrol digitua eraman behar du(te)."));
+    v.botones = vb::Exclamation;
+    return v;
 }

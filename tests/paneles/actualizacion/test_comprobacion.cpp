@@ -5,6 +5,7 @@
 #include "ServidorPrueba.h"
 #include "comun/Entorno.h"
 
+#include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/ActualizacionOnline.h"
 #include "paneles/actualizacion/LanzarExplorador.h"
 #include "registros/actualizacion/cActOnline.h"

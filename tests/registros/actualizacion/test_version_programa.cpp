@@ -2,6 +2,7 @@
 // the built program, from a file made here with a known record, and from files without one.
 #include "comun/Entorno.h"
 
+#include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/FormatoRegistroVersion.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
@@ -153,6 +154,19 @@ private slots:
     {
         ObtenerVersionPrograma();
         sinVersion();
+    }
+
+    // The reading answers the verdict of id 342 and shows nothing; start-up shows it.
+    void laLecturaNoMuestraNada()
+    {
+        escribirPrograma(relleno(50000, 8));
+        const Veredicto v = LeerVersionPrograma();
+        QCOMPARE(v.id, 342);
+        QCOMPARE(v.mensaje, Texto(342));
+        QCOMPARE(v.botones, int(vb::OKOnly));
+        QVERIFY(v.titulo.isEmpty());
+        QVERIFY(MensajeSeam::registro().isEmpty());
+        QCOMPARE(VersionPrograma, QString());
     }
 
     void sinVersionSiempreDifiere()

@@ -3,6 +3,7 @@
 // the amounts, the reductions, the typed rate, and the base read from its text.
 #include "ApoyoDeclaracion.h"
 
+#include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/Calculo.h"

@@ -5,6 +5,7 @@
 
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/Calculo.h"
@@ -175,7 +176,7 @@ private slots:
 
     void declaracionValidaPasaSinMensaje()
     {
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
         QCOMPARE(v.numero, int16_t(0));
         QVERIFY(MensajeSeam::registro().isEmpty());
@@ -186,7 +187,7 @@ private slots:
         DecDatos().MARCA.clear();
         DecDatos().DNISP = QStringLiteral("12345678A");
         const Arreglo antes = DecDatos().DatosGuardar();
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
         QCOMPARE(v.numero, int16_t(1));
         QCOMPARE(v.control, QStringLiteral("txtmarca"));
@@ -202,7 +203,7 @@ private slots:
     void reglaDelTransmitenteLlevaSuPestana()
     {
         DecDatos().NOMBRETR.clear();
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
         QCOMPARE(v.numero, int16_t(21));
         QCOMPARE(v.control, QStringLiteral("txtnombretr"));
@@ -214,7 +215,7 @@ private slots:
         DecDatos().OPERACION = QStringLiteral("TL");
         DecDatos().ObtenerDatosOperacion(false);
         DecDatos().TIPOIMP = 15;
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(!ValidarCampos(false, kTitulo, Operacion().DESCRIP, &v));
         QCOMPARE(v.numero, int16_t(9));
         QCOMPARE(MensajeSeam::registro().first().texto,
@@ -237,7 +238,7 @@ private slots:
     void operacionQueYaNoRigeSeDetiene()
     {
         DecDatos().OPERACION = QStringLiteral("TN");  // ended in 2007; the return is of 2010
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(!ValidarCampos(true, kTitulo, QString(), &v));
         QCOMPARE(v.numero, int16_t(7));
     }
@@ -250,7 +251,7 @@ private slots:
         d.CILINDRADA = 2998;
         d.ObtenerDatosOperacion(false);
         AplicarOperacion();
-        Veredicto v;
+        VeredictoValidacion v;
         QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
         QCOMPARE(v.numero, int16_t(39));
         QCOMPARE(MensajeSeam::registro().first().texto,

@@ -5,9 +5,10 @@
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "registros/actualizacion/cActOnline.h"
 
-#include "plataforma/General.h"
-#include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
+#include "plataforma/General.h"
+
+#include <QStringList>
 
 namespace {
 
@@ -21,14 +22,16 @@ QString unir(const RegistroVersion::Numeros& n, std::initializer_list<int> indic
 
 }  // namespace
 
-void ObtenerVersionPrograma()
+Veredicto LeerVersionPrograma()
 {
     cActOnline& act = ActOnline();
     act.ActFile = CarpetaPrograma() + QStringLiteral("/Veldo");
     const std::optional<RegistroVersion::Version> version = LeerRegistroVersion(act.ActFile);
     if (!version) {
-        Mensaje(Texto(342));
-        return;
+        Veredicto sinVersion;
+        sinVersion.id = 342;
+        sinVersion.mensaje = Texto(342);
+        return sinVersion;
     }
     // major.minor.revision: the third number of the record is not part of the program's
     // version, so a file version 1.28.0.1 is the program 1.28.1.
@@ -38,4 +41,5 @@ void ObtenerVersionPrograma()
     act.ProgVer2 = QString::number(f[1]);
     act.ProgVer3 = QString::number(f[3]);
     VersionProducto = unir(version->producto, {0, 1, 2, 3});
+    return {};
 }

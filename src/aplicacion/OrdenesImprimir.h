@@ -1,0 +1,14 @@
+#pragma once
+// Printing from the command line, with no window: a stored return to a PDF file.
+//   Veldo --pdf CODE FILE [--borrador] [--sin-presentador]
+//         [--copias trafico,interesado,administracion,banco] [--fecha DD/MM/YYYY]
+// The sheets are drawn by the same routines as the print panel's.
+#include <QStringList>
+#include <optional>
+
+// Printing needs no display: before the application object exists, a printing command line
+// chooses the platform without windows unless one was asked for.
+void PrepararSinVentana(int argc, char** argv);
+// No answer when the arguments ask for no printing (the program then starts as usual);
+// otherwise the exit status: 0 printed, else the program's message went to stderr.
+std::optional<int> OrdenesImprimir(const QStringList& argumentos);

@@ -1,0 +1,8 @@
+#include "registros/imprimir/cImOf.h"
+
+#include "plataforma/Estado.h"
+
+cImOf& ImOf()
+{
+    return Estado().de<cImOf>();
+}

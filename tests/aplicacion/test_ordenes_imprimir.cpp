@@ -1,0 +1,185 @@
+// Printing from the command line: Veldo --pdf CODE FILE with its options writes the copies of
+// a stored return to a PDF file and answers 0; a bad code, date, option or file answers
+// non-zero with the program's message on stderr and writes nothing.
+#include "ApoyoDeclaracion.h"
+#include "ApoyoImpreso.h"
+
+#include "aplicacion/OrdenesImprimir.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/partes/cPreDatos.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace {
+struct Resultado {
+    std::optional<int> estado;
+    QString error;
+};
+
+// Runs the command line with stderr caught in a file.
+Resultado ejecutar(const QStringList& argumentos, const QString& carpeta)
+{
+    const QString fichero = carpeta + QStringLiteral("/stderr.txt");
+    std::fflush(stderr);
+    const int antes = dup(fileno(stderr));
+    FILE* f = std::fopen(QFile::encodeName(fichero).constData(), "w");
+    dup2(fileno(f), fileno(stderr));
+    Resultado r;
+    r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos);
+    std::fflush(stderr);
+    dup2(antes, fileno(stderr));
+    close(antes);
+    std::fclose(f);
+    QFile leido(fichero);
+    leido.open(QIODevice::ReadOnly);
+    r.error = QString::fromUtf8(leido.readAll()).trimmed();
+    return r;
+}
+
+QString texto(const QString& pdf)
+{
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+int paginas(const QString& pdf) { return static_cast<int>(texto(pdf).count(QLatin1Char('\f'))); }
+}
+
+class TestOrdenesImprimir : public QObject {
+    Q_OBJECT
+
+private:
+    std::unique_ptr<AlmacenDePrueba> m_almacen;
+    QTemporaryDir m_dir;
+    int32_t m_codigo = 0;
+
+    QString pdf(const char* nombre) const { return m_dir.filePath(QString::fromLatin1(nombre)); }
+
+private slots:
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not installed: scripts/instalar.sh installs it");
+    }
+    void init()
+    {
+        m_almacen = std::make_unique<AlmacenDePrueba>();
+        m_codigo = DeclaracionLlena();
+        DecDatos().setMODO(QStringLiteral("A"));
+        PreDatos().setMODO(QStringLiteral("A"));
+    }
+    void cleanup() { m_almacen.reset(); }
+
+    void sinPdfNoEsCosaSuya()
+    {
+        QVERIFY(!OrdenesImprimir({QStringLiteral("Veldo")}).has_value());
+        QVERIFY(!OrdenesImprimir({QStringLiteral("Veldo"), QStringLiteral("--help")}).has_value());
+    }
+
+    void cuatroCopias()
+    {
+        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+                                      pdf("todas.pdf"), QStringLiteral("--fecha"),
+                                      QStringLiteral("11/03/2004")},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QCOMPARE(r.error, QString());
+        QCOMPARE(paginas(pdf("todas.pdf")), 4);
+        const QString t = texto(pdf("todas.pdf"));
+        QVERIFY(t.contains(QLatin1String("2004/03/11n /// 11/03/2004")));
+        QVERIFY(t.contains(QLatin1String("GESTORIA UNO")));
+        QVERIFY(t.contains(QLatin1String("999,95")));
+        QVERIFY(t.contains(QLatin1String("Total a ingresar(8)")));
+    }
+
+    void opciones()
+    {
+        Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+                                pdf("banco.pdf"), QStringLiteral("--copias"),
+                                QStringLiteral("banco,interesado")},
+                               m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QCOMPARE(paginas(pdf("banco.pdf")), 2);
+
+        r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo), pdf("borrador.pdf"),
+                      QStringLiteral("--borrador"), QStringLiteral("--sin-presentador")},
+                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QCOMPARE(paginas(pdf("borrador.pdf")), 1);
+        QVERIFY(!texto(pdf("borrador.pdf")).contains(QLatin1String("GESTORIA UNO")));
+        QVERIFY(texto(pdf("borrador.pdf")).contains(QLatin1String("NNNNNNNNNN")));
+    }
+
+    void rechazos_data()
+    {
+        QTest::addColumn<QStringList>("extra");
+        QTest::addColumn<QString>("mensaje");
+        QTest::newRow("antes del limite")
+            << QStringList{QStringLiteral("--fecha"), QStringLiteral("30/11/2003")}
+            << QStringLiteral("La Fecha de presentación no puede ser anterior al 01/12/2003");
+        QTest::newRow("fecha mala")
+            << QStringList{QStringLiteral("--fecha"), QStringLiteral("31/02/2010")}
+            << QStringLiteral("La Fecha de presentación introducida no es correcta");
+        QTest::newRow("copia desconocida")
+            << QStringList{QStringLiteral("--copias"), QStringLiteral("notario")}
+            << QStringLiteral("Uso: Veldo --pdf");
+        QTest::newRow("opcion desconocida") << QStringList{QStringLiteral("--color")}
+                                            << QStringLiteral("Uso: Veldo --pdf");
+    }
+
+    void rechazos()
+    {
+        QFETCH(QStringList, extra);
+        QFETCH(QString, mensaje);
+        const QString fichero = pdf("rechazo.pdf");
+        const Resultado r = ejecutar(
+            QStringList{QStringLiteral("--pdf"), QString::number(m_codigo), fichero} + extra,
+            m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QVERIFY2(r.error.startsWith(mensaje), qPrintable(r.error));
+        QVERIFY(!QFile::exists(fichero));
+    }
+
+    void limiteAceptado()
+    {
+        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+                                      pdf("limite.pdf"), QStringLiteral("--fecha"),
+                                      QStringLiteral("01/12/2003"), QStringLiteral("--copias"),
+                                      QStringLiteral("trafico")},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QVERIFY(texto(pdf("limite.pdf")).contains(QLatin1String("2003/12/01ean /// 01/12/2003")));
+    }
+
+    void declaracionQueNoExiste()
+    {
+        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo + 50),
+                                      pdf("nada.pdf")},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QCOMPARE(r.error, QStringLiteral("No existe la declaración %1").arg(m_codigo + 50));
+        QVERIFY(!QFile::exists(pdf("nada.pdf")));
+    }
+
+    void ficheroQueNoSePuedeEscribir()
+    {
+        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+                                      m_dir.filePath(QStringLiteral("no/hay/carpeta.pdf"))},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QVERIFY2(r.error.startsWith(QLatin1String("No se ha podido escribir el fichero")),
+                 qPrintable(r.error));
+    }
+};
+
+QTEST_MAIN(TestOrdenesImprimir)
+#include "test_ordenes_imprimir.moc"
