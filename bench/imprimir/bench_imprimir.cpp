@@ -1,7 +1,7 @@
 // Printing a stored return to PDF: one full sheet, and the four copies. Each figure is the
 // median of 21 runs after one warm-up run (the first one loads the fonts and builds the
 // pictures). Targets: one sheet under 50 ms, the four copies under 200 ms.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "paneles/imprimir/cSuperficiePdf.h"

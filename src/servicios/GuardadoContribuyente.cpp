@@ -7,40 +7,41 @@
 #include <limits>
 
 using namespace ArreglosPartes;
+namespace P = PosContribuyente;
 
 namespace {
 
 // The values of a save array in their stored form, in the order of Columnas().
 QVariantList filaGuardada(const Arreglo& a, const QString& org)
 {
-    const QString tipoDni = TextoGuardado(a, 1, 1, "TIPODNI", org);
-    const QString tipoDomi = TextoGuardado(a, 11, 1, "TIPODOMI", org);
+    const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
+    const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
     if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
         throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
     if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
         throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
     const bool extranjero = tipoDomi == QLatin1String("E");
     // A national postal code has its five digits; a foreign one is kept as it was typed.
-    const QString cp = extranjero ? CifrasGuardadas(a, 15, 5, "CODPOSC", org)
-                                  : CodigoGuardado(a, 15, 5, "CODPOSC", org);
+    const QString cp = extranjero ? CifrasGuardadas(a, P::CODPOSC, 5, "CODPOSC", org)
+                                  : CodigoGuardado(a, P::CODPOSC, 5, "CODPOSC", org);
     return {
         tipoDni,
-        TextoGuardado(a, 2, 9, "DNIC", org),
-        TextoGuardado(a, 3, 40, "NOMBREC", org),
-        TextoGuardado(a, 4, 2, "VIAC", org),
-        TextoGuardado(a, 5, 20, "DOMICILIOC", org),
-        EnteroGuardado(a, 6, 99999, "NUMEROC", org),
-        TextoGuardado(a, 7, 2, "LETRAC", org),
-        TextoGuardado(a, 8, 2, "ESCALERAC", org),
-        TextoGuardado(a, 9, 2, "PISOC", org),
-        TextoGuardado(a, 10, 3, "MANOC", org),
+        TextoGuardado(a, P::DNIC, 9, "DNIC", org),
+        TextoGuardado(a, P::NOMBREC, 40, "NOMBREC", org),
+        TextoGuardado(a, P::VIAC, 2, "VIAC", org),
+        TextoGuardado(a, P::DOMICILIOC, 20, "DOMICILIOC", org),
+        EnteroGuardado(a, P::NUMEROC, 99999, "NUMEROC", org),
+        TextoGuardado(a, P::LETRAC, 2, "LETRAC", org),
+        TextoGuardado(a, P::ESCALERAC, 2, "ESCALERAC", org),
+        TextoGuardado(a, P::PISOC, 2, "PISOC", org),
+        TextoGuardado(a, P::MANOC, 3, "MANOC", org),
         tipoDomi,
-        TextoGuardado(a, 12, 20, "PAIS", org),
-        CodigoGuardado(a, 13, 2, "CODPROVC", org),
-        TextoGuardado(a, 14, 20, "NOMPROVC", org),
+        TextoGuardado(a, P::PAIS, 20, "PAIS", org),
+        CodigoGuardado(a, P::CODPROVC, 2, "CODPROVC", org),
+        TextoGuardado(a, P::NOMPROVC, 20, "NOMPROVC", org),
         cp,
-        CodigoGuardado(a, 16, 3, "CODMUNC", org),
-        TextoGuardado(a, 17, 25, "NOMMUNC", org),
+        CodigoGuardado(a, P::CODMUNC, 3, "CODMUNC", org),
+        TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
     };
 }
 
@@ -70,7 +71,7 @@ const TablaParte& Tabla()
 
 QString DniGuardado(const Arreglo& datos)
 {
-    return Texto(datos, PosGuardarContribuyente::DNIC).trimmed();
+    return Texto(datos, P::DNIC).trimmed();
 }
 
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& org,
@@ -79,8 +80,8 @@ int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QStri
     const QVariantList fila = filaGuardada(datos, org);
     int32_t csco = modo == Modo::Anadir
         ? 0
-        : EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSCO", org);
-    const QString dni = fila[1].toString();
+        : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
+    const QString dni = fila[P::DNIC - P::TIPODNI].toString();
     const int32_t titular = conocido ? *conocido : tabla.CodigoPorDni(dni);
     if (modo == Modo::Sustituir && csco == 0)
         csco = titular;

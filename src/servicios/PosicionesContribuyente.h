@@ -1,17 +1,22 @@
 #pragma once
-// The positions of the arrays of a contributor that cross the boundary of its store, by name.
-#include <cstdint>
+// The positions of the contributor's arrays that cross between the records and the store.
+// Code on both sides reads and writes their elements by these names only, so that the order
+// of an array is written down once.
+//
+// The save array (GuardarContribuyente) and the load array (CargarContribuyente) share one
+// layout; the load array leaves its element 0 unread, the code being the argument of the call.
+// A party as a return takes it (cDeclaSvr's ExisteContribuyente, CargarContribuyente) has the
+// same layout up to NUMSP, which there holds the returns that have the party as subject.
 
-// The save and load array: 20 values.
-namespace PosGuardarContribuyente {
-enum : int {
-    CSCO = 0,
+namespace PosContribuyente {
+enum Posicion : int {
+    CSCO,        // 0 inserts a new contributor; another code updates that one
     TIPODNI,
     DNIC,
     NOMBREC,
     VIAC,
     DOMICILIOC,
-    NUMEROC,
+    NUMEROC,     // whole number
     LETRAC,
     ESCALERAC,
     PISOC,
@@ -23,30 +28,26 @@ enum : int {
     CODPOSC,
     CODMUNC,
     NOMMUNC,
-    NUMSP,
-    NUMTR,
-    Elementos,
+    NUMSP,       // real
+    NUMTR,       // real
+    Tamano       // 20 values
 };
-}
+}  // namespace PosContribuyente
 
-// The import validation array: 15 texts as they stand in the exchange line.
-namespace PosValidarImportar {
-enum : int {
-    TIPODNI = 0,
-    DNI,
-    NOMBRE,
-    DOMICILIO,
-    TIPODOMICILIO,
+// The validation array (ValidarDatosContribuyentes): eleven texts.
+namespace PosValidacionContribuyente {
+enum Posicion : int {
+    TIPODNI,
+    DNIC,
+    NOMBREC,
+    DOMICILIOC,
+    TIPODOMI,
     PAIS,
-    CODIGOPROVINCIA,
-    CODIGOPOSTAL,
-    NOMBREPROVINCIA,
-    NOMBREMUNICIPIO,
-    CODIGOMUNICIPIO,
-    NUMERO,
-    NUMEROSUJETOPASIVO,
-    NUMEROTRANSMITENTE,
-    SIGLAS,
-    Elementos,
+    CODPROVC,
+    CODPOSC,
+    NOMPROVC,
+    NOMMUNC,
+    CODMUNC,
+    Tamano       // 11 values
 };
-}
+}  // namespace PosValidacionContribuyente

@@ -2,6 +2,8 @@
 
 #include "servicios/ArreglosPartes.h"
 #include "servicios/CodigoPostal.h"
+#include "servicios/PosicionesImportar.h"
+#include "servicios/PosicionesPresentador.h"
 #include "servicios/ValidarDniOficial.h"
 
 #include <algorithm>
@@ -49,17 +51,18 @@ QString cincoCifras(const QString& cp)
 int16_t ReglasContribuyente(const Arreglo& datos)
 {
     using namespace VeredictoContribuyente;
-    const QString tipoDni = Texto(datos, 0);
-    const QString dni = Texto(datos, 1);
-    const QString nombre = Texto(datos, 2);
-    const QString domicilio = Texto(datos, 3);
-    const bool extranjero = Texto(datos, 4).trimmed() == QLatin1String("E");
-    const QString pais = Texto(datos, 5);
-    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, 6));
-    const QString cp = Texto(datos, 7);
-    const QString nomProvincia = Texto(datos, 8);
-    const QString nomMunicipio = Texto(datos, 9);
-    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, 10));
+    namespace V = PosValidacionContribuyente;
+    const QString tipoDni = Texto(datos, V::TIPODNI);
+    const QString dni = Texto(datos, V::DNIC);
+    const QString nombre = Texto(datos, V::NOMBREC);
+    const QString domicilio = Texto(datos, V::DOMICILIOC);
+    const bool extranjero = Texto(datos, V::TIPODOMI).trimmed() == QLatin1String("E");
+    const QString pais = Texto(datos, V::PAIS);
+    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, V::CODPROVC));
+    const QString cp = Texto(datos, V::CODPOSC);
+    const QString nomProvincia = Texto(datos, V::NOMPROVC);
+    const QString nomMunicipio = Texto(datos, V::NOMMUNC);
+    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, V::CODMUNC));
 
     const EstadoNif nif = ExaminarDni(tipoDni, dni);
     if (nif == EstadoNif::MalFormado)
@@ -98,21 +101,22 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
 {
     using namespace VeredictoContribuyente;
     using namespace ErrorImportacion;
-    const QString tipoDni = Texto(datos, 0).trimmed();
-    const QString dni = Texto(datos, 1);
-    const QString nombre = Texto(datos, 2);
-    const QString domicilio = Texto(datos, 3);
-    const QString tipoDomi = Texto(datos, 4).trimmed();
-    const QString pais = Texto(datos, 5);
-    const QString codProv = Texto(datos, 6);
-    const QString cp = Texto(datos, 7);
-    const QString nomProvincia = Texto(datos, 8);
-    const QString nomMunicipio = Texto(datos, 9);
-    const QString codMun = Texto(datos, 10);
-    const QString numero = Texto(datos, 11);
-    const QString numSp = Texto(datos, 12);
-    const QString numTr = Texto(datos, 13);
-    const QString sigla = Texto(datos, 14).trimmed();
+    namespace I = PosImportar;
+    const QString tipoDni = Texto(datos, I::TIPODNI).trimmed();
+    const QString dni = Texto(datos, I::DNIC);
+    const QString nombre = Texto(datos, I::NOMBREC);
+    const QString domicilio = Texto(datos, I::DOMICILIOC);
+    const QString tipoDomi = Texto(datos, I::TIPODOMI).trimmed();
+    const QString pais = Texto(datos, I::PAIS);
+    const QString codProv = Texto(datos, I::CODPROVC);
+    const QString cp = Texto(datos, I::CODPOSC);
+    const QString nomProvincia = Texto(datos, I::NOMPROVC);
+    const QString nomMunicipio = Texto(datos, I::NOMMUNC);
+    const QString codMun = Texto(datos, I::CODMUNC);
+    const QString numero = Texto(datos, I::NUMEROC);
+    const QString numSp = Texto(datos, I::NUMSP);
+    const QString numTr = Texto(datos, I::NUMTR);
+    const QString sigla = Texto(datos, I::VIAC).trimmed();
 
     // A domicile of neither kind is reported as such; the rules that depend on the kind are
     // then left out, since it is not known which of them apply.
@@ -182,14 +186,15 @@ Arreglo2D ArregloErrores(const QList<int>& codigos)
 int16_t ReglasPresentador(const Arreglo& datos)
 {
     using namespace VeredictoPresentador;
-    const QString dni = Texto(datos, 0);
-    const QString nombre = Texto(datos, 1);
-    const QString domicilio = Texto(datos, 2);
-    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, 3));
-    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, 4));
-    const QString nomMunicipio = Texto(datos, 5);
-    const QString cp = cincoCifras(Texto(datos, 6));
-    const QString telefono = Texto(datos, 7).trimmed();
+    namespace V = PosValidacionPresentador;
+    const QString dni = Texto(datos, V::DNIP);
+    const QString nombre = Texto(datos, V::NOMBREP);
+    const QString domicilio = Texto(datos, V::DOMICILIOP);
+    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, V::CODPROVP));
+    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, V::CODMUNP));
+    const QString nomMunicipio = Texto(datos, V::NOMMUNP);
+    const QString cp = cincoCifras(Texto(datos, V::CODPOSP));
+    const QString telefono = Texto(datos, V::TELEFONOP).trimmed();
 
     // A presenter's number is always an official one, and an empty one is as wrong as a
     // badly formed one.

@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
@@ -15,6 +16,7 @@
 #include <limits>
 
 using namespace ArreglosPartes;
+namespace P = PosContribuyente;
 
 namespace {
 
@@ -24,9 +26,8 @@ QString origen(const char* metodo)
 }
 
 const QStringList& kColumnas = GuardadoContribuyente::Columnas();
-constexpr int kElementos = 20;
-constexpr int kNumSp = 18;
-constexpr int kNumTr = 19;
+// A stored row lacks the code: its value of position p stands at p - kPrimera.
+constexpr int kPrimera = P::TIPODNI;
 
 const TablaParte& tabla()
 {
@@ -99,12 +100,14 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
     datos.clear();
     if (!q.next())
         return;
-    datos.reserve(kElementos);
-    datos << csco;
-    for (int i = 0; i < kColumnas.size(); ++i)
-        datos << q.value(i);
-    datos[6] = q.value(5).toInt();
-    datos << q.value(kNumSp - 1).toDouble() << q.value(kNumTr - 1).toDouble();
+    // The query's columns: those of the stored row, then the two counters.
+    datos.resize(P::Tamano);
+    datos[P::CSCO] = csco;
+    for (int p = P::TIPODNI; p <= P::NOMMUNC; ++p)
+        datos[p] = q.value(p - kPrimera);
+    datos[P::NUMEROC] = q.value(P::NUMEROC - kPrimera).toInt();
+    datos[P::NUMSP] = q.value(P::NUMSP - kPrimera).toDouble();
+    datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
 }
 
 int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos) const
@@ -204,15 +207,16 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
                                + donde,
                            valores, org);
-    datos = Arreglo2D(kElementos);
+    // One column per position of the contributor's array; the query's columns stand at them.
+    datos = Arreglo2D(P::Tamano);
     while (q.next()) {
-        datos[0] << q.value(0).toInt();
-        for (int i = 1; i < kElementos; ++i)
-            datos[i] << q.value(i);
-        datos[6].last() = q.value(6).toInt();
-        datos[kNumSp].last() = q.value(kNumSp).toDouble();
-        datos[kNumTr].last() = q.value(kNumTr).toDouble();
+        datos[P::CSCO] << q.value(P::CSCO).toInt();
+        for (int p = P::TIPODNI; p < P::Tamano; ++p)
+            datos[p] << q.value(p);
+        datos[P::NUMEROC].last() = q.value(P::NUMEROC).toInt();
+        datos[P::NUMSP].last() = q.value(P::NUMSP).toDouble();
+        datos[P::NUMTR].last() = q.value(P::NUMTR).toDouble();
     }
-    OrdenarFilas(datos, orden == 2 ? 2 : 3, 0);
+    OrdenarFilas(datos, orden == 2 ? P::DNIC : P::NOMBREC, P::CSCO);
     return static_cast<int32_t>(datos[0].size());
 }

@@ -26,9 +26,8 @@ struct Columna {
     Clase clase;
 };
 
-// The save array, value by value: the column that keeps it and its kind. Value 0 is the code.
-// The load array has the same values at the same indexes up to 23, the presenter's number and
-// name at 24 and 25, and from 26 on the values 24 to 54 of this list (two places further).
+// The save array, value by value in the order of PosGuardarDeclaracion: the column that keeps
+// it and its kind. Value 0 is the code. The load array takes them at PosicionDeCarga.
 constexpr std::array<Columna, cDeclaSvr::kValoresGuardar> kColumnas{{
     {"CSDE", Clase::Entero},          {"REFERENCIA", Clase::Texto},
     {"CSPR", Clase::Parte},           {"CSSU", Clase::Parte},
@@ -59,13 +58,6 @@ constexpr std::array<Columna, cDeclaSvr::kValoresGuardar> kColumnas{{
     {"CODPOSTR", Clase::Texto},       {"CODMUNTR", Clase::Texto},
     {"NOMMUNTR", Clase::Texto},
 }};
-
-constexpr int kPrimeraDePartes = 24;  // first value of the save array after the presenter
-
-int indiceDeCarga(int indiceGuardar)
-{
-    return indiceGuardar < kPrimeraDePartes ? indiceGuardar : indiceGuardar + 2;
-}
 
 [[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
 {
@@ -135,8 +127,8 @@ QString textoNoNulo(const QVariant& v)
     return t.isNull() ? QStringLiteral("") : t;
 }
 
-// The values of the save array (1 to 54) in the stored form, checked before anything is
-// written.
+// The values of the save array (all but the code) in the stored form, checked before
+// anything is written.
 QVariantList valoresGuardados(const QSqlDatabase& db, const Arreglo& datos, const QString& o)
 {
     if (datos.size() != cDeclaSvr::kValoresGuardar)
@@ -145,7 +137,7 @@ QVariantList valoresGuardados(const QSqlDatabase& db, const Arreglo& datos, cons
                          .arg(cDeclaSvr::kValoresGuardar)
                          .arg(datos.size()));
     QVariantList valores;
-    for (int i = 1; i < cDeclaSvr::kValoresGuardar; ++i) {
+    for (int i = PosGuardarDeclaracion::REFERENCIA; i < cDeclaSvr::kValoresGuardar; ++i) {
         const Columna& c = kColumnas[i];
         const QVariant& v = datos[i];
         switch (c.clase) {
@@ -191,30 +183,29 @@ QVariant valorCargado(const Columna& c, const QVariant& v)
 Arreglo cargaVacia()
 {
     Arreglo datos;
-    for (int i = 0; i < cDeclaSvr::kValoresGuardar; ++i) {
-        const QVariant v = valorCargado(kColumnas[i], QVariant());
-        if (i == kPrimeraDePartes)
-            datos << QString() << QString();
-        datos << v;
-    }
-    datos << 0.0;
+    datos.resize(PosCargarDeclaracion::Tamano);
+    for (int i = 0; i < cDeclaSvr::kValoresGuardar; ++i)
+        datos[PosicionDeCarga(i)] = valorCargado(kColumnas[i], QVariant());
+    datos[PosCargarDeclaracion::DNIPR] = QString();
+    datos[PosCargarDeclaracion::NOMBREPR] = QString();
+    datos[PosCargarDeclaracion::DECLASP] = 0.0;
     return datos;
 }
 
-// The columns of a contributor in the order of a party's array (values 1 to 17).
+// The columns of a contributor in the order of a party's array (PosContribuyente::TIPODNI to
+// NOMMUNC).
 const char* const kColumnasContribuyente[] = {
     "TIPODNI", "DNIC", "NOMBREC", "VIAC", "DOMICILIOC", "NUMEROC", "LETRAC", "ESCALERAC", "PISOC",
     "MANOC", "TIPODOMI", "PAIS", "CODPROVC", "NOMPROVC", "CODPOSC", "CODMUNC", "NOMMUNC",
 };
-constexpr int kIndiceNumeroContribuyente = 6;
+static_assert(std::size(kColumnasContribuyente) == PosContribuyente::NOMMUNC);
 
 Arreglo parteVacia()
 {
-    Arreglo datos;
-    datos << 0;
-    for (int i = 1; i <= 17; ++i)
-        datos << (i == kIndiceNumeroContribuyente ? QVariant(0) : QVariant(QString()));
-    datos << 0.0;
+    Arreglo datos(cDeclaSvr::kValoresParte, QString());
+    datos[PosContribuyente::CSCO] = 0;
+    datos[PosContribuyente::NUMEROC] = 0;
+    datos[PosContribuyente::NUMSP] = 0.0;
     return datos;
 }
 
@@ -233,16 +224,16 @@ bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant&
         datos = parteVacia();
         return false;
     }
-    Arreglo parte;
-    const int32_t codigo = q.value(0).toInt();
-    parte << codigo;
-    for (int i = 1; i <= 17; ++i) {
-        if (i == kIndiceNumeroContribuyente)
-            parte << static_cast<int32_t>(q.value(i).toLongLong());
-        else
-            parte << q.value(i).toString();
-    }
-    parte << static_cast<double>(ContadoresPartes::ComoSujeto(db, codigo, o));
+    // The query's columns stand at the positions of the party's array.
+    Arreglo parte(cDeclaSvr::kValoresParte);
+    const int32_t codigo = q.value(PosContribuyente::CSCO).toInt();
+    parte[PosContribuyente::CSCO] = codigo;
+    for (int i = PosContribuyente::TIPODNI; i <= PosContribuyente::NOMMUNC; ++i)
+        parte[i] = q.value(i).toString();
+    parte[PosContribuyente::NUMEROC] =
+        static_cast<int32_t>(q.value(PosContribuyente::NUMEROC).toLongLong());
+    parte[PosContribuyente::NUMSP] =
+        static_cast<double>(ContadoresPartes::ComoSujeto(db, codigo, o));
     datos = std::move(parte);
     return true;
 }
@@ -255,7 +246,8 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos) const
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
     Transaccion transaccion(db, o);
     QVariantList valores = valoresGuardados(db, datos, o);
-    const qint64 codigo = enteroDe(kColumnas[0], datos[0], o);
+    const qint64 codigo =
+        enteroDe(kColumnas[PosGuardarDeclaracion::CSDE], datos[PosGuardarDeclaracion::CSDE], o);
     const qint64 grabacion =
         Escalar(db, QStringLiteral("SELECT COALESCE(MAX(GRABACION), 0) + 1 FROM DECLARACIONES"),
                 {}, o, 1)
@@ -265,7 +257,7 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos) const
     int32_t resultado = 0;
     if (codigo > 0) {
         QStringList asignaciones;
-        for (int i = 1; i < kValoresGuardar; ++i)
+        for (int i = PosGuardarDeclaracion::REFERENCIA; i < kValoresGuardar; ++i)
             asignaciones << QLatin1String(kColumnas[i].nombre) + QStringLiteral(" = ?");
         asignaciones << QStringLiteral("GRABACION = ?");
         QVariantList conCodigo = valores;
@@ -282,10 +274,11 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos) const
         QStringList marcas;
         for (qsizetype i = 0; i < valores.size(); ++i)
             marcas << QStringLiteral("?");
+        const QString columnas = listaColumnas(PosGuardarDeclaracion::REFERENCIA);
         QSqlQuery q = Ejecutar(db,
                                QStringLiteral("INSERT INTO DECLARACIONES (%1, GRABACION) "
                                               "VALUES (%2)")
-                                   .arg(listaColumnas(1), marcas.join(QStringLiteral(", "))),
+                                   .arg(columnas, marcas.join(QStringLiteral(", "))),
                                valores, o);
         resultado = q.lastInsertId().toInt();
     }
@@ -312,13 +305,14 @@ void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos) const
     }
     Arreglo carga(kValoresCargar);
     for (int i = 0; i < kValoresGuardar; ++i)
-        carga[indiceDeCarga(i)] = valorCargado(kColumnas[i], q.value(i));
-    carga[24] = q.value(kValoresGuardar).toString();
-    carga[25] = q.value(kValoresGuardar + 1).toString();
+        carga[PosicionDeCarga(i)] = valorCargado(kColumnas[i], q.value(i));
+    carga[PosCargarDeclaracion::DNIPR] = q.value(kValoresGuardar).toString();
+    carga[PosCargarDeclaracion::NOMBREPR] = q.value(kValoresGuardar + 1).toString();
     // How many returns have this return's transmitter as their subject: the declaration form
     // keeps such a transmitter official and national.
-    const int32_t cstra = carga[4].toInt();
-    carga[57] = static_cast<double>(ContadoresPartes::ComoSujeto(db, cstra, o));
+    const int32_t cstra = carga[PosCargarDeclaracion::CSTRA].toInt();
+    carga[PosCargarDeclaracion::DECLASP] =
+        static_cast<double>(ContadoresPartes::ComoSujeto(db, cstra, o));
     datos = std::move(carga);
 }
 

@@ -4,6 +4,8 @@
 // Set mdbmod and/or mdblec before each call; nothing is kept open between calls that the next
 // call relies on. Failures of the stores are raised as cFallo with the operation as source.
 #include "servicios/Arreglos.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesDeclaracion.h"
 
 #include <QString>
 #include <QVariant>
@@ -14,12 +16,13 @@ public:
     QString mdbmod;
     QString mdblec;
 
-    // Number of values of the save array and of the load array (indexes 0 to 57).
-    static constexpr int kValoresGuardar = 55;
-    static constexpr int kValoresCargar = 58;
-    // Number of values of the validation array and of a party's array.
+    // Number of values of the save array and of the load array (PosicionesDeclaracion.h).
+    static constexpr int kValoresGuardar = PosGuardarDeclaracion::Tamano;
+    static constexpr int kValoresCargar = PosCargarDeclaracion::Tamano;
+    // Number of values of the validation array and of a party's array (a contributor's array
+    // up to the returns that have the party as subject).
     static constexpr int kValoresValidar = 33;
-    static constexpr int kValoresParte = 19;
+    static constexpr int kValoresParte = PosContribuyente::NUMSP + 1;
     // Highest rule number of ValidarDatosDeclaraciones.
     static constexpr int kUltimaRegla = 40;
 

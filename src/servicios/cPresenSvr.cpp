@@ -1,6 +1,7 @@
 #include "servicios/cPresenSvr.h"
 
 #include "servicios/ArreglosPartes.h"
+#include "servicios/PosicionesPresentador.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
@@ -12,6 +13,7 @@
 #include <limits>
 
 using namespace ArreglosPartes;
+namespace P = PosPresentador;
 
 namespace {
 
@@ -20,7 +22,7 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cPresenSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from element 1.
+// The stored columns in the order of the save array, from P::DNIP to P::TELEFONOP.
 const QStringList kColumnas = {
     QStringLiteral("DNIP"),      QStringLiteral("NOMBREP"),   QStringLiteral("VIAP"),
     QStringLiteral("DOMICILIOP"), QStringLiteral("NUMEROP"),  QStringLiteral("LETRAP"),
@@ -28,24 +30,26 @@ const QStringList kColumnas = {
     QStringLiteral("CODPROVP"),  QStringLiteral("CODPOSP"),   QStringLiteral("CODMUNP"),
     QStringLiteral("NOMMUNP"),   QStringLiteral("TELEFONOP"),
 };
+// A stored row lacks the code: its value of position p stands at p - kPrimera.
+constexpr int kPrimera = P::DNIP;
 
 QVariantList filaGuardada(const Arreglo& a, const QString& org)
 {
     return {
-        TextoGuardado(a, 1, 9, "DNIP", org),
-        TextoGuardado(a, 2, 40, "NOMBREP", org),
-        TextoGuardado(a, 3, 2, "VIAP", org),
-        TextoGuardado(a, 4, 20, "DOMICILIOP", org),
-        EnteroGuardado(a, 5, 99999, "NUMEROP", org),
-        TextoGuardado(a, 6, 2, "LETRAP", org),
-        TextoGuardado(a, 7, 2, "ESCALERAP", org),
-        TextoGuardado(a, 8, 2, "PISOP", org),
-        TextoGuardado(a, 9, 3, "MANOP", org),
-        CodigoGuardado(a, 10, 2, "CODPROVP", org),
-        CodigoGuardado(a, 11, 5, "CODPOSP", org),
-        CodigoGuardado(a, 12, 3, "CODMUNP", org),
-        TextoGuardado(a, 13, 25, "NOMMUNP", org),
-        CifrasGuardadas(a, 14, 9, "TELEFONOP", org),
+        TextoGuardado(a, P::DNIP, 9, "DNIP", org),
+        TextoGuardado(a, P::NOMBREP, 40, "NOMBREP", org),
+        TextoGuardado(a, P::VIAP, 2, "VIAP", org),
+        TextoGuardado(a, P::DOMICILIOP, 20, "DOMICILIOP", org),
+        EnteroGuardado(a, P::NUMEROP, 99999, "NUMEROP", org),
+        TextoGuardado(a, P::LETRAP, 2, "LETRAP", org),
+        TextoGuardado(a, P::ESCALERAP, 2, "ESCALERAP", org),
+        TextoGuardado(a, P::PISOP, 2, "PISOP", org),
+        TextoGuardado(a, P::MANOP, 3, "MANOP", org),
+        CodigoGuardado(a, P::CODPROVP, 2, "CODPROVP", org),
+        CodigoGuardado(a, P::CODPOSP, 5, "CODPOSP", org),
+        CodigoGuardado(a, P::CODMUNP, 3, "CODMUNP", org),
+        TextoGuardado(a, P::NOMMUNP, 25, "NOMMUNP", org),
+        CifrasGuardadas(a, P::TELEFONOP, 9, "TELEFONOP", org),
     };
 }
 
@@ -68,8 +72,8 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
     const QString org = origen("GuardarPresentador");
     const QVariantList fila = filaGuardada(datos, org);
     const int32_t cspr =
-        EnteroGuardado(datos, 0, std::numeric_limits<int32_t>::max(), "CSPR", org);
-    const QString dni = fila[0].toString();
+        EnteroGuardado(datos, P::CSPR, std::numeric_limits<int32_t>::max(), "CSPR", org);
+    const QString dni = fila[P::DNIP - kPrimera].toString();
 
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
@@ -110,11 +114,11 @@ void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos) const
     datos.clear();
     if (!q.next())
         return;
-    datos.reserve(kColumnas.size() + 1);
-    datos << cspr;
-    for (int i = 0; i < kColumnas.size(); ++i)
-        datos << q.value(i);
-    datos[5] = q.value(4).toInt();
+    datos.resize(P::Tamano);
+    datos[P::CSPR] = cspr;
+    for (int p = P::DNIP; p < P::Tamano; ++p)
+        datos[p] = q.value(p - kPrimera);
+    datos[P::NUMEROP] = q.value(P::NUMEROP - kPrimera).toInt();
 }
 
 bool cPresenSvr::BorrarPresentador(int32_t cspr) const

@@ -1,12 +1,12 @@
 // The main window: menus and toolbar in both languages, the enabling rules with the counters,
 // the recent declarations, the ways out, help, backup and restore from the menu.
-#include "Reinicio.h"
+#include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
-#include "registros/declaracion/ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "registros/declaracion/cDecDatos.h"
 
 #include "aplicacion/Arranque.h"
@@ -26,12 +26,15 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <memory>
+#include <optional>
 
 class TestMDIVeldo : public QObject {
     Q_OBJECT
 
     std::unique_ptr<CarpetaDePrueba> m_carpeta;
     MDIVeldo* m_ventana = nullptr;
+    // Every box of a test has its answer queued; the closing after the test is no part of it.
+    std::optional<MensajesEstrictos> m_estrictos;
 
     QAction* accion(const char* nombre) const
     {
@@ -46,9 +49,11 @@ private slots:
     {
         m_carpeta = ProgramaConAlmacenNuevo();
         m_ventana = VentanaMDI();
+        m_estrictos.emplace();
     }
     void cleanup()
     {
+        m_estrictos.reset();
         ReiniciarEstado();
         m_ventana = nullptr;
         m_carpeta.reset();
@@ -121,7 +126,7 @@ private slots:
     void unaDeclaracionSoloD1()
     {
         const QList<int32_t> codigos = guardarDeclaraciones(1);
-        NuevoContribuyente(DniValido(11111111), QStringLiteral("PEREZ ANA"));
+        NuevoContribuyente(Dni(11111111), QStringLiteral("PEREZ ANA"));
         m_ventana->ActualizarMenus();
         QVERIFY(accion("d1")->isVisible());
         for (const char* d : {"d2", "d3", "d4"})
@@ -295,11 +300,13 @@ private slots:
         QCOMPARE(NavegadorSeam::registro().size(), 1);
         QVERIFY(MensajeSeam::registro().isEmpty());
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         accion("mnuAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
         QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
         QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Exclamation));
+        MensajeSeam::setNextAnswer(vb::OK);  // the description of the service
         accion("mnuDescripAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(361));
@@ -310,6 +317,7 @@ private slots:
     void copiaDeSeguridadDesdeElMenu()
     {
         const QString copia = m_carpeta->ruta() + "/backups/VELDOMod_bak.mdb";
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         QVERIFY(QFile::exists(copia));
         // No question the first time: at most the notice that the copy was made.
@@ -318,6 +326,7 @@ private slots:
         // A second backup replaces the first, after the question of id 337.
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         QVERIFY(!MensajeSeam::registro().isEmpty());
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(337));
@@ -325,6 +334,7 @@ private slots:
 
     void restaurarTraeElIdiomaDeLaCopia()
     {
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         Entrada().setIDI("E");
         m_ventana->Anadir_captions();
@@ -339,6 +349,7 @@ private slots:
         // Answered Yes: the copy, in Spanish, comes back with its language.
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that the store was restored
         accion("mnuRestore")->trigger();
         QCOMPARE(Entrada().IDI(), QStringLiteral("C"));
         QCOMPARE(OffsetIdioma, int16_t(0));

@@ -1,7 +1,7 @@
 // Printing from the command line: Veldo --pdf CODE FILE with its options writes the copies of
 // a stored return to a PDF file and answers 0; a bad code, date, option or file answers
 // non-zero with the program's message on stderr and writes nothing.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "aplicacion/OrdenesImprimir.h"

@@ -1,5 +1,5 @@
 // The small panels of the core: the first-run language chooser, the preferences and the splash.
-#include "Reinicio.h"
+#include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
@@ -26,6 +26,7 @@
 #include <QSqlQuery>
 #include <QTest>
 #include <memory>
+#include <optional>
 
 class TestPanelesApp : public QObject {
     Q_OBJECT
@@ -53,13 +54,18 @@ class TestPanelesApp : public QObject {
         ActOnline().ObtenerURLAct();
     }
 
+    // Every box of a test has its answer queued; the closing after the test is no part of it.
+    std::optional<MensajesEstrictos> m_estrictos;
+
 private slots:
     void init()
     {
         m_carpeta = ProgramaConAlmacenNuevo();
+        m_estrictos.emplace();
     }
     void cleanup()
     {
+        m_estrictos.reset();
         ReiniciarEstado();
         m_carpeta.reset();
     }

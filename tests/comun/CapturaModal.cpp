@@ -2,12 +2,24 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QWidget>
 
 CapturaModal::CapturaModal(Mirada mirada) : m_mirada(std::move(mirada))
 {
-    connect(&m_reloj, &QTimer::timeout, this, &CapturaModal::mirar);
-    m_reloj.start(10);
+    // A filter is dropped by the application when its object is destroyed.
+    qApp->installEventFilter(this);
+}
+
+bool CapturaModal::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() == QEvent::Show && objeto->isWidgetType()) {
+        const auto* w = static_cast<QWidget*>(objeto);
+        // Queued: the call runs in the modal panel's own loop, once it is fully shown.
+        if (w->isWindow() && w->isModal())
+            QMetaObject::invokeMethod(this, &CapturaModal::mirar, Qt::QueuedConnection);
+    }
+    return false;
 }
 
 void CapturaModal::mirar()

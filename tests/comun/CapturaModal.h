@@ -1,11 +1,13 @@
 #pragma once
 // Watches for the modal panels that a routine opens while it runs: for each one it calls the
-// given function, then closes the panel if it is still open, so the routine goes on.
+// given function, then closes the panel if it is still open, so the routine goes on. It looks
+// when a modal window is shown (an application-wide event filter), from inside the panel's
+// own event loop, rather than at intervals.
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
-#include <QTimer>
+#include <QStringList>
 #include <functional>
 
 class QWidget;
@@ -19,11 +21,13 @@ public:
     // The objectNames of the modal panels seen, in order.
     const QStringList& vistos() const { return m_vistos; }
 
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
 private:
     void mirar();
 
     Mirada m_mirada;
-    QTimer m_reloj;
     QPointer<QWidget> m_ultimo;
     QStringList m_vistos;
 };

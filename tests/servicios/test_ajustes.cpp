@@ -1,6 +1,6 @@
 // The settings kept in the read/write database (language, update setting) and the counters of
 // the user's records, with one or two connections on the same file.
-#include "Apoyo.h"
+#include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
 #include "plataforma/Fallo.h"
@@ -150,10 +150,12 @@ private slots:
                 c.ejecutar(QStringLiteral("COMMIT"));
             }
         });
-        while (!tomado)
-            QThread::msleep(5);
-        general().CambiarIdioma(QStringLiteral("E"));  // waits for the other's commit
+        // The other thread is joined before any check can end the test.
+        const bool aTiempo = QTest::qWaitFor([&] { return tomado.load(); }, 10000);
+        if (aTiempo)
+            general().CambiarIdioma(QStringLiteral("E"));  // waits for the other's commit
         otra.join();
+        QVERIFY(aTiempo);
         QCOMPARE(general().ObtenerIdioma(), QStringLiteral("E"));
         QCOMPARE(general().ObtenerActOnline(), int16_t(0));
     }

@@ -2,7 +2,7 @@
 // in WAL mode, the question before replacing a backup, the failures that leave everything as it
 // was, and the restore of a good file, of files that are not backups of this program, and one
 // answered No.
-#include "Apoyo.h"
+#include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
 #include "paneles/dialogos/DialogoFichero.h"
@@ -163,15 +163,21 @@ private slots:
     void copiaMientrasOtraInstanciaEscribe()
     {
         std::atomic<bool> parar{false};
+        std::atomic<int> escritas{0};
         const QString ruta = mdbmod;
         std::thread otra([&] {
-            while (!parar)
+            while (!parar) {
                 InsertarFilas(ruta, QStringLiteral("CONTRIBUYENTES"), 1);
+                ++escritas;
+            }
         });
-        QThread::msleep(50);
+        // The copy starts once the other has written, however loaded the machine is; the
+        // other thread is joined before any check can end the test.
+        const bool escribe = QTest::qWaitFor([&] { return escritas > 0; }, 10000);
         const bool hecha = paraCopia().CrearBackup();
         parar = true;
         otra.join();
+        QVERIFY(escribe);
         QVERIFY(hecha);
         ConexionCruda c(copia(), true);
         QCOMPARE(c.escalar(QStringLiteral("PRAGMA integrity_check")).toString(), QStringLiteral("ok"));

@@ -1,7 +1,7 @@
 // The generated reference database and the general data read from it: provinces,
 // municipalities of Arbelia, street types, date limits, update address, the pickers' SQL
 // texts run as the panels pass them, and the names looked up for printing.
-#include "Apoyo.h"
+#include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
 #include "plataforma/Fallo.h"

@@ -2,7 +2,7 @@
 // the migration of a file of an older layout, the refusal of a newer layout and of files that
 // are not this program's, a failing migration that leaves the file as it was, and two
 // instances starting at once.
-#include "Apoyo.h"
+#include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
 #include "plataforma/Fallo.h"

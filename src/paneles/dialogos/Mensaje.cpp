@@ -8,6 +8,7 @@ namespace {
 bool g_grabando = false;
 QList<int> g_respuestas;
 QList<MensajeSeam::Registro> g_registro;
+MensajeSeam::AvisoSinRespuesta g_estricto = nullptr;
 
 QMessageBox::Icon iconoDe(int botones)
 {
@@ -72,9 +73,12 @@ int Mensaje(const QString& texto, int botones, const QString& titulo)
 {
     if (!g_grabando)
         return mostrar(texto, botones, titulo);
-    const int r = g_respuestas.isEmpty() ? MensajeSeam::respuestaPorDefecto(botones)
-                                         : g_respuestas.takeFirst();
+    const bool sinRespuesta = g_respuestas.isEmpty();
+    const int r = sinRespuesta ? MensajeSeam::respuestaPorDefecto(botones)
+                               : g_respuestas.takeFirst();
     g_registro.append({texto, titulo, botones, r});
+    if (sinRespuesta && g_estricto)
+        g_estricto(g_registro.last());
     return r;
 }
 
@@ -92,6 +96,7 @@ void limpiar()
     g_registro.clear();
     g_respuestas.clear();
 }
+void estricto(AvisoSinRespuesta aviso) { g_estricto = aviso; }
 int respuestaPorDefecto(int botones)
 {
     const QList<int> respuestas = botonesDe(botones);

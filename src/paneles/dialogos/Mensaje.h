@@ -28,4 +28,10 @@ void setNextAnswer(int respuesta);  // queue one answer
 const QList<Registro>& registro();
 void limpiar();
 int respuestaPorDefecto(int botones);
+
+// Strict mode, for tests that script every box: a box that finds no queued answer is a fault
+// of the test. It is recorded with its default answer as before, and the function given is
+// told of it (the test library makes the running test fail there). Null turns it off.
+using AvisoSinRespuesta = void (*)(const Registro& mensaje);
+void estricto(AvisoSinRespuesta aviso);
 }

@@ -7,8 +7,14 @@
 #include "valores/Formato.h"
 #include "valores/Val.h"
 #include "servicios/Almacen.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
+
+namespace C = PosContribuyente;
+namespace G = PosGuardarDeclaracion;
+namespace L = PosCargarDeclaracion;
 
 namespace {
 
@@ -58,54 +64,54 @@ void cDecDatos::InicializaImportes()
 
 void cDecDatos::CargarSujetoPasivo(const Arreglo& datos)
 {
-    CSSU = entero(datos, 0);
-    DNISP = texto(datos, 2);
-    NOMBRESP = texto(datos, 3);
-    VIASP = texto(datos, 4);
-    DOMICILIOSP = texto(datos, 5);
-    NUMEROSP = entero(datos, 6);
-    LETRASP = texto(datos, 7);
-    ESCALERASP = texto(datos, 8);
-    PISOSP = texto(datos, 9);
-    MANOSP = texto(datos, 10);
-    if (texto(datos, 11) == QLatin1String("E")) {
+    CSSU = entero(datos, C::CSCO);
+    DNISP = texto(datos, C::DNIC);
+    NOMBRESP = texto(datos, C::NOMBREC);
+    VIASP = texto(datos, C::VIAC);
+    DOMICILIOSP = texto(datos, C::DOMICILIOC);
+    NUMEROSP = entero(datos, C::NUMEROC);
+    LETRASP = texto(datos, C::LETRAC);
+    ESCALERASP = texto(datos, C::ESCALERAC);
+    PISOSP = texto(datos, C::PISOC);
+    MANOSP = texto(datos, C::MANOC);
+    if (texto(datos, C::TIPODOMI) == QLatin1String("E")) {
         // A foreign address cannot stand for the subject: only a real province is taken.
-        if (Val(texto(datos, 13)) != 0) {
-            CODPROVSP = texto(datos, 13);
-            CODMUNSP = texto(datos, 16);
-            NOMMUNSP = texto(datos, 17);
+        if (Val(texto(datos, C::CODPROVC)) != 0) {
+            CODPROVSP = texto(datos, C::CODPROVC);
+            CODMUNSP = texto(datos, C::CODMUNC);
+            NOMMUNSP = texto(datos, C::NOMMUNC);
         }
-        CODPOSSP = Formato(texto(datos, 15), QStringLiteral("00000"));
+        CODPOSSP = Formato(texto(datos, C::CODPOSC), QStringLiteral("00000"));
     } else {
-        CODPROVSP = texto(datos, 13);
-        CODPOSSP = texto(datos, 15);
-        CODMUNSP = texto(datos, 16);
-        NOMMUNSP = texto(datos, 17);
+        CODPROVSP = texto(datos, C::CODPROVC);
+        CODPOSSP = texto(datos, C::CODPOSC);
+        CODMUNSP = texto(datos, C::CODMUNC);
+        NOMMUNSP = texto(datos, C::NOMMUNC);
     }
     CODPROVSP = Formato(CODPROVSP, QStringLiteral("00"));
 }
 
 void cDecDatos::CargarTransmitente(const Arreglo& datos)
 {
-    CSTRA = entero(datos, 0);
-    TIPODNITR = texto(datos, 1);
-    DNITR = texto(datos, 2);
-    NOMBRETR = texto(datos, 3);
-    VIATR = texto(datos, 4);
-    DOMICILIOTR = texto(datos, 5);
-    NUMEROTR = entero(datos, 6);
-    LETRATR = texto(datos, 7);
-    ESCALERATR = texto(datos, 8);
-    PISOTR = texto(datos, 9);
-    MANOTR = texto(datos, 10);
-    TIPODOMITR = texto(datos, 11);
-    PAISTR = texto(datos, 12);
-    CODPROVTR = Formato(texto(datos, 13), QStringLiteral("00"));
-    NOMPROVTR = texto(datos, 14);
-    CODPOSTR = texto(datos, 15);
-    CODMUNTR = texto(datos, 16);
-    NOMMUNTR = texto(datos, 17);
-    DECLASP = real(datos, 18);
+    CSTRA = entero(datos, C::CSCO);
+    TIPODNITR = texto(datos, C::TIPODNI);
+    DNITR = texto(datos, C::DNIC);
+    NOMBRETR = texto(datos, C::NOMBREC);
+    VIATR = texto(datos, C::VIAC);
+    DOMICILIOTR = texto(datos, C::DOMICILIOC);
+    NUMEROTR = entero(datos, C::NUMEROC);
+    LETRATR = texto(datos, C::LETRAC);
+    ESCALERATR = texto(datos, C::ESCALERAC);
+    PISOTR = texto(datos, C::PISOC);
+    MANOTR = texto(datos, C::MANOC);
+    TIPODOMITR = texto(datos, C::TIPODOMI);
+    PAISTR = texto(datos, C::PAIS);
+    CODPROVTR = Formato(texto(datos, C::CODPROVC), QStringLiteral("00"));
+    NOMPROVTR = texto(datos, C::NOMPROVC);
+    CODPOSTR = texto(datos, C::CODPOSC);
+    CODMUNTR = texto(datos, C::CODMUNC);
+    NOMMUNTR = texto(datos, C::NOMMUNC);
+    DECLASP = real(datos, C::NUMSP);
 }
 
 void cDecDatos::VolcarTrSp()
@@ -162,76 +168,124 @@ void cDecDatos::VolcarSpTR()
 
 Arreglo cDecDatos::DatosGuardar() const
 {
-    return {
-        CSDE, REFERENCIA, CSPR, CSSU, CSTRA, FECHAD, ADQUIRIDO, MARCA, TIPO, MODELO, BASTIDOR,
-        CLASIFICACION, MOTOR, CILINDRADA, OPERACION, NOSUJETO, EXENTO, REDUCCION, BASEI,
-        BASEIREDUCIDA, TIPOIMP, CUOTA, DEDUCCION, TOTAL,
-        DNISP, NOMBRESP, VIASP, DOMICILIOSP, NUMEROSP, LETRASP, ESCALERASP, PISOSP, MANOSP,
-        CODPROVSP, QString(), CODPOSSP, CODMUNSP, NOMMUNSP,
-        TIPODNITR, DNITR, NOMBRETR, VIATR, DOMICILIOTR, NUMEROTR, LETRATR, ESCALERATR, PISOTR,
-        MANOTR, TIPODOMITR, PAISTR, CODPROVTR, NOMPROVTR, CODPOSTR, CODMUNTR, NOMMUNTR,
-    };
+    Arreglo a(G::Tamano);
+    a[G::CSDE] = CSDE;
+    a[G::REFERENCIA] = REFERENCIA;
+    a[G::CSPR] = CSPR;
+    a[G::CSSU] = CSSU;
+    a[G::CSTRA] = CSTRA;
+    a[G::FECHAD] = FECHAD;
+    a[G::ADQUIRIDO] = ADQUIRIDO;
+    a[G::MARCA] = MARCA;
+    a[G::TIPO] = TIPO;
+    a[G::MODELO] = MODELO;
+    a[G::BASTIDOR] = BASTIDOR;
+    a[G::CLASIFICACION] = CLASIFICACION;
+    a[G::MOTOR] = MOTOR;
+    a[G::CILINDRADA] = CILINDRADA;
+    a[G::OPERACION] = OPERACION;
+    a[G::NOSUJETO] = NOSUJETO;
+    a[G::EXENTO] = EXENTO;
+    a[G::REDUCCION] = REDUCCION;
+    a[G::BASEI] = BASEI;
+    a[G::BASEIREDUCIDA] = BASEIREDUCIDA;
+    a[G::TIPOIMP] = TIPOIMP;
+    a[G::CUOTA] = CUOTA;
+    a[G::DEDUCCION] = DEDUCCION;
+    a[G::TOTAL] = TOTAL;
+    a[G::DNISP] = DNISP;
+    a[G::NOMBRESP] = NOMBRESP;
+    a[G::VIASP] = VIASP;
+    a[G::DOMICILIOSP] = DOMICILIOSP;
+    a[G::NUMEROSP] = NUMEROSP;
+    a[G::LETRASP] = LETRASP;
+    a[G::ESCALERASP] = ESCALERASP;
+    a[G::PISOSP] = PISOSP;
+    a[G::MANOSP] = MANOSP;
+    a[G::CODPROVSP] = CODPROVSP;
+    a[G::NOMPROVSP] = QString();
+    a[G::CODPOSSP] = CODPOSSP;
+    a[G::CODMUNSP] = CODMUNSP;
+    a[G::NOMMUNSP] = NOMMUNSP;
+    a[G::TIPODNITR] = TIPODNITR;
+    a[G::DNITR] = DNITR;
+    a[G::NOMBRETR] = NOMBRETR;
+    a[G::VIATR] = VIATR;
+    a[G::DOMICILIOTR] = DOMICILIOTR;
+    a[G::NUMEROTR] = NUMEROTR;
+    a[G::LETRATR] = LETRATR;
+    a[G::ESCALERATR] = ESCALERATR;
+    a[G::PISOTR] = PISOTR;
+    a[G::MANOTR] = MANOTR;
+    a[G::TIPODOMITR] = TIPODOMITR;
+    a[G::PAISTR] = PAISTR;
+    a[G::CODPROVTR] = CODPROVTR;
+    a[G::NOMPROVTR] = NOMPROVTR;
+    a[G::CODPOSTR] = CODPOSTR;
+    a[G::CODMUNTR] = CODMUNTR;
+    a[G::NOMMUNTR] = NOMMUNTR;
+    return a;
 }
 
 void cDecDatos::DatosCargados(const Arreglo& d)
 {
-    REFERENCIA = texto(d, 1);
-    CSPR = entero(d, 2);
-    CSSU = entero(d, 3);
-    CSTRA = entero(d, 4);
-    FECHAD = entero(d, 5);
-    ADQUIRIDO = texto(d, 6);
-    MARCA = texto(d, 7);
-    TIPO = texto(d, 8);
-    MODELO = texto(d, 9);
-    BASTIDOR = texto(d, 10);
-    CLASIFICACION = static_cast<int16_t>(entero(d, 11));
-    MOTOR = texto(d, 12);
-    CILINDRADA = entero(d, 13);
-    OPERACION = texto(d, 14);
-    NOSUJETO = texto(d, 15);
-    EXENTO = texto(d, 16);
-    REDUCCION = texto(d, 17);
-    BASEI = real(d, 18);
-    BASEIREDUCIDA = real(d, 19);
-    TIPOIMP = real(d, 20);
-    CUOTA = real(d, 21);
-    DEDUCCION = real(d, 22);
-    TOTAL = real(d, 23);
-    DNIPR = texto(d, 24);
-    NOMBREPR = texto(d, 25);
-    DNISP = texto(d, 26);
-    NOMBRESP = texto(d, 27);
-    VIASP = texto(d, 28);
-    DOMICILIOSP = texto(d, 29);
-    NUMEROSP = entero(d, 30);
-    LETRASP = texto(d, 31);
-    ESCALERASP = texto(d, 32);
-    PISOSP = texto(d, 33);
-    MANOSP = texto(d, 34);
-    CODPROVSP = texto(d, 35);
-    m_nomProvSp = texto(d, 36);
-    CODPOSSP = texto(d, 37);
-    CODMUNSP = texto(d, 38);
-    NOMMUNSP = texto(d, 39);
-    TIPODNITR = texto(d, 40);
-    DNITR = texto(d, 41);
-    NOMBRETR = texto(d, 42);
-    VIATR = texto(d, 43);
-    DOMICILIOTR = texto(d, 44);
-    NUMEROTR = entero(d, 45);
-    LETRATR = texto(d, 46);
-    ESCALERATR = texto(d, 47);
-    PISOTR = texto(d, 48);
-    MANOTR = texto(d, 49);
-    TIPODOMITR = texto(d, 50);
-    PAISTR = texto(d, 51);
-    CODPROVTR = texto(d, 52);
-    NOMPROVTR = texto(d, 53);
-    CODPOSTR = texto(d, 54);
-    CODMUNTR = texto(d, 55);
-    NOMMUNTR = texto(d, 56);
-    DECLASP = real(d, 57);
+    REFERENCIA = texto(d, L::REFERENCIA);
+    CSPR = entero(d, L::CSPR);
+    CSSU = entero(d, L::CSSU);
+    CSTRA = entero(d, L::CSTRA);
+    FECHAD = entero(d, L::FECHAD);
+    ADQUIRIDO = texto(d, L::ADQUIRIDO);
+    MARCA = texto(d, L::MARCA);
+    TIPO = texto(d, L::TIPO);
+    MODELO = texto(d, L::MODELO);
+    BASTIDOR = texto(d, L::BASTIDOR);
+    CLASIFICACION = static_cast<int16_t>(entero(d, L::CLASIFICACION));
+    MOTOR = texto(d, L::MOTOR);
+    CILINDRADA = entero(d, L::CILINDRADA);
+    OPERACION = texto(d, L::OPERACION);
+    NOSUJETO = texto(d, L::NOSUJETO);
+    EXENTO = texto(d, L::EXENTO);
+    REDUCCION = texto(d, L::REDUCCION);
+    BASEI = real(d, L::BASEI);
+    BASEIREDUCIDA = real(d, L::BASEIREDUCIDA);
+    TIPOIMP = real(d, L::TIPOIMP);
+    CUOTA = real(d, L::CUOTA);
+    DEDUCCION = real(d, L::DEDUCCION);
+    TOTAL = real(d, L::TOTAL);
+    DNIPR = texto(d, L::DNIPR);
+    NOMBREPR = texto(d, L::NOMBREPR);
+    DNISP = texto(d, L::DNISP);
+    NOMBRESP = texto(d, L::NOMBRESP);
+    VIASP = texto(d, L::VIASP);
+    DOMICILIOSP = texto(d, L::DOMICILIOSP);
+    NUMEROSP = entero(d, L::NUMEROSP);
+    LETRASP = texto(d, L::LETRASP);
+    ESCALERASP = texto(d, L::ESCALERASP);
+    PISOSP = texto(d, L::PISOSP);
+    MANOSP = texto(d, L::MANOSP);
+    CODPROVSP = texto(d, L::CODPROVSP);
+    m_nomProvSp = texto(d, L::NOMPROVSP);
+    CODPOSSP = texto(d, L::CODPOSSP);
+    CODMUNSP = texto(d, L::CODMUNSP);
+    NOMMUNSP = texto(d, L::NOMMUNSP);
+    TIPODNITR = texto(d, L::TIPODNITR);
+    DNITR = texto(d, L::DNITR);
+    NOMBRETR = texto(d, L::NOMBRETR);
+    VIATR = texto(d, L::VIATR);
+    DOMICILIOTR = texto(d, L::DOMICILIOTR);
+    NUMEROTR = entero(d, L::NUMEROTR);
+    LETRATR = texto(d, L::LETRATR);
+    ESCALERATR = texto(d, L::ESCALERATR);
+    PISOTR = texto(d, L::PISOTR);
+    MANOTR = texto(d, L::MANOTR);
+    TIPODOMITR = texto(d, L::TIPODOMITR);
+    PAISTR = texto(d, L::PAISTR);
+    CODPROVTR = texto(d, L::CODPROVTR);
+    NOMPROVTR = texto(d, L::NOMPROVTR);
+    CODPOSTR = texto(d, L::CODPOSTR);
+    CODMUNTR = texto(d, L::CODMUNTR);
+    NOMMUNTR = texto(d, L::NOMMUNTR);
+    DECLASP = real(d, L::DECLASP);
 }
 
 void cDecDatos::ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha,

@@ -6,7 +6,7 @@
 #include "registros/partes/CriteriosLista.h"
 #include "registros/intercambio/Cp1252.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>
@@ -19,16 +19,16 @@ using C = CampoIntercambio;
 
 // The column of the store's answer that holds each field of the line.
 constexpr int kColumnaDe[kCamposIntercambio] = {
-    PosGuardarContribuyente::TIPODNI,  PosGuardarContribuyente::DNIC,
-    PosGuardarContribuyente::NOMBREC,  PosGuardarContribuyente::VIAC,
-    PosGuardarContribuyente::DOMICILIOC, PosGuardarContribuyente::NUMEROC,
-    PosGuardarContribuyente::LETRAC,   PosGuardarContribuyente::ESCALERAC,
-    PosGuardarContribuyente::PISOC,    PosGuardarContribuyente::MANOC,
-    PosGuardarContribuyente::TIPODOMI, PosGuardarContribuyente::PAIS,
-    PosGuardarContribuyente::CODPROVC, PosGuardarContribuyente::NOMPROVC,
-    PosGuardarContribuyente::CODPOSC,  PosGuardarContribuyente::CODMUNC,
-    PosGuardarContribuyente::NOMMUNC,  PosGuardarContribuyente::NUMSP,
-    PosGuardarContribuyente::NUMTR,
+    PosContribuyente::TIPODNI,  PosContribuyente::DNIC,
+    PosContribuyente::NOMBREC,  PosContribuyente::VIAC,
+    PosContribuyente::DOMICILIOC, PosContribuyente::NUMEROC,
+    PosContribuyente::LETRAC,   PosContribuyente::ESCALERAC,
+    PosContribuyente::PISOC,    PosContribuyente::MANOC,
+    PosContribuyente::TIPODOMI, PosContribuyente::PAIS,
+    PosContribuyente::CODPROVC, PosContribuyente::NOMPROVC,
+    PosContribuyente::CODPOSC,  PosContribuyente::CODMUNC,
+    PosContribuyente::NOMMUNC,  PosContribuyente::NUMSP,
+    PosContribuyente::NUMTR,
 };
 
 // A stored number as the file writes it; blank is 0, and a value that is no whole number
@@ -98,7 +98,7 @@ void cExportar::TablaContriExpCLEAR()
 void cExportar::TablaContriAÑADIR(const Arreglo2D& datos, int fila)
 {
     RegistroContri r;
-    r.CSCO = datos.at(PosGuardarContribuyente::CSCO).at(fila).toInt();
+    r.CSCO = datos.at(PosContribuyente::CSCO).at(fila).toInt();
     for (int i = 0; i < kCamposIntercambio; ++i) {
         const QVariant& v = datos.at(kColumnaDe[i]).at(fila);
         const DefinicionCampo& d = Definicion(static_cast<C>(i));

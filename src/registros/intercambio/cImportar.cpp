@@ -9,7 +9,7 @@
 #include "registros/intercambio/LectorLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "servicios/LoteContribuyentes.h"
-#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>
@@ -35,23 +35,23 @@ QString Ruta(const QString& fichero)
 // The validation array of a line: its raw fields, blanks included.
 Arreglo ArregloValidacion(const LineaLeida& l)
 {
-    namespace P = PosValidarImportar;
-    Arreglo a(P::Elementos);
+    namespace P = PosImportar;
+    Arreglo a(P::Tamano);
     a[P::TIPODNI] = l[C::TIPODNI];
-    a[P::DNI] = l[C::DNI];
-    a[P::NOMBRE] = l[C::NOMBRE];
-    a[P::DOMICILIO] = l[C::DOMICILIO];
-    a[P::TIPODOMICILIO] = l[C::TIPODOMICILIO];
+    a[P::DNIC] = l[C::DNI];
+    a[P::NOMBREC] = l[C::NOMBRE];
+    a[P::DOMICILIOC] = l[C::DOMICILIO];
+    a[P::TIPODOMI] = l[C::TIPODOMICILIO];
     a[P::PAIS] = l[C::PAIS];
-    a[P::CODIGOPROVINCIA] = l[C::CODIGOPROVINCIA];
-    a[P::CODIGOPOSTAL] = l[C::CODIGOPOSTAL];
-    a[P::NOMBREPROVINCIA] = l[C::NOMBREPROVINCIA];
-    a[P::NOMBREMUNICIPIO] = l[C::NOMBREMUNICIPIO];
-    a[P::CODIGOMUNICIPIO] = l[C::CODIGOMUNICIPIO];
-    a[P::NUMERO] = l[C::NUMERO];
-    a[P::NUMEROSUJETOPASIVO] = l[C::NUMEROSUJETOPASIVO];
-    a[P::NUMEROTRANSMITENTE] = l[C::NUMEROTRANSMITENTE];
-    a[P::SIGLAS] = l[C::SIGLAS];
+    a[P::CODPROVC] = l[C::CODIGOPROVINCIA];
+    a[P::CODPOSC] = l[C::CODIGOPOSTAL];
+    a[P::NOMPROVC] = l[C::NOMBREPROVINCIA];
+    a[P::NOMMUNC] = l[C::NOMBREMUNICIPIO];
+    a[P::CODMUNC] = l[C::CODIGOMUNICIPIO];
+    a[P::NUMEROC] = l[C::NUMERO];
+    a[P::NUMSP] = l[C::NUMEROSUJETOPASIVO];
+    a[P::NUMTR] = l[C::NUMEROTRANSMITENTE];
+    a[P::VIAC] = l[C::SIGLAS];
     return a;
 }
 
@@ -59,9 +59,9 @@ Arreglo ArregloValidacion(const LineaLeida& l)
 // the order of the store's save array.
 Arreglo ArregloGuardar(const LineaLeida& l, int32_t codigo)
 {
-    namespace P = PosGuardarContribuyente;
-    static_assert(P::TIPODNI + kCamposIntercambio == P::Elementos);
-    Arreglo a(P::Elementos);
+    namespace P = PosContribuyente;
+    static_assert(P::TIPODNI + kCamposIntercambio == P::Tamano);
+    Arreglo a(P::Tamano);
     a[P::CSCO] = codigo;
     for (int i = 0; i < kCamposIntercambio; ++i)
         a[P::TIPODNI + i] = l.campos[i];
@@ -119,8 +119,8 @@ struct cImportar::Ejecucion {
         if (Refusada(l))
             return;
         Arreglo a = ArregloGuardar(l, 0);
-        a[PosGuardarContribuyente::NUMSP] = 0;
-        a[PosGuardarContribuyente::NUMTR] = 0;
+        a[PosContribuyente::NUMSP] = 0;
+        a[PosContribuyente::NUMTR] = 0;
         lote->GuardarContribuyente(a, sustituir);
         ++estado.NUMEROIMP;
     }

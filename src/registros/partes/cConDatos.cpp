@@ -5,9 +5,13 @@
 #include "plataforma/General.h"
 #include "valores/Formato.h"
 #include "servicios/Almacen.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/cContribSvr.h"
 
 #include <array>
+
+namespace P = PosContribuyente;
+namespace V = PosValidacionContribuyente;
 
 namespace {
 
@@ -56,27 +60,27 @@ void cConDatos::CargarContribuyente(int32_t codigo)
 {
     Arreglo d;
     Almacen<cContribSvr>().CargarContribuyente(codigo, d);
-    if (d.size() < 20)
+    if (d.size() < P::Tamano)
         return;
-    TIPODNI = d[1].toString();
-    DNIC = d[2].toString();
-    NOMBREC = d[3].toString();
-    VIAC = d[4].toString();
-    DOMICILIOC = d[5].toString();
-    NUMEROC = d[6].toInt();
-    LETRAC = d[7].toString();
-    ESCALERAC = d[8].toString();
-    PISOC = d[9].toString();
-    MANOC = d[10].toString();
-    TIPODOMI = d[11].toString();
-    PAIS = d[12].toString();
-    CODPROVC = Formato(d[13].toString(), QStringLiteral("00"));
-    NOMPROVC = d[14].toString();
-    CODPOSC = d[15].toString();
-    CODMUNC = d[16].toString();
-    NOMMUNC = d[17].toString();
-    NUMSP = d[18].toDouble();
-    NUMTR = d[19].toDouble();
+    TIPODNI = d[P::TIPODNI].toString();
+    DNIC = d[P::DNIC].toString();
+    NOMBREC = d[P::NOMBREC].toString();
+    VIAC = d[P::VIAC].toString();
+    DOMICILIOC = d[P::DOMICILIOC].toString();
+    NUMEROC = d[P::NUMEROC].toInt();
+    LETRAC = d[P::LETRAC].toString();
+    ESCALERAC = d[P::ESCALERAC].toString();
+    PISOC = d[P::PISOC].toString();
+    MANOC = d[P::MANOC].toString();
+    TIPODOMI = d[P::TIPODOMI].toString();
+    PAIS = d[P::PAIS].toString();
+    CODPROVC = Formato(d[P::CODPROVC].toString(), QStringLiteral("00"));
+    NOMPROVC = d[P::NOMPROVC].toString();
+    CODPOSC = d[P::CODPOSC].toString();
+    CODMUNC = d[P::CODMUNC].toString();
+    NOMMUNC = d[P::NOMMUNC].toString();
+    NUMSP = d[P::NUMSP].toDouble();
+    NUMTR = d[P::NUMTR].toDouble();
 }
 
 void cConDatos::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
@@ -102,15 +106,45 @@ int16_t cConDatos::GuardarContribuyente(const Arreglo& datos) const
 
 Arreglo cConDatos::ArregloValidacion() const
 {
-    return {TIPODNI, DNIC,    NOMBREC,  DOMICILIOC, TIPODOMI, PAIS,
-            CODPROVC, CODPOSC, NOMPROVC, NOMMUNC,   CODMUNC};
+    Arreglo a(V::Tamano);
+    a[V::TIPODNI] = TIPODNI;
+    a[V::DNIC] = DNIC;
+    a[V::NOMBREC] = NOMBREC;
+    a[V::DOMICILIOC] = DOMICILIOC;
+    a[V::TIPODOMI] = TIPODOMI;
+    a[V::PAIS] = PAIS;
+    a[V::CODPROVC] = CODPROVC;
+    a[V::CODPOSC] = CODPOSC;
+    a[V::NOMPROVC] = NOMPROVC;
+    a[V::NOMMUNC] = NOMMUNC;
+    a[V::CODMUNC] = CODMUNC;
+    return a;
 }
 
 Arreglo cConDatos::ArregloGuardar() const
 {
-    return {CSCO,     TIPODNI,  DNIC,   NOMBREC, VIAC,     DOMICILIOC, NUMEROC,
-            LETRAC,   ESCALERAC, PISOC, MANOC,   TIPODOMI, PAIS,       CODPROVC,
-            NOMPROVC, CODPOSC,  CODMUNC, NOMMUNC, NUMSP,   NUMTR};
+    Arreglo a(P::Tamano);
+    a[P::CSCO] = CSCO;
+    a[P::TIPODNI] = TIPODNI;
+    a[P::DNIC] = DNIC;
+    a[P::NOMBREC] = NOMBREC;
+    a[P::VIAC] = VIAC;
+    a[P::DOMICILIOC] = DOMICILIOC;
+    a[P::NUMEROC] = NUMEROC;
+    a[P::LETRAC] = LETRAC;
+    a[P::ESCALERAC] = ESCALERAC;
+    a[P::PISOC] = PISOC;
+    a[P::MANOC] = MANOC;
+    a[P::TIPODOMI] = TIPODOMI;
+    a[P::PAIS] = PAIS;
+    a[P::CODPROVC] = CODPROVC;
+    a[P::NOMPROVC] = NOMPROVC;
+    a[P::CODPOSC] = CODPOSC;
+    a[P::CODMUNC] = CODMUNC;
+    a[P::NOMMUNC] = NOMMUNC;
+    a[P::NUMSP] = NUMSP;
+    a[P::NUMTR] = NUMTR;
+    return a;
 }
 
 int cConDatos::IdMensajeValidacion(int16_t veredicto)

@@ -6,9 +6,13 @@
 #include "valores/Formato.h"
 #include "valores/Val.h"
 #include "servicios/Almacen.h"
+#include "servicios/PosicionesPresentador.h"
 #include "servicios/cPresenSvr.h"
 
 #include <array>
+
+namespace P = PosPresentador;
+namespace V = PosValidacionPresentador;
 
 namespace {
 
@@ -51,22 +55,22 @@ void cPreDatos::CargarPresentador(int32_t codigo)
 {
     Arreglo d;
     servidor().CargarPresentador(codigo, d);
-    if (d.size() < 15)
+    if (d.size() < P::Tamano)
         return;
-    DNIP = d[1].toString();
-    NOMBREP = d[2].toString();
-    VIAP = d[3].toString();
-    DOMICILIOP = d[4].toString();
-    NUMEROP = d[5].toInt();
-    LETRAP = d[6].toString();
-    ESCALERAP = d[7].toString();
-    PISOP = d[8].toString();
-    MANOP = d[9].toString();
-    CODPROVP = Formato(d[10].toString(), QStringLiteral("00"));
-    CODPOSP = Formato(d[11].toString(), QStringLiteral("00000"));
-    CODMUNP = d[12].toString();
-    NOMMUNP = d[13].toString();
-    TELEFONOP = Val(d[14].toString()) != 0 ? d[14].toString() : QString();
+    DNIP = d[P::DNIP].toString();
+    NOMBREP = d[P::NOMBREP].toString();
+    VIAP = d[P::VIAP].toString();
+    DOMICILIOP = d[P::DOMICILIOP].toString();
+    NUMEROP = d[P::NUMEROP].toInt();
+    LETRAP = d[P::LETRAP].toString();
+    ESCALERAP = d[P::ESCALERAP].toString();
+    PISOP = d[P::PISOP].toString();
+    MANOP = d[P::MANOP].toString();
+    CODPROVP = Formato(d[P::CODPROVP].toString(), QStringLiteral("00"));
+    CODPOSP = Formato(d[P::CODPOSP].toString(), QStringLiteral("00000"));
+    CODMUNP = d[P::CODMUNP].toString();
+    NOMMUNP = d[P::NOMMUNP].toString();
+    TELEFONOP = Val(d[P::TELEFONOP].toString()) != 0 ? d[P::TELEFONOP].toString() : QString();
 }
 
 int16_t cPreDatos::GuardarPresentador(const Arreglo& datos) const
@@ -91,13 +95,37 @@ int32_t cPreDatos::ObtenerCodigoPresentador(const QString& dni) const
 
 Arreglo cPreDatos::ArregloValidacion() const
 {
-    return {DNIP, NOMBREP, DOMICILIOP, CODPROVP, CODMUNP, NOMMUNP, CODPOSP, TELEFONOP};
+    Arreglo a(V::Tamano);
+    a[V::DNIP] = DNIP;
+    a[V::NOMBREP] = NOMBREP;
+    a[V::DOMICILIOP] = DOMICILIOP;
+    a[V::CODPROVP] = CODPROVP;
+    a[V::CODMUNP] = CODMUNP;
+    a[V::NOMMUNP] = NOMMUNP;
+    a[V::CODPOSP] = CODPOSP;
+    a[V::TELEFONOP] = TELEFONOP;
+    return a;
 }
 
 Arreglo cPreDatos::ArregloGuardar() const
 {
-    return {CSPR,      DNIP,  NOMBREP, VIAP,     DOMICILIOP, NUMEROP, LETRAP, ESCALERAP,
-            PISOP,     MANOP, CODPROVP, CODPOSP, CODMUNP,    NOMMUNP, TELEFONOP};
+    Arreglo a(P::Tamano);
+    a[P::CSPR] = CSPR;
+    a[P::DNIP] = DNIP;
+    a[P::NOMBREP] = NOMBREP;
+    a[P::VIAP] = VIAP;
+    a[P::DOMICILIOP] = DOMICILIOP;
+    a[P::NUMEROP] = NUMEROP;
+    a[P::LETRAP] = LETRAP;
+    a[P::ESCALERAP] = ESCALERAP;
+    a[P::PISOP] = PISOP;
+    a[P::MANOP] = MANOP;
+    a[P::CODPROVP] = CODPROVP;
+    a[P::CODPOSP] = CODPOSP;
+    a[P::CODMUNP] = CODMUNP;
+    a[P::NOMMUNP] = NOMMUNP;
+    a[P::TELEFONOP] = TELEFONOP;
+    return a;
 }
 
 int cPreDatos::IdMensajeValidacion(int16_t veredicto)

@@ -4,6 +4,7 @@
 #include "comun/CapturaModal.h"
 #include "ServidorPrueba.h"
 #include "comun/Entorno.h"
+#include "comun/MensajesEstrictos.h"
 
 #include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/ActualizacionOnline.h"
@@ -24,6 +25,7 @@
 #include <QTest>
 #include <QUrlQuery>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -79,6 +81,7 @@ class TestComprobacion : public QObject {
     Q_OBJECT
 
     std::unique_ptr<CarpetaDePrueba> m_carpeta;
+    std::optional<MensajesEstrictos> m_estrictos;  // every box has its answer queued
     std::unique_ptr<ServidorPrueba> m_servidor;
     QList<Vista> m_vistas;
 
@@ -112,10 +115,12 @@ private slots:
         m_servidor = std::make_unique<ServidorPrueba>();
         ActOnline().URLAct = m_servidor->url();
         EstablecerEsperaMaximaDescarga(std::chrono::milliseconds(15000));
+        m_estrictos.emplace();
     }
 
     void cleanup()
     {
+        m_estrictos.reset();
         m_servidor.reset();
         m_carpeta.reset();
         OffsetIdioma = 0;

@@ -1,6 +1,7 @@
 // The two outcome panels of the update check, the browser launch through the local page, and
 // the update setting kept in the read/write database.
 #include "comun/Entorno.h"
+#include "comun/MensajesEstrictos.h"
 
 #include "paneles/actualizacion/FrmSinConexion.h"
 #include "paneles/actualizacion/FrmVersionCheck.h"
@@ -27,6 +28,7 @@
 #include <QTest>
 #include <QTextStream>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -82,6 +84,7 @@ class TestPaneles : public QObject {
     Q_OBJECT
 
     std::unique_ptr<CarpetaDePrueba> m_carpeta;
+    std::optional<MensajesEstrictos> m_estrictos;  // every box has its answer queued
 
     void crearBaseModificable()
     {
@@ -115,10 +118,12 @@ private slots:
         NavegadorSeam::grabar(true);
         OffsetIdioma = 0;
         versionesDePrueba(0);
+        m_estrictos.emplace();
     }
 
     void cleanup()
     {
+        m_estrictos.reset();
         m_carpeta.reset();
         OffsetIdioma = 0;
     }
@@ -251,6 +256,7 @@ private slots:
     void sinNavegadorAvisa()
     {
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().at(0);
@@ -265,6 +271,7 @@ private slots:
     {
         OffsetIdioma = 10000;
         NavegadorSeam::setNextResult(false);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().at(0).texto, TextoFila(10335));
         QCOMPARE(MensajeSeam::registro().at(0).titulo, TextoFila(10336));

@@ -1,6 +1,6 @@
 #include "ApoyoImpreso.h"
 
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/CopiasImpresas.h"
 #include "registros/imprimir/cImOf.h"
@@ -9,9 +9,9 @@
 
 int32_t DeclaracionLlena()
 {
-    const int32_t pr = NuevoPresentador(DniValido(11111111), QStringLiteral("GESTORIA UNO"));
-    const int32_t sp = NuevoContribuyente(DniValido(22222222), QStringLiteral("SUJETO"));
-    const int32_t tr = NuevoContribuyente(DniValido(33333333), QStringLiteral("TRANS"));
+    const int32_t pr = NuevoPresentador(Dni(11111111), QStringLiteral("GESTORIA UNO"));
+    const int32_t sp = NuevoContribuyente(Dni(22222222), QStringLiteral("SUJETO"));
+    const int32_t tr = NuevoContribuyente(Dni(33333333), QStringLiteral("TRANS"));
     DeclaracionValida();
     cDecDatos& d = DecDatos();
     d.CSPR = pr;
@@ -33,7 +33,7 @@ int32_t DeclaracionLlena()
     d.CUOTA = 100000;
     d.DEDUCCION = 5;
     d.TOTAL = 99995;
-    d.DNISP = DniValido(22222222);
+    d.DNISP = Dni(22222222);
     d.NOMBRESP = QStringLiteral("NNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNN");
     d.DOMICILIOSP = QStringLiteral("DDDDDDDDDDDDDDDDDDDD");
     d.NUMEROSP = 99999;
@@ -44,7 +44,7 @@ int32_t DeclaracionLlena()
     d.CODPROVSP = QStringLiteral("77");
     d.CODPOSSP = QStringLiteral("77001");
     d.CODMUNSP = QStringLiteral("001");
-    d.DNITR = DniValido(33333333);
+    d.DNITR = Dni(33333333);
     d.NOMBRETR = QStringLiteral("RRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRRR");
     d.TIPODOMITR = QStringLiteral("E");
     d.DOMICILIOTR = QStringLiteral("CALLE DE FUERA      ");

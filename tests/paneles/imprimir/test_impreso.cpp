@@ -2,7 +2,7 @@
 // at its place in its font, a sample of every block's labels, the pictures, the copies in
 // their order, the bank sheet, the draft, with and without presenter, and the edge cases of
 // the data (municipality, foreign party, numbers 0, engine, reduction key, Basque date).
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "registros/declaracion/cDecDatos.h"

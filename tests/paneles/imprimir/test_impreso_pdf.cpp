@@ -1,7 +1,7 @@
 // One full sheet written to a PDF file and read back with pdftotext -bbox: a sample of texts
 // stands within 0.3 mm of where the form puts them, the fonts are embedded, and the four
 // copies make four pages.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "paneles/imprimir/cSuperficieImpresora.h"

@@ -5,6 +5,8 @@
 // the order of selection, and both languages.
 #include "ApoyoIntercambio.h"
 #include "ApoyoListas.h"
+#include "comun/PartesPrueba.h"
+#include "comun/ProgramaPrueba.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/dialogos/DialogoFichero.h"
@@ -32,7 +34,7 @@ cFlexGrid* Grid(QWidget* panel, const char* nombre)
     return panel->findChild<cFlexGrid*>(QString::fromLatin1(nombre));
 }
 
-QString Dni(quint32 n)
+QString NumeroDni(quint32 n)
 {
     return QString::fromLatin1(DniDe(n));
 }
@@ -42,7 +44,7 @@ QString Dni(quint32 n)
 class TestFrmExportar : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<EntornoListas> m_entorno;
+    std::unique_ptr<ProgramaDePrueba> m_entorno;
 
     QWidget* AbrirDesdeMenu()
     {
@@ -57,13 +59,13 @@ class TestFrmExportar : public QObject {
     {
         QList<int32_t> codigos;
         for (int i = 1; i <= n; ++i)
-            codigos << NuevoContribuyente(Dni(quint32(i)),
+            codigos << NuevoContribuyente(NumeroDni(quint32(i)),
                                           QStringLiteral("%1 %2").arg(nombre).arg(i, 2, 10, QLatin1Char('0')));
         return codigos;
     }
 
 private slots:
-    void init() { m_entorno = std::make_unique<EntornoListas>(); }
+    void init() { m_entorno = std::make_unique<ProgramaDePrueba>(); }
     void cleanup() { m_entorno.reset(); }
 
     void aperturaYPaginas()
@@ -78,7 +80,7 @@ private slots:
         QCOMPARE(Fila(encontrados, 0),
                  (QStringList{QStringLiteral("NºCon."), QStringLiteral("Apellidos y Nombre"),
                               QStringLiteral("DNI")}));
-        QCOMPARE(Fila(encontrados, 1).mid(1), (QStringList{QStringLiteral("ALFA 01"), Dni(1)}));
+        QCOMPARE(Fila(encontrados, 1).mid(1), (QStringList{QStringLiteral("ALFA 01"), NumeroDni(1)}));
         QCOMPARE(Etiqueta(panel, "lblResultado1")->text(),
                  QStringLiteral("13 contribuyente(s) en la lista "));
         QCOMPARE(Etiqueta(panel, "LblResultado2")->text(),
@@ -95,7 +97,7 @@ private slots:
         Boton(panel, "cmdCancelar")->click();
         Procesar();
         QVERIFY(!PanelAbierto(QStringLiteral("FrmExportar")));
-        NuevoContribuyente(Dni(14), QStringLiteral("ALFA 14"));
+        NuevoContribuyente(NumeroDni(14), QStringLiteral("ALFA 14"));
         QCOMPARE(Grid(AbrirDesdeMenu(), "flxDeclaraciones")->Rows(), 27);
     }
 
@@ -138,7 +140,7 @@ private slots:
     void busquedaYOrden()
     {
         Poblar(3, QStringLiteral("ALFA"));
-        NuevoContribuyente(Dni(20), QStringLiteral("BETA 20"));
+        NuevoContribuyente(NumeroDni(20), QStringLiteral("BETA 20"));
         QWidget* panel = AbrirDesdeMenu();
         cFlexGrid* encontrados = Grid(panel, "flxDeclaraciones");
         // Select one first: it stays selected across searches.
@@ -179,7 +181,7 @@ private slots:
         QCOMPARE(encontrados->Rows(), 14);
         ClicCabecera(encontrados, 2);
         QCOMPARE(int(Exportar().ORDEN), 2);
-        QCOMPARE(Fila(encontrados, 4).at(2), Dni(20));
+        QCOMPARE(Fila(encontrados, 4).at(2), NumeroDni(20));
     }
 
     void exportarConPregunta250()
@@ -208,10 +210,10 @@ private slots:
         // No all the same: the file is overwritten, in the order of selection, and the panel
         // closes without a word.
         const QByteArray bytes = Leer(destino + QStringLiteral(".txt"));
-        QCOMPARE(bytes, Linea({"O", DniDe(2), "ALFA 02", "CL", "MAYOR", "1", "", "", "", "", "N",
+        QCOMPARE(bytes, Linea({"O", DniDe(2), "ALFA 02", "CL", "MAYOR", "7", "B", "1", "2", "IZQ", "N",
                                "", "77", "", "77001", "1", "", "0", "0"})
                             + "\r\n"
-                            + Linea({"O", DniDe(1), "ALFA 01", "CL", "MAYOR", "1", "", "", "", "",
+                            + Linea({"O", DniDe(1), "ALFA 01", "CL", "MAYOR", "7", "B", "1", "2", "IZQ",
                                      "N", "", "77", "", "77001", "1", "", "0", "0"})
                             + "\r\n");
         QVERIFY(!PanelAbierto(QStringLiteral("FrmExportar")));
@@ -225,6 +227,7 @@ private slots:
         QWidget* panel = AbrirDesdeMenu();
         Boton(panel, "CmdSelTodos")->click();
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto,
@@ -242,6 +245,7 @@ private slots:
         Boton(panel, "CmdSelTodos")->click();
         Exportar().FICHEROAEXPORTAR = CarpetaPrograma() + QStringLiteral("/no/hay/F.txt");
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().last().texto,
                  QStringLiteral("         No hay disquete en la unidad"));
@@ -251,7 +255,7 @@ private slots:
     void enEuskera()
     {
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>(QStringLiteral("E"));
+        m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         Poblar(2);
         QWidget* panel = AbrirDesdeMenu();
         QCOMPARE(panel->windowTitle(), TextoFila(10252));

@@ -4,6 +4,8 @@
 // the panel ready, and both languages.
 #include "ApoyoIntercambio.h"
 #include "ApoyoListas.h"
+#include "comun/PartesPrueba.h"
+#include "comun/ProgramaPrueba.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/dialogos/DialogoFichero.h"
@@ -43,7 +45,7 @@ QString Valor(QWidget* panel, const char* nombre)
 class TestFrmImportar : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<EntornoListas> m_entorno;
+    std::unique_ptr<ProgramaDePrueba> m_entorno;
 
     QWidget* Abrir(const QByteArray& contenido)
     {
@@ -53,7 +55,7 @@ class TestFrmImportar : public QObject {
     }
 
 private slots:
-    void init() { m_entorno = std::make_unique<EntornoListas>(); }
+    void init() { m_entorno = std::make_unique<ProgramaDePrueba>(); }
     void cleanup() { m_entorno.reset(); }
 
     void aperturaDesdeElMenu()
@@ -106,6 +108,7 @@ private slots:
         QWidget* panel = Abrir(LineaValida(1, "NUEVO") + "\r\n" + LineaValida(2) + "\r\ncorta\r\n");
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);
         QTest::mouseClick(Boton(panel, "cmdAceptar"), Qt::LeftButton);
         Procesar();
         const auto& r = MensajeSeam::registro();
@@ -160,6 +163,7 @@ private slots:
         QCOMPARE(Importar().AUTOMATICO, QStringLiteral(" "));
         chk->click();
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto,
@@ -172,6 +176,7 @@ private slots:
     {
         QWidget* panel = Abrir("a\r\nb\r\n");
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().last().texto,
                  QStringLiteral("Todos los contribuyentes que desea importar son erróneos"));
@@ -192,6 +197,7 @@ private slots:
         QWidget* panel = AbrirDesdeMenu(m_entorno->ventana());
         Importar().FICHEROAIMPORTAR = CarpetaPrograma() + QStringLiteral("/no-esta.txt");
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto,
@@ -202,6 +208,7 @@ private slots:
         Escribir(CarpetaPrograma() + QStringLiteral("/x.txt"), LineaValida(1) + "\r\n");
         Importar().FICHEROAIMPORTAR = CarpetaPrograma() + QStringLiteral("/x.txt");
         Importar().FICHEROERRORES = Importar().FICHEROAIMPORTAR;
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().last().texto, QStringLiteral("El fichero ya está abierto"));
         QCOMPARE(Valor(panel, "LblTotal"), QStringLiteral("0"));
@@ -210,13 +217,14 @@ private slots:
     void enEuskera()
     {
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>(QStringLiteral("E"));
+        m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QWidget* panel = Abrir(LineaValida(1) + "\r\n");
         QCOMPARE(panel->windowTitle(), TextoFila(10254));
         QCOMPARE(Valor(panel, "Label4"), TextoFila(10257));
         QCOMPARE(panel->findChild<QCheckBox*>(QStringLiteral("ChkAutomatico"))->text(),
                  TextoFila(10261));
         MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
         QCOMPARE(MensajeSeam::registro().last().texto, TextoFila(10275));
         QCOMPARE(Boton(panel, "cmdCancelar")->text(), TextoFila(10230));

@@ -1,16 +1,22 @@
 // The store of returns: every field saved and loaded back, new rows and updates, copies,
 // deletion, the counters of the parties after saves and deletions, the recent returns, the
 // parties as a return takes them, and bad arrays refused with nothing written.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "registros/declaracion/cDecDatos.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cPresenSvr.h"
 
 #include <QTest>
+
+namespace C = PosContribuyente;
+namespace G = PosGuardarDeclaracion;
+namespace L = PosCargarDeclaracion;
 
 namespace {
 
@@ -119,9 +125,9 @@ private slots:
 
     void idaYVueltaDeCadaCampo()
     {
-        const int32_t pr = NuevoPresentador(DniValido(11111111), QStringLiteral("GESTORIA UNO"));
-        const int32_t sp = NuevoContribuyente(DniValido(22222222), QStringLiteral("SUJETO"));
-        const int32_t tr = NuevoContribuyente(DniValido(33333333), QStringLiteral("TRANS"));
+        const int32_t pr = NuevoPresentador(Dni(11111111), QStringLiteral("GESTORIA UNO"));
+        const int32_t sp = NuevoContribuyente(Dni(22222222), QStringLiteral("SUJETO"));
+        const int32_t tr = NuevoContribuyente(Dni(33333333), QStringLiteral("TRANS"));
         rellenarTodo(pr, sp, tr);
         const Arreglo guardado = DecDatos().DatosGuardar();
         const int32_t codigo = guardar();
@@ -134,7 +140,7 @@ private slots:
         const cDecDatos& d = DecDatos();
         QCOMPARE(d.CSDE, codigo);
         Arreglo leido = d.DatosGuardar();
-        leido[0] = 0;
+        leido[G::CSDE] = 0;
         QCOMPARE(leido.size(), guardado.size());
         for (int i = 0; i < guardado.size(); ++i)
             QVERIFY2(leido[i].toString() == guardado[i].toString(),
@@ -145,7 +151,7 @@ private slots:
         QCOMPARE(d.CUOTA, 114938.22);
         QCOMPARE(d.NOMBRESP, QStringLiteral("SUJETO ÑANDÚ"));
         // The presenter's number and name come from the presenter.
-        QCOMPARE(d.DNIPR, DniValido(11111111));
+        QCOMPARE(d.DNIPR, Dni(11111111));
         QCOMPARE(d.NOMBREPR, QStringLiteral("GESTORIA UNO"));
         // Returns whose subject is this return's transmitter: none yet.
         QCOMPARE(d.DECLASP, 0.0);
@@ -158,25 +164,25 @@ private slots:
         Arreglo a;
         servidor().CargarDeclaracion(codigo, a);
         QCOMPARE(a.size(), 58);
-        QCOMPARE(a[0].toInt(), codigo);
-        QCOMPARE(a[24].toString(), QString());
-        QCOMPARE(a[25].toString(), QString());
-        QCOMPARE(a[26].toString(), QStringLiteral("SP1"));
-        QCOMPARE(a[36].toString(), QString());
-        QCOMPARE(a[56].toString(), QStringLiteral("PARIS"));
-        QCOMPARE(a[57].toDouble(), 0.0);
+        QCOMPARE(a[L::CSDE].toInt(), codigo);
+        QCOMPARE(a[L::DNIPR].toString(), QString());
+        QCOMPARE(a[L::NOMBREPR].toString(), QString());
+        QCOMPARE(a[L::DNISP].toString(), QStringLiteral("SP1"));
+        QCOMPARE(a[L::NOMPROVSP].toString(), QString());
+        QCOMPARE(a[L::NOMMUNTR].toString(), QStringLiteral("PARIS"));
+        QCOMPARE(a[L::DECLASP].toDouble(), 0.0);
         // An unknown code gives an empty return.
         Arreglo nada;
         servidor().CargarDeclaracion(codigo + 100, nada);
         QCOMPARE(nada.size(), 58);
-        QCOMPARE(nada[0].toInt(), 0);
-        QCOMPARE(nada[7].toString(), QString());
+        QCOMPARE(nada[L::CSDE].toInt(), 0);
+        QCOMPARE(nada[L::MARCA].toString(), QString());
     }
 
     void numeroDeDeclaracionesComoSujetoDelTransmitente()
     {
-        const int32_t a = NuevoContribuyente(DniValido(44444444), QStringLiteral("A"));
-        const int32_t b = NuevoContribuyente(DniValido(55555555), QStringLiteral("B"));
+        const int32_t a = NuevoContribuyente(Dni(44444444), QStringLiteral("A"));
+        const int32_t b = NuevoContribuyente(Dni(55555555), QStringLiteral("B"));
         rellenarTodo(0, a, b);
         guardar();
         rellenarTodo(0, b, a);  // b is the subject of one return
@@ -264,11 +270,11 @@ private slots:
         int32_t codigo = 0;
         QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(corto, codigo));
         Arreglo malo = DecDatos().DatosGuardar();
-        malo[13] = QStringLiteral("MUCHA");  // the capacity is a number
+        malo[G::CILINDRADA] = QStringLiteral("MUCHA");  // the capacity is a number
         QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(malo, codigo));
         Arreglo importe = DecDatos().DatosGuardar();
-        importe[0] = 1;
-        importe[18] = QStringLiteral("1.234,50");
+        importe[G::CSDE] = 1;
+        importe[G::BASEI] = QStringLiteral("1.234,50");
         QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(importe, codigo));
         QCOMPARE(FilasDeclaraciones(), 1);
         DecDatos().CSDE = 1;
@@ -276,8 +282,8 @@ private slots:
         QCOMPARE(DecDatos().BASEI, 1500000.0);
         // A number given as text is taken.
         Arreglo texto = DecDatos().DatosGuardar();
-        texto[0] = 0;
-        texto[13] = QStringLiteral(" 1598 ");
+        texto[G::CSDE] = 0;
+        texto[G::CILINDRADA] = QStringLiteral(" 1598 ");
         DecDatos().GuardarDeclaracion(texto, codigo);
         QVERIFY(codigo > 1);
     }
@@ -294,11 +300,11 @@ private slots:
 
     void contadoresTrasGuardarYBorrar()
     {
-        const int32_t a = NuevoContribuyente(DniValido(10000001), QStringLiteral("A"));
-        const int32_t b = NuevoContribuyente(DniValido(10000002), QStringLiteral("B"));
-        const int32_t c = NuevoContribuyente(DniValido(10000003), QStringLiteral("C"));
-        const int32_t p = NuevoPresentador(DniValido(10000004), QStringLiteral("P"));
-        const int32_t q = NuevoPresentador(DniValido(10000005), QStringLiteral("Q"));
+        const int32_t a = NuevoContribuyente(Dni(10000001), QStringLiteral("A"));
+        const int32_t b = NuevoContribuyente(Dni(10000002), QStringLiteral("B"));
+        const int32_t c = NuevoContribuyente(Dni(10000003), QStringLiteral("C"));
+        const int32_t p = NuevoPresentador(Dni(10000004), QStringLiteral("P"));
+        const int32_t q = NuevoPresentador(Dni(10000005), QStringLiteral("Q"));
 
         DeclaracionValida();
         DecDatos().CSSU = a;
@@ -374,34 +380,34 @@ private slots:
 
     void existeContribuyente()
     {
-        const int32_t a = NuevoContribuyente(DniValido(20000001), QStringLiteral("ANA"));
+        const int32_t a = NuevoContribuyente(Dni(20000001), QStringLiteral("ANA"));
         DeclaracionValida();
         DecDatos().CSSU = a;
         guardar();
         Arreglo datos;
         bool hay = false;
-        DecDatos().ExisteContribuyente(DniValido(20000001), datos, hay);
+        DecDatos().ExisteContribuyente(Dni(20000001), datos, hay);
         QVERIFY(hay);
         QCOMPARE(datos.size(), 19);
-        QCOMPARE(datos[0].toInt(), a);
-        QCOMPARE(datos[1].toString(), QStringLiteral("O"));
-        QCOMPARE(datos[2].toString(), DniValido(20000001));
-        QCOMPARE(datos[3].toString(), QStringLiteral("ANA"));
-        QCOMPARE(datos[4].toString(), QStringLiteral("CL"));
-        QCOMPARE(datos[5].toString(), QStringLiteral("MAYOR"));
-        QCOMPARE(datos[6].toInt(), 7);
-        QCOMPARE(datos[11].toString(), QStringLiteral("N"));
-        QCOMPARE(datos[13].toString(), QStringLiteral("77"));
-        QCOMPARE(datos[15].toString(), QStringLiteral("77001"));
-        QCOMPARE(datos[16].toString(), QStringLiteral("001"));
-        QCOMPARE(datos[18].toDouble(), 1.0);
+        QCOMPARE(datos[C::CSCO].toInt(), a);
+        QCOMPARE(datos[C::TIPODNI].toString(), QStringLiteral("O"));
+        QCOMPARE(datos[C::DNIC].toString(), Dni(20000001));
+        QCOMPARE(datos[C::NOMBREC].toString(), QStringLiteral("ANA"));
+        QCOMPARE(datos[C::VIAC].toString(), QStringLiteral("CL"));
+        QCOMPARE(datos[C::DOMICILIOC].toString(), QStringLiteral("MAYOR"));
+        QCOMPARE(datos[C::NUMEROC].toInt(), 7);
+        QCOMPARE(datos[C::TIPODOMI].toString(), QStringLiteral("N"));
+        QCOMPARE(datos[C::CODPROVC].toString(), QStringLiteral("77"));
+        QCOMPARE(datos[C::CODPOSC].toString(), QStringLiteral("77001"));
+        QCOMPARE(datos[C::CODMUNC].toString(), QStringLiteral("001"));
+        QCOMPARE(datos[C::NUMSP].toDouble(), 1.0);
 
         // An unknown number: an array that clears the party.
-        DecDatos().ExisteContribuyente(DniValido(20000002), datos, hay);
+        DecDatos().ExisteContribuyente(Dni(20000002), datos, hay);
         QVERIFY(!hay);
         QCOMPARE(datos.size(), 19);
-        QCOMPARE(datos[0].toInt(), 0);
-        for (int i = 1; i <= 17; ++i)
+        QCOMPARE(datos[C::CSCO].toInt(), 0);
+        for (int i = C::TIPODNI; i <= C::NOMMUNC; ++i)
             QVERIFY(datos[i].toString().isEmpty() || datos[i].toString() == QLatin1String("0"));
         DecDatos().CargarSujetoPasivo(datos);
         QCOMPARE(DecDatos().CSSU, 0);
@@ -410,7 +416,7 @@ private slots:
 
     void cargarContribuyenteSegunEntrada()
     {
-        const int32_t sp = NuevoContribuyente(DniValido(30000001), QStringLiteral("SUJ"));
+        const int32_t sp = NuevoContribuyente(Dni(30000001), QStringLiteral("SUJ"));
         const int32_t tr = NuevoContribuyenteExtranjero(QStringLiteral("P998877"),
                                                          QStringLiteral("TRA"));
         cDecDatos& d = DecDatos();
@@ -432,7 +438,7 @@ private slots:
     void validarDniOficialDelRegistro()
     {
         bool bueno = false;
-        DecDatos().ValidarDniOficial(DniValido(12345678), bueno);
+        DecDatos().ValidarDniOficial(Dni(12345678), bueno);
         QVERIFY(bueno);
         DecDatos().ValidarDniOficial(QStringLiteral("12345678A"), bueno);
         QVERIFY(!bueno);

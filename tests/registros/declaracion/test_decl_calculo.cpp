@@ -1,7 +1,7 @@
 // The operation record and the computation of a return: rounding of the operation's numbers,
 // the rate without fixed value recognised by its bits, what an operation does to the return,
 // the amounts, the reductions, the typed rate, and the base read from its text.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"

@@ -2,7 +2,7 @@
 // total, starts of reference and operation), its orders in both directions, the description
 // of the operation on the return's date, and the lists of one contributor (with its S-T
 // column) and of one presenter.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/General.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -81,9 +81,9 @@ private slots:
     void initTestCase()
     {
         m_almacen = std::make_unique<AlmacenDePrueba>();
-        m_ana = NuevoContribuyente(DniValido(40000001), QStringLiteral("ANA"));
-        m_luis = NuevoContribuyente(DniValido(40000002), QStringLiteral("LUIS"));
-        m_gestor = NuevoPresentador(DniValido(40000003), QStringLiteral("GESTOR"));
+        m_ana = NuevoContribuyente(Dni(40000001), QStringLiteral("ANA"));
+        m_luis = NuevoContribuyente(Dni(40000002), QStringLiteral("LUIS"));
+        m_gestor = NuevoPresentador(Dni(40000003), QStringLiteral("GESTOR"));
         const QList<Fila> filas{
             {QStringLiteral("ABC1"), 20050310, 120000, QStringLiteral("TN")},
             {QStringLiteral("ABD2"), 20100101, 47500, QStringLiteral("T2")},

@@ -1,7 +1,7 @@
 // The table of operations in the reference database, as the store gives it: which codes apply
 // on which date, their rates, limits, deductions and marks, the descriptions in both
 // languages, the print keys, and what loading one does to the operation record.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/General.h"
 #include "registros/declaracion/cDecDatos.h"

@@ -1,11 +1,17 @@
 // The declaration record on its own: the clean new return of MODO "A", the date and amount
 // initialisations, the save and load arrays by index, and the copying of parties.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "comun/ArregloPrueba.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesDeclaracion.h"
 
 #include <QTest>
+
+namespace C = PosContribuyente;
+namespace L = PosCargarDeclaracion;
 
 namespace {
 
@@ -114,17 +120,32 @@ void comprobarNueva(const cDecDatos& d)
             && d.NOMMUNTR.isEmpty());
     QCOMPARE(d.DECLASP, 0.0);
     // The subject's province name, kept without a property, is saved empty.
-    QCOMPARE(d.DatosGuardar().at(34).toString(), QString());
+    QCOMPARE(d.DatosGuardar().at(PosGuardarDeclaracion::NOMPROVSP).toString(), QString());
 }
 
-// A contributor's 19-value array.
+// A contributor's array as a return takes it: up to the returns that have it as subject.
+constexpr int kParte = C::NUMSP + 1;
 Arreglo parte(const QString& tipoDomi, const QString& prov, const QString& cp)
 {
-    return {15, QStringLiteral("N"), QStringLiteral("X1234567L"), QStringLiteral("NOMBRE"),
-            QStringLiteral("AV"), QStringLiteral("CALLE"), 12, QStringLiteral("A"),
-            QStringLiteral("B"), QStringLiteral("3"), QStringLiteral("DCH"), tipoDomi,
-            QStringLiteral("PAIS"), prov, QStringLiteral("PROVINCIA"), cp,
-            QStringLiteral("005"), QStringLiteral("MUNICIPIO"), 4.0};
+    return ArregloPorPosiciones(kParte, {{C::CSCO, 15},
+                                         {C::TIPODNI, QStringLiteral("N")},
+                                         {C::DNIC, QStringLiteral("X1234567L")},
+                                         {C::NOMBREC, QStringLiteral("NOMBRE")},
+                                         {C::VIAC, QStringLiteral("AV")},
+                                         {C::DOMICILIOC, QStringLiteral("CALLE")},
+                                         {C::NUMEROC, 12},
+                                         {C::LETRAC, QStringLiteral("A")},
+                                         {C::ESCALERAC, QStringLiteral("B")},
+                                         {C::PISOC, QStringLiteral("3")},
+                                         {C::MANOC, QStringLiteral("DCH")},
+                                         {C::TIPODOMI, tipoDomi},
+                                         {C::PAIS, QStringLiteral("PAIS")},
+                                         {C::CODPROVC, prov},
+                                         {C::NOMPROVC, QStringLiteral("PROVINCIA")},
+                                         {C::CODPOSC, cp},
+                                         {C::CODMUNC, QStringLiteral("005")},
+                                         {C::NOMMUNC, QStringLiteral("MUNICIPIO")},
+                                         {C::NUMSP, 4.0}});
 }
 
 }  // namespace
@@ -231,9 +252,11 @@ private slots:
     {
         // Each load index carries its own number as text, or as a number for numeric fields.
         Arreglo carga;
-        for (int i = 0; i < 58; ++i)
+        for (int i = 0; i < L::Tamano; ++i)
             carga << QStringLiteral("v%1").arg(i);
-        for (int i : {2, 3, 4, 5, 11, 13, 18, 19, 20, 21, 22, 23, 30, 45, 57})
+        for (int i : {L::CSPR, L::CSSU, L::CSTRA, L::FECHAD, L::CLASIFICACION, L::CILINDRADA,
+                      L::BASEI, L::BASEIREDUCIDA, L::TIPOIMP, L::CUOTA, L::DEDUCCION, L::TOTAL,
+                      L::NUMEROSP, L::NUMEROTR, L::DECLASP})
             carga[i] = 1000 + i;
         cDecDatos& d = DecDatos();
         d.setMODO(QStringLiteral("C"));
@@ -297,7 +320,7 @@ private slots:
         QCOMPARE(d.NOMMUNTR, QStringLiteral("v56"));
         QCOMPARE(d.DECLASP, 1057.0);
         // The subject's province name (load value 36) is never saved.
-        QCOMPARE(d.DatosGuardar().at(34).toString(), QString());
+        QCOMPARE(d.DatosGuardar().at(PosGuardarDeclaracion::NOMPROVSP).toString(), QString());
     }
 
     void cargarSujetoNacional()
@@ -345,10 +368,10 @@ private slots:
         cDecDatos& d = DecDatos();
         d.setMODO(QStringLiteral("A"));
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("48"), QStringLiteral("48001")));
-        Arreglo vacia{0};
-        for (int i = 1; i <= 17; ++i)
-            vacia << (i == 6 ? QVariant(0) : QVariant(QString()));
-        vacia << 0.0;
+        Arreglo vacia(kParte, QString());
+        vacia[C::CSCO] = 0;
+        vacia[C::NUMEROC] = 0;
+        vacia[C::NUMSP] = 0.0;
         d.CargarSujetoPasivo(vacia);
         QCOMPARE(d.CSSU, 0);
         QVERIFY(d.DNISP.isEmpty() && d.NOMBRESP.isEmpty() && d.DOMICILIOSP.isEmpty()

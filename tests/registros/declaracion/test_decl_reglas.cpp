@@ -1,7 +1,7 @@
 // The whole-return rules of the store, 1 to 40: each broken alone gives its number, any two
 // broken together give the lower one, and the rules that tie an operation to the vehicle agree
 // with their messages and with the rate rule of passenger cars.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "registros/declaracion/Calculo.h"
 #include "servicios/cDeclaSvr.h"
@@ -26,10 +26,10 @@ Caso valido()
     c.datos = {
         QStringLiteral("SEAT"), QStringLiteral("IBIZA"), QStringLiteral("6J"),
         QStringLiteral("VSSZZZ6JZAR000001"), 1000, 1598, QStringLiteral("T2"), 1500000.0, 4.75,
-        0.0, 0.0, 0.0, DniValido(12345678), QStringLiteral("GARCIA LOPEZ JUAN"),
+        0.0, 0.0, 0.0, Dni(12345678), QStringLiteral("GARCIA LOPEZ JUAN"),
         QStringLiteral("CL"), QStringLiteral("MAYOR"), QStringLiteral("77"),
         QStringLiteral("77001"), QStringLiteral("001"), QString(), QStringLiteral("O"),
-        DniValido(87654321), QStringLiteral("AUTOS VELDO SA"), QStringLiteral("AV"),
+        Dni(87654321), QStringLiteral("AUTOS VELDO SA"), QStringLiteral("AV"),
         QStringLiteral("GASTEIZ"), QStringLiteral("N"), QString(), QStringLiteral("77"),
         QString(), QStringLiteral("77002"), QStringLiteral("002"), QString(),
         QStringLiteral("G"),

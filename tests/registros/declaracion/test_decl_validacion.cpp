@@ -1,7 +1,7 @@
 // The whole-return check as the declaration form runs it: the 33 values, the message and the
 // control that takes the focus for each rule, the check of the parties' tax numbers, and the
 // date of accrual with what a new date does to the operation, in both languages.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
@@ -262,7 +262,7 @@ private slots:
 
     void numerosBuenos()
     {
-        DecDatos().DNIPR = DniValido(99999999);
+        DecDatos().DNIPR = Dni(99999999);
         QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(0));
         QVERIFY(MensajeSeam::registro().isEmpty());
     }

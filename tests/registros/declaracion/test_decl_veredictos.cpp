@@ -1,7 +1,7 @@
 // The logic of the declaration answers verdicts and shows nothing itself: the rate out of its
 // limits, a bad date, a broken rule and wrong tax numbers each come back as catalogue id, text,
 // icon, title and control, with no message box asked for and the record as the rule leaves it.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 
 #include "catalogo/Catalogo.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -104,7 +104,7 @@ private slots:
         v = VeredictoNifIntervinientes(kTitulo);
         QCOMPARE(v.botones, int(vb::Exclamation));
         QVERIFY(v.mensaje.startsWith(QStringLiteral("El/Los Interviniente/s con NIF:  22222222A")));
-        DecDatos().DNISP = DniValido(12345678);
+        DecDatos().DNISP = Dni(12345678);
         QVERIFY(VeredictoNifIntervinientes(kTitulo).vacio());
     }
 };

@@ -14,7 +14,7 @@
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "registros/intercambio/cImportar.h"
-#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QHash>
@@ -122,23 +122,23 @@ private slots:
                     ++refusadas;
                     continue;
                 }
-                namespace P = PosValidarImportar;
-                Arreglo v(P::Elementos);
+                namespace P = PosImportar;
+                Arreglo v(P::Tamano);
                 v[P::TIPODNI] = l[C::TIPODNI];
-                v[P::DNI] = l[C::DNI];
-                v[P::NOMBRE] = l[C::NOMBRE];
-                v[P::DOMICILIO] = l[C::DOMICILIO];
-                v[P::TIPODOMICILIO] = l[C::TIPODOMICILIO];
+                v[P::DNIC] = l[C::DNI];
+                v[P::NOMBREC] = l[C::NOMBRE];
+                v[P::DOMICILIOC] = l[C::DOMICILIO];
+                v[P::TIPODOMI] = l[C::TIPODOMICILIO];
                 v[P::PAIS] = l[C::PAIS];
-                v[P::CODIGOPROVINCIA] = l[C::CODIGOPROVINCIA];
-                v[P::CODIGOPOSTAL] = l[C::CODIGOPOSTAL];
-                v[P::NOMBREPROVINCIA] = l[C::NOMBREPROVINCIA];
-                v[P::NOMBREMUNICIPIO] = l[C::NOMBREMUNICIPIO];
-                v[P::CODIGOMUNICIPIO] = l[C::CODIGOMUNICIPIO];
-                v[P::NUMERO] = l[C::NUMERO];
-                v[P::NUMEROSUJETOPASIVO] = l[C::NUMEROSUJETOPASIVO];
-                v[P::NUMEROTRANSMITENTE] = l[C::NUMEROTRANSMITENTE];
-                v[P::SIGLAS] = l[C::SIGLAS];
+                v[P::CODPROVC] = l[C::CODIGOPROVINCIA];
+                v[P::CODPOSC] = l[C::CODIGOPOSTAL];
+                v[P::NOMPROVC] = l[C::NOMBREPROVINCIA];
+                v[P::NOMMUNC] = l[C::NOMBREMUNICIPIO];
+                v[P::CODMUNC] = l[C::CODIGOMUNICIPIO];
+                v[P::NUMEROC] = l[C::NUMERO];
+                v[P::NUMSP] = l[C::NUMEROSUJETOPASIVO];
+                v[P::NUMTR] = l[C::NUMEROTRANSMITENTE];
+                v[P::VIAC] = l[C::SIGLAS];
                 Arreglo2D errores;
                 svr.ValidarDatosImportar(v, errores);
                 const int n = FicheroErrores::NumeroErrores(errores);
@@ -163,7 +163,7 @@ private slots:
             for (auto it = ultimo.cbegin(); it != ultimo.cend(); ++it) {
                 Arreglo a;
                 svr.CargarContribuyente(svr.ExisteContribuyente(it.key()), a);
-                QCOMPARE(a.value(PosGuardarContribuyente::NOMBREC).toString(), it.value());
+                QCOMPARE(a.value(PosContribuyente::NOMBREC).toString(), it.value());
             }
         }
         QCOMPARE(total, 100000);

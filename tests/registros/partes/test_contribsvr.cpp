@@ -1,14 +1,22 @@
 // The store of contributors: each verdict of the validation on its own and the order between
 // them, the import's errors, saving, loading and deleting, the counters, and the search.
-#include "AlmacenPartes.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/PartesPrueba.h"
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "comun/ArregloPrueba.h"
 #include "servicios/Conexion.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/cContribSvr.h"
 
 #include <QtTest>
+
+namespace P = PosContribuyente;
+namespace V = PosValidacionContribuyente;
+namespace I = PosImportar;
 
 namespace {
 
@@ -24,29 +32,44 @@ cContribSvr Svr()
 // national elsewhere, foreign with a foreign document.
 Arreglo Tesoreria()
 {
-    return {"O", "12345678Z", "GARCIA LOPEZ JUAN", "MAYOR", "N", "", "77", "77001", "", "", "1"};
+    return ArregloPorPosiciones(V::Tamano, {{V::TIPODNI, "O"},
+                                            {V::DNIC, "12345678Z"},
+                                            {V::NOMBREC, "GARCIA LOPEZ JUAN"},
+                                            {V::DOMICILIOC, "MAYOR"},
+                                            {V::TIPODOMI, "N"},
+                                            {V::PAIS, ""},
+                                            {V::CODPROVC, "77"},
+                                            {V::CODPOSC, "77001"},
+                                            {V::NOMPROVC, ""},
+                                            {V::NOMMUNC, ""},
+                                            {V::CODMUNC, "1"}});
 }
 Arreglo OtraProvincia()
 {
-    return {"O", "12345678Z", "GARCIA LOPEZ JUAN", "MAYOR", "N", "", "48", "48001", "", "BILBAO", ""};
+    return ArregloCambiado(Tesoreria(), {{V::CODPROVC, "48"},
+                                         {V::CODPOSC, "48001"},
+                                         {V::NOMMUNC, "BILBAO"},
+                                         {V::CODMUNC, ""}});
 }
 Arreglo Extranjero()
 {
-    return {"N", "AB1234567", "SMITH JOHN", "HIGH STREET", "E", "REINO UNIDO", "", "", "LONDRES",
-            "LONDRES", ""};
+    return ArregloPorPosiciones(V::Tamano, {{V::TIPODNI, "N"},
+                                            {V::DNIC, "AB1234567"},
+                                            {V::NOMBREC, "SMITH JOHN"},
+                                            {V::DOMICILIOC, "HIGH STREET"},
+                                            {V::TIPODOMI, "E"},
+                                            {V::PAIS, "REINO UNIDO"},
+                                            {V::CODPROVC, ""},
+                                            {V::CODPOSC, ""},
+                                            {V::NOMPROVC, "LONDRES"},
+                                            {V::NOMMUNC, "LONDRES"},
+                                            {V::CODMUNC, ""}});
 }
 
-Arreglo Con(Arreglo a, std::initializer_list<std::pair<int, QVariant>> cambios)
+Arreglo Con(const Arreglo& a, ValoresEnPosicion cambios)
 {
-    for (const auto& [i, v] : cambios)
-        a[i] = v;
-    return a;
+    return ArregloCambiado(a, cambios);
 }
-
-// Validation array indexes.
-enum { TIPODNI, DNI, NOMBRE, DOMICILIO, TIPODOMI, PAIS, CODPROV, CODPOS, NOMPROV, NOMMUN, CODMUN };
-// Import array extra indexes.
-enum { NUMERO = 11, NUMSPI, NUMTRI, SIGLA };
 
 QList<int> Errores(const Arreglo& importar)
 {
@@ -73,7 +96,7 @@ int32_t Guardar(const Arreglo& a)
     const int16_t v = Svr().GuardarContribuyente(a);
     if (v != 0)
         return -v;
-    return Svr().ObtenerCodigoContribuyente(a[2].toString());
+    return Svr().ObtenerCodigoContribuyente(a[P::DNIC].toString());
 }
 
 QStringList Columna(const Arreglo2D& datos, int c)
@@ -103,7 +126,7 @@ private slots:
         QCOMPARE(Svr().ValidarDatosContribuyentes(Extranjero()), 0);
         // Each form of official number.
         for (const char* n : {"X1234567L", "K1234567L", "B12345674", "Q2826000H"})
-            QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{DNI, n}})), 0);
+            QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{V::DNIC, n}})), 0);
         // The validation needs no database at all.
         QCOMPARE(cContribSvr().ValidarDatosContribuyentes(Tesoreria()), 0);
     }
@@ -112,32 +135,32 @@ private slots:
     {
         QTest::addColumn<Arreglo>("datos");
         QTest::addColumn<int>("veredicto");
-        QTest::newRow("1 forma") << Con(Tesoreria(), {{DNI, "1234X678Z"}}) << 1;
-        QTest::newRow("1 largo") << Con(Tesoreria(), {{DNI, "1234567Z"}}) << 1;
-        QTest::newRow("1 extranjero cero") << Con(Extranjero(), {{DNI, "0000"}}) << 1;
-        QTest::newRow("2 vacío") << Con(Tesoreria(), {{DNI, ""}}) << 2;
-        QTest::newRow("2 extranjero vacío") << Con(Extranjero(), {{DNI, "  "}}) << 2;
-        QTest::newRow("3") << Con(Tesoreria(), {{NOMBRE, " "}}) << 3;
-        QTest::newRow("4") << Con(Tesoreria(), {{DOMICILIO, ""}}) << 4;
-        QTest::newRow("5") << Con(Extranjero(), {{PAIS, ""}}) << 5;
-        QTest::newRow("6") << Con(Tesoreria(), {{CODPOS, "48001"}}) << 6;
-        QTest::newRow("6 provincia 1") << Con(OtraProvincia(), {{CODPROV, "1"}}) << 6;
-        QTest::newRow("7 cuatro") << Con(Tesoreria(), {{CODPOS, "7700"}}) << 7;
-        QTest::newRow("7 seis") << Con(Tesoreria(), {{CODPOS, "770011"}}) << 7;
-        QTest::newRow("7 letras") << Con(Tesoreria(), {{CODPOS, "77A01"}}) << 7;
-        QTest::newRow("8") << Con(Tesoreria(), {{CODPOS, "77000"}}) << 8;
-        QTest::newRow("9 vacío") << Con(Tesoreria(), {{CODPOS, ""}}) << 9;
-        QTest::newRow("9 ceros") << Con(Tesoreria(), {{CODPOS, "00000"}}) << 9;
-        QTest::newRow("10") << Con(Extranjero(), {{NOMPROV, ""}}) << 10;
-        QTest::newRow("11 nacional") << Con(OtraProvincia(), {{NOMMUN, ""}}) << 11;
-        QTest::newRow("11 extranjero") << Con(Extranjero(), {{NOMMUN, ""}}) << 11;
-        QTest::newRow("12") << Con(OtraProvincia(), {{CODPROV, ""}}) << 12;
-        QTest::newRow("12 cero") << Con(OtraProvincia(), {{CODPROV, "00"}}) << 12;
-        QTest::newRow("13") << Con(Tesoreria(), {{CODMUN, ""}}) << 13;
-        QTest::newRow("13 cero") << Con(Tesoreria(), {{CODMUN, "000"}}) << 13;
-        QTest::newRow("14 letra") << Con(Tesoreria(), {{DNI, "12345678A"}}) << 14;
-        QTest::newRow("14 sin letra") << Con(Tesoreria(), {{DNI, "12345678"}}) << 14;
-        QTest::newRow("14 cif") << Con(Tesoreria(), {{DNI, "B12345675"}}) << 14;
+        QTest::newRow("1 forma") << Con(Tesoreria(), {{V::DNIC, "1234X678Z"}}) << 1;
+        QTest::newRow("1 largo") << Con(Tesoreria(), {{V::DNIC, "1234567Z"}}) << 1;
+        QTest::newRow("1 extranjero cero") << Con(Extranjero(), {{V::DNIC, "0000"}}) << 1;
+        QTest::newRow("2 vacío") << Con(Tesoreria(), {{V::DNIC, ""}}) << 2;
+        QTest::newRow("2 extranjero vacío") << Con(Extranjero(), {{V::DNIC, "  "}}) << 2;
+        QTest::newRow("3") << Con(Tesoreria(), {{V::NOMBREC, " "}}) << 3;
+        QTest::newRow("4") << Con(Tesoreria(), {{V::DOMICILIOC, ""}}) << 4;
+        QTest::newRow("5") << Con(Extranjero(), {{V::PAIS, ""}}) << 5;
+        QTest::newRow("6") << Con(Tesoreria(), {{V::CODPOSC, "48001"}}) << 6;
+        QTest::newRow("6 provincia 1") << Con(OtraProvincia(), {{V::CODPROVC, "1"}}) << 6;
+        QTest::newRow("7 cuatro") << Con(Tesoreria(), {{V::CODPOSC, "7700"}}) << 7;
+        QTest::newRow("7 seis") << Con(Tesoreria(), {{V::CODPOSC, "770011"}}) << 7;
+        QTest::newRow("7 letras") << Con(Tesoreria(), {{V::CODPOSC, "77A01"}}) << 7;
+        QTest::newRow("8") << Con(Tesoreria(), {{V::CODPOSC, "77000"}}) << 8;
+        QTest::newRow("9 vacío") << Con(Tesoreria(), {{V::CODPOSC, ""}}) << 9;
+        QTest::newRow("9 ceros") << Con(Tesoreria(), {{V::CODPOSC, "00000"}}) << 9;
+        QTest::newRow("10") << Con(Extranjero(), {{V::NOMPROVC, ""}}) << 10;
+        QTest::newRow("11 nacional") << Con(OtraProvincia(), {{V::NOMMUNC, ""}}) << 11;
+        QTest::newRow("11 extranjero") << Con(Extranjero(), {{V::NOMMUNC, ""}}) << 11;
+        QTest::newRow("12") << Con(OtraProvincia(), {{V::CODPROVC, ""}}) << 12;
+        QTest::newRow("12 cero") << Con(OtraProvincia(), {{V::CODPROVC, "00"}}) << 12;
+        QTest::newRow("13") << Con(Tesoreria(), {{V::CODMUNC, ""}}) << 13;
+        QTest::newRow("13 cero") << Con(Tesoreria(), {{V::CODMUNC, "000"}}) << 13;
+        QTest::newRow("14 letra") << Con(Tesoreria(), {{V::DNIC, "12345678A"}}) << 14;
+        QTest::newRow("14 sin letra") << Con(Tesoreria(), {{V::DNIC, "12345678"}}) << 14;
+        QTest::newRow("14 cif") << Con(Tesoreria(), {{V::DNIC, "B12345675"}}) << 14;
     }
 
     void veredictos()
@@ -152,36 +175,36 @@ private slots:
     {
         // Each pair breaks two rules; the lower number is told.
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{DNI, ""}, {NOMBRE, ""}, {DOMICILIO, ""}})), 2);
+                     Con(Tesoreria(), {{V::DNIC, ""}, {V::NOMBREC, ""}, {V::DOMICILIOC, ""}})), 2);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{DNI, "1234"}, {NOMBRE, ""}})), 1);
+                     Con(Tesoreria(), {{V::DNIC, "1234"}, {V::NOMBREC, ""}})), 1);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{NOMBRE, ""}, {DOMICILIO, ""}})), 3);
+                     Con(Tesoreria(), {{V::NOMBREC, ""}, {V::DOMICILIOC, ""}})), 3);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Extranjero(), {{DOMICILIO, ""}, {PAIS, ""}})), 4);
+                     Con(Extranjero(), {{V::DOMICILIOC, ""}, {V::PAIS, ""}})), 4);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Extranjero(), {{PAIS, ""}, {NOMPROV, ""}, {NOMMUN, ""}})), 5);
+                     Con(Extranjero(), {{V::PAIS, ""}, {V::NOMPROVC, ""}, {V::NOMMUNC, ""}})), 5);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{CODPOS, "48001"}, {CODMUN, ""}})), 6);
+                     Con(Tesoreria(), {{V::CODPOSC, "48001"}, {V::CODMUNC, ""}})), 6);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{CODPOS, "77000"}, {CODMUN, ""}})), 8);
+                     Con(Tesoreria(), {{V::CODPOSC, "77000"}, {V::CODMUNC, ""}})), 8);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{CODPOS, ""}, {CODMUN, ""}})), 9);
+                     Con(Tesoreria(), {{V::CODPOSC, ""}, {V::CODMUNC, ""}})), 9);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Extranjero(), {{NOMPROV, ""}, {NOMMUN, ""}})), 10);
+                     Con(Extranjero(), {{V::NOMPROVC, ""}, {V::NOMMUNC, ""}})), 10);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(OtraProvincia(), {{NOMMUN, ""}, {DNI, "12345678A"}})), 11);
+                     Con(OtraProvincia(), {{V::NOMMUNC, ""}, {V::DNIC, "12345678A"}})), 11);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{CODMUN, ""}, {DNI, "12345678A"}})), 13);
+                     Con(Tesoreria(), {{V::CODMUNC, ""}, {V::DNIC, "12345678A"}})), 13);
         // The check character comes last: a wrong letter and an empty name tell the name.
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Tesoreria(), {{NOMBRE, ""}, {DNI, "12345678A"}})), 3);
+                     Con(Tesoreria(), {{V::NOMBREC, ""}, {V::DNIC, "12345678A"}})), 3);
         // A domicile made national again, with no province: the missing province is told
         // (id 39), not a municipality name or a postal code of another province.
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Extranjero(), {{TIPODOMI, "N"}, {DNI, "12345678Z"}, {TIPODNI, "O"},
-                                        {PAIS, ""}, {NOMPROV, ""}, {NOMMUN, ""},
-                                        {CODPOS, "48001"}})),
+                     Con(Extranjero(), {{V::TIPODOMI, "N"}, {V::DNIC, "12345678Z"}, {V::TIPODNI, "O"},
+                                        {V::PAIS, ""}, {V::NOMPROVC, ""}, {V::NOMMUNC, ""},
+                                        {V::CODPOSC, "48001"}})),
                  12);
     }
 
@@ -189,11 +212,11 @@ private slots:
     {
         // The Spanish rules do not hold for a foreign document, but an empty or zero number is
         // still refused; the same number as an official one is judged by its letter.
-        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Extranjero(), {{DNI, "12345678A"}})), 0);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Extranjero(), {{V::DNIC, "12345678A"}})), 0);
         QCOMPARE(Svr().ValidarDatosContribuyentes(
-                     Con(Extranjero(), {{DNI, "12345678A"}, {TIPODNI, "O"}})), 14);
+                     Con(Extranjero(), {{V::DNIC, "12345678A"}, {V::TIPODNI, "O"}})), 14);
         // A foreign document with a national domicile is a valid contributor (a transmitter).
-        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{TIPODNI, "N"}, {DNI, "P12"}})), 0);
+        QCOMPARE(Svr().ValidarDatosContribuyentes(Con(Tesoreria(), {{V::TIPODNI, "N"}, {V::DNIC, "P12"}})), 0);
     }
 
     // --- Import errors ------------------------------------------------------------------------
@@ -206,22 +229,22 @@ private slots:
         QVERIFY(e[0].size() - 1 <= 0);
         // A foreign contributor with 00 and 000 for its codes.
         Arreglo ext = ImportacionNacional();
-        ext[TIPODNI] = "N";
-        ext[DNI] = QStringLiteral("AB1234   ");
-        ext[TIPODOMI] = "E";
-        ext[PAIS] = QStringLiteral("FRANCIA").leftJustified(20);
-        ext[CODPROV] = "00";
-        ext[CODPOS] = "75001";
-        ext[NOMPROV] = QStringLiteral("PARIS").leftJustified(20);
-        ext[NOMMUN] = QStringLiteral("PARIS").leftJustified(25);
-        ext[CODMUN] = "000";
+        ext[I::TIPODNI] = "N";
+        ext[I::DNIC] = QStringLiteral("AB1234   ");
+        ext[I::TIPODOMI] = "E";
+        ext[I::PAIS] = QStringLiteral("FRANCIA").leftJustified(20);
+        ext[I::CODPROVC] = "00";
+        ext[I::CODPOSC] = "75001";
+        ext[I::NOMPROVC] = QStringLiteral("PARIS").leftJustified(20);
+        ext[I::NOMMUNC] = QStringLiteral("PARIS").leftJustified(25);
+        ext[I::CODMUNC] = "000";
         QCOMPARE(Errores(ext), QList<int>());
         // Another province, its municipality typed.
         Arreglo otra = ImportacionNacional();
-        otra[CODPROV] = "01";
-        otra[CODPOS] = "01001";
-        otra[CODMUN] = "000";
-        otra[NOMMUN] = QStringLiteral("VITORIA").leftJustified(25);
+        otra[I::CODPROVC] = "01";
+        otra[I::CODPOSC] = "01001";
+        otra[I::CODMUNC] = "000";
+        otra[I::NOMMUNC] = QStringLiteral("VITORIA").leftJustified(25);
         QCOMPARE(Errores(otra), QList<int>());
     }
 
@@ -231,56 +254,56 @@ private slots:
         QTest::addColumn<QList<int>>("errores");
         const Arreglo n = ImportacionNacional();
         Arreglo ext = n;
-        ext[TIPODOMI] = "E";
-        ext[PAIS] = "FRANCIA";
-        ext[CODPROV] = "00";
-        ext[CODPOS] = "75001";
-        ext[NOMPROV] = "PARIS";
-        ext[NOMMUN] = "PARIS";
-        ext[CODMUN] = "000";
+        ext[I::TIPODOMI] = "E";
+        ext[I::PAIS] = "FRANCIA";
+        ext[I::CODPROVC] = "00";
+        ext[I::CODPOSC] = "75001";
+        ext[I::NOMPROVC] = "PARIS";
+        ext[I::NOMMUNC] = "PARIS";
+        ext[I::CODMUNC] = "000";
         Arreglo otra = n;
-        otra[CODPROV] = "01";
-        otra[CODPOS] = "01001";
-        otra[CODMUN] = "000";
-        otra[NOMMUN] = "VITORIA";
+        otra[I::CODPROVC] = "01";
+        otra[I::CODPOSC] = "01001";
+        otra[I::CODMUNC] = "000";
+        otra[I::NOMMUNC] = "VITORIA";
         using L = QList<int>;
-        QTest::newRow("1") << Con(n, {{DNI, "12345678A"}}) << L{1};
-        QTest::newRow("1 forma") << Con(n, {{DNI, "1234"}}) << L{1};
-        QTest::newRow("2") << Con(n, {{DNI, "         "}}) << L{2};
-        QTest::newRow("3") << Con(n, {{NOMBRE, QString(40, ' ')}}) << L{3};
-        QTest::newRow("4") << Con(n, {{DOMICILIO, ""}}) << L{4};
-        QTest::newRow("5") << Con(ext, {{PAIS, "   "}}) << L{5};
-        QTest::newRow("6") << Con(n, {{CODPOS, "48001"}}) << L{6};
-        QTest::newRow("7") << Con(n, {{CODPOS, " 7701"}}) << L{7};
-        QTest::newRow("8") << Con(n, {{CODPOS, "77000"}}) << L{8};
-        QTest::newRow("9") << Con(n, {{CODPOS, "00000"}}) << L{9};
-        QTest::newRow("10") << Con(ext, {{NOMPROV, ""}}) << L{10};
-        QTest::newRow("11") << Con(otra, {{NOMMUN, ""}}) << L{11};
-        QTest::newRow("12") << Con(otra, {{CODPROV, "00"}, {CODPOS, "00000"}}) << L{9, 12};
-        QTest::newRow("13") << Con(n, {{CODMUN, "000"}}) << L{13};
-        QTest::newRow("14") << Con(n, {{NUMERO, "12A  "}}) << L{14};
-        QTest::newRow("15") << Con(n, {{CODPROV, "7X"}}) << L{15};
-        QTest::newRow("16") << Con(n, {{CODPOS, "77O01"}}) << L{16};
-        QTest::newRow("17") << Con(n, {{CODMUN, "0O1"}}) << L{17};
-        QTest::newRow("18") << Con(n, {{NUMSPI, "00000-1"}}) << L{18};
-        QTest::newRow("19") << Con(n, {{NUMTRI, "ABC    "}}) << L{19};
-        QTest::newRow("20") << Con(n, {{TIPODNI, "X"}}) << L{20};
-        QTest::newRow("21") << Con(n, {{TIPODOMI, "Z"}}) << L{21};
-        QTest::newRow("22") << Con(n, {{SIGLA, "QQ"}}) << L{22};
-        QTest::newRow("22 vacía") << Con(n, {{SIGLA, "  "}}) << L{22};
-        QTest::newRow("22 minúsculas") << Con(n, {{SIGLA, "cl"}}) << L{22};
-        QTest::newRow("23") << Con(ext, {{CODPROV, "48"}}) << L{23};
-        QTest::newRow("24") << Con(ext, {{CODMUN, "001"}}) << L{24};
-        QTest::newRow("25") << Con(n, {{NOMPROV, "ARBELIA"}}) << L{25};
-        QTest::newRow("26") << Con(n, {{CODMUN, "999"}}) << L{26};
-        QTest::newRow("27") << Con(n, {{NOMMUN, "ARBELGAIN"}}) << L{27};
-        QTest::newRow("28") << Con(n, {{CODPROV, "99"}, {CODPOS, "99001"}, {CODMUN, "000"},
-                                      {NOMMUN, "NINGUNA"}})
+        QTest::newRow("1") << Con(n, {{I::DNIC, "12345678A"}}) << L{1};
+        QTest::newRow("1 forma") << Con(n, {{I::DNIC, "1234"}}) << L{1};
+        QTest::newRow("2") << Con(n, {{I::DNIC, "         "}}) << L{2};
+        QTest::newRow("3") << Con(n, {{I::NOMBREC, QString(40, ' ')}}) << L{3};
+        QTest::newRow("4") << Con(n, {{I::DOMICILIOC, ""}}) << L{4};
+        QTest::newRow("5") << Con(ext, {{I::PAIS, "   "}}) << L{5};
+        QTest::newRow("6") << Con(n, {{I::CODPOSC, "48001"}}) << L{6};
+        QTest::newRow("7") << Con(n, {{I::CODPOSC, " 7701"}}) << L{7};
+        QTest::newRow("8") << Con(n, {{I::CODPOSC, "77000"}}) << L{8};
+        QTest::newRow("9") << Con(n, {{I::CODPOSC, "00000"}}) << L{9};
+        QTest::newRow("10") << Con(ext, {{I::NOMPROVC, ""}}) << L{10};
+        QTest::newRow("11") << Con(otra, {{I::NOMMUNC, ""}}) << L{11};
+        QTest::newRow("12") << Con(otra, {{I::CODPROVC, "00"}, {I::CODPOSC, "00000"}}) << L{9, 12};
+        QTest::newRow("13") << Con(n, {{I::CODMUNC, "000"}}) << L{13};
+        QTest::newRow("14") << Con(n, {{I::NUMEROC, "12A  "}}) << L{14};
+        QTest::newRow("15") << Con(n, {{I::CODPROVC, "7X"}}) << L{15};
+        QTest::newRow("16") << Con(n, {{I::CODPOSC, "77O01"}}) << L{16};
+        QTest::newRow("17") << Con(n, {{I::CODMUNC, "0O1"}}) << L{17};
+        QTest::newRow("18") << Con(n, {{I::NUMSP, "00000-1"}}) << L{18};
+        QTest::newRow("19") << Con(n, {{I::NUMTR, "ABC    "}}) << L{19};
+        QTest::newRow("20") << Con(n, {{I::TIPODNI, "X"}}) << L{20};
+        QTest::newRow("21") << Con(n, {{I::TIPODOMI, "Z"}}) << L{21};
+        QTest::newRow("22") << Con(n, {{I::VIAC, "QQ"}}) << L{22};
+        QTest::newRow("22 vacía") << Con(n, {{I::VIAC, "  "}}) << L{22};
+        QTest::newRow("22 minúsculas") << Con(n, {{I::VIAC, "cl"}}) << L{22};
+        QTest::newRow("23") << Con(ext, {{I::CODPROVC, "48"}}) << L{23};
+        QTest::newRow("24") << Con(ext, {{I::CODMUNC, "001"}}) << L{24};
+        QTest::newRow("25") << Con(n, {{I::NOMPROVC, "ARBELIA"}}) << L{25};
+        QTest::newRow("26") << Con(n, {{I::CODMUNC, "999"}}) << L{26};
+        QTest::newRow("27") << Con(n, {{I::NOMMUNC, "ARBELGAIN"}}) << L{27};
+        QTest::newRow("28") << Con(n, {{I::CODPROVC, "99"}, {I::CODPOSC, "99001"}, {I::CODMUNC, "000"},
+                                      {I::NOMMUNC, "NINGUNA"}})
                             << L{28};
-        QTest::newRow("29") << Con(otra, {{CODMUN, "005"}}) << L{29};
-        QTest::newRow("30") << Con(n, {{PAIS, "ESPAÑA"}}) << L{30};
+        QTest::newRow("29") << Con(otra, {{I::CODMUNC, "005"}}) << L{29};
+        QTest::newRow("30") << Con(n, {{I::PAIS, "ESPAÑA"}}) << L{30};
         // Blanks in a number field stand for 0.
-        QTest::newRow("número en blanco") << Con(n, {{NUMERO, "     "}, {NUMSPI, "       "}}) << L{};
+        QTest::newRow("número en blanco") << Con(n, {{I::NUMEROC, "     "}, {I::NUMSP, "       "}}) << L{};
     }
 
     void importarCadaError()
@@ -295,18 +318,18 @@ private slots:
     {
         AlmacenDePrueba almacen;
         Arreglo a = ImportacionNacional();
-        a[TIPODNI] = "Q";
-        a[DNI] = "12345678A";
-        a[NOMBRE] = "";
-        a[DOMICILIO] = "";
-        a[PAIS] = "FRANCIA";
-        a[NOMPROV] = "X";
-        a[NOMMUN] = "Y";
-        a[NUMERO] = "A";
-        a[NUMSPI] = "B";
-        a[NUMTRI] = "C";
-        a[SIGLA] = "ZZ";
-        a[CODMUN] = "998";
+        a[I::TIPODNI] = "Q";
+        a[I::DNIC] = "12345678A";
+        a[I::NOMBREC] = "";
+        a[I::DOMICILIOC] = "";
+        a[I::PAIS] = "FRANCIA";
+        a[I::NOMPROVC] = "X";
+        a[I::NOMMUNC] = "Y";
+        a[I::NUMEROC] = "A";
+        a[I::NUMSP] = "B";
+        a[I::NUMTR] = "C";
+        a[I::VIAC] = "ZZ";
+        a[I::CODMUNC] = "998";
         const QList<int> esperados{1, 3, 4, 14, 18, 19, 20, 22, 25, 26, 27, 30};
         QCOMPARE(Errores(a), esperados);
         // The array has one spare element after the errors.
@@ -334,18 +357,18 @@ private slots:
         QVERIFY(csco > 0);
         const Arreglo d = Cargar(csco);
         QCOMPARE(d.size(), 20);
-        for (int i = 1; i < 18; ++i)
+        for (int i = P::TIPODNI; i < P::NUMSP; ++i)
             QCOMPARE(d[i].toString(), a[i].toString());
-        QCOMPARE(d[6].typeId(), QMetaType::Int);
-        QCOMPARE(d[18].toDouble(), 0.0);
-        QCOMPARE(d[19].toDouble(), 0.0);
+        QCOMPARE(d[P::NUMEROC].typeId(), QMetaType::Int);
+        QCOMPARE(d[P::NUMSP].toDouble(), 0.0);
+        QCOMPARE(d[P::NUMTR].toDouble(), 0.0);
 
         const Arreglo e = ContribuyenteExtranjero(QStringLiteral("AB123"), QStringLiteral("SMITH"));
         const int32_t otro = Guardar(e);
         QVERIFY(otro > csco);
         const Arreglo de = Cargar(otro);
-        QCOMPARE(de[15].toString(), QStringLiteral("1234"));  // a foreign postal code as typed
-        QCOMPARE(de[13].toString(), QString());
+        QCOMPARE(de[P::CODPOSC].toString(), QStringLiteral("1234"));  // a foreign postal code as typed
+        QCOMPARE(de[P::CODPROVC].toString(), QString());
     }
 
     void guardarFormaAlmacenada()
@@ -353,24 +376,24 @@ private slots:
         // The raw strings of an exchange line are stored in their plain form.
         AlmacenDePrueba almacen;
         Arreglo a = ContribuyenteNacional(QStringLiteral("12345678Z"), QString());
-        a[3] = QStringLiteral("GARCIA LOPEZ JUAN").leftJustified(40);
-        a[5] = QStringLiteral("MAYOR").leftJustified(20);
-        a[6] = QStringLiteral("00012");
-        a[13] = QStringLiteral("7");
-        a[15] = QStringLiteral("7001");
-        a[16] = QStringLiteral("1");
-        a[18] = QStringLiteral("0000005");
+        a[P::NOMBREC] = QStringLiteral("GARCIA LOPEZ JUAN").leftJustified(40);
+        a[P::DOMICILIOC] = QStringLiteral("MAYOR").leftJustified(20);
+        a[P::NUMEROC] = QStringLiteral("00012");
+        a[P::CODPROVC] = QStringLiteral("7");
+        a[P::CODPOSC] = QStringLiteral("7001");
+        a[P::CODMUNC] = QStringLiteral("1");
+        a[P::NUMSP] = QStringLiteral("0000005");
         const int32_t csco = Guardar(a);
         QVERIFY(csco > 0);
         const Arreglo d = Cargar(csco);
-        QCOMPARE(d[3].toString(), QStringLiteral("GARCIA LOPEZ JUAN"));
-        QCOMPARE(d[5].toString(), QStringLiteral("MAYOR"));
-        QCOMPARE(d[6].toInt(), 12);
-        QCOMPARE(d[13].toString(), QStringLiteral("07"));
-        QCOMPARE(d[15].toString(), QStringLiteral("07001"));
-        QCOMPARE(d[16].toString(), QStringLiteral("001"));
+        QCOMPARE(d[P::NOMBREC].toString(), QStringLiteral("GARCIA LOPEZ JUAN"));
+        QCOMPARE(d[P::DOMICILIOC].toString(), QStringLiteral("MAYOR"));
+        QCOMPARE(d[P::NUMEROC].toInt(), 12);
+        QCOMPARE(d[P::CODPROVC].toString(), QStringLiteral("07"));
+        QCOMPARE(d[P::CODPOSC].toString(), QStringLiteral("07001"));
+        QCOMPARE(d[P::CODMUNC].toString(), QStringLiteral("001"));
         // The counter of the array is not stored: no declaration names the contributor.
-        QCOMPARE(d[18].toDouble(), 0.0);
+        QCOMPARE(d[P::NUMSP].toDouble(), 0.0);
     }
 
     void guardarVeredictos()
@@ -391,10 +414,10 @@ private slots:
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(2), QStringLiteral("UNO"), a)), 2);
         // Neither changed anything.
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 3);
-        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("UNO"));
+        QCOMPARE(Cargar(a)[P::NOMBREC].toString(), QStringLiteral("UNO"));
         // An update keeping the own number, and one changing it to a free number.
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), QStringLiteral("UNO BIS"), a)), 0);
-        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("UNO BIS"));
+        QCOMPARE(Cargar(a)[P::NOMBREC].toString(), QStringLiteral("UNO BIS"));
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(3), QStringLiteral("TRES"), a)), 0);
         QCOMPARE(Svr().ObtenerCodigoContribuyente(Dni(3)), a);
         QCOMPARE(Svr().ObtenerCodigoContribuyente(Dni(1)), 0);
@@ -406,11 +429,11 @@ private slots:
         const int32_t a = Guardar(ContribuyenteNacional(Dni(5), QStringLiteral("VIEJO")));
         // The import's replace: element 0 from ExisteContribuyente.
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("NUEVO"), a), true), 0);
-        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("NUEVO"));
+        QCOMPARE(Cargar(a)[P::NOMBREC].toString(), QStringLiteral("NUEVO"));
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
         // Replace without a code replaces the one that has the number.
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("OTRA VEZ")), true), 0);
-        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("OTRA VEZ"));
+        QCOMPARE(Cargar(a)[P::NOMBREC].toString(), QStringLiteral("OTRA VEZ"));
         // Add: a new one; the number must be free.
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(5), QStringLiteral("X"), a), false), 1);
         QCOMPARE(Svr().GuardarContribuyente(ContribuyenteNacional(Dni(6), QStringLiteral("X"), a), false), 0);
@@ -433,14 +456,14 @@ private slots:
         AlmacenDePrueba almacen;
         const int32_t a = Guardar(ContribuyenteNacional(Dni(8), QStringLiteral("OCHO")));
         Arreglo malo = ContribuyenteNacional(Dni(8), QStringLiteral("CAMBIADO"), a);
-        malo[6] = QStringLiteral("12A");
+        malo[P::NUMEROC] = QStringLiteral("12A");
         QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
         malo = ContribuyenteNacional(Dni(8), QString(41, QLatin1Char('N')), a);
         QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
         malo = ContribuyenteNacional(Dni(8), QStringLiteral("CAMBIADO"), a);
-        malo[11] = QStringLiteral("X");
+        malo[P::TIPODOMI] = QStringLiteral("X");
         QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarContribuyente(malo));
-        QCOMPARE(Cargar(a)[3].toString(), QStringLiteral("OCHO"));
+        QCOMPARE(Cargar(a)[P::NOMBREC].toString(), QStringLiteral("OCHO"));
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
     }
 
@@ -480,10 +503,10 @@ private slots:
         const int32_t nacional = Guardar(ContribuyenteNacional(Dni(20), QStringLiteral("A")));
         const int32_t extranjero = Guardar(ContribuyenteExtranjero(QStringLiteral("AB20"), QStringLiteral("B")));
         Arreglo docExtranjero = ContribuyenteNacional(QStringLiteral("PX20"), QStringLiteral("C"));
-        docExtranjero[1] = "N";
+        docExtranjero[P::TIPODNI] = "N";
         const int32_t noOficial = Guardar(docExtranjero);
         Arreglo domExtranjero = ContribuyenteExtranjero(Dni(21), QStringLiteral("D"));
-        domExtranjero[1] = "O";
+        domExtranjero[P::TIPODNI] = "O";
         const int32_t fuera = Guardar(domExtranjero);
         QVERIFY(Svr().ValidarTipoDniDomicilio(nacional));
         QVERIFY(!Svr().ValidarTipoDniDomicilio(extranjero));
@@ -506,17 +529,17 @@ private slots:
         QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
         QCOMPARE(Svr().ObtenerNumspNumtr(b), (Arreglo{0, 3}));
         const Arreglo d = Cargar(a);
-        QCOMPARE(d[18].toDouble(), 3.0);
-        QCOMPARE(d[19].toDouble(), 1.0);
+        QCOMPARE(d[P::NUMSP].toDouble(), 3.0);
+        QCOMPARE(d[P::NUMTR].toDouble(), 1.0);
 
         // Whatever a save array carries, the counters stay those of the declarations.
         Arreglo g = ContribuyenteNacional(Dni(30), QStringLiteral("SUJETO"), a);
-        g[18] = 0.0;
-        g[19] = 77.0;
+        g[P::NUMSP] = 0.0;
+        g[P::NUMTR] = 77.0;
         QCOMPARE(Svr().GuardarContribuyente(g), 0);
         QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
         QCOMPARE(Svr().GuardarContribuyente(g, true), 0);
-        QCOMPARE(Cargar(a)[18].toDouble(), 3.0);
+        QCOMPARE(Cargar(a)[P::NUMSP].toDouble(), 3.0);
 
         // The list shows the same.
         Arreglo2D datos;
@@ -525,8 +548,8 @@ private slots:
         QCOMPARE(datos[5][fila].toInt(), 3);
         QCOMPARE(datos[6][fila].toInt(), 1);
         QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), datos, 1), 2);
-        QCOMPARE(datos[18][datos[0].indexOf(QVariant(b))].toDouble(), 0.0);
-        QCOMPARE(datos[19][datos[0].indexOf(QVariant(b))].toDouble(), 3.0);
+        QCOMPARE(datos[P::NUMSP][datos[0].indexOf(QVariant(b))].toDouble(), 0.0);
+        QCOMPARE(datos[P::NUMTR][datos[0].indexOf(QVariant(b))].toDouble(), 3.0);
 
         // A declaration deleted: the counter follows.
         almacen.BorrarDeclaracion(d1);
@@ -631,8 +654,8 @@ private slots:
                                              "MUOZ A", "MUZA", "MUZA"}));
         QCOMPARE(Columna(d, 2).mid(6), (QStringList{Dni(106), Dni(107)}));
         QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("m", 0), d, 1), 8);
-        QCOMPARE(Columna(d, 3).first(), QStringLiteral("MÚGICA"));
-        QCOMPARE(Columna(d, 3).at(4), QStringLiteral("MUÑOZ B"));
+        QCOMPARE(Columna(d, P::NOMBREC).first(), QStringLiteral("MÚGICA"));
+        QCOMPARE(Columna(d, P::NOMBREC).at(4), QStringLiteral("MUÑOZ B"));
     }
 
     void conexionCerradaEntreLlamadas()
@@ -652,10 +675,10 @@ private slots:
         AlmacenDePrueba almacen;
         const int32_t tesoreria = Guardar(ContribuyenteNacional(Dni(80), QStringLiteral("A")));
         Arreglo otra = ContribuyenteNacional(Dni(81), QStringLiteral("B"));
-        otra[13] = "48";
-        otra[15] = "48001";
-        otra[16] = "";
-        otra[17] = "BILBAO";
+        otra[P::CODPROVC] = "48";
+        otra[P::CODPOSC] = "48001";
+        otra[P::CODMUNC] = "";
+        otra[P::NOMMUNC] = "BILBAO";
         const int32_t bilbao = Guardar(otra);
         const int32_t londres = Guardar(ContribuyenteExtranjero(QStringLiteral("AB81"), QStringLiteral("C")));
         Arreglo2D d;
@@ -676,11 +699,11 @@ private slots:
         Arreglo2D d;
         QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("TO", 0), d, 1), 1);
         QCOMPARE(d.size(), 20);
-        QCOMPARE(d[0][0].toInt(), c);
-        for (int i = 1; i < 18; ++i)
+        QCOMPARE(d[P::CSCO][0].toInt(), c);
+        for (int i = P::TIPODNI; i < P::NUMSP; ++i)
             QCOMPARE(d[i][0].toString(), a[i].toString());
         QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), d, 2), 2);
-        QCOMPARE(Columna(d, 2), (QStringList{Dni(90), Dni(91)}));
+        QCOMPARE(Columna(d, P::DNIC), (QStringList{Dni(90), Dni(91)}));
     }
 };
 

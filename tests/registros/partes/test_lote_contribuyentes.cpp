@@ -1,10 +1,12 @@
 // The store's batches of saves: the same verdicts and the same rows as saving one by one, the
 // look-ups that see the saves of the batch, the commit in batches and the roll-back of the
 // batch under way, and the validation of the import from memory answering as from the file.
-#include "AlmacenPartes.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/PartesPrueba.h"
 
 #include "plataforma/General.h"
 #include "servicios/LoteContribuyentes.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/cContribSvr.h"
 
@@ -72,7 +74,7 @@ private slots:
             AlmacenDePrueba a;
             for (const Paso& p : Secuencia()) {
                 veredictosSueltos << Svr().GuardarContribuyente(p.datos, p.sustituir);
-                codigosSueltos << Svr().ExisteContribuyente(p.datos[2].toString());
+                codigosSueltos << Svr().ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
             }
             filasSueltas = Filas(a);
         }
@@ -82,9 +84,9 @@ private slots:
         {
             cLoteContribuyentes lote(mdbmod, mdblec);
             for (const Paso& p : Secuencia()) {
-                lote.ExisteContribuyente(p.datos[2].toString());
+                lote.ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
                 veredictos << lote.GuardarContribuyente(p.datos, p.sustituir);
-                codigos << lote.ExisteContribuyente(p.datos[2].toString());
+                codigos << lote.ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
             }
             lote.Confirmar();
         }
@@ -135,8 +137,8 @@ private slots:
         cLoteContribuyentes lote(mdbmod, mdblec);
         Arreglo2D deLote, deSvr;
         Arreglo malo = ImportacionNacional();
-        malo[14] = QStringLiteral("ZZ");
-        malo[10] = QStringLiteral("999");
+        malo[PosImportar::VIAC] = QStringLiteral("ZZ");
+        malo[PosImportar::CODMUNC] = QStringLiteral("999");
         for (const Arreglo& datos : {ImportacionNacional(), malo}) {
             lote.ValidarDatosImportar(datos, deLote);
             Svr().ValidarDatosImportar(datos, deSvr);

@@ -1,13 +1,19 @@
 // The store of presenters: the verdicts of the validation on their own and in order, the
 // verdicts of the save (with the number of a presenter named in a declaration), load, delete,
 // the number of declarations and the search.
-#include "AlmacenPartes.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/PartesPrueba.h"
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "comun/ArregloPrueba.h"
+#include "servicios/PosicionesPresentador.h"
 #include "servicios/cPresenSvr.h"
 
 #include <QtTest>
+
+namespace P = PosPresentador;
+namespace V = PosValidacionPresentador;
 
 namespace {
 
@@ -19,28 +25,38 @@ cPresenSvr Svr()
     return s;
 }
 
-enum { DNI, NOMBRE, DOMICILIO, CODPROV, CODMUN, NOMMUN, CODPOS, TELEFONO };
-
 Arreglo Tesoreria()
 {
-    return {"12345678Z", "GESTORIA ARBEL SL", "NUEVA", "77", "2", "", "77002", "945123456"};
+    return ArregloPorPosiciones(V::Tamano, {{V::DNIP, "12345678Z"},
+                                            {V::NOMBREP, "GESTORIA ARBEL SL"},
+                                            {V::DOMICILIOP, "NUEVA"},
+                                            {V::CODPROVP, "77"},
+                                            {V::CODMUNP, "2"},
+                                            {V::NOMMUNP, ""},
+                                            {V::CODPOSP, "77002"},
+                                            {V::TELEFONOP, "945123456"}});
 }
 Arreglo OtraProvincia()
 {
-    return {"B12345674", "GESTORIA BILBAO SL", "GRAN VIA", "48", "", "BILBAO", "48001", "944000000"};
+    return ArregloPorPosiciones(V::Tamano, {{V::DNIP, "B12345674"},
+                                            {V::NOMBREP, "GESTORIA BILBAO SL"},
+                                            {V::DOMICILIOP, "GRAN VIA"},
+                                            {V::CODPROVP, "48"},
+                                            {V::CODMUNP, ""},
+                                            {V::NOMMUNP, "BILBAO"},
+                                            {V::CODPOSP, "48001"},
+                                            {V::TELEFONOP, "944000000"}});
 }
 
-Arreglo Con(Arreglo a, std::initializer_list<std::pair<int, QVariant>> cambios)
+Arreglo Con(const Arreglo& a, ValoresEnPosicion cambios)
 {
-    for (const auto& [i, v] : cambios)
-        a[i] = v;
-    return a;
+    return ArregloCambiado(a, cambios);
 }
 
 int32_t Guardar(const Arreglo& a)
 {
     const int16_t v = Svr().GuardarPresentador(a);
-    return v != 0 ? -v : Svr().ObtenerCodigoPresentador(a[1].toString());
+    return v != 0 ? -v : Svr().ObtenerCodigoPresentador(a[P::DNIP].toString());
 }
 
 Arreglo Cargar(int32_t cspr)
@@ -62,30 +78,30 @@ private slots:
         QCOMPARE(Svr().ValidarDatosPresentador(OtraProvincia()), 0);
         // A postal code of fewer digits stands for the same code with leading zeros.
         QCOMPARE(Svr().ValidarDatosPresentador(
-                     Con(OtraProvincia(), {{CODPROV, "01"}, {CODPOS, "1001"}})), 0);
+                     Con(OtraProvincia(), {{V::CODPROVP, "01"}, {V::CODPOSP, "1001"}})), 0);
     }
 
     void veredictos_data()
     {
         QTest::addColumn<Arreglo>("datos");
         QTest::addColumn<int>("veredicto");
-        QTest::newRow("1 vacío") << Con(Tesoreria(), {{DNI, ""}}) << 1;
-        QTest::newRow("1 forma") << Con(Tesoreria(), {{DNI, "1234"}}) << 1;
-        QTest::newRow("1 extranjero") << Con(Tesoreria(), {{DNI, "AB1234567"}}) << 1;
-        QTest::newRow("2") << Con(Tesoreria(), {{NOMBRE, ""}}) << 2;
-        QTest::newRow("3") << Con(Tesoreria(), {{DOMICILIO, " "}}) << 3;
-        QTest::newRow("4") << Con(Tesoreria(), {{CODMUN, ""}}) << 4;
-        QTest::newRow("5") << Con(OtraProvincia(), {{NOMMUN, ""}}) << 5;
-        QTest::newRow("6") << Con(Tesoreria(), {{CODPOS, "00000"}}) << 6;
-        QTest::newRow("6 vacío") << Con(Tesoreria(), {{CODPOS, ""}}) << 6;
-        QTest::newRow("7") << Con(Tesoreria(), {{CODPOS, "48001"}}) << 7;
-        QTest::newRow("8") << Con(Tesoreria(), {{CODPOS, "77000"}}) << 8;
-        QTest::newRow("9 ocho cifras") << Con(Tesoreria(), {{TELEFONO, "94512345"}}) << 9;
-        QTest::newRow("9 letras") << Con(Tesoreria(), {{TELEFONO, "94512345X"}}) << 9;
-        QTest::newRow("10") << Con(Tesoreria(), {{TELEFONO, ""}}) << 10;
-        QTest::newRow("10 cero") << Con(Tesoreria(), {{TELEFONO, "0"}}) << 10;
-        QTest::newRow("11") << Con(Tesoreria(), {{DNI, "12345678A"}}) << 11;
-        QTest::newRow("11 sin letra") << Con(Tesoreria(), {{DNI, "12345678"}}) << 11;
+        QTest::newRow("1 vacío") << Con(Tesoreria(), {{V::DNIP, ""}}) << 1;
+        QTest::newRow("1 forma") << Con(Tesoreria(), {{V::DNIP, "1234"}}) << 1;
+        QTest::newRow("1 extranjero") << Con(Tesoreria(), {{V::DNIP, "AB1234567"}}) << 1;
+        QTest::newRow("2") << Con(Tesoreria(), {{V::NOMBREP, ""}}) << 2;
+        QTest::newRow("3") << Con(Tesoreria(), {{V::DOMICILIOP, " "}}) << 3;
+        QTest::newRow("4") << Con(Tesoreria(), {{V::CODMUNP, ""}}) << 4;
+        QTest::newRow("5") << Con(OtraProvincia(), {{V::NOMMUNP, ""}}) << 5;
+        QTest::newRow("6") << Con(Tesoreria(), {{V::CODPOSP, "00000"}}) << 6;
+        QTest::newRow("6 vacío") << Con(Tesoreria(), {{V::CODPOSP, ""}}) << 6;
+        QTest::newRow("7") << Con(Tesoreria(), {{V::CODPOSP, "48001"}}) << 7;
+        QTest::newRow("8") << Con(Tesoreria(), {{V::CODPOSP, "77000"}}) << 8;
+        QTest::newRow("9 ocho cifras") << Con(Tesoreria(), {{V::TELEFONOP, "94512345"}}) << 9;
+        QTest::newRow("9 letras") << Con(Tesoreria(), {{V::TELEFONOP, "94512345X"}}) << 9;
+        QTest::newRow("10") << Con(Tesoreria(), {{V::TELEFONOP, ""}}) << 10;
+        QTest::newRow("10 cero") << Con(Tesoreria(), {{V::TELEFONOP, "0"}}) << 10;
+        QTest::newRow("11") << Con(Tesoreria(), {{V::DNIP, "12345678A"}}) << 11;
+        QTest::newRow("11 sin letra") << Con(Tesoreria(), {{V::DNIP, "12345678"}}) << 11;
     }
 
     void veredictos()
@@ -97,16 +113,16 @@ private slots:
 
     void ordenDeLosVeredictos()
     {
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{DNI, ""}, {NOMBRE, ""}})), 1);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{NOMBRE, ""}, {DOMICILIO, ""}})), 2);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{DOMICILIO, ""}, {CODMUN, ""}})), 3);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{CODMUN, ""}, {CODPOS, ""}})), 4);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(OtraProvincia(), {{NOMMUN, ""}, {CODPOS, "77001"}})), 5);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{CODPOS, ""}, {TELEFONO, ""}})), 6);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{CODPOS, "48000"}})), 7);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{CODPOS, "77000"}, {TELEFONO, "1"}})), 8);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{TELEFONO, "1"}, {DNI, "12345678A"}})), 9);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{TELEFONO, ""}, {DNI, "12345678A"}})), 10);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::DNIP, ""}, {V::NOMBREP, ""}})), 1);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::NOMBREP, ""}, {V::DOMICILIOP, ""}})), 2);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::DOMICILIOP, ""}, {V::CODMUNP, ""}})), 3);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODMUNP, ""}, {V::CODPOSP, ""}})), 4);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(OtraProvincia(), {{V::NOMMUNP, ""}, {V::CODPOSP, "77001"}})), 5);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, ""}, {V::TELEFONOP, ""}})), 6);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, "48000"}})), 7);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, "77000"}, {V::TELEFONOP, "1"}})), 8);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::TELEFONOP, "1"}, {V::DNIP, "12345678A"}})), 9);
+        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::TELEFONOP, ""}, {V::DNIP, "12345678A"}})), 10);
     }
 
     void guardarYCargar()
@@ -117,9 +133,9 @@ private slots:
         QVERIFY(c > 0);
         const Arreglo d = Cargar(c);
         QCOMPARE(d.size(), 15);
-        for (int i = 1; i < 15; ++i)
+        for (int i = P::DNIP; i < P::Tamano; ++i)
             QCOMPARE(d[i].toString(), a[i].toString());
-        QCOMPARE(d[5].typeId(), QMetaType::Int);
+        QCOMPARE(d[P::NUMEROP].typeId(), QMetaType::Int);
         QVERIFY(Cargar(c + 1000).isEmpty());
     }
 
@@ -131,7 +147,7 @@ private slots:
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(101), QStringLiteral("C"))), 1);
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(102), QStringLiteral("A"), a)), 2);
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 2);
-        QCOMPARE(Cargar(a)[2].toString(), QStringLiteral("A"));
+        QCOMPARE(Cargar(a)[P::NOMBREP].toString(), QStringLiteral("A"));
         // Not named in any declaration: the number may change.
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(103), QStringLiteral("A"), a)), 0);
         QCOMPARE(Svr().ObtenerCodigoPresentador(Dni(103)), a);
@@ -145,11 +161,11 @@ private slots:
         almacen.NuevaDeclaracion(0, 0, p);
         // 3: the number may not change once a declaration names him, and nothing is written.
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(111), QStringLiteral("NOMBRADO BIS"), p)), 3);
-        QCOMPARE(Cargar(p)[1].toString(), Dni(110));
-        QCOMPARE(Cargar(p)[2].toString(), QStringLiteral("NOMBRADO"));
+        QCOMPARE(Cargar(p)[P::DNIP].toString(), Dni(110));
+        QCOMPARE(Cargar(p)[P::NOMBREP].toString(), QStringLiteral("NOMBRADO"));
         // Everything else may change.
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(110), QStringLiteral("NOMBRADO BIS"), p)), 0);
-        QCOMPARE(Cargar(p)[2].toString(), QStringLiteral("NOMBRADO BIS"));
+        QCOMPARE(Cargar(p)[P::NOMBREP].toString(), QStringLiteral("NOMBRADO BIS"));
         // 2 comes before 3: a number held by another presenter.
         Guardar(Presentador(Dni(112), QStringLiteral("OTRO")));
         QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(112), QStringLiteral("X"), p)), 2);
@@ -180,18 +196,18 @@ private slots:
     {
         AlmacenDePrueba almacen;
         Arreglo a = Presentador(Dni(130), QStringLiteral("  FORMA  "));
-        a[10] = "1";
-        a[11] = "1001";
-        a[12] = "";
-        a[13] = "VITORIA";
-        a[14] = "0";
+        a[P::CODPROVP] = "1";
+        a[P::CODPOSP] = "1001";
+        a[P::CODMUNP] = "";
+        a[P::NOMMUNP] = "VITORIA";
+        a[P::TELEFONOP] = "0";
         const int32_t p = Guardar(a);
         const Arreglo d = Cargar(p);
-        QCOMPARE(d[2].toString(), QStringLiteral("FORMA"));
-        QCOMPARE(d[10].toString(), QStringLiteral("01"));
-        QCOMPARE(d[11].toString(), QStringLiteral("01001"));
-        QCOMPARE(d[14].toString(), QString());
-        a[14] = "94512X";
+        QCOMPARE(d[P::NOMBREP].toString(), QStringLiteral("FORMA"));
+        QCOMPARE(d[P::CODPROVP].toString(), QStringLiteral("01"));
+        QCOMPARE(d[P::CODPOSP].toString(), QStringLiteral("01001"));
+        QCOMPARE(d[P::TELEFONOP].toString(), QString());
+        a[P::TELEFONOP] = "94512X";
         QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarPresentador(a));
     }
 
@@ -201,10 +217,10 @@ private slots:
         const int32_t a = Guardar(Presentador(Dni(140), QStringLiteral("ASESORES O'NEILL")));
         Guardar(Presentador(Dni(141), QStringLiteral("ASESORES 50% SL")));
         Arreglo b = Presentador(QStringLiteral("B12345674"), QStringLiteral("BILBAO GESTION"));
-        b[10] = "48";
-        b[11] = "48001";
-        b[12] = "";
-        b[13] = "BILBAO";
+        b[P::CODPROVP] = "48";
+        b[P::CODPOSP] = "48001";
+        b[P::CODMUNP] = "";
+        b[P::NOMMUNP] = "BILBAO";
         const int32_t bilbao = Guardar(b);
         almacen.NuevaDeclaracion(0, 0, a);
         Arreglo2D d;

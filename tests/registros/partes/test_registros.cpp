@@ -1,6 +1,7 @@
 // The program's records of a contributor and a presenter (their defaults, the reset of MODO
 // "A", loading and the arrays they give the store) and the state of the two party lists.
-#include "AlmacenPartes.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/PartesPrueba.h"
 
 #include "plataforma/General.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -9,6 +10,7 @@
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
+#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QtTest>
@@ -245,7 +247,7 @@ private slots:
         ConDatos().ValidarDatosImportar(ImportacionNacional(), errores);
         QVERIFY(errores.size() == 1 && errores[0].size() - 1 <= 0);
         Arreglo malo = ImportacionNacional();
-        malo[2] = QString(40, QLatin1Char(' '));
+        malo[PosImportar::NOMBREC] = QString(40, QLatin1Char(' '));
         ConDatos().ValidarDatosImportar(malo, errores);
         QCOMPARE(errores[0].size() - 1, 1);
         QCOMPARE(errores[0][0].toInt(), 3);
@@ -261,13 +263,13 @@ private slots:
                           "PARIS", ""}));
         const Arreglo g = c.ArregloGuardar();
         QCOMPARE(g.size(), 20);
-        QCOMPARE(g[0].toInt(), 9);
-        QCOMPARE(g[4].toString(), QStringLiteral("AV"));
-        QCOMPARE(g[6].toInt(), 5);
-        QCOMPARE(g[11].toString(), QStringLiteral("E"));
-        QCOMPARE(g[14].toString(), QStringLiteral("PARIS"));
-        QCOMPARE(g[18].toDouble(), 3.0);
-        QCOMPARE(g[19].toDouble(), 4.0);
+        QCOMPARE(g[PosContribuyente::CSCO].toInt(), 9);
+        QCOMPARE(g[PosContribuyente::VIAC].toString(), QStringLiteral("AV"));
+        QCOMPARE(g[PosContribuyente::NUMEROC].toInt(), 5);
+        QCOMPARE(g[PosContribuyente::TIPODOMI].toString(), QStringLiteral("E"));
+        QCOMPARE(g[PosContribuyente::NOMPROVC].toString(), QStringLiteral("PARIS"));
+        QCOMPARE(g[PosContribuyente::NUMSP].toDouble(), 3.0);
+        QCOMPARE(g[PosContribuyente::NUMTR].toDouble(), 4.0);
     }
 
     // --- cPreDatos ---------------------------------------------------------------------

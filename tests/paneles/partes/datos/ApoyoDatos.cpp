@@ -1,65 +1,17 @@
 #include "ApoyoDatos.h"
 
-#include "comun/AlmacenNuevo.h"
-
-#include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/MDIVeldo.h"
-#include "plataforma/General.h"
-#include "paneles/dialogos/Mensaje.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/ArregloPrueba.h"
 #include "paneles/controles/Colores.h"
-#include "servicios/Conexion.h"
+#include "plataforma/General.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesPresentador.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
 
-#include <QMdiArea>
 #include <QMenu>
-#include <QMdiSubWindow>
 #include <QPalette>
-
-ProgramaDePrueba::ProgramaDePrueba(bool euskera)
-{
-    m_carpeta = AlmacenNuevo();
-    // The language chooser of the first run is not part of these tests.
-    ActOnline().ActOnline = 0;
-    OffsetIdioma = euskera ? 10000 : 0;
-    m_ventana = new MDIVeldo;
-    m_ventana->show();
-    QApplication::setActiveWindow(m_ventana);
-    if (!QTest::qWaitForWindowActive(m_ventana))
-        qWarning("La ventana principal no se activó");
-    m_ventana->ActualizarMenus();
-}
-
-ProgramaDePrueba::~ProgramaDePrueba()
-{
-    ReiniciarEstado();
-    MensajeSeam::limpiar();
-    m_carpeta.reset();
-}
-
-QWidget* ProgramaDePrueba::panel(const QString& nombre) const
-{
-    for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
-        if (sub->widget() && sub->widget()->objectName() == nombre && sub->isVisible())
-            return sub->widget();
-    return nullptr;
-}
-
-QStringList ProgramaDePrueba::paneles() const
-{
-    QStringList nombres;
-    for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
-        if (sub->widget() && sub->isVisible())
-            nombres << sub->widget()->objectName();
-    return nombres;
-}
-
-void Procesar()
-{
-    QApplication::processEvents();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QApplication::processEvents();
-}
 
 QWidget* Foco()
 {
@@ -187,12 +139,29 @@ bool MenuApagado(const ProgramaDePrueba& prog, const char* nombre)
 
 int32_t GuardarEnAlmacen(const Contribuyente& c)
 {
+    namespace C = PosContribuyente;
     cContribSvr svr;
     svr.mdbmod = mdbmod;
-    const Arreglo datos = {0,        c.TIPODNI, c.DNIC,    c.NOMBREC, c.VIAC,    c.DOMICILIOC,
-                           c.NUMEROC, QString(), QString(), QString(), QString(), c.TIPODOMI,
-                           c.PAIS,   c.CODPROVC, c.NOMPROVC, c.CODPOSC, c.CODMUNC, c.NOMMUNC,
-                           0.0,      0.0};
+    const Arreglo datos = ArregloPorPosiciones(C::Tamano, {{C::CSCO, 0},
+                                                           {C::TIPODNI, c.TIPODNI},
+                                                           {C::DNIC, c.DNIC},
+                                                           {C::NOMBREC, c.NOMBREC},
+                                                           {C::VIAC, c.VIAC},
+                                                           {C::DOMICILIOC, c.DOMICILIOC},
+                                                           {C::NUMEROC, c.NUMEROC},
+                                                           {C::LETRAC, QString()},
+                                                           {C::ESCALERAC, QString()},
+                                                           {C::PISOC, QString()},
+                                                           {C::MANOC, QString()},
+                                                           {C::TIPODOMI, c.TIPODOMI},
+                                                           {C::PAIS, c.PAIS},
+                                                           {C::CODPROVC, c.CODPROVC},
+                                                           {C::NOMPROVC, c.NOMPROVC},
+                                                           {C::CODPOSC, c.CODPOSC},
+                                                           {C::CODMUNC, c.CODMUNC},
+                                                           {C::NOMMUNC, c.NOMMUNC},
+                                                           {C::NUMSP, 0.0},
+                                                           {C::NUMTR, 0.0}});
     if (svr.GuardarContribuyente(datos) != 0)
         return 0;
     return svr.ObtenerCodigoContribuyente(c.DNIC);
@@ -200,11 +169,24 @@ int32_t GuardarEnAlmacen(const Contribuyente& c)
 
 int32_t GuardarEnAlmacen(const Presentador& p)
 {
+    namespace P = PosPresentador;
     cPresenSvr svr;
     svr.mdbmod = mdbmod;
-    const Arreglo datos = {0,         p.DNIP,    p.NOMBREP, p.VIAP,    p.DOMICILIOP,
-                           p.NUMEROP, QString(), QString(), QString(), QString(),
-                           p.CODPROVP, p.CODPOSP, p.CODMUNP, p.NOMMUNP, p.TELEFONOP};
+    const Arreglo datos = ArregloPorPosiciones(P::Tamano, {{P::CSPR, 0},
+                                                           {P::DNIP, p.DNIP},
+                                                           {P::NOMBREP, p.NOMBREP},
+                                                           {P::VIAP, p.VIAP},
+                                                           {P::DOMICILIOP, p.DOMICILIOP},
+                                                           {P::NUMEROP, p.NUMEROP},
+                                                           {P::LETRAP, QString()},
+                                                           {P::ESCALERAP, QString()},
+                                                           {P::PISOP, QString()},
+                                                           {P::MANOP, QString()},
+                                                           {P::CODPROVP, p.CODPROVP},
+                                                           {P::CODPOSP, p.CODPOSP},
+                                                           {P::CODMUNP, p.CODMUNP},
+                                                           {P::NOMMUNP, p.NOMMUNP},
+                                                           {P::TELEFONOP, p.TELEFONOP}});
     if (svr.GuardarPresentador(datos) != 0)
         return 0;
     return svr.ObtenerCodigoPresentador(p.DNIP);
@@ -215,16 +197,4 @@ void DeclaracionCon(const char* columna, int32_t codigo)
     EjecutarEnAlmacen(QStringLiteral("INSERT INTO DECLARACIONES (%1) VALUES (?)")
                           .arg(QString::fromLatin1(columna)),
                       {codigo});
-}
-
-QVariant ValorAlmacenado(const QString& sql, const QVariantList& valores)
-{
-    const QSqlDatabase db = Conexion::Modificable(mdbmod, QStringLiteral("prueba"));
-    return Escalar(db, sql, valores, QStringLiteral("prueba"));
-}
-
-void EjecutarEnAlmacen(const QString& sql, const QVariantList& valores)
-{
-    const QSqlDatabase db = Conexion::Modificable(mdbmod, QStringLiteral("prueba"));
-    Ejecutar(db, sql, valores, QStringLiteral("prueba"));
 }

@@ -1,11 +1,12 @@
 #pragma once
-// What the tests of the parties' data panels share: a fresh program (temporary folder, new
-// read/write store, main window on screen) for each test, parties put in the store, and the
-// user's gestures on a panel: typing in a field, leaving it, clicking, choosing in a picker.
+// What the tests of the parties' data panels share beside the program under test
+// (ProgramaPrueba.h): parties put in the store field by field, and the user's gestures on a
+// panel: typing in a field, leaving it, clicking, choosing in a picker.
 #include "aplicacion/Navegacion.h"
+#include "comun/AlmacenPrueba.h"
+#include "comun/ProgramaPrueba.h"
 #include "paneles/partes/FrmConDatos.h"
 #include "paneles/partes/FrmPreDatos.h"
-#include "comun/Entorno.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/cListaClaves.h"
 
@@ -19,36 +20,12 @@
 #include <QWidget>
 #include <memory>
 
-class MDIVeldo;
-class QMdiArea;
-
-// One program run per test.
-class ProgramaDePrueba {
-public:
-    // Spanish (false) or Basque (true).
-    explicit ProgramaDePrueba(bool euskera = false);
-    ~ProgramaDePrueba();
-
-    MDIVeldo* ventana() const { return m_ventana; }
-    // The open panel with this objectName, or null.
-    QWidget* panel(const QString& nombre) const;
-    // The objectNames of the panels open in the main window.
-    QStringList paneles() const;
-
-private:
-    std::unique_ptr<CarpetaDePrueba> m_carpeta;
-    MDIVeldo* m_ventana = nullptr;
-};
-
 // A control of a panel by its objectName (null when missing).
 template <class T>
 T* Control(QWidget* panel, const char* nombre)
 {
     return panel ? panel->findChild<T*>(QString::fromLatin1(nombre)) : nullptr;
 }
-
-// Lets queued work run (selection after a click, deferred deletions of closed panels).
-void Procesar();
 
 // The panel under test and its controls by objectName; a missing control is reported.
 class ControlesDePanel {
@@ -161,6 +138,3 @@ int32_t GuardarEnAlmacen(const Presentador& p);
 
 // A declaration that names a contributor as subject or transmitter, or a presenter.
 void DeclaracionCon(const char* columna, int32_t codigo);
-// A value of a stored row, read straight from the read/write store.
-QVariant ValorAlmacenado(const QString& sql, const QVariantList& valores = {});
-void EjecutarEnAlmacen(const QString& sql, const QVariantList& valores = {});

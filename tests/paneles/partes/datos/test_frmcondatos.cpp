@@ -183,7 +183,7 @@ private slots:
     void rotulosYListasEnEuskera()
     {
         m_prog.reset();
-        m_prog = std::make_unique<ProgramaDePrueba>(true);
+        m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         abrirNuevo();
         QCOMPARE(m_panel->windowTitle(), QStringLiteral("Zergadunaren datuak"));
         QCOMPARE(t("txtviaaux")->text(), QStringLiteral("Kalea"));
@@ -197,6 +197,7 @@ private slots:
         QCOMPARE(vias->TextoElemento(0), QStringLiteral("Aldapa"));
         QCOMPARE(vias->ClaveElemento(0), QStringLiteral("CU"));
         // A message comes in Basque, with the panel's title.
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(10029));
@@ -427,6 +428,7 @@ private slots:
         EscribirYSalir(t("txtnombrec"), QStringLiteral("PEREZ"));
         EscribirYSalir(t("txtdomicilioc"), QStringLiteral("MAYOR"));
         EscribirYSalir(n("txtcodposc"), QStringLiteral("48001"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const QString texto = MensajeSeam::registro()[0].texto;
@@ -579,6 +581,7 @@ private slots:
         const int32_t cs = GuardarEnAlmacen(x);
         QVERIFY(cs > 0);
         abrirExistente(cs);
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
@@ -645,6 +648,7 @@ private slots:
         case 14: r.DNIC = QStringLiteral("12345678A"); break;
         }
         abrirConRegistro();
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
@@ -683,6 +687,7 @@ private slots:
         RegistroValido(ConDatos());
         abrirConRegistro();
         EscribirYSalir(t("txtnombrec"), QStringLiteral("OTRO NOMBRE"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(41));
@@ -700,6 +705,7 @@ private slots:
         const int32_t co = GuardarEnAlmacen(otro);
         abrirExistente(co);
         EscribirYSalir(t("txtdnic"), QStringLiteral("12345678Z"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(42));

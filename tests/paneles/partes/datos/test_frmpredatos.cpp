@@ -129,7 +129,7 @@ private slots:
     void rotulosEnEuskera()
     {
         m_prog.reset();
-        m_prog = std::make_unique<ProgramaDePrueba>(true);
+        m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         abrirNuevo();
         QCOMPARE(m_panel->windowTitle(), QStringLiteral("Aurkezlearen datuak"));
         QCOMPARE(c<QLabel>("lbltelefonop")->text(), QStringLiteral("Telefonoa:"));
@@ -207,11 +207,13 @@ private slots:
         PreDatos().TELEFONOP = QStringLiteral("94512345");  // eight digits
         abrirConRegistro();
         QCOMPARE(t("txttelefonop")->text(), QStringLiteral("94512345"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(198));
         QCOMPARE(Foco(), t("txttelefonop"));
         EscribirYSalir(t("txttelefonop"), QString());
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro()[1].texto, Texto(199));
@@ -243,6 +245,7 @@ private slots:
         DeclaracionCon("CSPR", cspr);
         abrirExistente(cspr);
         EscribirYSalir(t("txtdnip"), QStringLiteral("12345678Z"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(197));
@@ -340,6 +343,7 @@ private slots:
         case 11: r.DNIP = QStringLiteral("87654321A"); break;
         }
         abrirConRegistro();
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
@@ -358,6 +362,7 @@ private slots:
         RegistroValido(PreDatos());
         abrirConRegistro();
         EscribirYSalir(t("txtnombrep"), QStringLiteral("OTRA"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto, Texto(195));
@@ -371,6 +376,7 @@ private slots:
         const int32_t co = GuardarEnAlmacen(otro);
         abrirExistente(co, QString());
         EscribirYSalir(t("txtdnip"), QStringLiteral("87654321X"));
+        MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro()[1].texto, Texto(196));

@@ -1,49 +1,21 @@
 #pragma once
-// What the tests of the party lists share: a fresh program folder and store with the main
-// window shown, parties and declarations put in the store, and the user's gestures on a grid
-// (a click on a heading or a cell, a double click).
-#include "comun/Entorno.h"
+// What the tests of the party lists share beside the program under test (ProgramaPrueba.h)
+// and the parties put in its store (PartesPrueba.h, AlmacenPrueba.h): a list panel's
+// controls, and the user's gestures on a grid (a click on a heading or a cell, a double click).
+#include "comun/AlmacenPrueba.h"
+#include "comun/PartesPrueba.h"
+#include "comun/ProgramaPrueba.h"
 
-#include <QPointer>
+#include <QColor>
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
-#include <cstdint>
-#include <memory>
 
-class MDIVeldo;
 class cFlexGrid;
 class QLabel;
 class QLineEdit;
 class QPushButton;
-
-class EntornoListas {
-public:
-    // Seams recording, a new folder with its store migrated, the application state loaded
-    // (language `idioma`), the main window shown and active.
-    explicit EntornoListas(const QString& idioma = QStringLiteral("C"));
-    ~EntornoListas();
-
-    MDIVeldo* ventana() const { return m_ventana; }
-    bool activa() const { return m_activa; }
-
-private:
-    std::unique_ptr<CarpetaDePrueba> m_carpeta;
-    QPointer<MDIVeldo> m_ventana;
-    bool m_activa = false;
-};
-
-// A contributor (province 77, municipality `municipio`) stored through the store of
-// contributors; answers its code.
-int32_t NuevoContribuyente(const QString& dni, const QString& nombre,
-                           const QString& calle = QStringLiteral("MAYOR"),
-                           const QString& municipio = QStringLiteral("001"));
-int32_t NuevoPresentador(const QString& dni, const QString& nombre,
-                         const QString& calle = QStringLiteral("MAYOR"));
-// A declaration row that names the parties given (0: none), as the declarations' store keeps
-// them; enough for the counters of the parties.
-void NuevaDeclaracion(int32_t sujeto, int32_t transmitente, int32_t presentador = 0);
-bool ExisteContribuyente(int32_t csco);
-bool ExistePresentador(int32_t cspr);
 
 // A list panel's controls by objectName (null when missing), and its result line.
 namespace ControlesLista {
@@ -52,11 +24,6 @@ QLabel* Etiqueta(QWidget* panel, const char* nombre);
 QLineEdit* Caja(QWidget* panel);  // the search box over the heading
 QString Resultado(QWidget* panel);
 }
-
-// The open panel of that objectName in the main window, null when there is none.
-QWidget* PanelAbierto(const QString& nombre);
-// Lets deferred deletions and queued events run.
-void Procesar();
 
 // The user's gestures on a grid: through its viewport and its heading, as a mouse does.
 void ClicCabecera(cFlexGrid* grid, int columna);

@@ -51,7 +51,7 @@ using namespace ControlesLista;
 class TestConLista : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<EntornoListas> m_entorno;
+    std::unique_ptr<ProgramaDePrueba> m_entorno;
     // Codes of the five contributors of Poblar().
     int32_t m_abad = 0, m_garcia = 0, m_gil = 0, m_gomez = 0, m_zubiri = 0;
 
@@ -90,7 +90,7 @@ class TestConLista : public QObject {
 private slots:
     void init()
     {
-        m_entorno = std::make_unique<EntornoListas>();
+        m_entorno = std::make_unique<ProgramaDePrueba>();
         QVERIFY(m_entorno->activa());
     }
     void cleanup() { m_entorno.reset(); }
@@ -641,6 +641,7 @@ private slots:
         cFlexGrid* g = Grid(p);
         QCOMPARE(ConLista().CSCO, m_abad);
         QCOMPARE(ConLista().NUMTR, 1);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const MensajeSeam::Registro aviso = MensajeSeam::registro().first();
@@ -652,6 +653,7 @@ private slots:
         // As subject too.
         ClicCelda(g, 5, 1);
         QCOMPARE(ConLista().NUMSP, 1);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 2);
         QCOMPARE(MensajeSeam::registro().last().texto, Texto(81));
@@ -734,7 +736,7 @@ private slots:
     void lineasEnEuskera()
     {
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>(QStringLiteral("E"));
+        m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QVERIFY(m_entorno->activa());
         Poblar();
         FrmConLista* p = Abrir("A");

@@ -35,7 +35,7 @@ using namespace ControlesLista;
 class TestPreLista : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<EntornoListas> m_entorno;
+    std::unique_ptr<ProgramaDePrueba> m_entorno;
     int32_t m_alonso = 0, m_goiri = 0, m_urkia = 0;
 
     void Poblar()
@@ -69,7 +69,7 @@ class TestPreLista : public QObject {
 private slots:
     void init()
     {
-        m_entorno = std::make_unique<EntornoListas>();
+        m_entorno = std::make_unique<ProgramaDePrueba>();
         QVERIFY(m_entorno->activa());
     }
     void cleanup() { m_entorno.reset(); }
@@ -142,7 +142,7 @@ private slots:
 
         // A page of its own: the row asked for is brought to the top.
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>();
+        m_entorno = std::make_unique<ProgramaDePrueba>();
         Poblar();
         PreLista().CSPR = m_urkia;
         p = Abrir("P");
@@ -221,6 +221,7 @@ private slots:
         QVERIFY(Etiqueta(p, "PicEliminar")->isVisible());
 
         // One named in a declaration is refused, without a question.
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro().last().texto, Texto(208));
@@ -289,7 +290,7 @@ private slots:
     void lineasEnEuskera()
     {
         m_entorno.reset();
-        m_entorno = std::make_unique<EntornoListas>(QStringLiteral("E"));
+        m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QVERIFY(m_entorno->activa());
         Poblar();
         FrmPreLista* p = Abrir("A");

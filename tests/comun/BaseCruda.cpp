@@ -1,4 +1,4 @@
-#include "Apoyo.h"
+#include "comun/BaseCruda.h"
 
 #include "servicios/Esquema.h"
 

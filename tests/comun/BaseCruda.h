@@ -1,6 +1,6 @@
 #pragma once
-// What the tests of the stores share: a raw connection of their own (as another program or a
-// second running instance would have), files crafted in a given layout, and ways to compare
+// A database seen from outside the program: a raw connection of its own (as another program or
+// a second running instance would have), files crafted in a given layout, and ways to compare
 // a database before and after.
 #include <QByteArray>
 #include <QSqlDatabase>

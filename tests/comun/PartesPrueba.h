@@ -1,0 +1,41 @@
+#pragma once
+// Parties for the tests: the arrays of valid contributors and presenters that the stores take,
+// built by the arrays' named positions, and parties put in the store of the application
+// paths (mdbmod) through the stores' own operations.
+#include "servicios/Arreglos.h"
+
+#include <QString>
+#include <cstdint>
+
+// A DNI of eight digits with its right letter.
+QString Dni(quint32 numero);
+
+// Save arrays of a valid contributor: national in the treasury's province (municipality 001),
+// and foreign with a foreign document.
+Arreglo ContribuyenteNacional(const QString& dni, const QString& nombre, int32_t csco = 0);
+Arreglo ContribuyenteExtranjero(const QString& dni, const QString& nombre, int32_t csco = 0);
+// The validation array (11 texts) of a save array.
+Arreglo ValidacionDe(const Arreglo& guardar);
+// The import validation array (15 raw texts) of a valid national contributor, as an exchange
+// line holds it (fixed widths, blanks included).
+Arreglo ImportacionNacional();
+
+// Save array of a valid presenter in the treasury's province.
+Arreglo Presentador(const QString& dni, const QString& nombre, int32_t cspr = 0);
+// Its validation array (8 texts).
+Arreglo ValidacionPresentador(const Arreglo& guardar);
+
+// A national contributor of the treasury's province, in street `calle` and municipality
+// `municipio`, saved through the store of contributors; answers its code. A refusal stops the
+// test program.
+int32_t NuevoContribuyente(const QString& dni, const QString& nombre,
+                           const QString& calle = QStringLiteral("MAYOR"),
+                           const QString& municipio = QStringLiteral("001"));
+// A contributor with a foreign number and address.
+int32_t NuevoContribuyenteExtranjero(const QString& dni, const QString& nombre);
+// A presenter of the treasury's province in street `calle`.
+int32_t NuevoPresentador(const QString& dni, const QString& nombre,
+                         const QString& calle = QStringLiteral("MAYOR"));
+// Whether the store still has the party of that code.
+bool ExisteContribuyente(int32_t csco);
+bool ExistePresentador(int32_t cspr);
