@@ -1,6 +1,7 @@
 #include "aplicacion/LineaDeOrdenes.h"
 
 #include "aplicacion/OrdenesImprimir.h"
+#include "aplicacion/OrdenesIntercambio.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
@@ -77,6 +78,25 @@ const std::vector<Opcion>& Opciones()
         {{QStringLiteral("sin-presentador")},
          {"Con --pdf, sin los datos del presentador.", "--pdf-ekin, aurkezlearen datuak gabe."},
          {}},
+        {{QStringLiteral("importar")},
+         {"Importa los contribuyentes de FICHERO en modo automático.",
+          "FITXATEGIko zergadunak modu automatikoan inportatzen ditu."},
+         {"FICHERO", "FITXATEGIA"},
+         OrdenesIntercambio::Importacion},
+        {{QStringLiteral("errores")},
+         {"Con --importar, el fichero de errores (Erorres.txt junto a FICHERO, si no).",
+          "--importar-ekin, erroreen fitxategia (Erorres.txt FITXATEGIAren ondoan, bestela)."},
+         {"FICHERO", "FITXATEGIA"}},
+        {{QStringLiteral("exportar")},
+         {"Exporta a FICHERO los contribuyentes de los DNI que siguen, en ese orden, o con "
+          "--todos todos ellos.",
+          "Ondoren datozen NAen zergadunak FITXATEGIra esportatzen ditu, ordena horretan, edo "
+          "--todos-ekin guztiak."},
+         {"FICHERO [DNI...]", "FITXATEGIA [NA...]"},
+         OrdenesIntercambio::Exportacion},
+        {{QStringLiteral("todos")},
+         {"Con --exportar, todos los contribuyentes.", "--exportar-ekin, zergadun guztiak."},
+         {}},
     };
     return opciones;
 }
@@ -147,14 +167,6 @@ int MostrarVersion(const Llamada& llamada)
     llamada.salida << Texto(218) << QLatin1Char(' ') << VersionDelPrograma(version->fichero)
                    << Qt::endl;
     return 0;
-}
-
-// Where a wrong line is sent.
-QString Pista(const QString& programa)
-{
-    return TextoSegunIdioma(QStringLiteral("Las opciones se listan con: %1 --help"),
-                            QStringLiteral("Aukeren zerrenda: %1 --help"))
-        .arg(programa);
 }
 
 int ImprimirPdf(const Llamada& llamada)
@@ -272,6 +284,13 @@ std::unique_ptr<QCoreApplication> Aplicacion(bool pinta, int& argc, char** argv)
 }
 
 }  // namespace
+
+QString Pista(const QString& programa)
+{
+    return TextoSegunIdioma(QStringLiteral("Las opciones se listan con: %1 --help"),
+                            QStringLiteral("Aukeren zerrenda: %1 --help"))
+        .arg(programa);
+}
 
 std::optional<int> Atender(const QStringList& argumentos, QTextStream& salida,
                            QTextStream& errores)

@@ -5,6 +5,8 @@
 #include "paneles/declaracion/FrmDecLista.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 #include "paneles/declaracion/FrmSeleccion.h"
+#include "paneles/intercambio/FrmExportar.h"
+#include "paneles/intercambio/FrmImportar.h"
 #include "paneles/partes/FrmConDatos.h"
 #include "paneles/partes/FrmConLista.h"
 #include "paneles/partes/FrmPreDatos.h"
@@ -131,6 +133,22 @@ FrmPreDatos* AbrirPreDatos()
             AbrirPreLista(QStringLiteral("P"));
     });
     return datos;
+}
+
+FrmExportar* AbrirExportar()
+{
+    alAbrir();
+    FrmExportar* panel = FrmExportar::Abrir();
+    QObject::connect(panel, &FrmExportar::cerrado, panel, [] { alCerrar(); });
+    return panel;
+}
+
+FrmImportar* AbrirImportar()
+{
+    alAbrir();
+    FrmImportar* panel = FrmImportar::Abrir();
+    QObject::connect(panel, &FrmImportar::cerrado, panel, [] { alCerrar(); });
+    return panel;
 }
 
 FrmConDatos* NuevoContribuyente()

@@ -14,6 +14,8 @@ class FrmDeclaracion;
 class FrmDecLista;
 class FrmConDeclaraciones;
 class FrmPreDeclaraciones;
+class FrmExportar;
+class FrmImportar;
 class FrmConLista;
 class FrmPreDatos;
 class FrmPreLista;
@@ -27,6 +29,10 @@ FrmPreLista* AbrirPreLista(const QString& entrada);
 // A party's data panel as MODO, LISTA and the code of its record stand.
 FrmConDatos* AbrirConDatos();
 FrmPreDatos* AbrirPreDatos();
+
+// The export and import of contributors, from the main menu.
+FrmExportar* AbrirExportar();
+FrmImportar* AbrirImportar();
 
 // A new party from the main menu: MODO "A", no list to go back to.
 FrmConDatos* NuevoContribuyente();

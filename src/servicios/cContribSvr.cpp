@@ -6,6 +6,7 @@
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/GuardadoContribuyente.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
@@ -24,57 +25,13 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cContribSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from P::TIPODNI to P::NOMMUNC.
-const QStringList kColumnas = {
-    QStringLiteral("TIPODNI"),   QStringLiteral("DNIC"),     QStringLiteral("NOMBREC"),
-    QStringLiteral("VIAC"),      QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
-    QStringLiteral("LETRAC"),    QStringLiteral("ESCALERAC"), QStringLiteral("PISOC"),
-    QStringLiteral("MANOC"),     QStringLiteral("TIPODOMI"), QStringLiteral("PAIS"),
-    QStringLiteral("CODPROVC"),  QStringLiteral("NOMPROVC"), QStringLiteral("CODPOSC"),
-    QStringLiteral("CODMUNC"),   QStringLiteral("NOMMUNC"),
-};
+const QStringList& kColumnas = GuardadoContribuyente::Columnas();
 // A stored row lacks the code: its value of position p stands at p - kPrimera.
 constexpr int kPrimera = P::TIPODNI;
 
-// The values of a save array in their stored form, in the order of kColumnas.
-QVariantList filaGuardada(const Arreglo& a, const QString& org)
-{
-    const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
-    const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
-    if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
-        throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
-    if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
-        throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
-    const bool extranjero = tipoDomi == QLatin1String("E");
-    // A national postal code has its five digits; a foreign one is kept as it was typed.
-    const QString cp = extranjero ? CifrasGuardadas(a, P::CODPOSC, 5, "CODPOSC", org)
-                                  : CodigoGuardado(a, P::CODPOSC, 5, "CODPOSC", org);
-    return {
-        tipoDni,
-        TextoGuardado(a, P::DNIC, 9, "DNIC", org),
-        TextoGuardado(a, P::NOMBREC, 40, "NOMBREC", org),
-        TextoGuardado(a, P::VIAC, 2, "VIAC", org),
-        TextoGuardado(a, P::DOMICILIOC, 20, "DOMICILIOC", org),
-        EnteroGuardado(a, P::NUMEROC, 99999, "NUMEROC", org),
-        TextoGuardado(a, P::LETRAC, 2, "LETRAC", org),
-        TextoGuardado(a, P::ESCALERAC, 2, "ESCALERAC", org),
-        TextoGuardado(a, P::PISOC, 2, "PISOC", org),
-        TextoGuardado(a, P::MANOC, 3, "MANOC", org),
-        tipoDomi,
-        TextoGuardado(a, P::PAIS, 20, "PAIS", org),
-        CodigoGuardado(a, P::CODPROVC, 2, "CODPROVC", org),
-        TextoGuardado(a, P::NOMPROVC, 20, "NOMPROVC", org),
-        cp,
-        CodigoGuardado(a, P::CODMUNC, 3, "CODMUNC", org),
-        TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
-    };
-}
-
 const TablaParte& tabla()
 {
-    static const TablaParte t(QStringLiteral("CONTRIBUYENTES"), QStringLiteral("CSCO"),
-                              QStringLiteral("DNIC"), kColumnas);
-    return t;
+    return GuardadoContribuyente::Tabla();
 }
 
 QString condiciones(const Arreglo& criterios, QVariantList& valores)
@@ -105,13 +62,7 @@ bool cContribSvr::ValidarDniOficial(const QString& dni) const
 void cContribSvr::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
 {
     const QString org = origen("ValidarDatosImportar");
-    const QList<int> codigos = ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org));
-    QVariantList columna;
-    columna.reserve(codigos.size() + 1);
-    for (int c : codigos)
-        columna << c;
-    columna << 0;  // the spare element: the upper bound is the number of errors
-    errores = Arreglo2D{columna};
+    errores = ArregloErrores(ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org)));
 }
 
 bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
@@ -172,30 +123,13 @@ int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir) 
 int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
 {
     const QString org = origen("GuardarContribuyente");
-    // Every value is put in its stored form before anything is written.
-    const QVariantList fila = filaGuardada(datos, org);
-    int32_t csco = modo == Modo::Anadir
-        ? 0
-        : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
-    const QString dni = fila[P::DNIC - kPrimera].toString();
-
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
-    if (modo == Modo::Sustituir && csco == 0)
-        csco = tabla().CodigoPorDni(db, dni, org);
-    const int32_t titular = tabla().CodigoPorDni(db, dni, org);
-    if (csco == 0) {
-        if (titular != 0)
-            return 1;
-        tabla().Insertar(db, 0, fila, org);
-    } else {
-        if (titular != 0 && titular != csco)
-            return 2;
-        if (!tabla().Actualizar(db, csco, fila, org))
-            tabla().Insertar(db, csco, fila, org);
-    }
-    transaccion.confirmar();
-    return 0;
+    AccesoPreparado acceso(tabla(), db, org);
+    const int16_t veredicto = GuardadoContribuyente::Guardar(acceso, datos, modo, org);
+    if (veredicto == 0)
+        transaccion.confirmar();
+    return veredicto;
 }
 
 bool cContribSvr::BorrarContribuyente(int32_t csco) const

@@ -18,6 +18,7 @@
 // and what a save array carries in their place is ignored; so a contributor named in a
 // declaration always shows it, and is never deleted.
 #include "servicios/Arreglos.h"
+#include "servicios/GuardadoContribuyente.h"
 
 #include <QString>
 #include <cstdint>
@@ -67,6 +68,6 @@ public:
                                       uint8_t orden) const;
 
 private:
-    enum class Modo { PorCodigo, Sustituir, Anadir };
+    using Modo = GuardadoContribuyente::Modo;
     int16_t guardar(const Arreglo& datos, Modo modo) const;
 };
