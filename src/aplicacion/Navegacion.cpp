@@ -1,15 +1,20 @@
 #include "aplicacion/Navegacion.h"
 
 #include "aplicacion/MDIVeldo.h"
+#include "paneles/imprimir/FrmImprimir.h"
 #include "paneles/partes/FrmConDatos.h"
 #include "paneles/partes/FrmConLista.h"
 #include "paneles/partes/FrmPreDatos.h"
 #include "paneles/partes/FrmPreLista.h"
 #include "plataforma/Proceso.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/imprimir/cImOf.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
+
+#include <map>
 
 namespace {
 
@@ -23,6 +28,20 @@ Navegacion::AbridorDeclaraciones& abridorPresentador()
 {
     static Navegacion::AbridorDeclaraciones abrir;
     return abrir;
+}
+
+std::map<QString, std::function<void()>>& vueltasImprimir()
+{
+    static std::map<QString, std::function<void()>> vueltas;
+    return vueltas;
+}
+
+// The letter the way back from printing is kept under: the presenter's returns take every
+// letter other than the three named ones.
+QString letraDeVuelta(const QString& entrada)
+{
+    static const QStringList conocidas{QStringLiteral("D"), QStringLiteral("L"), QStringLiteral("C")};
+    return conocidas.contains(entrada) ? entrada : QStringLiteral("P");
 }
 
 // A panel stands: the main window's commands are off until it closes.
@@ -153,6 +172,33 @@ void InstalarDeclaracionesContribuyente(AbridorDeclaraciones abrir)
 void InstalarDeclaracionesPresentador(AbridorDeclaraciones abrir)
 {
     abridorPresentador() = std::move(abrir);
+}
+
+FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada)
+{
+    ImOf().CSDE = csde;
+    ImOf().ENTRADA = entrada;
+    alAbrir();
+    FrmImprimir* panel = FrmImprimir::Abrir();
+    QObject::connect(panel, &FrmImprimir::cerrado, panel, [] {
+        alCerrar();
+        const QString letra = letraDeVuelta(ImOf().ENTRADA);
+        if (letra == QLatin1String("D")) {
+            // The side trip to printing is over: the form keeps only where it came from.
+            cDecDatos& d = DecDatos();
+            d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
+            d.ENTRADA = QStringLiteral("P");
+        }
+        const auto vuelta = vueltasImprimir().find(letra);
+        if (vuelta != vueltasImprimir().end() && vuelta->second)
+            Proceso::Protegido(vuelta->second);
+    });
+    return panel;
+}
+
+void InstalarVueltaImprimir(const QString& entrada, std::function<void()> volver)
+{
+    vueltasImprimir()[letraDeVuelta(entrada)] = std::move(volver);
 }
 
 }  // namespace Navegacion

@@ -6,9 +6,11 @@
 //
 // Panels never open each other: they say what the user asked for through their signals.
 #include <QString>
+#include <cstdint>
 #include <functional>
 
 class FrmConDatos;
+class FrmImprimir;
 class FrmConLista;
 class FrmPreDatos;
 class FrmPreLista;
@@ -32,5 +34,15 @@ FrmPreDatos* NuevoPresentador();
 using AbridorDeclaraciones = std::function<void(const QString& nombre, const QString& dni)>;
 void InstalarDeclaracionesContribuyente(AbridorDeclaraciones abrir);
 void InstalarDeclaracionesPresentador(AbridorDeclaraciones abrir);
+
+// The print panel for the stored return `csde`, already loaded in DecDatos() and Operacion()
+// by the caller, which has closed itself. `entrada` is the caller's letter: "D" the return's
+// form, "L" the list of returns, "C" a contributor's returns, anything else a presenter's.
+// When the panel closes the commands come back and the caller is reopened: for "D" the
+// form's LISTA loses its last side trip and its ENTRADA becomes "P" first.
+FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada);
+// How the panel of letter `entrada` ("D", "L", "C", "P" for the presenter's returns) is
+// reopened after printing; it sets its own record's ENTRADA to "P". Without one, nothing opens.
+void InstalarVueltaImprimir(const QString& entrada, std::function<void()> volver);
 
 }  // namespace Navegacion

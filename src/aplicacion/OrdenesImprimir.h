@@ -1,14 +1,18 @@
 #pragma once
-// Printing from the command line, with no window: a stored return to a PDF file.
+// Printing from the command line, with no window: a stored return to a PDF file or a printer.
 //   Veldo --pdf CODE FILE [--borrador] [--sin-presentador]
 //         [--copias trafico,interesado,administracion,banco] [--fecha DD/MM/YYYY]
+//   Veldo --imprimir CODE [--impresora NAME] with the same options
 // The sheets are drawn by the same routines as the print panel's.
 #include <QStringList>
 #include <optional>
+
+class QPrinter;
 
 // Printing needs no display: before the application object exists, a printing command line
 // chooses the platform without windows unless one was asked for.
 void PrepararSinVentana(int argc, char** argv);
 // No answer when the arguments ask for no printing (the program then starts as usual);
 // otherwise the exit status: 0 printed, else the program's message went to stderr.
-std::optional<int> OrdenesImprimir(const QStringList& argumentos);
+// `impresora`, when given, takes the place of the system's printer for --imprimir.
+std::optional<int> OrdenesImprimir(const QStringList& argumentos, QPrinter* impresora = nullptr);
