@@ -1,7 +1,7 @@
 // The navigator's way to printing and back: AbrirImprimir sets the return to print and the
 // caller's letter in ImOf(), shows the print panel, and when it closes goes back as that letter
 // says, the return's form first trimming its LISTA and taking ENTRADA "P".
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "aplicacion/Navegacion.h"

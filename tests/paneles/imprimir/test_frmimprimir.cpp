@@ -3,7 +3,7 @@
 // copies in their fixed order (one document each) or says there is no printer, "Vista previa"
 // shows the same copies and "PDF" writes them through the file dialog. Nothing blocks: the
 // message, file and printing dialogs are the seams'.
-#include "ApoyoDeclaracion.h"
+#include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
 #include "paneles/dialogos/DialogoFichero.h"
