@@ -24,7 +24,8 @@ AccesoNativo::AccesoNativo(const TablaParte& tabla, const QSqlDatabase& db, cons
     : m_codigoPorDni(db, tabla.sqlCodigoPorDni(), origen),
       m_insertar(db, tabla.sqlInsertar(), origen),
       m_insertarConCodigo(db, tabla.sqlInsertarConCodigo(), origen),
-      m_actualizar(db, tabla.sqlActualizar(), origen)
+      m_actualizar(db, tabla.sqlActualizar(), origen),
+      m_insertarSiNuevo(db, tabla.sqlInsertarSiNuevo(), origen)
 {
 }
 
@@ -52,4 +53,9 @@ bool AccesoNativo::Actualizar(int32_t codigo, const QVariantList& fila)
     QVariantList valores = fila;
     valores << codigo;
     return m_actualizar.Ejecutar(valores) > 0;
+}
+
+bool AccesoNativo::InsertarSiNuevo(const QVariantList& fila)
+{
+    return m_insertarSiNuevo.Ejecutar(fila) > 0;
 }

@@ -40,10 +40,13 @@ public:
     int32_t CodigoPorDni(const QString& dni) override;
     void Insertar(int32_t codigo, const QVariantList& fila) override;
     bool Actualizar(int32_t codigo, const QVariantList& fila) override;
+    // A new row under a new code; false, with nothing written, when its number is held.
+    bool InsertarSiNuevo(const QVariantList& fila);
 
 private:
     SentenciaNativa m_codigoPorDni;
     SentenciaNativa m_insertar;
     SentenciaNativa m_insertarConCodigo;
     SentenciaNativa m_actualizar;
+    SentenciaNativa m_insertarSiNuevo;
 };

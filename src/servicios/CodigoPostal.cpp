@@ -1,8 +1,10 @@
 #include "servicios/CodigoPostal.h"
 
+// The checks read their texts as views: blanks are set aside without a copy, since the import
+// runs them for every line of a file.
 namespace {
 
-bool cifras(const QString& t)
+bool cifras(QStringView t)
 {
     if (t.isEmpty())
         return false;
@@ -13,7 +15,7 @@ bool cifras(const QString& t)
     return true;
 }
 
-bool ceros(const QString& t)
+bool ceros(QStringView t)
 {
     for (QChar c : t) {
         if (c != QLatin1Char('0'))
@@ -22,51 +24,73 @@ bool ceros(const QString& t)
     return true;
 }
 
-QString normalizado(const QString& codigo, int ancho)
+bool cincoCifras(QStringView t)
 {
-    const QString t = codigo.trimmed();
+    return t.size() == 5 && cifras(t);
+}
+
+// The significant digits of a code (leading zeros dropped); empty for no code.
+QStringView significativo(QStringView codigo)
+{
+    QStringView t = codigo.trimmed();
     if (!cifras(t) || ceros(t))
         return {};
-    qsizetype inicio = 0;
-    while (t[inicio] == QLatin1Char('0'))
-        ++inicio;
-    const QString significativo = t.mid(inicio);
-    return significativo.size() > ancho ? significativo
-                                        : significativo.rightJustified(ancho, QLatin1Char('0'));
+    while (t.front() == QLatin1Char('0'))
+        t = t.sliced(1);
+    return t;
+}
+
+QString normalizado(const QString& codigo, int ancho)
+{
+    const QStringView t = significativo(codigo);
+    if (t.isEmpty())
+        return {};
+    if (t.size() >= ancho)
+        return t.toString();
+    QString fijo(ancho - t.size(), QLatin1Char('0'));
+    fijo.append(t);
+    return fijo;
+}
+
+// The postal code begins with the province's code (given with or without its leading 0).
+bool deProvincia(QStringView cp, QStringView provincia)
+{
+    const QStringView p = significativo(provincia);
+    if (p.isEmpty() || p.size() > 2)
+        return false;
+    return p.size() == 2 ? cp.first(2) == p : cp[0] == QLatin1Char('0') && cp[1] == p[0];
 }
 
 }  // namespace
 
 bool SoloCifras(const QString& texto)
 {
-    return cifras(texto.trimmed());
+    return cifras(QStringView(texto).trimmed());
 }
 
 namespace CodigoPostal {
 
 bool EsCero(const QString& codigo)
 {
-    const QString t = codigo.trimmed();
+    const QStringView t = QStringView(codigo).trimmed();
     return t.isEmpty() || (cifras(t) && ceros(t));
 }
 
 bool TieneCincoCifras(const QString& codigo)
 {
-    const QString t = codigo.trimmed();
-    return t.size() == 5 && cifras(t);
+    return cincoCifras(QStringView(codigo).trimmed());
 }
 
 bool TerminaEnCeros(const QString& codigo)
 {
-    const QString t = codigo.trimmed();
-    return TieneCincoCifras(t) && !ceros(t) && t.endsWith(QLatin1String("000"));
+    const QStringView t = QStringView(codigo).trimmed();
+    return cincoCifras(t) && !ceros(t) && t.endsWith(QLatin1String("000"));
 }
 
 bool EsDeProvincia(const QString& codigo, const QString& provincia)
 {
-    const QString t = codigo.trimmed();
-    const QString p = CodigoProvincia::Normalizado(provincia);
-    return TieneCincoCifras(t) && !p.isEmpty() && t.left(2) == p;
+    const QStringView t = QStringView(codigo).trimmed();
+    return cincoCifras(t) && deProvincia(t, provincia);
 }
 
 bool EsValidoEnProvincia(const QString& codigo, const QString& provincia)

@@ -9,10 +9,9 @@
 using namespace ArreglosPartes;
 namespace P = PosContribuyente;
 
-namespace {
+namespace GuardadoContribuyente {
 
-// The values of a save array in their stored form, in the order of Columnas().
-QVariantList filaGuardada(const Arreglo& a, const QString& org)
+QVariantList FilaGuardada(const Arreglo& a, const QString& org)
 {
     const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
     const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
@@ -45,10 +44,6 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
     };
 }
 
-}  // namespace
-
-namespace GuardadoContribuyente {
-
 const QStringList& Columnas()
 {
     static const QStringList columnas = {
@@ -77,7 +72,7 @@ QString DniGuardado(const Arreglo& datos)
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& org,
                 std::optional<int32_t> conocido)
 {
-    const QVariantList fila = filaGuardada(datos, org);
+    const QVariantList fila = FilaGuardada(datos, org);
     int32_t csco = modo == Modo::Anadir
         ? 0
         : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
@@ -96,6 +91,14 @@ int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QStri
             tabla.Insertar(csco, fila);
     }
     return 0;
+}
+
+int32_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& org)
+{
+    const QVariantList fila = FilaGuardada(datos, org);
+    if (tabla.InsertarSiNuevo(fila))
+        return 0;
+    return tabla.CodigoPorDni(fila[P::DNIC - P::TIPODNI].toString());
 }
 
 }  // namespace GuardadoContribuyente

@@ -31,6 +31,14 @@ const TablaParte& Tabla();
 // just read it through `tabla` with nothing written since; the save then does not read it again.
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& origen,
                 std::optional<int32_t> titular = std::nullopt);
+// The values of a save array in their stored form, in the order of Columnas() (cFallo 13 when
+// one cannot be put in it).
+QVariantList FilaGuardada(const Arreglo& datos, const QString& origen);
+// As Guardar(tabla, datos, Modo::Anadir) for a number that is not in the store, answering 0;
+// for one that is, writes nothing and answers the code that holds it. The insert itself finds
+// the holder, so that a new contributor costs one look-up of its number instead of two. Both
+// saves take their row from FilaGuardada: a check of the values belongs there.
+int32_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& origen);
 // The number of a save array as the store keeps it and looks it up (blanks around it removed).
 QString DniGuardado(const Arreglo& datos);
 

@@ -28,12 +28,24 @@ int32_t cLoteContribuyentes::ExisteContribuyente(const QString& dni)
     return m_codigoConsultado;
 }
 
-int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir)
+void cLoteContribuyentes::Empezar()
 {
     if (!m_transaccion) {
         m_transaccion = std::make_unique<Transaccion>(m_db, m_origen);
         m_reloj.start();
     }
+}
+
+void cLoteContribuyentes::Contar()
+{
+    ++m_pendientes;
+    if (m_pendientes >= kFilasPorLote || m_reloj.elapsed() >= kMilisegundosPorLote)
+        Confirmar();
+}
+
+int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir)
+{
+    Empezar();
     // A save refused by its verdict has written nothing, so the batch goes on.
     std::optional<int32_t> titular;
     if (m_consultaVigente && GuardadoContribuyente::DniGuardado(datos) == m_dniConsultado)
@@ -44,10 +56,26 @@ int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sus
         sustituir ? GuardadoContribuyente::Modo::Sustituir : GuardadoContribuyente::Modo::Anadir,
         m_origen, titular);
     if (veredicto == 0)
-        ++m_pendientes;
-    if (m_pendientes >= kFilasPorLote || m_reloj.elapsed() >= kMilisegundosPorLote)
+        Contar();
+    else if (m_reloj.elapsed() >= kMilisegundosPorLote)
         Confirmar();
     return veredicto;
+}
+
+int32_t cLoteContribuyentes::AnadirSiNuevo(const Arreglo& datos)
+{
+    Empezar();
+    m_consultaVigente = false;
+    const int32_t titular = GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen);
+    if (titular == 0) {
+        Contar();
+        return 0;
+    }
+    // Nothing was written: the holder stays known for the save that follows.
+    m_codigoConsultado = titular;
+    m_dniConsultado = GuardadoContribuyente::DniGuardado(datos);
+    m_consultaVigente = true;
+    return titular;
 }
 
 void cLoteContribuyentes::Confirmar()

@@ -5,6 +5,8 @@
 #include <QSqlDriver>
 #include <sqlite3.h>
 
+#include <cstring>
+
 namespace {
 
 sqlite3* Manejador(const QSqlDatabase& db, const QString& origen)
@@ -19,18 +21,22 @@ sqlite3* Manejador(const QSqlDatabase& db, const QString& origen)
 }
 
 // Whole numbers, reals and null go over as such; anything else as text.
-bool EsTexto(const QVariant& v)
+SentenciaNativa::Clase ClaseDe(const QVariant& v)
 {
+    using Clase = SentenciaNativa::Clase;
     switch (v.typeId()) {
+    case QMetaType::QString:
+        return Clase::Texto;  // a QVariant that holds a text is never null, even an empty one
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
     case QMetaType::Bool:
+        return Clase::Entero;
     case QMetaType::Double:
-        return false;
+        return Clase::Real;
     default:
-        return !v.isNull();
+        return v.isNull() ? Clase::Nulo : Clase::Texto;
     }
 }
 
@@ -52,6 +58,26 @@ SentenciaNativa::SentenciaNativa(const QSqlDatabase& db, const QString& sql, con
         Fallar(manejador, origen, sql);
 }
 
+void SentenciaNativa::Anadir(const QString& t)
+{
+    // Room for the worst case (three bytes for each UTF-16 unit) and the NUL, cut to what was
+    // written afterwards; the buffer keeps its room from one run to the next.
+    const qsizetype inicio = m_textos.size();
+    const qsizetype n = t.size();
+    m_textos.resize(inicio + 3 * n + 1);
+    char* destino = m_textos.data() + inicio;
+    // The names and addresses of a file are mostly ASCII, whose UTF-8 is the same bytes.
+    const QChar* origen = t.constData();
+    qsizetype i = 0;
+    for (; i < n && origen[i].unicode() < 0x80; ++i)
+        destino[i] = char(origen[i].unicode());
+    char* fin = destino + i;
+    if (i < n)
+        fin = m_utf8.appendToBuffer(fin, QStringView(t).sliced(i));
+    *fin++ = '\0';
+    m_textos.resize(fin - m_textos.constData());
+}
+
 SentenciaNativa::~SentenciaNativa()
 {
     sqlite3_finalize(m_sentencia);
@@ -68,32 +94,43 @@ bool SentenciaNativa::Paso(const QVariantList& valores)
 {
     Terminar();
     // The texts go over in the database's own encoding, all in one buffer that stays as it is
-    // until the statement is reset: first written whole, then bound where each one lies.
-    m_posiciones.clear();
+    // until the statement is reset: first written whole, each one followed by a NUL, then
+    // bound where each one lies.
+    m_valores.clear();
     for (const QVariant& v : valores) {
-        if (EsTexto(v)) {
-            const QString t = v.toString();
-            const qsizetype inicio = m_textos.size();
-            m_textos.resize(inicio + m_utf8.requiredSpace(t.size()));
-            char* fin = m_utf8.appendToBuffer(m_textos.data() + inicio, t);
-            m_textos.resize(fin - m_textos.constData());
-            m_posiciones.push_back({inicio, m_textos.size() - inicio});
+        const Clase clase = ClaseDe(v);
+        Valor valor{clase, 0, 0};
+        if (clase == Clase::Texto) {
+            valor.inicio = m_textos.size();
+            Anadir(v.typeId() == QMetaType::QString ? *static_cast<const QString*>(v.constData())
+                                                    : v.toString());
+            valor.largo = m_textos.size() - 1 - valor.inicio;
         }
+        m_valores.push_back(valor);
     }
-    size_t texto = 0;
     for (int i = 0; i < int(valores.size()); ++i) {
-        const QVariant& v = valores[i];
+        const Valor& valor = m_valores[size_t(i)];
         const int n = i + 1;
-        if (EsTexto(v)) {
-            const auto [inicio, largo] = m_posiciones[texto++];
-            sqlite3_bind_text(m_sentencia, n, m_textos.constData() + inicio, int(largo),
+        switch (valor.clase) {
+        case Clase::Texto: {
+            const char* bytes = m_textos.constData() + valor.inicio;
+            // A text that ends at its NUL is bound as such (length -1): SQLite then knows it
+            // is terminated and does not copy it each time a check or a collation reads it. A
+            // text that holds a NUL of its own goes over whole, by its length.
+            const bool nulPropio = std::memchr(bytes, 0, size_t(valor.largo)) != nullptr;
+            sqlite3_bind_text(m_sentencia, n, bytes, nulPropio ? int(valor.largo) : -1,
                               SQLITE_STATIC);
-        } else if (v.isNull()) {
+            break;
+        }
+        case Clase::Nulo:
             sqlite3_bind_null(m_sentencia, n);
-        } else if (v.typeId() == QMetaType::Double) {
-            sqlite3_bind_double(m_sentencia, n, v.toDouble());
-        } else {
-            sqlite3_bind_int64(m_sentencia, n, v.toLongLong());
+            break;
+        case Clase::Real:
+            sqlite3_bind_double(m_sentencia, n, valores[i].toDouble());
+            break;
+        case Clase::Entero:
+            sqlite3_bind_int64(m_sentencia, n, valores[i].toLongLong());
+            break;
         }
     }
     const int r = sqlite3_step(m_sentencia);

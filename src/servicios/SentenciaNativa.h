@@ -29,15 +29,27 @@ public:
     // A statement that reads one whole number: its first column of its first row, or `siVacio`.
     int64_t Escalar(const QVariantList& valores, int64_t siVacio);
 
+    // How a value goes over.
+    enum class Clase { Texto, Entero, Real, Nulo };
+
 private:
     // Binds and runs to the first row; true when there is one.
     bool Paso(const QVariantList& valores);
     void Terminar();
+    // Appends the text to m_textos in UTF-8, and a NUL after it.
+    void Anadir(const QString& texto);
 
     sqlite3_stmt* m_sentencia = nullptr;
-    QStringEncoder m_utf8{QStringEncoder::Utf8};
+    // Stateless: each text is whole in itself, and a half character at its end becomes the
+    // replacement character instead of waiting to be joined to the next text.
+    QStringEncoder m_utf8{QStringEncoder::Utf8, QStringConverter::Flag::Stateless};
     QByteArray m_textos;  // the texts bound to the run under way
-    std::vector<std::pair<qsizetype, qsizetype>> m_posiciones;  // where each one lies
+    struct Valor {
+        Clase clase;
+        qsizetype inicio;  // a text: where it lies in m_textos, and its bytes (NUL not counted)
+        qsizetype largo;
+    };
+    std::vector<Valor> m_valores;  // the values of the run under way
     QString m_sql;
     QString m_origen;
 };

@@ -25,6 +25,9 @@ TablaParte::TablaParte(const QString& tabla, const QString& columnaCodigo,
                         .arg(tabla, lista, marcas(columnas.size()));
     m_sqlInsertarConCodigo = QStringLiteral("INSERT INTO %1 (%2, %3) VALUES (%4)")
                                  .arg(tabla, columnaCodigo, lista, marcas(columnas.size() + 1));
+    // The number's unique index decides: the conflict clause names its column, so that any
+    // other broken rule fails the statement as a plain insert does.
+    m_sqlInsertarSiNuevo = m_sqlInsertar + QStringLiteral(" ON CONFLICT (%1) DO NOTHING").arg(columnaDni);
     QStringList asignaciones;
     for (const QString& c : columnas)
         asignaciones << c + QStringLiteral(" = ?");

@@ -19,6 +19,8 @@ public:
     const QString& sqlInsertar() const { return m_sqlInsertar; }
     const QString& sqlInsertarConCodigo() const { return m_sqlInsertarConCodigo; }
     const QString& sqlActualizar() const { return m_sqlActualizar; }
+    // A new row under a new code, or nothing at all when the number is held already.
+    const QString& sqlInsertarSiNuevo() const { return m_sqlInsertarSiNuevo; }
 
     // The code of the party with this number; 0 for an empty number or an unknown one.
     int32_t CodigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& origen) const;
@@ -35,4 +37,5 @@ private:
     QString m_sqlInsertar;
     QString m_sqlInsertarConCodigo;
     QString m_sqlActualizar;
+    QString m_sqlInsertarSiNuevo;
 };

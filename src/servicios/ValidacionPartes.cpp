@@ -7,20 +7,28 @@
 #include "servicios/ValidarDniOficial.h"
 
 #include <algorithm>
+#include <array>
 
 using ArreglosPartes::Texto;
 
 namespace {
 
-bool vacio(const QString& t)
+// Views, so that no text is copied to set its blanks aside: the import runs these checks for
+// every line of a file.
+bool vacio(QStringView t)
 {
     return t.trimmed().isEmpty();
 }
 
 // A number field of the exchange line: blanks alone stand for 0.
-bool numerico(const QString& t)
+bool numerico(QStringView t)
 {
-    return vacio(t) || SoloCifras(t);
+    const QStringView cifras = t.trimmed();
+    for (QChar c : cifras) {
+        if (c < QLatin1Char('0') || c > QLatin1Char('9'))
+            return false;
+    }
+    return true;
 }
 
 // Postal code of a national address, judged against its province.
@@ -102,21 +110,29 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     using namespace VeredictoContribuyente;
     using namespace ErrorImportacion;
     namespace I = PosImportar;
-    const QString tipoDni = Texto(datos, I::TIPODNI).trimmed();
-    const QString dni = Texto(datos, I::DNIC);
-    const QString nombre = Texto(datos, I::NOMBREC);
-    const QString domicilio = Texto(datos, I::DOMICILIOC);
-    const QString tipoDomi = Texto(datos, I::TIPODOMI).trimmed();
-    const QString pais = Texto(datos, I::PAIS);
-    const QString codProv = Texto(datos, I::CODPROVC);
-    const QString cp = Texto(datos, I::CODPOSC);
-    const QString nomProvincia = Texto(datos, I::NOMPROVC);
-    const QString nomMunicipio = Texto(datos, I::NOMMUNC);
-    const QString codMun = Texto(datos, I::CODMUNC);
-    const QString numero = Texto(datos, I::NUMEROC);
-    const QString numSp = Texto(datos, I::NUMSP);
-    const QString numTr = Texto(datos, I::NUMTR);
-    const QString sigla = Texto(datos, I::VIAC).trimmed();
+    // The texts are read in place (an import validates every line of a file); an element
+    // that is not a text is read through a copy, kept in `copias`.
+    std::array<QString, I::Tamano> copias;
+    const auto texto = [&datos, &copias](int i) -> const QString& {
+        if (i < datos.size() && datos[i].typeId() == QMetaType::QString)
+            return *static_cast<const QString*>(datos[i].constData());
+        return copias[size_t(i)] = Texto(datos, i);
+    };
+    const QString tipoDni = texto(I::TIPODNI).trimmed();
+    const QString& dni = texto(I::DNIC);
+    const QString& nombre = texto(I::NOMBREC);
+    const QString& domicilio = texto(I::DOMICILIOC);
+    const QString tipoDomi = texto(I::TIPODOMI).trimmed();
+    const QString& pais = texto(I::PAIS);
+    const QString& codProv = texto(I::CODPROVC);
+    const QString& cp = texto(I::CODPOSC);
+    const QString& nomProvincia = texto(I::NOMPROVC);
+    const QString& nomMunicipio = texto(I::NOMMUNC);
+    const QString& codMun = texto(I::CODMUNC);
+    const QString& numero = texto(I::NUMEROC);
+    const QString& numSp = texto(I::NUMSP);
+    const QString& numTr = texto(I::NUMTR);
+    const QString sigla = texto(I::VIAC).trimmed();
 
     // A domicile of neither kind is reported as such; the rules that depend on the kind are
     // then left out, since it is not known which of them apply.
@@ -150,7 +166,7 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     si((extranjero || enOtraProvincia) && vacio(nomMunicipio), MunicipioVacio);
     si(nacional && provNumerica && provincia.isEmpty(), CodigoProvinciaVacio);
     si(enTesoreria && munNumerico && municipio.isEmpty(), CodigoMunicipioVacio);
-    si(!numerico(numero) || numero.trimmed().size() > 5, NumeroNoNumerico);
+    si(!numerico(numero) || QStringView(numero).trimmed().size() > 5, NumeroNoNumerico);
     si(!provNumerica, CodigoProvinciaNoNumerico);
     si(!cpNumerico, CodigoPostalNoNumerico);
     si(!munNumerico, CodigoMunicipioNoNumerico);

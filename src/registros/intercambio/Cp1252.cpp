@@ -12,10 +12,13 @@ constexpr std::array<char16_t, 32> kAltos = {
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
 };
 
-char16_t Caracter(unsigned char b)
-{
-    return b >= 0x80 && b < 0xA0 ? kAltos[b - 0x80] : char16_t(b);
-}
+// The character of every byte, for reading a file a line at a time.
+constexpr std::array<char16_t, 256> kCaracteres = [] {
+    std::array<char16_t, 256> t{};
+    for (int b = 0; b < 256; ++b)
+        t[b] = b >= 0x80 && b < 0xA0 ? kAltos[b - 0x80] : char16_t(b);
+    return t;
+}();
 
 std::optional<char> Byte(char16_t c)
 {
@@ -38,11 +41,17 @@ QString Decodificar(const QByteArray& bytes)
 
 QString Decodificar(const char* desde, qsizetype largo)
 {
-    QString texto(largo, Qt::Uninitialized);
-    QChar* destino = texto.data();
-    for (qsizetype i = 0; i < largo; ++i)
-        destino[i] = QChar(Caracter(static_cast<unsigned char>(desde[i])));
+    QString texto;
+    Decodificar(desde, largo, texto);
     return texto;
+}
+
+void Decodificar(const char* desde, qsizetype largo, QString& destino)
+{
+    destino.resize(largo);
+    QChar* caracteres = destino.data();
+    for (qsizetype i = 0; i < largo; ++i)
+        caracteres[i] = QChar(kCaracteres[static_cast<unsigned char>(desde[i])]);
 }
 
 std::optional<QByteArray> Codificar(const QString& texto)

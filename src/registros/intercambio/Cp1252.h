@@ -14,6 +14,9 @@ namespace Cp1252 {
 QString Decodificar(const QByteArray& bytes);
 // The characters of `largo` bytes from `desde`.
 QString Decodificar(const char* desde, qsizetype largo);
+// The same, written over `destino`: a text that no one else shares keeps its room, so that
+// reading line after line into the same texts allocates nothing.
+void Decodificar(const char* desde, qsizetype largo, QString& destino);
 // The bytes of `texto`, or nothing when one of its characters has no byte.
 std::optional<QByteArray> Codificar(const QString& texto);
 bool Representable(const QString& texto);

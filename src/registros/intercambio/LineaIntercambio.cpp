@@ -62,15 +62,20 @@ QString FormatoNumero(int64_t valor, int ancho, QChar relleno)
 LineaLeida CortarLinea(const QByteArray& linea)
 {
     LineaLeida leida;
+    CortarLinea(linea, leida);
+    return leida;
+}
+
+void CortarLinea(const QByteArray& linea, LineaLeida& leida)
+{
     leida.corta = linea.size() < kLargoLineaIntercambio;
     // Each field straight from its bytes; those of a short line are what it holds of them.
     for (int i = 0; i < kCamposIntercambio; ++i) {
         const DefinicionCampo& d = kDefiniciones[i];
         const qsizetype desde = std::min<qsizetype>(d.posicion - 1, linea.size());
         const qsizetype largo = std::min<qsizetype>(d.ancho, linea.size() - desde);
-        leida.campos[i] = Cp1252::Decodificar(linea.constData() + desde, largo);
+        Cp1252::Decodificar(linea.constData() + desde, largo, leida.campos[i]);
     }
-    return leida;
 }
 
 std::optional<QByteArray> ComponerLinea(const ValoresLinea& valores, FalloLinea* fallo)

@@ -59,6 +59,9 @@ struct LineaLeida {
 // Cuts a line (without its line end) into its fields by position; characters past 176 are
 // ignored, and the fields of a short line are what it holds of them.
 LineaLeida CortarLinea(const QByteArray& linea);
+// The same, over the fields of `leida`: a reader of many lines keeps one LineaLeida, whose
+// texts keep their room from one line to the next.
+void CortarLinea(const QByteArray& linea, LineaLeida& leida);
 
 // The values of one contributor to be written: texts, and the six numbers as numbers.
 struct ValoresLinea {

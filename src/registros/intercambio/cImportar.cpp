@@ -14,6 +14,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <array>
 #include <limits>
 
 namespace {
@@ -32,26 +33,36 @@ QString Ruta(const QString& fichero)
     return canonica.isEmpty() ? info.absoluteFilePath() : canonica;
 }
 
-// The validation array of a line: its raw fields, blanks included.
+// The field of the line at each position of the validation array.
+constexpr std::array<CampoIntercambio, PosImportar::Tamano> kCamposValidacion = [] {
+    namespace P = PosImportar;
+    std::array<CampoIntercambio, P::Tamano> c{};
+    c[P::TIPODNI] = C::TIPODNI;
+    c[P::DNIC] = C::DNI;
+    c[P::NOMBREC] = C::NOMBRE;
+    c[P::DOMICILIOC] = C::DOMICILIO;
+    c[P::TIPODOMI] = C::TIPODOMICILIO;
+    c[P::PAIS] = C::PAIS;
+    c[P::CODPROVC] = C::CODIGOPROVINCIA;
+    c[P::CODPOSC] = C::CODIGOPOSTAL;
+    c[P::NOMPROVC] = C::NOMBREPROVINCIA;
+    c[P::NOMMUNC] = C::NOMBREMUNICIPIO;
+    c[P::CODMUNC] = C::CODIGOMUNICIPIO;
+    c[P::NUMEROC] = C::NUMERO;
+    c[P::NUMSP] = C::NUMEROSUJETOPASIVO;
+    c[P::NUMTR] = C::NUMEROTRANSMITENTE;
+    c[P::VIAC] = C::SIGLAS;
+    return c;
+}();
+
+// The validation array of a line: its raw fields, blanks included. Each element is made in
+// place, in the order of the positions.
 Arreglo ArregloValidacion(const LineaLeida& l)
 {
-    namespace P = PosImportar;
-    Arreglo a(P::Tamano);
-    a[P::TIPODNI] = l[C::TIPODNI];
-    a[P::DNIC] = l[C::DNI];
-    a[P::NOMBREC] = l[C::NOMBRE];
-    a[P::DOMICILIOC] = l[C::DOMICILIO];
-    a[P::TIPODOMI] = l[C::TIPODOMICILIO];
-    a[P::PAIS] = l[C::PAIS];
-    a[P::CODPROVC] = l[C::CODIGOPROVINCIA];
-    a[P::CODPOSC] = l[C::CODIGOPOSTAL];
-    a[P::NOMPROVC] = l[C::NOMBREPROVINCIA];
-    a[P::NOMMUNC] = l[C::NOMBREMUNICIPIO];
-    a[P::CODMUNC] = l[C::CODIGOMUNICIPIO];
-    a[P::NUMEROC] = l[C::NUMERO];
-    a[P::NUMSP] = l[C::NUMEROSUJETOPASIVO];
-    a[P::NUMTR] = l[C::NUMEROTRANSMITENTE];
-    a[P::VIAC] = l[C::SIGLAS];
+    Arreglo a;
+    a.reserve(PosImportar::Tamano);
+    for (const CampoIntercambio campo : kCamposValidacion)
+        a.emplace_back(l[campo]);
     return a;
 }
 
@@ -60,11 +71,12 @@ Arreglo ArregloValidacion(const LineaLeida& l)
 Arreglo ArregloGuardar(const LineaLeida& l, int32_t codigo)
 {
     namespace P = PosContribuyente;
-    static_assert(P::TIPODNI + kCamposIntercambio == P::Tamano);
-    Arreglo a(P::Tamano);
-    a[P::CSCO] = codigo;
-    for (int i = 0; i < kCamposIntercambio; ++i)
-        a[P::TIPODNI + i] = l.campos[i];
+    static_assert(P::CSCO == 0 && P::TIPODNI == 1 && P::TIPODNI + kCamposIntercambio == P::Tamano);
+    Arreglo a;
+    a.reserve(P::Tamano);
+    a.emplace_back(codigo);
+    for (const QString& campo : l.campos)
+        a.emplace_back(campo);
     return a;
 }
 
@@ -77,6 +89,7 @@ struct cImportar::Ejecucion {
     std::unique_ptr<QFile> entrada;
     std::unique_ptr<QFile> errores;
     std::unique_ptr<cLoteContribuyentes> lote;
+    LineaLeida leida;  // the line under way; its texts keep their room from line to line
 
     void Escribir(const QByteArray& bytes)
     {
@@ -113,34 +126,50 @@ struct cImportar::Ejecucion {
         ++estado.NUMEROIMP;
     }
 
-    // A new contributor: the file's counters count only for a replaced one.
-    void Nuevo(const LineaLeida& l, bool sustituir)
+    // The save array of a new contributor: the file's counters count only for a replaced one.
+    static Arreglo ArregloNuevo(const LineaLeida& l)
     {
-        if (Refusada(l))
-            return;
         Arreglo a = ArregloGuardar(l, 0);
         a[PosContribuyente::NUMSP] = 0;
         a[PosContribuyente::NUMTR] = 0;
-        lote->GuardarContribuyente(a, sustituir);
+        return a;
+    }
+
+    void Nuevo(const LineaLeida& l)
+    {
+        if (Refusada(l))
+            return;
+        lote->GuardarContribuyente(ArregloNuevo(l), false);
         ++estado.NUMEROIMP;
     }
 
-    void Automatico(const LineaLeida& l, int32_t codigo)
+    // No question is asked, so which contributor the number names matters only once the line
+    // is valid: the line is then added as a new one, and when the store answers that its
+    // number is held, it replaces that contributor instead. The same lines end the same way as
+    // with the look-up first, and a new contributor costs one look-up of its number, not two.
+    void Automatico(const LineaLeida& l)
     {
-        if (codigo != 0)
-            Sustituir(l, codigo);
-        else
-            Nuevo(l, false);
+        if (Refusada(l))
+            return;
+        const int32_t codigo = lote->AnadirSiNuevo(ArregloNuevo(l));
+        if (codigo != 0) {
+            lote->GuardarContribuyente(ArregloGuardar(l, codigo), true);
+            ++estado.NUMEROSUS;
+        }
+        ++estado.NUMEROIMP;
     }
 
     void Linea(const QByteArray& bytes)
     {
-        const LineaLeida l = CortarLinea(bytes);
-        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI]);
+        CortarLinea(bytes, leida);
+        const LineaLeida& l = leida;
         if (estado.AUTOMATICO == QLatin1String("X")) {
-            Automatico(l, codigo);
-        } else if (codigo == 0) {
-            Nuevo(l, false);
+            Automatico(l);
+            return;
+        }
+        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI]);
+        if (codigo == 0) {
+            Nuevo(l);
         } else {
             // Nobody is kept waiting for the store while the question stands.
             lote->Confirmar();
@@ -207,7 +236,7 @@ bool cImportar::Abierto(const QString& ruta) const
 
 AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
 {
-    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr};
+    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, {}};
     const QString rutaEntrada = Ruta(FICHEROAIMPORTAR);
     const QString rutaErrores = Ruta(FICHEROERRORES);
     try {

@@ -244,11 +244,15 @@ private slots:
     void automaticoSustituyeSinPreguntar()
     {
         Importa(LineaValida(1, "ANTES") + "\r\n", true);
+        const int32_t codigo = Codigo(1);
         Importar().Iniciar();
         Importa(LineaValida(1, "DESPUES") + "\r\n" + LineaValida(2) + "\r\n", true);
         QVERIFY(m_preguntas.isEmpty());
         Contadores(2, 2, 0, 1, 0);
         QCOMPARE(NombreGuardado(1), QStringLiteral("DESPUES"));
+        // Replaced in place: the contributor keeps its code, and no second one appears.
+        QCOMPARE(Codigo(1), codigo);
+        QCOMPARE(Contribuyentes(), 2);
     }
 
     void existenteConDatosMalosQuedaComoEstaba()

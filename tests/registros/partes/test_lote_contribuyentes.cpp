@@ -5,7 +5,10 @@
 #include "comun/PartesPrueba.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Fallo.h"
+#include "servicios/Conexion.h"
 #include "servicios/LoteContribuyentes.h"
+#include "servicios/SentenciaNativa.h"
 #include "servicios/PosicionesImportar.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/cContribSvr.h"
@@ -95,6 +98,78 @@ private slots:
         QCOMPARE(Filas(a), filasSueltas);
         QVERIFY(veredictos.contains(1));
         QVERIFY(veredictos.contains(2));
+    }
+
+    void anadirSiNuevo()
+    {
+        AlmacenDePrueba a;
+        const int32_t uno = Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO")) == 0
+            ? Svr().ExisteContribuyente(Dni(1))
+            : 0;
+        QVERIFY(uno != 0);
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        // A new number is added, as GuardarContribuyente(datos, false) adds it.
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS")), 0);
+        QCOMPARE(lote.Pendientes(), 1);
+        const int32_t dos = lote.ExisteContribuyente(Dni(2));
+        QVERIFY(dos != 0 && dos != uno);
+        // A number in the store, with blanks around it, writes nothing and names its holder,
+        // whether the holder was committed before or saved in this batch.
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO")), uno);
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS BIS")), dos);
+        QCOMPARE(lote.Pendientes(), 1);
+        // The save of the holder that follows replaces it in place.
+        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO NUEVO", uno), true),
+                 int16_t(0));
+        lote.Confirmar();
+        QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
+        QCOMPARE(a.Valor(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {uno})
+                     .toString(),
+                 QStringLiteral("UNO NUEVO"));
+        QCOMPARE(a.Valor(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {dos})
+                     .toString(),
+                 QStringLiteral("DOS"));
+    }
+
+    void anadirSiNuevoRechazaComoGuardar()
+    {
+        // A value that cannot be stored stops the save as it stops GuardarContribuyente, and
+        // nothing is written.
+        AlmacenDePrueba a;
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        Arreglo malo = ContribuyenteNacional(Dni(3), "TRES");
+        malo[PosContribuyente::TIPODOMI] = QStringLiteral("Q");
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo));
+        lote.Confirmar();
+        QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
+    }
+
+    void textosDeLasSentenciasNativas()
+    {
+        // The batch's statements hand SQLite every text whole: a NUL inside it, characters
+        // beyond ASCII, and a half character at the end of one text that must not join the
+        // next one.
+        AlmacenDePrueba a;
+        const QSqlDatabase db = Conexion::Modificable(mdbmod, QStringLiteral("t"));
+        QSqlQuery(db).exec(QStringLiteral("CREATE TEMP TABLE T (A TEXT, B TEXT)"));
+        SentenciaNativa insertar(db, QStringLiteral("INSERT INTO T VALUES (?, ?)"), QStringLiteral("t"));
+        const QString conNul = QStringLiteral("A") + QChar(u'\0') + QStringLiteral("B");
+        const QString acentos = QStringLiteral("MUÑOZ ÇÁÉ €");
+        QCOMPARE(insertar.Ejecutar({conNul, acentos}), 1);
+        QCOMPARE(insertar.Ejecutar({QStringLiteral("X") + QChar(0xD800), QChar(0xDC00) + QStringLiteral("Y")}), 1);
+        QCOMPARE(insertar.Ejecutar({QString(), QVariant()}), 1);
+        QSqlQuery q(db);
+        QVERIFY(q.exec(QStringLiteral("SELECT hex(A), hex(B), typeof(A), typeof(B) FROM T ORDER BY rowid")));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toString(), QStringLiteral("410042"));
+        QCOMPARE(q.value(1).toString(), QString::fromLatin1(acentos.toUtf8().toHex().toUpper()));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toString(), QStringLiteral("58EFBFBD"));
+        QCOMPARE(q.value(1).toString(), QStringLiteral("EFBFBD59"));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(2).toString(), QStringLiteral("text"));  // an empty text stays a text
+        QCOMPARE(q.value(3).toString(), QStringLiteral("null"));
+        QSqlQuery(db).exec(QStringLiteral("DROP TABLE T"));
     }
 
     void sinConfirmarNoQueda()
