@@ -118,12 +118,16 @@ QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
         noCoincide(campo, v, origen);
     if (d->isEmpty() || cero(*d))
         return noNulo(QString());
-    QString significativo = *d;
-    while (significativo.startsWith(QLatin1Char('0')))
-        significativo.remove(0, 1);
-    if (significativo.size() > ancho)
+    qsizetype ceros = 0;
+    while (d->at(ceros) == QLatin1Char('0'))
+        ++ceros;
+    if (d->size() - ceros > ancho)
         noCoincide(campo, v, origen);
-    return significativo.rightJustified(ancho, QLatin1Char('0'));
+    // The digits already at the width, as a file's fixed-width codes come, are kept as given
+    // (no copy); the others are cut to it or filled with leading zeros.
+    if (d->size() >= ancho)
+        return d->size() == ancho ? *d : d->right(ancho);
+    return d->rightJustified(ancho, QLatin1Char('0'));
 }
 
 QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,

@@ -42,6 +42,9 @@ QStringView significativo(QStringView codigo)
 
 QString normalizado(const QString& codigo, int ancho)
 {
+    // A code already in its fixed-width form, as a file's codes come, is kept as given.
+    if (codigo.size() == ancho && cifras(codigo) && !ceros(codigo))
+        return codigo;
     const QStringView t = significativo(codigo);
     if (t.isEmpty())
         return {};

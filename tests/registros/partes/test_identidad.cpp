@@ -151,6 +151,10 @@ private slots:
         QCOMPARE(CodigoProvincia::Normalizado(QStringLiteral("123")), QStringLiteral("123"));
         QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral("5")), QStringLiteral("005"));
         QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral("005")), QStringLiteral("005"));
+        QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral("0005")), QStringLiteral("005"));
+        QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral(" 05 ")), QStringLiteral("005"));
+        QCOMPARE(CodigoProvincia::Normalizado(QStringLiteral("0077")), QStringLiteral("77"));
+        QCOMPARE(CodigoProvincia::Normalizado(QStringLiteral("0123")), QStringLiteral("123"));
         QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral("000")), QString());
         QCOMPARE(CodigoMunicipio::Normalizado(QStringLiteral("0005")), QStringLiteral("005"));
     }

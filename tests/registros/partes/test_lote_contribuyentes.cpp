@@ -144,6 +144,39 @@ private slots:
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
     }
 
+    void codigosEnSuFormaGuardada()
+    {
+        // Codes are kept at their width whatever zeros or blanks come with them; one with more
+        // significant digits than the width cannot be kept.
+        AlmacenDePrueba a;
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        const struct {
+            QString provincia, municipio, provinciaGuardada, municipioGuardado;
+        } casos[] = {
+            {"77", "001", "77", "001"},     {"0077", "0001", "77", "001"},
+            {" 77 ", "1", "77", "001"},     {"7", "01", "07", "001"},
+            {"00077", "000001", "77", "001"},
+        };
+        quint32 n = 10;
+        for (const auto& c : casos) {
+            Arreglo d = ContribuyenteNacional(Dni(++n), "CODIGOS");
+            d[PosContribuyente::CODPROVC] = c.provincia;
+            d[PosContribuyente::CODMUNC] = c.municipio;
+            QCOMPARE(lote.AnadirSiNuevo(d), 0);
+            const int32_t codigo = lote.ExisteContribuyente(Dni(n));
+            lote.Confirmar();
+            QCOMPARE(a.Valor(QStringLiteral("SELECT CODPROVC FROM CONTRIBUYENTES WHERE CSCO = ?"),
+                             {codigo}).toString(),
+                     c.provinciaGuardada);
+            QCOMPARE(a.Valor(QStringLiteral("SELECT CODMUNC FROM CONTRIBUYENTES WHERE CSCO = ?"),
+                             {codigo}).toString(),
+                     c.municipioGuardado);
+        }
+        Arreglo ancho = ContribuyenteNacional(Dni(99), "ANCHO");
+        ancho[PosContribuyente::CODMUNC] = QStringLiteral("01001");
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho));
+    }
+
     void textosDeLasSentenciasNativas()
     {
         // The batch's statements hand SQLite every text whole: a NUL inside it, characters
