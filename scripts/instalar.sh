@@ -2,7 +2,7 @@
 # Installs what building, running and testing Veldoria needs on Debian (as root or with sudo),
 # and what builds and checks its Debian package (dpkg-dev, file, lintian, the menu validators).
 set -euo pipefail
-paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libgl-dev
+paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libsqlite3-dev libgl-dev
           fonts-liberation2 xvfb xauth poppler-utils openbox qt6-translations-l10n
           dpkg-dev file lintian appstream desktop-file-utils)
 faltan=()

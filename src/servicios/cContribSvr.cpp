@@ -8,6 +8,7 @@
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
+#include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
 
@@ -69,6 +70,26 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
         TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
     };
 }
+
+// The texts of a save array, as the store keeps them: the width of each column, the label that
+// names its field, the field, and for the number and the name, which must hold a value, the
+// record's own message for an empty one.
+constexpr ColumnaTexto kTextos[] = {
+    {P::DNIC, 9, 26, "txtdnic", 29},
+    {P::NOMBREC, 40, 27, "txtnombrec", 30},
+    {P::VIAC, 2, 13, "txtviac"},
+    {P::DOMICILIOC, 20, 19, "txtdomicilioc"},
+    {P::LETRAC, 2, 21, "txtletrac"},
+    {P::ESCALERAC, 2, 20, "txtescalerac"},
+    {P::PISOC, 2, 23, "txtpisoc"},
+    {P::MANOC, 3, 24, "txtmanoc"},
+    {P::PAIS, 20, 18, "txtpais"},
+    {P::CODPROVC, kAnchoDeCifras, 10, "txtcodprovc"},
+    {P::NOMPROVC, 20, 15, "txtnomprovc"},
+    {P::CODPOSC, kAnchoDeCifras, 25, "txtcodposc"},
+    {P::CODMUNC, kAnchoDeCifras, 12, "txtcodmunc"},
+    {P::NOMMUNC, 25, 14, "txtnommunc"},
+};
 
 const TablaParte& tabla()
 {
@@ -159,19 +180,25 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
     datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos) const
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo) const
 {
-    return guardar(datos, Modo::PorCodigo);
+    return guardar(datos, Modo::PorCodigo, rechazo);
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir) const
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir,
+                                          Veredicto* rechazo) const
 {
-    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir);
+    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir, rechazo);
 }
 
-int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
+int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const
 {
     const QString org = origen("GuardarContribuyente");
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
+        if (rechazo)
+            *rechazo = std::move(v);
+        return VeredictoGuardarContribuyente::TextoRechazado;
+    }
     // Every value is put in its stored form before anything is written.
     const QVariantList fila = filaGuardada(datos, org);
     int32_t csco = modo == Modo::Anadir
@@ -186,16 +213,16 @@ int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
     const int32_t titular = tabla().CodigoPorDni(db, dni, org);
     if (csco == 0) {
         if (titular != 0)
-            return 1;
+            return VeredictoGuardarContribuyente::DniExistente;
         tabla().Insertar(db, 0, fila, org);
     } else {
         if (titular != 0 && titular != csco)
-            return 2;
+            return VeredictoGuardarContribuyente::DniDeOtro;
         if (!tabla().Actualizar(db, csco, fila, org))
             tabla().Insertar(db, csco, fila, org);
     }
     transaccion.confirmar();
-    return 0;
+    return VeredictoGuardarContribuyente::Guardado;
 }
 
 bool cContribSvr::BorrarContribuyente(int32_t csco) const
