@@ -1,6 +1,7 @@
 #include "aplicacion/LineaDeOrdenes.h"
 
 #include "aplicacion/OrdenesImprimir.h"
+#include "aplicacion/OrdenesIntercambio.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
@@ -42,7 +43,7 @@ struct Opcion {
 
 int MostrarAyuda(const Llamada& llamada);
 int MostrarVersion(const Llamada& llamada);
-int ImprimirPdf(const Llamada& llamada);
+int ImprimirDeclaracion(const Llamada& llamada);
 
 // The options, in the order --help lists them. When several options with work are given, the
 // first of them in this table does its work and the others are not looked at.
@@ -61,21 +62,50 @@ const std::vector<Opcion>& Opciones()
          {"Guarda en FICHERO el impreso de la declaración CODIGO, en PDF.",
           "KODEA aitorpenaren inprimakia FITXATEGIAn gordetzen du, PDFn."},
          {"CODIGO FICHERO", "KODEA FITXATEGIA"},
-         ImprimirPdf,
+         ImprimirDeclaracion,
          true},
+        {{QStringLiteral("imprimir")},
+         {"Imprime la declaración CODIGO en la impresora del sistema.",
+          "KODEA aitorpena sistemaren inprimagailuan inprimatzen du."},
+         {"CODIGO", "KODEA"},
+         ImprimirDeclaracion,
+         true},
+        {{QStringLiteral("impresora")},
+         {"Con --imprimir, la impresora (la predeterminada, si no).",
+          "--imprimir-ekin, inprimagailua (lehenetsia, bestela)."},
+         {"NOMBRE", "IZENA"}},
         {{QStringLiteral("copias")},
-         {"Con --pdf, las copias: trafico, interesado, administracion, banco (todas, si no).",
-          "--pdf-ekin, kopiak: trafico, interesado, administracion, banco (guztiak, bestela)."},
+         {"Con --pdf o --imprimir, las copias: trafico, interesado, administracion, banco (todas, si no).",
+          "--pdf edo --imprimir-ekin, kopiak: trafico, interesado, administracion, banco (guztiak, bestela)."},
          {"LISTA", "ZERRENDA"}},
         {{QStringLiteral("fecha")},
-         {"Con --pdf, la fecha de presentación (hoy, si no).",
-          "--pdf-ekin, aurkezpen data (gaur, bestela)."},
+         {"Con --pdf o --imprimir, la fecha de presentación (hoy, si no).",
+          "--pdf edo --imprimir-ekin, aurkezpen data (gaur, bestela)."},
          {"DD/MM/AAAA", "EE/HH/UUUU"}},
         {{QStringLiteral("borrador")},
-         {"Con --pdf, solo la hoja de borrador.", "--pdf-ekin, zirriborro orria bakarrik."},
+         {"Con --pdf o --imprimir, solo la hoja de borrador.", "--pdf edo --imprimir-ekin, zirriborro orria bakarrik."},
          {}},
         {{QStringLiteral("sin-presentador")},
-         {"Con --pdf, sin los datos del presentador.", "--pdf-ekin, aurkezlearen datuak gabe."},
+         {"Con --pdf o --imprimir, sin los datos del presentador.", "--pdf edo --imprimir-ekin, aurkezlearen datuak gabe."},
+         {}},
+        {{QStringLiteral("importar")},
+         {"Importa los contribuyentes de FICHERO en modo automático.",
+          "FITXATEGIko zergadunak modu automatikoan inportatzen ditu."},
+         {"FICHERO", "FITXATEGIA"},
+         OrdenesIntercambio::Importacion},
+        {{QStringLiteral("errores")},
+         {"Con --importar, el fichero de errores (Erorres.txt junto a FICHERO, si no).",
+          "--importar-ekin, erroreen fitxategia (Erorres.txt FITXATEGIAren ondoan, bestela)."},
+         {"FICHERO", "FITXATEGIA"}},
+        {{QStringLiteral("exportar")},
+         {"Exporta a FICHERO los contribuyentes de los DNI que siguen, en ese orden, o con "
+          "--todos todos ellos.",
+          "Ondoren datozen NAen zergadunak FITXATEGIra esportatzen ditu, ordena horretan, edo "
+          "--todos-ekin guztiak."},
+         {"FICHERO [DNI...]", "FITXATEGIA [NA...]"},
+         OrdenesIntercambio::Exportacion},
+        {{QStringLiteral("todos")},
+         {"Con --exportar, todos los contribuyentes.", "--exportar-ekin, zergadun guztiak."},
          {}},
     };
     return opciones;
@@ -149,15 +179,7 @@ int MostrarVersion(const Llamada& llamada)
     return 0;
 }
 
-// Where a wrong line is sent.
-QString Pista(const QString& programa)
-{
-    return TextoSegunIdioma(QStringLiteral("Las opciones se listan con: %1 --help"),
-                            QStringLiteral("Aukeren zerrenda: %1 --help"))
-        .arg(programa);
-}
-
-int ImprimirPdf(const Llamada& llamada)
+int ImprimirDeclaracion(const Llamada& llamada)
 {
     // The printing reads the line itself (its code and file, its qualifiers); a line it does
     // not take as a printing one ("--pdf=12") is a wrong line.
@@ -272,6 +294,13 @@ std::unique_ptr<QCoreApplication> Aplicacion(bool pinta, int& argc, char** argv)
 }
 
 }  // namespace
+
+QString Pista(const QString& programa)
+{
+    return TextoSegunIdioma(QStringLiteral("Las opciones se listan con: %1 --help"),
+                            QStringLiteral("Aukeren zerrenda: %1 --help"))
+        .arg(programa);
+}
 
 std::optional<int> Atender(const QStringList& argumentos, QTextStream& salida,
                            QTextStream& errores)

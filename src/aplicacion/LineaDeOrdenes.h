@@ -25,6 +25,9 @@ struct Llamada {
     QTextStream& errores;  // standard error
 };
 
+// The line that sends a user with a wrong line to --help.
+QString Pista(const QString& programa);
+
 // Looks at the program's own arguments. Answers the exit status when the line asked for work
 // without a window (done by now, or refused with a message: status 2), or nothing when the
 // program is to start as usual. The work runs under an application object made here for it: a

@@ -191,6 +191,8 @@ void MDIVeldo::conectarComandos()
     al("mnuNuevoPresentador", [] { Navegacion::NuevoPresentador(); });
     al("mnuAbrirPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("A")); });
     al("mnuEliminarPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("E")); });
+    al("mnuExport", [] { Navegacion::AbrirExportar(); });
+    al("mnuImport", [] { Navegacion::AbrirImportar(); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });
     al("mnuRestore", [this] { restaurarCopia(); });
     al("mnuPreferencias", [this] { preferencias(); });

@@ -5,6 +5,9 @@
 #include "paneles/declaracion/FrmDecLista.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 #include "paneles/declaracion/FrmSeleccion.h"
+#include "paneles/intercambio/FrmExportar.h"
+#include "paneles/intercambio/FrmImportar.h"
+#include "paneles/imprimir/FrmImprimir.h"
 #include "paneles/partes/FrmConDatos.h"
 #include "paneles/partes/FrmConLista.h"
 #include "paneles/partes/FrmPreDatos.h"
@@ -13,6 +16,7 @@
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cDecLista.h"
+#include "registros/imprimir/cImOf.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
@@ -21,10 +25,12 @@
 
 namespace {
 
-Navegacion::AbridorImpresion& abridorImpresion()
+// The panel the way back from printing leads to: the presenter's returns take every letter
+// other than the three named ones.
+QString letraDeVuelta(const QString& entrada)
 {
-    static Navegacion::AbridorImpresion abrir;
-    return abrir;
+    static const QStringList conocidas{QStringLiteral("D"), QStringLiteral("L"), QStringLiteral("C")};
+    return conocidas.contains(entrada) ? entrada : QStringLiteral("P");
 }
 
 // A panel stands: the main window's commands are off until it closes.
@@ -133,6 +139,22 @@ FrmPreDatos* AbrirPreDatos()
     return datos;
 }
 
+FrmExportar* AbrirExportar()
+{
+    alAbrir();
+    FrmExportar* panel = FrmExportar::Abrir();
+    QObject::connect(panel, &FrmExportar::cerrado, panel, [] { alCerrar(); });
+    return panel;
+}
+
+FrmImportar* AbrirImportar()
+{
+    alAbrir();
+    FrmImportar* panel = FrmImportar::Abrir();
+    QObject::connect(panel, &FrmImportar::cerrado, panel, [] { alCerrar(); });
+    return panel;
+}
+
 FrmConDatos* NuevoContribuyente()
 {
     cConDatos& c = ConDatos();
@@ -180,7 +202,6 @@ FrmDecLista* AbrirDecLista(const QString& entrada)
     DecLista().ENTRADA = entrada;
     alAbrir();
     auto* lista = new FrmDecLista;
-    lista->PermitirImprimir(static_cast<bool>(abridorImpresion()));
     AbrirPanel(lista);
     QObject::connect(lista, &PanelDeclaraciones::cerrado, lista, [] { alCerrar(); });
     QObject::connect(lista, &PanelDeclaraciones::pideDeclaracion, lista, [lista](const QString& modo) {
@@ -192,14 +213,12 @@ FrmDecLista* AbrirDecLista(const QString& entrada)
     });
     QObject::connect(lista, &PanelDeclaraciones::pideImpresion, lista, [lista](int32_t csde) {
         Proceso::Protegido([&] {
-            if (!abridorImpresion())
-                return;
             cDecDatos& d = DecDatos();
             d.CSDE = csde;
             d.CargarDeclaracion();
             d.ObtenerDatosOperacion(false);
             lista->Cerrar();
-            abridorImpresion()(csde, QStringLiteral("L"));
+            AbrirImprimir(csde, QStringLiteral("L"));
         });
     });
     lista->Iniciar();
@@ -210,7 +229,6 @@ FrmDeclaracion* AbrirDeclaracion()
 {
     alAbrir();
     FrmDeclaracion* form = FrmDeclaracion::Abrir();
-    form->PermitirImprimir(static_cast<bool>(abridorImpresion()));
     QObject::connect(form, &FrmDeclaracion::cerrado, form, [] {
         alCerrar();
         // A side trip (a selection panel, the print) is under way when LISTA has two letters,
@@ -237,8 +255,7 @@ FrmDeclaracion* AbrirDeclaracion()
     QObject::connect(form, &FrmDeclaracion::pideImpresion, form, [form](int32_t csde) {
         Proceso::Protegido([&] {
             form->Cerrar();
-            if (abridorImpresion())
-                abridorImpresion()(csde, QStringLiteral("D"));
+            AbrirImprimir(csde, QStringLiteral("D"));
         });
     });
     return form;
@@ -263,11 +280,6 @@ FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde)
     return AbrirDeclaracion();
 }
 
-void InstalarImpresion(AbridorImpresion abrir)
-{
-    abridorImpresion() = std::move(abrir);
-}
-
 // The returns of a party: the panel, its state and its doorways. `lista` is the form's LISTA
 // from it, `imprimir` the print's letter, `volver` the party's list on closing.
 template <typename Panel, typename Estado>
@@ -275,7 +287,6 @@ Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*vo
 {
     alAbrir();
     auto* panel = new Panel;
-    panel->PermitirImprimir(static_cast<bool>(abridorImpresion()));
     AbrirPanel(panel);
     QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [&estado, volver] {
         alCerrar();
@@ -295,15 +306,13 @@ Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*vo
     QObject::connect(panel, &PanelDeclaraciones::pideImpresion, panel,
                      [panel, &estado, letra](int32_t csde) {
                          Proceso::Protegido([&] {
-                             if (!abridorImpresion())
-                                 return;
                              estado.ENTRADA += QStringLiteral("I");
                              cDecDatos& d = DecDatos();
                              d.CSDE = csde;
                              d.CargarDeclaracion();
                              d.ObtenerDatosOperacion(false);
                              panel->Cerrar();
-                             abridorImpresion()(csde, letra);
+                             AbrirImprimir(csde, letra);
                          });
                      });
     panel->Iniciar();
@@ -336,6 +345,35 @@ FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString
     return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(e, QStringLiteral("P"), [] {
         AbrirPreLista(QStringLiteral("P"));
     });
+}
+
+FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada)
+{
+    ImOf().CSDE = csde;
+    ImOf().ENTRADA = entrada;
+    alAbrir();
+    FrmImprimir* panel = FrmImprimir::Abrir();
+    QObject::connect(panel, &FrmImprimir::cerrado, panel, [] {
+        alCerrar();
+        const QString letra = letraDeVuelta(ImOf().ENTRADA);
+        if (letra == QLatin1String("D")) {
+            // The side trip to printing is over: the form keeps only where it came from.
+            cDecDatos& d = DecDatos();
+            d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
+            d.ENTRADA = QStringLiteral("P");
+        }
+        Proceso::Protegido([&letra] {
+            if (letra == QLatin1String("D"))
+                AbrirDeclaracion();
+            else if (letra == QLatin1String("L"))
+                AbrirDecLista(QStringLiteral("P"));
+            else if (letra == QLatin1String("C"))
+                AbrirConDeclaraciones(QStringLiteral("P"));
+            else
+                AbrirPreDeclaraciones(QStringLiteral("P"));
+        });
+    });
+    return panel;
 }
 
 }  // namespace Navegacion

@@ -14,6 +14,9 @@ class FrmDeclaracion;
 class FrmDecLista;
 class FrmConDeclaraciones;
 class FrmPreDeclaraciones;
+class FrmExportar;
+class FrmImportar;
+class FrmImprimir;
 class FrmConLista;
 class FrmPreDatos;
 class FrmPreLista;
@@ -27,6 +30,10 @@ FrmPreLista* AbrirPreLista(const QString& entrada);
 // A party's data panel as MODO, LISTA and the code of its record stand.
 FrmConDatos* AbrirConDatos();
 FrmPreDatos* AbrirPreDatos();
+
+// The export and import of contributors, from the main menu.
+FrmExportar* AbrirExportar();
+FrmImportar* AbrirImportar();
 
 // A new party from the main menu: MODO "A", no list to go back to.
 FrmConDatos* NuevoContribuyente();
@@ -43,12 +50,6 @@ FrmDeclaracion* NuevaDeclaracion();
 // One of the recent returns of the main menu (d1 to d4): the stored return `csde`.
 FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde);
 
-// Where the print of a return leads: the print panel, with the return's code and the letter
-// of the panel that asks for it ("D" the declaration form). The print panel is built
-// elsewhere and installs itself here; without it the forms' print buttons stay off.
-using AbridorImpresion = std::function<void(int32_t csde, const QString& entrada)>;
-void InstalarImpresion(AbridorImpresion abrir);
-
 // The returns of a party, as a party list's CmdDeclaraciones asks ("A", with the party's name
 // and number) or as the form hands back ("P"). On closing without a side trip they go back to
 // the party's list.
@@ -56,5 +57,12 @@ FrmConDeclaraciones* AbrirConDeclaraciones(const QString& entrada, const QString
                                            const QString& dni = QString());
 FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString& nombre = QString(),
                                            const QString& dni = QString());
+
+// The print panel for the stored return `csde`, already loaded in DecDatos() and Operacion()
+// by the caller, which has closed itself. `entrada` is the caller's letter: "D" the return's
+// form, "L" the list of returns, "C" a contributor's returns, anything else a presenter's.
+// When the panel closes the commands come back and the caller is reopened: for "D" the
+// form's LISTA loses its last side trip and its ENTRADA becomes "P" first.
+FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada);
 
 }  // namespace Navegacion

@@ -2,6 +2,7 @@
 
 #include "aplicacion/Arranque.h"
 #include "catalogo/Catalogo.h"
+#include "paneles/imprimir/cSuperficieImpresora.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
@@ -12,6 +13,8 @@
 
 #include <QDate>
 #include <QFile>
+#include <QPrinter>
+#include <QPrinterInfo>
 #include <QSaveFile>
 #include <QTextStream>
 
@@ -21,7 +24,9 @@ constexpr int32_t kFechaMinima = 20031201;
 
 struct PeticionPdf {
     int32_t csde = 0;
-    QString fichero;
+    QString fichero;         // --pdf: the file written
+    bool impresora = false;  // --imprimir: to a printer instead of a file
+    QString nombreImpresora; // --impresora: that printer, else the system's default
     bool borrador = false;
     bool sinPresentador = false;
     std::optional<QStringList> copias;
@@ -37,9 +42,11 @@ QString uso()
 {
     return TextoSegunIdioma(
         QStringLiteral("Uso: Veldo --pdf CODIGO FICHERO [--borrador] [--sin-presentador] "
-                       "[--copias trafico,interesado,administracion,banco] [--fecha DD/MM/AAAA]"),
+                       "[--copias trafico,interesado,administracion,banco] [--fecha DD/MM/AAAA]\n"
+                       "     Veldo --imprimir CODIGO [--impresora NOMBRE] [mismas opciones]"),
         QStringLiteral("Erabilera: Veldo --pdf KODEA FITXATEGIA [--borrador] [--sin-presentador] "
-                       "[--copias trafico,interesado,administracion,banco] [--fecha EE/HH/UUUU]"));
+                       "[--copias trafico,interesado,administracion,banco] [--fecha EE/HH/UUUU]\n"
+                       "     Veldo --imprimir KODEA [--impresora IZENA] [aukera berak]"));
 }
 
 QString valorDe(const QStringList& a, int& i)
@@ -60,6 +67,14 @@ PeticionPdf leer(const QStringList& a)
             p.fichero = valorDe(a, i);
             if (!ok || p.csde <= 0)
                 throw Rechazo{uso()};
+        } else if (o == QLatin1String("--imprimir")) {
+            bool ok = false;
+            p.csde = valorDe(a, i).toInt(&ok);
+            p.impresora = true;
+            if (!ok || p.csde <= 0)
+                throw Rechazo{uso()};
+        } else if (o == QLatin1String("--impresora")) {
+            p.nombreImpresora = valorDe(a, i);
         } else if (o == QLatin1String("--borrador")) {
             p.borrador = true;
         } else if (o == QLatin1String("--sin-presentador")) {
@@ -73,6 +88,9 @@ PeticionPdf leer(const QStringList& a)
             throw Rechazo{uso()};
         }
     }
+    // One destination: a file or a printer, never both; a printer's name only with a printer.
+    if (p.impresora == !p.fichero.isEmpty() || (!p.impresora && !p.nombreImpresora.isEmpty()))
+        throw Rechazo{uso()};
     return p;
 }
 
@@ -117,7 +135,9 @@ void fijarCopias(const PeticionPdf& p)
     o.COPIABAN = marca("banco");
 }
 
-int imprimirPdf(const PeticionPdf& p)
+// The return loaded and ImOf() set as the request says; the data are checked before anything
+// is drawn.
+void preparar(const PeticionPdf& p)
 {
     ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     if (!QFile::exists(mdbmod) || !QFile::exists(mdblec))
@@ -133,12 +153,19 @@ int imprimirPdf(const PeticionPdf& p)
     ImOf().CSDE = p.csde;
     ImOf().CONPRESENTADOR = DecDatos().CSPR != 0 && !p.sinPresentador ? QStringLiteral("S")
                                                                       : QString();
+}
+
+bool conPresentador() { return ImOf().CONPRESENTADOR == QLatin1String("S"); }
+
+int imprimirPdf(const PeticionPdf& p)
+{
+    preparar(p);
     // The file appears whole or not at all.
     QSaveFile destino(p.fichero);
     bool bien = destino.open(QIODevice::WriteOnly);
     if (bien) {
         cSuperficiePdf pdf(&destino);
-        const int hojas = ImprimirCopias(pdf, ImOf().CONPRESENTADOR == QLatin1String("S"));
+        const int hojas = ImprimirCopias(pdf, conPresentador());
         bien = pdf.Terminar() && hojas > 0;
     }
     if (!bien || !destino.commit())
@@ -148,15 +175,49 @@ int imprimirPdf(const PeticionPdf& p)
                                            p.fichero)};
     return 0;
 }
+
+// The printer asked for by name, or the system's default; refused when there is none.
+void elegirImpresora(const PeticionPdf& p, QPrinter& impresora)
+{
+    if (cSuperficieImpresora::NumeroImpresoras() == 0)
+        throw Rechazo{Texto(191)};
+    const QPrinterInfo info = p.nombreImpresora.isEmpty()
+                                  ? QPrinterInfo::defaultPrinter()
+                                  : QPrinterInfo::printerInfo(p.nombreImpresora);
+    if (info.isNull())
+        throw Rechazo{TextoSegunIdioma(
+            QStringLiteral("No existe la impresora ") + p.nombreImpresora,
+            QStringLiteral("Ez dago inprimagailu hau: ") + p.nombreImpresora)};
+    impresora.setPrinterName(info.printerName());
 }
 
-std::optional<int> OrdenesImprimir(const QStringList& argumentos)
+int imprimirEnImpresora(const PeticionPdf& p, QPrinter* dada)
 {
-    if (!argumentos.contains(QLatin1String("--pdf")))
+    QPrinter propia(QPrinter::HighResolution);
+    QPrinter& impresora = dada ? *dada : propia;
+    preparar(p);
+    // A printer handed in (tests: one that writes a file) is used as it stands.
+    if (!dada)
+        elegirImpresora(p, impresora);
+    cSuperficieImpresora superficie(impresora);
+    const int hojas = ImprimirCopias(superficie, conPresentador());
+    if (!superficie.Bien() || hojas == 0)
+        throw Rechazo{TextoSegunIdioma(
+            QStringLiteral("No se ha podido imprimir en ") + impresora.printerName(),
+            QStringLiteral("Ezin izan da inprimatu hemen: ") + impresora.printerName())};
+    return 0;
+}
+}
+
+std::optional<int> OrdenesImprimir(const QStringList& argumentos, QPrinter* impresora)
+{
+    if (!argumentos.contains(QLatin1String("--pdf"))
+        && !argumentos.contains(QLatin1String("--imprimir")))
         return std::nullopt;
     QTextStream error(stderr);
     try {
-        return imprimirPdf(leer(argumentos));
+        const PeticionPdf p = leer(argumentos);
+        return p.impresora ? imprimirEnImpresora(p, impresora) : imprimirPdf(p);
     } catch (const Rechazo& r) {
         error << r.mensaje << Qt::endl;
     } catch (const cFallo& f) {

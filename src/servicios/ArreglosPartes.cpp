@@ -18,9 +18,10 @@ namespace {
                      .arg(QLatin1String(campo), valor.toString()));
 }
 
-QVariant valor(const Arreglo& a, int i)
+const QVariant& valor(const Arreglo& a, int i)
 {
-    return i < a.size() ? a[i] : QVariant();
+    static const QVariant kNada;
+    return i < a.size() ? a[i] : kNada;
 }
 
 bool esNumero(const QVariant& v)
@@ -84,18 +85,20 @@ QString Texto(const Arreglo& a, int i)
 QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                       const QString& origen)
 {
-    const QVariant v = valor(a, i);
-    const QString t = v.toString().trimmed();
+    const QVariant& v = valor(a, i);
+    QString t = v.toString().trimmed();
     // Whole characters, as the column counts them (a character beyond the BMP is one).
     if (t.toUcs4().size() > ancho)
         noCoincide(campo, v, origen);
-    return noNulo(t);
+    if (t.isNull())
+        t = QStringLiteral("");  // SQLite takes a null text for NULL
+    return t;
 }
 
 int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* campo,
                        const QString& origen)
 {
-    const QVariant v = valor(a, i);
+    const QVariant& v = valor(a, i);
     const std::optional<QString> d = cifras(v);
     if (!d)
         noCoincide(campo, v, origen);
@@ -111,7 +114,7 @@ int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* camp
 QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                        const QString& origen)
 {
-    const QVariant v = valor(a, i);
+    const QVariant& v = valor(a, i);
     const std::optional<QString> d = cifras(v);
     if (!d)
         noCoincide(campo, v, origen);
@@ -128,7 +131,7 @@ QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
 QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
                         const QString& origen)
 {
-    const QVariant v = valor(a, i);
+    const QVariant& v = valor(a, i);
     const std::optional<QString> d = cifras(v);
     if (!d || d->size() > ancho)
         noCoincide(campo, v, origen);
@@ -137,7 +140,7 @@ QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
 
 std::optional<QString> Criterio(const Arreglo& criterios, int i)
 {
-    const QVariant v = valor(criterios, i);
+    const QVariant& v = valor(criterios, i);
     if (!v.isValid() || v.isNull())
         return std::nullopt;
     if (esNumero(v))

@@ -4,6 +4,9 @@
 #include "servicios/Conexion.h"
 #include "servicios/SentenciaPreparada.h"
 
+#include <QSet>
+#include <memory>
+
 namespace ReferenciaPartes {
 
 QHash<QString, QString> MunicipiosTesoreria(const QString& mdblec, const QString& origen)
@@ -40,6 +43,23 @@ ConsultasReferencia Consultas(const QString& mdblec, const QString& origen)
         existe(QStringLiteral("SELECT COUNT(*) FROM T09_SIGLASVIA WHERE T09_CODIGO = ?")),
         existe(QStringLiteral("SELECT COUNT(*) FROM T07_PROVINCIAS WHERE T07_PRO_ID = ?")),
         existe(QStringLiteral("SELECT COUNT(*) FROM T08_MUNICIPIOS WHERE T08_CODMUN = ?")),
+    };
+}
+
+ConsultasReferencia ConsultasEnMemoria(const QString& mdblec, const QString& origen)
+{
+    const QSqlDatabase lec = Conexion::Lectura(mdblec, origen);
+    const auto existe = [&lec, &origen](const QString& sql) {
+        auto claves = std::make_shared<QSet<QString>>();
+        QSqlQuery q = Ejecutar(lec, sql, {}, origen);
+        while (q.next())
+            claves->insert(q.value(0).toString());
+        return [claves](const QString& clave) { return claves->contains(clave); };
+    };
+    return {
+        existe(QStringLiteral("SELECT T09_CODIGO FROM T09_SIGLASVIA")),
+        existe(QStringLiteral("SELECT T07_PRO_ID FROM T07_PROVINCIAS")),
+        existe(QStringLiteral("SELECT T08_CODMUN FROM T08_MUNICIPIOS")),
     };
 }
 

@@ -18,5 +18,9 @@ QString NombreMunicipio(const QHash<QString, QString>& municipios, const QString
 
 // The look-ups of street types, provinces and municipalities in the reference database.
 ConsultasReferencia Consultas(const QString& mdblec, const QString& origen);
+// The same look-ups answered from memory: the three tables are read once, here. For a caller
+// that validates many records in a row (an import); the reference database never changes
+// while the program runs, so the answers are the same.
+ConsultasReferencia ConsultasEnMemoria(const QString& mdblec, const QString& origen);
 
 }  // namespace ReferenciaPartes

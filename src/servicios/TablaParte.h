@@ -14,6 +14,11 @@ public:
                const QStringList& columnas);
 
     const QStringList& columnas() const { return m_columnas; }
+    // The statements, for a caller that compiles them its own way.
+    const QString& sqlCodigoPorDni() const { return m_sqlCodigoPorDni; }
+    const QString& sqlInsertar() const { return m_sqlInsertar; }
+    const QString& sqlInsertarConCodigo() const { return m_sqlInsertarConCodigo; }
+    const QString& sqlActualizar() const { return m_sqlActualizar; }
 
     // The code of the party with this number; 0 for an empty number or an unknown one.
     int32_t CodigoPorDni(const QSqlDatabase& db, const QString& dni, const QString& origen) const;

@@ -4,10 +4,13 @@
 
 namespace {
 
-// A character no store keeps: the controls of C0 (NUL, tab, line break...), DEL and C1.
+// A character no store keeps: the controls of C0 (NUL, tab, line break...) and DEL. NUL ends a
+// text for SQLite's own functions, and the others break a line of the exchange file or a field
+// of one line. The controls of C1 are kept: they survive the store unchanged, and the file of
+// the exchange, read as Windows-1252, turns its five undefined bytes into them.
 bool esControl(char32_t c)
 {
-    return c < 0x20 || (c >= 0x7F && c <= 0x9F);
+    return c < 0x20 || c == 0x7F;
 }
 
 // True when every UTF-16 unit belongs to a whole character: no half of a surrogate pair stands

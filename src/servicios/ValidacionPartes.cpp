@@ -173,6 +173,16 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     return errores;
 }
 
+Arreglo2D ArregloErrores(const QList<int>& codigos)
+{
+    QVariantList columna;
+    columna.reserve(codigos.size() + 1);
+    for (int c : codigos)
+        columna << c;
+    columna << 0;
+    return Arreglo2D{columna};
+}
+
 int16_t ReglasPresentador(const Arreglo& datos)
 {
     using namespace VeredictoPresentador;

@@ -96,5 +96,8 @@ struct ConsultasReferencia {
 int16_t ReglasContribuyente(const Arreglo& datos);
 // The import validation array (15 raw texts) -> every error code, in ascending order.
 QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia);
+// The errors as the import's validation answers them: errores[0][k] for k from 0 to the
+// number of errors less one, then a spare 0, so that the upper bound is the number of errors.
+Arreglo2D ArregloErrores(const QList<int>& codigos);
 // The validation array of a presenter (8 texts) -> verdict.
 int16_t ReglasPresentador(const Arreglo& datos);

@@ -6,9 +6,9 @@
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/GuardadoContribuyente.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
-#include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
 
@@ -25,77 +25,13 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cContribSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from P::TIPODNI to P::NOMMUNC.
-const QStringList kColumnas = {
-    QStringLiteral("TIPODNI"),   QStringLiteral("DNIC"),     QStringLiteral("NOMBREC"),
-    QStringLiteral("VIAC"),      QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
-    QStringLiteral("LETRAC"),    QStringLiteral("ESCALERAC"), QStringLiteral("PISOC"),
-    QStringLiteral("MANOC"),     QStringLiteral("TIPODOMI"), QStringLiteral("PAIS"),
-    QStringLiteral("CODPROVC"),  QStringLiteral("NOMPROVC"), QStringLiteral("CODPOSC"),
-    QStringLiteral("CODMUNC"),   QStringLiteral("NOMMUNC"),
-};
+const QStringList& kColumnas = GuardadoContribuyente::Columnas();
 // A stored row lacks the code: its value of position p stands at p - kPrimera.
 constexpr int kPrimera = P::TIPODNI;
 
-// The values of a save array in their stored form, in the order of kColumnas.
-QVariantList filaGuardada(const Arreglo& a, const QString& org)
-{
-    const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
-    const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
-    if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
-        throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
-    if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
-        throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
-    const bool extranjero = tipoDomi == QLatin1String("E");
-    // A national postal code has its five digits; a foreign one is kept as it was typed.
-    const QString cp = extranjero ? CifrasGuardadas(a, P::CODPOSC, 5, "CODPOSC", org)
-                                  : CodigoGuardado(a, P::CODPOSC, 5, "CODPOSC", org);
-    return {
-        tipoDni,
-        TextoGuardado(a, P::DNIC, 9, "DNIC", org),
-        TextoGuardado(a, P::NOMBREC, 40, "NOMBREC", org),
-        TextoGuardado(a, P::VIAC, 2, "VIAC", org),
-        TextoGuardado(a, P::DOMICILIOC, 20, "DOMICILIOC", org),
-        EnteroGuardado(a, P::NUMEROC, 99999, "NUMEROC", org),
-        TextoGuardado(a, P::LETRAC, 2, "LETRAC", org),
-        TextoGuardado(a, P::ESCALERAC, 2, "ESCALERAC", org),
-        TextoGuardado(a, P::PISOC, 2, "PISOC", org),
-        TextoGuardado(a, P::MANOC, 3, "MANOC", org),
-        tipoDomi,
-        TextoGuardado(a, P::PAIS, 20, "PAIS", org),
-        CodigoGuardado(a, P::CODPROVC, 2, "CODPROVC", org),
-        TextoGuardado(a, P::NOMPROVC, 20, "NOMPROVC", org),
-        cp,
-        CodigoGuardado(a, P::CODMUNC, 3, "CODMUNC", org),
-        TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
-    };
-}
-
-// The texts of a save array, as the store keeps them: the width of each column, the label that
-// names its field, the field, and for the number and the name, which must hold a value, the
-// record's own message for an empty one.
-constexpr ColumnaTexto kTextos[] = {
-    {P::DNIC, 9, 26, "txtdnic", 29},
-    {P::NOMBREC, 40, 27, "txtnombrec", 30},
-    {P::VIAC, 2, 13, "txtviac"},
-    {P::DOMICILIOC, 20, 19, "txtdomicilioc"},
-    {P::LETRAC, 2, 21, "txtletrac"},
-    {P::ESCALERAC, 2, 20, "txtescalerac"},
-    {P::PISOC, 2, 23, "txtpisoc"},
-    {P::MANOC, 3, 24, "txtmanoc"},
-    {P::PAIS, 20, 18, "txtpais"},
-    {P::CODPROVC, kAnchoDeCifras, 10, "txtcodprovc"},
-    {P::NOMPROVC, 20, 15, "txtnomprovc"},
-    {P::CODPOSC, kAnchoDeCifras, 25, "txtcodposc"},
-    {P::CODMUNC, kAnchoDeCifras, 12, "txtcodmunc"},
-    {P::NOMMUNC, 25, 14, "txtnommunc"},
-};
-
 const TablaParte& tabla()
 {
-    static const TablaParte t(QStringLiteral("CONTRIBUYENTES"), QStringLiteral("CSCO"),
-                              QStringLiteral("DNIC"), kColumnas);
-    return t;
+    return GuardadoContribuyente::Tabla();
 }
 
 QString condiciones(const Arreglo& criterios, QVariantList& valores)
@@ -126,13 +62,7 @@ bool cContribSvr::ValidarDniOficial(const QString& dni) const
 void cContribSvr::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
 {
     const QString org = origen("ValidarDatosImportar");
-    const QList<int> codigos = ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org));
-    QVariantList columna;
-    columna.reserve(codigos.size() + 1);
-    for (int c : codigos)
-        columna << c;
-    columna << 0;  // the spare element: the upper bound is the number of errors
-    errores = Arreglo2D{columna};
+    errores = ArregloErrores(ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org)));
 }
 
 bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
@@ -194,35 +124,14 @@ int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir,
 int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const
 {
     const QString org = origen("GuardarContribuyente");
-    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
-        if (rechazo)
-            *rechazo = std::move(v);
-        return VeredictoGuardarContribuyente::TextoRechazado;
-    }
-    // Every value is put in its stored form before anything is written.
-    const QVariantList fila = filaGuardada(datos, org);
-    int32_t csco = modo == Modo::Anadir
-        ? 0
-        : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
-    const QString dni = fila[P::DNIC - kPrimera].toString();
-
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
-    if (modo == Modo::Sustituir && csco == 0)
-        csco = tabla().CodigoPorDni(db, dni, org);
-    const int32_t titular = tabla().CodigoPorDni(db, dni, org);
-    if (csco == 0) {
-        if (titular != 0)
-            return VeredictoGuardarContribuyente::DniExistente;
-        tabla().Insertar(db, 0, fila, org);
-    } else {
-        if (titular != 0 && titular != csco)
-            return VeredictoGuardarContribuyente::DniDeOtro;
-        if (!tabla().Actualizar(db, csco, fila, org))
-            tabla().Insertar(db, csco, fila, org);
-    }
-    transaccion.confirmar();
-    return VeredictoGuardarContribuyente::Guardado;
+    AccesoPreparado acceso(tabla(), db, org);
+    const int16_t veredicto =
+        GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt, rechazo);
+    if (veredicto == VeredictoGuardarContribuyente::Guardado)
+        transaccion.confirmar();
+    return veredicto;
 }
 
 bool cContribSvr::BorrarContribuyente(int32_t csco) const

@@ -18,20 +18,10 @@
 // and what a save array carries in their place is ignored; so a contributor named in a
 // declaration always shows it, and is never deleted.
 #include "servicios/Arreglos.h"
-#include "valores/Veredicto.h"
+#include "servicios/GuardadoContribuyente.h"
 
 #include <QString>
 #include <cstdint>
-
-// Verdicts of GuardarContribuyente.
-namespace VeredictoGuardarContribuyente {
-enum : int16_t {
-    Guardado = 0,
-    DniExistente = 1,    // insert of a number already in the store
-    DniDeOtro = 2,       // update to a number held by another contributor
-    TextoRechazado = 3,  // a text the store cannot keep as given (TextoGuardable.h)
-};
-}
 
 class cContribSvr {
 public:
@@ -82,6 +72,6 @@ public:
                                       uint8_t orden) const;
 
 private:
-    enum class Modo { PorCodigo, Sustituir, Anadir };
+    using Modo = GuardadoContribuyente::Modo;
     int16_t guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const;
 };

@@ -65,12 +65,14 @@ constexpr int kSujeto = 0;        // the tabs of the declaration form that hold 
 constexpr int kTransmitente = 1;
 
 // The texts of the save array as the store keeps them (as given, blanks included): the width of
-// each column, the label that names its field and the field, on its tab for a party's.
+// each column, the label that names its field and the field, on its tab for a party's. The
+// widths are those of the form's fields, but for the make and the type, whose boxes on the
+// printed form hold 20 characters (the form lets 15 be typed).
 constexpr ColumnaTexto kTextos[] = {
     {G::REFERENCIA, 10, 114, "txtreferencia"},
     {G::ADQUIRIDO, 1, 104, "chkAdquirido"},
-    {G::MARCA, 15, 120, "txtmarca"},
-    {G::TIPO, 15, 118, "txttipo"},
+    {G::MARCA, 20, 120, "txtmarca"},
+    {G::TIPO, 20, 118, "txttipo"},
     {G::MODELO, 20, 119, "txtmodelo"},
     {G::BASTIDOR, 17, 117, "txtbastidor"},
     {G::MOTOR, 1, 110, "optDiesel"},

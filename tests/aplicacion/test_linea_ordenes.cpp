@@ -122,8 +122,12 @@ private slots:
         QVERIFY(tieneLinea(r.salida, "  -v, --version +Muestra la versión del programa."));
         QVERIFY(tieneLinea(r.salida, "  --pdf CODIGO FICHERO +Guarda en FICHERO el impreso de la "
                                      "declaración CODIGO, en PDF."));
-        QVERIFY(tieneLinea(r.salida, "  --fecha DD/MM/AAAA +Con --pdf, la fecha de presentación "
-                                     "\\(hoy, si no\\)."));
+        QVERIFY(tieneLinea(r.salida, "  --imprimir CODIGO +Imprime la declaración CODIGO en la "
+                                     "impresora del sistema."));
+        QVERIFY(tieneLinea(r.salida, "  --fecha DD/MM/AAAA +Con --pdf o --imprimir, la fecha de "
+                                     "presentación \\(hoy, si no\\)."));
+        QVERIFY(tieneLinea(r.salida, "  --importar FICHERO +Importa los contribuyentes de FICHERO "
+                                     "en modo automático."));
         // Qt's own options are accepted but not listed.
         QVERIFY(!r.salida.contains("platform"));
         // Help comes first when both are asked for.

@@ -393,8 +393,7 @@ private slots:
         QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Declaración"));
     }
 
-    // Each command and the panel it opens; export and import are built by other pieces of
-    // work and open nothing yet.
+    // Each command and the panel it opens.
     void comandoAbrePanel_data()
     {
         QTest::addColumn<QString>("comando");
@@ -406,8 +405,8 @@ private slots:
             {"mnuEliminarContribuyente", "FrmConLista"}, {"mnuNuevoPresentador", "FrmPreDatos"},
             {"mnuAbrirPresentador", "FrmPreLista"},    {"mnuEliminarPresentador", "FrmPreLista"},
             {"boton1", "FrmDeclaracion"},              {"boton2", "FrmDecLista"},
-            {"boton3", "FrmDecLista"},                 {"mnuExport", ""},
-            {"mnuImport", ""}};
+            {"boton3", "FrmDecLista"},                 {"mnuExport", "FrmExportar"},
+            {"mnuImport", "FrmImportar"}};
         for (const auto& [comando, panel] : tabla)
             QTest::newRow(comando) << QString::fromLatin1(comando) << QString::fromLatin1(panel);
     }

@@ -9,6 +9,8 @@
 #include "registros/partes/cPreDatos.h"
 
 #include <QFile>
+#include <QPrinter>
+#include <QPrinterInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -24,7 +26,8 @@ struct Resultado {
 };
 
 // Runs the command line with stderr caught in a file.
-Resultado ejecutar(const QStringList& argumentos, const QString& carpeta)
+Resultado ejecutar(const QStringList& argumentos, const QString& carpeta,
+                   QPrinter* impresora = nullptr)
 {
     const QString fichero = carpeta + QStringLiteral("/stderr.txt");
     std::fflush(stderr);
@@ -32,7 +35,7 @@ Resultado ejecutar(const QStringList& argumentos, const QString& carpeta)
     FILE* f = std::fopen(QFile::encodeName(fichero).constData(), "w");
     dup2(fileno(f), fileno(stderr));
     Resultado r;
-    r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos);
+    r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos, impresora);
     std::fflush(stderr);
     dup2(antes, fileno(stderr));
     close(antes);
@@ -178,6 +181,70 @@ private slots:
         QCOMPARE(r.estado, std::optional<int>(1));
         QVERIFY2(r.error.startsWith(QLatin1String("No se ha podido escribir el fichero")),
                  qPrintable(r.error));
+    }
+
+    // --imprimir draws through the printer surface: a printer that writes a file shows what
+    // went out. Each sheet is a job of its own, so the file holds the last one sent.
+    void imprimirEnUnaImpresora()
+    {
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFormat(QPrinter::PdfFormat);
+        impresora.setOutputFileName(pdf("impresora.pdf"));
+        Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                                QStringLiteral("--copias"), QStringLiteral("trafico"),
+                                QStringLiteral("--fecha"), QStringLiteral("11/03/2004")},
+                               m_dir.path(), &impresora);
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QCOMPARE(r.error, QString());
+        QCOMPARE(paginas(pdf("impresora.pdf")), 1);
+        QVERIFY(texto(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
+        QVERIFY(texto(pdf("impresora.pdf")).contains(QLatin1String("2004/03/11n /// 11/03/2004")));
+
+        r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                      QStringLiteral("--borrador"), QStringLiteral("--sin-presentador")},
+                     m_dir.path(), &impresora);
+        QCOMPARE(r.estado, std::optional<int>(0));
+        QCOMPARE(paginas(pdf("impresora.pdf")), 1);
+        QVERIFY(!texto(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
+    }
+
+    void imprimirRechazos()
+    {
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFormat(QPrinter::PdfFormat);
+        impresora.setOutputFileName(pdf("rechazada.pdf"));
+        Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                                QStringLiteral("--fecha"), QStringLiteral("30/11/2003")},
+                               m_dir.path(), &impresora);
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QVERIFY2(r.error.startsWith(QStringLiteral("La Fecha de presentación no puede ser anterior")),
+                 qPrintable(r.error));
+        QVERIFY(!QFile::exists(pdf("rechazada.pdf")));
+        r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo + 50)}, m_dir.path(),
+                     &impresora);
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QCOMPARE(r.error, QStringLiteral("No existe la declaración %1").arg(m_codigo + 50));
+        // A file and a printer at once is no valid request.
+        r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                      QStringLiteral("--pdf"), QString::number(m_codigo), pdf("ambos.pdf")},
+                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QVERIFY2(r.error.startsWith(QLatin1String("Uso: Veldo --pdf")), qPrintable(r.error));
+    }
+
+    // The system's printers: a name it does not know, or no printer at all, is refused with
+    // the program's message.
+    void impresoraQueNoExiste()
+    {
+        const Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                                      QStringLiteral("--impresora"),
+                                      QStringLiteral("veldo-no-existe-9")},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        if (QPrinterInfo::availablePrinters().isEmpty())
+            QCOMPARE(r.error, QStringLiteral("No es posible imprimir. No hay impresoras instaladas"));
+        else
+            QCOMPARE(r.error, QStringLiteral("No existe la impresora veldo-no-existe-9"));
     }
 };
 

@@ -444,8 +444,3 @@ void FrmDeclaracion::showEvent(QShowEvent* evento)
         txtfechad->setFocus(Qt::OtherFocusReason);
     }
 }
-
-void FrmDeclaracion::PermitirImprimir(bool permitir)
-{
-    cmdImprimir->setEnabled(permitir);
-}

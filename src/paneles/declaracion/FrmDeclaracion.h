@@ -52,8 +52,6 @@ public:
 
     // Closes the panel (its sub-window in the main window).
     void Cerrar();
-    // cmdImprimir works only when the program has a print panel to open.
-    void PermitirImprimir(bool permitir);
 
     bool SaltarValidacion() const { return m_saltarValidacion; }
     bool PresentandoDatos() const { return m_presentandoDatos; }

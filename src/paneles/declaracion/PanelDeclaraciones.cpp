@@ -359,7 +359,7 @@ void PanelDeclaraciones::PresentaBotones()
     const bool conFila = resultado && e.NUMDECLASEL >= 1 && e.CSDE != 0;
     cmdAceptar->setEnabled(conFila);
     cmdCopiar->setEnabled(conFila);
-    cmdImprimir->setEnabled(conFila && m_imprimir);
+    cmdImprimir->setEnabled(conFila);
     if (cmdEliminar)
         cmdEliminar->setEnabled(conFila);
     cmdNuevo->setEnabled(resultado);

@@ -46,8 +46,6 @@ public:
     // The opening, once the panel is on the screen: the state by ENTRADA, the first load.
     void Iniciar();
     void Cerrar();
-    // cmdImprimir works only when the program has a print panel to open.
-    void PermitirImprimir(bool permitir) { m_imprimir = permitir; }
 
 signals:
     // A return on the declaration form: "C" the selected one, "D" its copy, "A" a new one.
@@ -133,5 +131,4 @@ private:
     bool CambioFilaActivo = false;
     bool m_cerrando = false;
     bool m_cerrado = false;
-    bool m_imprimir = false;
 };

@@ -12,6 +12,7 @@
 #include "valores/Twips.h"
 #include "valores/Val.h"
 #include "paneles/controles/cFlexGrid.h"
+#include "registros/partes/CriteriosLista.h"
 
 #include <QCloseEvent>
 #include <QFocusEvent>
@@ -89,8 +90,10 @@ void Pintar(QLabel* icono)
         i->Pintar();
 }
 
+}  // namespace
+
 // The small arrow of the ordering column: ascending.
-QPixmap FlechaAscendente()
+QPixmap PanelLista::FlechaAscendente()
 {
     QPixmap flecha(9, 6);
     flecha.fill(Qt::transparent);
@@ -101,6 +104,21 @@ QPixmap FlechaAscendente()
     p.drawPolygon(QPolygon({QPoint(0, 6), QPoint(9, 6), QPoint(4, 0)}));
     return flecha;
 }
+
+void PanelLista::PrepararGrid(cFlexGrid* grid)
+{
+    // The columns have the widths of the panel's design: a number of nine characters fills its
+    // column in the small type of a list.
+    QFont letra = grid->font();
+    letra.setPointSizeF(std::min(letra.pointSizeF(), kPuntosLetraGrid));
+    grid->setFont(letra);
+    grid->horizontalHeader()->setFont(letra);
+    grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(letra).height() + 6);
+    grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+}
+
+namespace {
 
 template <class W>
 W* Control(QWidget* padre, const char* nombre)
@@ -138,15 +156,7 @@ void PanelLista::ConstruirControles()
 {
     m_grid = new cFlexGrid(this);
     m_grid->setObjectName(m_diseno.nombreGrid);
-    // The columns have the widths of the panel's design: a number of nine characters fills its
-    // column in the small type of a list.
-    QFont letra = m_grid->font();
-    letra.setPointSizeF(std::min(letra.pointSizeF(), kPuntosLetraGrid));
-    m_grid->setFont(letra);
-    m_grid->horizontalHeader()->setFont(letra);
-    m_grid->verticalHeader()->setDefaultSectionSize(QFontMetrics(letra).height() + 6);
-    m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    PrepararGrid(m_grid);
     txtBusqueda = Control<QLineEdit>(this, "txtBusqueda");
     txtBusqueda->hide();
     txtBusqueda->setEnabled(false);
@@ -360,36 +370,11 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
     Utilidades.SeleccionarGrid(QColor::fromRgb(kColorResaltado), m_grid->ForeColor(), 0);
 }
 
-QString PanelLista::TextoCriterio(int i) const
-{
-    if (!m_estado.TABLASELECCION || i < 0 || i >= m_estado.TABLASELECCION->size())
-        return QString();
-    const cCriterio& c = m_estado.TABLASELECCION->at(i);
-    const int campo = int(Val(c.CAMPOSELECCION));
-    if (c.VALORSELECCION.isEmpty() || campo == 0)
-        return QString();
-    QString texto;
-    if (campo == kColumnaNombre)
-        texto = m_diseno.criterioNombre.texto();
-    else if (campo == kColumnaDni)
-        texto = m_diseno.criterioDni.texto();
-    else
-        return QString();
-    return texto + QStringLiteral(" '") + c.VALORSELECCION + QStringLiteral("' ");
-}
-
 // The criteria in words, joined by ", " where both sides say something.
 QString PanelLista::TextoCriterios() const
 {
-    QString texto;
-    const int n = m_estado.TABLASELECCION ? int(m_estado.TABLASELECCION->size()) : 0;
-    for (int i = 0; i < n; ++i) {
-        const QString parte = TextoCriterio(i);
-        if (i > 0 && !parte.trimmed().isEmpty() && !texto.trimmed().isEmpty())
-            texto += QStringLiteral(", ");
-        texto += parte;
-    }
-    return texto;
+    return CriteriosLista::Texto(m_estado.TABLASELECCION, m_diseno.criterioNombre.texto(),
+                                 m_diseno.criterioDni.texto());
 }
 
 bool PanelLista::HayCriterios() const
@@ -442,39 +427,62 @@ void PanelLista::PresentaResultado()
 void PanelLista::PresentaBusqueda()
 {
     picasc->hide();
-    LimpiarGrid();
-    if (m_estado.TABLASELECCION)
-        for (const cCriterio& c : *m_estado.TABLASELECCION)
-            m_grid->setTextMatrix(1, int(Val(c.CAMPOSELECCION)), c.VALORSELECCION);
     MostrarAyuda(lblayuda, Texto(314), lblResultado->width());
     lblResultado->clear();
-    const int columna = int(Val(m_estado.SELECCIONACTUAL));
+    MostrarBusqueda(m_grid, txtBusqueda, Utilidades, m_estado.TABLASELECCION,
+                    m_estado.SELECCIONACTUAL);
+}
+
+void PanelLista::MostrarBusqueda(cFlexGrid* grid, QLineEdit* caja, cUtilidadesGrid& utilidades,
+                                 const std::optional<TablaCriterios>& criterios,
+                                 const QString& seleccionActual)
+{
+    grid->setRows(1);
+    grid->setRows(2);
+    if (criterios)
+        for (const cCriterio& c : *criterios)
+            grid->setTextMatrix(1, int(Val(c.CAMPOSELECCION)), c.VALORSELECCION);
+    const int columna = int(Val(seleccionActual));
     if (columna == 0) {
-        Utilidades.OcultarTxtBusqueda();
+        utilidades.OcultarTxtBusqueda();
         return;
     }
     // The box lies over the heading of the column being searched, and starts from the
     // prefix already typed under it.
-    m_grid->setRow(0);
-    m_grid->setCol(columna);
-    txtBusqueda->setEnabled(true);
-    txtBusqueda->setMaxLength(columna == kColumnaDni ? kLargoDni : kLargoNombre);
-    Utilidades.PosicionarTxtBusqueda();
-    txtBusqueda->setText(m_grid->TextMatrix(1, columna));
-    SeleccionarTexto(txtBusqueda);
-    txtBusqueda->setFocus(Qt::OtherFocusReason);
+    grid->setRow(0);
+    grid->setCol(columna);
+    caja->setEnabled(true);
+    caja->setMaxLength(columna == kColumnaDni ? kLargoDni : kLargoNombre);
+    utilidades.PosicionarTxtBusqueda();
+    caja->setText(grid->TextMatrix(1, columna));
+    SeleccionarTexto(caja);
+    caja->setFocus(Qt::OtherFocusReason);
+}
+
+void PanelLista::SituarFlecha()
+{
+    ColocarFlecha(picasc, m_grid, m_estado.ORDEN);
 }
 
 // The arrow stands in the heading of the ordering column, near its right edge.
-void PanelLista::SituarFlecha()
+void PanelLista::ColocarFlecha(QLabel* flecha, const cFlexGrid* grid, int orden)
 {
-    const int orden = m_estado.ORDEN;
     if (orden == kColumnaNombre || orden == kColumnaDni) {
-        const QRect celda = m_grid->Celda(0, orden);
-        picasc->move(m_grid->x() + celda.left() + celda.width() - TwipsAPixeles(kFlechaDerecha),
-                     m_grid->y() + TwipsAPixeles(kFlechaArriba));
+        const QRect celda = grid->Celda(0, orden);
+        flecha->move(grid->x() + celda.left() + celda.width() - TwipsAPixeles(kFlechaDerecha),
+                     grid->y() + TwipsAPixeles(kFlechaArriba));
     }
-    picasc->raise();
+    flecha->raise();
+}
+
+bool PanelLista::AbandonaBusqueda(const QEvent* evento)
+{
+    if (evento->type() != QEvent::FocusOut)
+        return false;
+    // Only leaving the box for another control of the program counts, as a lost focus;
+    // switching to another application or opening a menu does not.
+    const auto motivo = static_cast<const QFocusEvent*>(evento)->reason();
+    return motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason;
 }
 
 void PanelLista::PresentaBotones()
@@ -606,13 +614,8 @@ void PanelLista::FilaCambiada()
 
 bool PanelLista::eventFilter(QObject* objeto, QEvent* evento)
 {
-    if (objeto == txtBusqueda && evento->type() == QEvent::FocusOut) {
-        // Only leaving the box for another control of the program counts, as a lost focus;
-        // switching to another application or opening a menu does not.
-        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
-        if (motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason)
-            Proceso::Protegido([this] { BusquedaAbandonada(); });
-    }
+    if (objeto == txtBusqueda && AbandonaBusqueda(evento))
+        Proceso::Protegido([this] { BusquedaAbandonada(); });
     return QWidget::eventFilter(objeto, evento);
 }
 

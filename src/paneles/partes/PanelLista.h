@@ -86,6 +86,21 @@ public:
     // Closes the panel (and its frame in the main window).
     void Cerrar();
 
+    // The small type, row height and scroll bars of a list's grid; and the arrow that shows its
+    // ordering column. Shared by every panel that lists parties.
+    static void PrepararGrid(cFlexGrid* grid);
+    static QPixmap FlechaAscendente();
+    // The arrow placed in the heading of the ordering column (1 name, 2 number).
+    static void ColocarFlecha(QLabel* flecha, const cFlexGrid* grid, int orden);
+    // The search layout: the criteria typed under their headings in row 1 of an emptied grid,
+    // and the search box over the column under edit, with its text selected and the focus
+    // (hidden when no column is under edit).
+    static void MostrarBusqueda(cFlexGrid* grid, QLineEdit* caja, cUtilidadesGrid& utilidades,
+                                const std::optional<TablaCriterios>& criterios,
+                                const QString& seleccionActual);
+    // True when the event is a lost focus of the search box that counts as leaving it.
+    static bool AbandonaBusqueda(const QEvent* evento);
+
     // The row highlight and the grid's place for a page of rows.
     static constexpr QRgb kColorResaltado = 0x80C0FF;
     static constexpr int kFilasPorPagina = 15;
@@ -126,7 +141,6 @@ private:
     void IniciarLista();
     void LimpiarGrid();
     void RellenarGrid(const Arreglo2D& datos);
-    QString TextoCriterio(int i) const;
     QString TextoCriterios() const;
     void SituarFlecha();
     void PresentaBotones();

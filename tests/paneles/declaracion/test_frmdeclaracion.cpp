@@ -112,7 +112,7 @@ private slots:
         QVERIFY(!k("chkConPresentador")->isEnabled());
         QVERIFY(!b("cmdSujetoPasivo")->isEnabled());
         QVERIFY(!b("CmdPresentador")->isEnabled());
-        QVERIFY(!b("cmdImprimir")->isEnabled());  // no print panel in this program yet
+        QVERIFY(b("cmdImprimir")->isEnabled());
         // Cancel closes with no question and the commands come back.
         Clic(b("cmdCancelar"));
         QVERIFY(m_prog->paneles().isEmpty());

@@ -48,8 +48,8 @@ private slots:
         QTest::addColumn<QString>("valor");
         QTest::addColumn<QString>("mensaje");
         QTest::addColumn<int>("pestana");
-        QTest::newRow("marca larga") << "txtmarca" << QStringLiteral("SEAT IBIZA FR TDI")
-                                     << QStringLiteral("La casilla Marca no puede tener más de 15 caracteres")
+        QTest::newRow("marca larga") << "txtmarca" << QStringLiteral("SEAT IBIZA FR TDI 2.0 A")
+                                     << QStringLiteral("La casilla Marca no puede tener más de 20 caracteres")
                                      << kSinPestana;
         QTest::newRow("referencia con NUL") << "txtreferencia" << QString(kNul) + QStringLiteral("R1")
                                             << QStringLiteral("La casilla Referencia contiene caracteres que no se pueden guardar")

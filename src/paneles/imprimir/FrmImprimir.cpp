@@ -1,0 +1,379 @@
+#include "paneles/imprimir/FrmImprimir.h"
+
+#include "catalogo/Catalogo.h"
+#include "paneles/dialogos/DialogoFichero.h"
+#include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/Ventanas.h"
+#include "paneles/imprimir/ImpresoraSistema.h"
+#include "paneles/imprimir/cSuperficiePdf.h"
+#include "paneles/imprimir/cSuperficieVista.h"
+#include "plataforma/General.h"
+#include "plataforma/Proceso.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "registros/imprimir/CopiasImpresas.h"
+#include "registros/imprimir/cImOf.h"
+#include "registros/partes/cPreDatos.h"
+#include "valores/cFecha.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QDate>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPageSize>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+namespace {
+// The earliest date of presentation the form accepts.
+constexpr int32_t kFechaMinima = 20031201;
+
+// The hourglass while the copies are drawn, the arrow again however the drawing ends.
+class CursorEspera {
+public:
+    CursorEspera() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~CursorEspera() { QApplication::restoreOverrideCursor(); }
+    CursorEspera(const CursorEspera&) = delete;
+    CursorEspera& operator=(const CursorEspera&) = delete;
+};
+
+bool esCastellano() { return OffsetIdioma == 0; }
+
+QRadioButton* opcion(QButtonGroup* grupo, int elemento)
+{
+    return static_cast<QRadioButton*>(grupo->button(elemento));
+}
+}
+
+FrmImprimir* FrmImprimir::Abrir()
+{
+    auto* panel = new FrmImprimir;
+    AbrirPanel(panel);
+    return panel;
+}
+
+FrmImprimir::FrmImprimir(QWidget* parent) : QWidget(parent)
+{
+    setObjectName(QStringLiteral("FrmImprimir"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    crearControles();
+    conectar();
+    // When it opens: captions, then the options of this printing.
+    Anadir_captions();
+    ValoresIniciales();
+}
+
+void FrmImprimir::crearControles()
+{
+    const auto boton = [this](const char* nombre) {
+        auto* b = new QPushButton(this);
+        b->setObjectName(QLatin1String(nombre));
+        b->setAutoDefault(false);
+        return b;
+    };
+    const auto grupo = [this](const char* marco, const char* nombre, QGroupBox*& caja) {
+        caja = new QGroupBox(this);
+        caja->setObjectName(QLatin1String(marco));
+        auto* g = new QButtonGroup(caja);
+        g->setObjectName(QLatin1String(nombre));
+        auto* filas = new QVBoxLayout(caja);
+        for (int i = 0; i < 2; ++i) {
+            auto* o = new QRadioButton(caja);
+            o->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(nombre)).arg(i));
+            g->addButton(o, i);
+            filas->addWidget(o);
+        }
+        return g;
+    };
+    optTipoImpreso = grupo("frameTipoImpreso", "optTipoImpreso", frameTipoImpreso);
+    optPresentador = grupo("framePresentador", "optPresentador", framePresentador);
+    const auto caja = [this](const char* nombre) {
+        auto* c = new QCheckBox(this);
+        c->setObjectName(QLatin1String(nombre));
+        return c;
+    };
+    chkCopiaBanco = caja("chkCopiaBanco");
+    chkCopiaAdministracion = caja("chkCopiaAdministracion");
+    chkCopiaInteresado = caja("chkCopiaInteresado");
+    chkCopiaInformatica = caja("chkCopiaInformatica");
+    lblFechaPresentacion = new QLabel(this);
+    lblFechaPresentacion->setObjectName(QStringLiteral("lblFechaPresentacion"));
+    txtFechaPresentacion = new QLineEdit(this);
+    txtFechaPresentacion->setObjectName(QStringLiteral("txtFechaPresentacion"));
+    lblFechaPresentacion->setBuddy(txtFechaPresentacion);
+    cmdAceptar = boton("cmdAceptar");
+    cmdCancelar = boton("cmdCancelar");
+    btnOpcionesImpresora = boton("btnOpcionesImpresora");
+    cmdVistaPrevia = boton("cmdVistaPrevia");
+    cmdPdf = boton("cmdPdf");
+
+    auto* opciones = new QHBoxLayout;
+    opciones->addWidget(frameTipoImpreso);
+    opciones->addWidget(framePresentador);
+    auto* copias = new QGridLayout;
+    copias->addWidget(chkCopiaInformatica, 0, 0);
+    copias->addWidget(chkCopiaInteresado, 0, 1);
+    copias->addWidget(chkCopiaAdministracion, 1, 0);
+    copias->addWidget(chkCopiaBanco, 1, 1);
+    auto* fecha = new QHBoxLayout;
+    fecha->addWidget(lblFechaPresentacion);
+    fecha->addWidget(txtFechaPresentacion);
+    fecha->addStretch();
+    auto* botones = new QHBoxLayout;
+    botones->addWidget(btnOpcionesImpresora);
+    botones->addWidget(cmdVistaPrevia);
+    botones->addWidget(cmdPdf);
+    botones->addStretch();
+    botones->addWidget(cmdAceptar);
+    botones->addWidget(cmdCancelar);
+    auto* todo = new QVBoxLayout(this);
+    todo->addLayout(opciones);
+    todo->addLayout(copias);
+    todo->addLayout(fecha);
+    todo->addLayout(botones);
+}
+
+void FrmImprimir::conectar()
+{
+    const auto protegido = [this](auto accion) {
+        return [this, accion] { Proceso::Protegido([this, accion] { (this->*accion)(); }); };
+    };
+    connect(optPresentador, &QButtonGroup::idToggled, this, [this](int id, bool marcado) {
+        if (marcado)
+            Proceso::Protegido([&] { alElegirPresentador(id); });
+    });
+    connect(optTipoImpreso, &QButtonGroup::idToggled, this, [this](int id, bool marcado) {
+        if (marcado)
+            Proceso::Protegido([&] { alElegirTipo(id); });
+    });
+    cImOf& o = ImOf();
+    const std::pair<QCheckBox*, QString*> copias[] = {{chkCopiaBanco, &o.COPIABAN},
+                                                       {chkCopiaAdministracion, &o.COPIAADM},
+                                                       {chkCopiaInteresado, &o.COPIAINT},
+                                                       {chkCopiaInformatica, &o.COPIAINF}};
+    for (const auto& par : copias) {
+        QCheckBox* c = par.first;
+        QString* propiedad = par.second;
+        connect(c, &QCheckBox::toggled, this, [this, c, propiedad] {
+            Proceso::Protegido([&] { alMarcarCopia(c, *propiedad); });
+        });
+    }
+    connect(cmdAceptar, &QPushButton::clicked, this, protegido(&FrmImprimir::Aceptar));
+    connect(cmdCancelar, &QPushButton::clicked, this, &QWidget::close);
+    connect(btnOpcionesImpresora, &QPushButton::clicked, this,
+            protegido(&FrmImprimir::OpcionesImpresora));
+    connect(cmdVistaPrevia, &QPushButton::clicked, this, protegido(&FrmImprimir::VistaPrevia));
+    connect(cmdPdf, &QPushButton::clicked, this, protegido(&FrmImprimir::GuardarPdf));
+}
+
+void FrmImprimir::Anadir_captions()
+{
+    setWindowTitle(Texto(53));
+    frameTipoImpreso->setTitle(Texto(186));
+    opcion(optTipoImpreso, 0)->setText(Texto(187));
+    opcion(optTipoImpreso, 1)->setText(Texto(188));
+    framePresentador->setTitle(Texto(189));
+    opcion(optPresentador, 0)->setText(Texto(129));
+    opcion(optPresentador, 1)->setText(Texto(190));
+    chkCopiaBanco->setText(Texto(182));
+    chkCopiaAdministracion->setText(Texto(183));
+    chkCopiaInteresado->setText(Texto(184));
+    chkCopiaInformatica->setText(Texto(185));
+    lblFechaPresentacion->setText(Texto(363));
+    cmdAceptar->setText(Texto(6));
+    cmdAceptar->setToolTip(Texto(53));
+    cmdCancelar->setText(Texto(4));
+    cmdCancelar->setToolTip(Texto(57));
+    btnOpcionesImpresora->setText(Texto(181));
+    btnOpcionesImpresora->setToolTip(
+        TextoSegunIdioma(QStringLiteral("Opciones impresora"), QStringLiteral("Inprimagailuaren aukerak")));
+    cmdVistaPrevia->setText(TextoSegunIdioma(QStringLiteral("Vista previa"), QStringLiteral("Aurrebista")));
+    cmdPdf->setText(QStringLiteral("PDF"));
+    cmdPdf->setToolTip(TextoSegunIdioma(QStringLiteral("Guardar las copias en un fichero PDF"),
+                                        QStringLiteral("Aleak PDF fitxategi batean gorde")));
+}
+
+void FrmImprimir::ValoresIniciales()
+{
+    cImOf& o = ImOf();
+    CargarDatosPresentador();
+    o.TIPOIMP = QStringLiteral("O");
+    o.COPIAINF = o.COPIAINT = o.COPIAADM = o.COPIABAN = QStringLiteral("X");
+    // The date box follows the language: day first in Spanish, year first in Basque.
+    const bool castellano = esCastellano();
+    txtFechaPresentacion->setInputMask(castellano ? QStringLiteral("99/99/9999")
+                                                  : QStringLiteral("9999/99/99"));
+    txtFechaPresentacion->setText(QDate::currentDate().toString(
+        castellano ? QStringLiteral("dd/MM/yyyy") : QStringLiteral("yyyy/MM/dd")));
+    RefrescarOpciones();
+}
+
+void FrmImprimir::CargarDatosPresentador()
+{
+    const int32_t cspr = DecDatos().CSPR;
+    if (cspr == 0) {
+        // PreDatos() stays as it is: the presenter block is never filled without one.
+        ImOf().CONPRESENTADOR.clear();
+        return;
+    }
+    ImOf().CONPRESENTADOR = QStringLiteral("S");
+    PreDatos().CSPR = cspr;
+    PreDatos().CargarPresentador(cspr);
+}
+
+void FrmImprimir::RefrescarOpciones()
+{
+    Cargado = false;
+    const cImOf& o = ImOf();
+    const bool hayPresentador = DecDatos().CSPR != 0;
+    opcion(optPresentador, 0)->setEnabled(hayPresentador);
+    opcion(optPresentador, 1)->setEnabled(hayPresentador);
+    opcion(optPresentador, o.CONPRESENTADOR == QLatin1String("S") ? 0 : 1)->setChecked(true);
+    const bool oficial = o.TIPOIMP == QLatin1String("O");
+    opcion(optTipoImpreso, oficial ? 0 : 1)->setChecked(true);
+    const std::pair<QCheckBox*, const QString*> copias[] = {{chkCopiaBanco, &o.COPIABAN},
+                                                             {chkCopiaAdministracion, &o.COPIAADM},
+                                                             {chkCopiaInteresado, &o.COPIAINT},
+                                                             {chkCopiaInformatica, &o.COPIAINF}};
+    for (const auto& [c, propiedad] : copias) {
+        c->setEnabled(oficial);
+        c->setChecked(*propiedad == QLatin1String("X"));
+    }
+    Cargado = true;
+}
+
+void FrmImprimir::alElegirPresentador(int elemento)
+{
+    if (!Cargado)
+        return;
+    ImOf().CONPRESENTADOR = elemento == 0 ? QStringLiteral("S") : QString();
+    RefrescarOpciones();
+}
+
+void FrmImprimir::alElegirTipo(int elemento)
+{
+    if (!Cargado)
+        return;
+    cImOf& o = ImOf();
+    // Back to official ticks every copy again, whatever had been cleared.
+    o.TIPOIMP = elemento == 0 ? QStringLiteral("O") : QStringLiteral("B");
+    const QString marca = elemento == 0 ? QStringLiteral("X") : QString();
+    o.COPIAINF = o.COPIAINT = o.COPIAADM = o.COPIABAN = marca;
+    RefrescarOpciones();
+}
+
+void FrmImprimir::alMarcarCopia(QCheckBox* caja, QString& propiedad)
+{
+    if (!Cargado)
+        return;
+    propiedad = caja->isChecked() ? QStringLiteral("X") : QString();
+    RefrescarOpciones();
+}
+
+bool FrmImprimir::ValidarFechaPresentacion()
+{
+    cFecha& fecha = Fecha();
+    const QString texto = txtFechaPresentacion->text();
+    if (!fecha.EsFecha(texto)) {
+        Mensaje(Texto(327), vb::OKOnly | vb::Exclamation, Texto(131));
+        return true;
+    }
+    if (fecha.StringToLong(texto) < kFechaMinima) {
+        const QString limite = fecha.LongToString(kFechaMinima);
+        Mensaje(TextoSegunIdioma(
+                    QStringLiteral("La Fecha de presentación no puede ser anterior al ") + limite,
+                    QStringLiteral("Aurkezpen data ezin da ") + limite +
+                        QStringLiteral(" baino lehenagokoa izan")),
+                vb::OKOnly | vb::Exclamation, Texto(131));
+        return true;
+    }
+    ImOf().FECHAPRE = fecha.StringToLong(texto);
+    return false;
+}
+
+bool FrmImprimir::conPresentador() const { return opcion(optPresentador, 0)->isChecked(); }
+
+void FrmImprimir::Aceptar()
+{
+    if (ImpresoraSistema::NumeroImpresoras() == 0) {
+        Mensaje(Texto(191), vb::OKOnly | vb::Information, windowTitle());
+        return;
+    }
+    if (ValidarFechaPresentacion())
+        return;
+    {
+        const CursorEspera espera;
+        // Each copy ends its own document on the printer's surface.
+        ImpresoraSistema::Imprimir(
+            [this](cSuperficiePagina& p) { ImprimirCopias(p, conPresentador()); });
+    }
+    close();
+}
+
+void FrmImprimir::VistaPrevia()
+{
+    if (ValidarFechaPresentacion())
+        return;
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setPageSize(QPageSize(QPageSize::A4));
+    QPrintPreviewDialog vista(&impresora, this);
+    vista.setObjectName(QStringLiteral("VistaPrevia"));
+    vista.setWindowTitle(cmdVistaPrevia->text());
+    connect(&vista, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* destino) {
+        Proceso::Protegido([&] {
+            cSuperficieVista superficie(*destino);
+            ImprimirCopias(superficie, conPresentador());
+        });
+    });
+    ImpresoraSistema::MostrarVista(vista);
+}
+
+void FrmImprimir::GuardarPdf()
+{
+    if (ValidarFechaPresentacion())
+        return;
+    const QString fichero = DialogoGuardarFichero(
+        this, TextoSegunIdioma(QStringLiteral("Guardar como PDF"), QStringLiteral("PDF gisa gorde")),
+        QStringLiteral("747_%1.pdf").arg(ImOf().CSDE), QStringLiteral("PDF (*.pdf)"));
+    if (fichero.isEmpty())
+        return;
+    // The file appears whole or not at all.
+    QSaveFile destino(fichero);
+    bool bien = destino.open(QIODevice::WriteOnly);
+    int hojas = 0;
+    if (bien) {
+        const CursorEspera espera;
+        cSuperficiePdf pdf(&destino);
+        hojas = ImprimirCopias(pdf, conPresentador());
+        bien = pdf.Terminar();
+    }
+    // No copy chosen: there is nothing to write, and no empty file is left behind.
+    if (bien && hojas == 0) {
+        destino.cancelWriting();
+        return;
+    }
+    if (!bien || !destino.commit())
+        Mensaje(TextoSegunIdioma(QStringLiteral("No se ha podido escribir el fichero ") + fichero,
+                                 QStringLiteral("Ezin izan da fitxategia idatzi: ") + fichero),
+                vb::OKOnly | vb::Exclamation, windowTitle());
+}
+
+void FrmImprimir::OpcionesImpresora() { ImpresoraSistema::Dialogo(this); }
+
+void FrmImprimir::closeEvent(QCloseEvent* e)
+{
+    QWidget::closeEvent(e);
+    if (!m_cerrado) {
+        m_cerrado = true;
+        emit cerrado();
+    }
+}

@@ -1,0 +1,69 @@
+#pragma once
+// The panel that prints one stored return on form 747: the kind of sheet (official or draft),
+// with or without the presenter, which copies, and the date of presentation. Aceptar prints
+// the copies in their fixed order, each a print document of its own, and closes; "Vista
+// previa" shows exactly those copies and "PDF" writes them to a file. The options live in
+// ImOf(); the data come from DecDatos(), Operacion() and PreDatos().
+#include <QWidget>
+
+class QButtonGroup;
+class QCheckBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+class FrmImprimir : public QWidget {
+    Q_OBJECT
+public:
+    explicit FrmImprimir(QWidget* parent = nullptr);
+    // Opens the panel as a child of the main window, with ImOf().CSDE and ENTRADA already set.
+    static FrmImprimir* Abrir();
+
+    void Anadir_captions();
+
+signals:
+    // The panel has closed, whichever way: the navigator goes back as ImOf().ENTRADA says.
+    void cerrado();
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void crearControles();
+    void conectar();
+    // True when the date of presentation is bad (the message has been shown).
+    bool ValidarFechaPresentacion();
+    void ValoresIniciales();
+    void CargarDatosPresentador();
+    void RefrescarOpciones();
+
+    void alElegirPresentador(int elemento);
+    void alElegirTipo(int elemento);
+    void alMarcarCopia(QCheckBox* caja, QString& propiedad);
+    void Aceptar();
+    void VistaPrevia();
+    void GuardarPdf();
+    void OpcionesImpresora();
+    bool conPresentador() const;
+
+    bool Cargado = false;
+    bool m_cerrado = false;
+
+    QGroupBox* frameTipoImpreso = nullptr;
+    QButtonGroup* optTipoImpreso = nullptr;
+    QGroupBox* framePresentador = nullptr;
+    QButtonGroup* optPresentador = nullptr;
+    QCheckBox* chkCopiaBanco = nullptr;
+    QCheckBox* chkCopiaAdministracion = nullptr;
+    QCheckBox* chkCopiaInteresado = nullptr;
+    QCheckBox* chkCopiaInformatica = nullptr;
+    QLabel* lblFechaPresentacion = nullptr;
+    QLineEdit* txtFechaPresentacion = nullptr;
+    QPushButton* cmdAceptar = nullptr;
+    QPushButton* cmdCancelar = nullptr;
+    QPushButton* btnOpcionesImpresora = nullptr;
+    QPushButton* cmdVistaPrevia = nullptr;
+    QPushButton* cmdPdf = nullptr;
+};

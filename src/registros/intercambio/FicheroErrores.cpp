@@ -1,0 +1,71 @@
+#include "registros/intercambio/FicheroErrores.h"
+
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
+#include "registros/intercambio/Cp1252.h"
+#include "registros/intercambio/LineaIntercambio.h"
+
+namespace {
+
+constexpr int kIdLinea = 265;
+constexpr int kIdNoImportados = 266;
+constexpr int kIdDniCif = 26;
+constexpr int kIdFormato = 270;
+const QString kSangria(9, QLatin1Char(' '));
+
+// The text as one line of the file. Every text of the catalogue is in the code page; a
+// character that were not would be written as "?", since the file is only read by a person.
+QByteArray Linea(const QString& texto)
+{
+    std::optional<QByteArray> bytes = Cp1252::Codificar(texto);
+    if (!bytes) {
+        QString limpio = texto;
+        for (QChar& c : limpio)
+            if (!Cp1252::Representable(QString(c)))
+                c = QLatin1Char('?');
+        bytes = Cp1252::Codificar(limpio);
+    }
+    return *bytes + "\r\n";
+}
+
+}  // namespace
+
+namespace FicheroErrores {
+
+QByteArray LineaCorta(int linea)
+{
+    return Linea(Texto(kIdLinea) + QString::number(linea) + Texto(kIdNoImportados));
+}
+
+int NumeroErrores(const Arreglo2D& errores)
+{
+    // The upper bound of the second dimension is the number of errors (the last element is
+    // a spare).
+    return errores.isEmpty() ? 0 : std::max<int>(0, int(errores.first().size()) - 1);
+}
+
+QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni)
+{
+    QString etiqueta = Texto(kIdDniCif);
+    etiqueta.chop(1);
+    const QString cabeza = Texto(kIdLinea) + QString::number(linea) + QStringLiteral(" - ")
+        + etiqueta + QLatin1Char(' ') + dni + QStringLiteral(": ");
+    QByteArray lineas;
+    const int n = NumeroErrores(errores);
+    for (int k = 0; k < n; ++k) {
+        const int id = cConDatos::IdMensajeImportar(errores.first().at(k).toInt());
+        lineas += Linea(cabeza + (id != 0 ? Texto(id) : QString()));
+    }
+    return lineas;
+}
+
+QByteArray Formato()
+{
+    QByteArray texto = Linea(QString()) + Linea(Texto(kIdFormato));
+    for (int i = 0; i < kCamposIntercambio; ++i)
+        texto += Linea(kSangria
+                       + QString::fromLatin1(Definicion(static_cast<CampoIntercambio>(i)).formato));
+    return texto;
+}
+
+}  // namespace FicheroErrores

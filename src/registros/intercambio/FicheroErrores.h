@@ -1,0 +1,22 @@
+#pragma once
+// The lines of the error file of an import, as bytes ready to be written (Windows-1252, CR LF).
+// The file is meant for a person who corrects the exchange file with an editor: one line for
+// each error of each refused line, in file order, and, after them, the format of the line.
+#include "servicios/Arreglos.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace FicheroErrores {
+
+// A line shorter than 176 characters: "Linea 7No se han importado todos los datos".
+QByteArray LineaCorta(int linea);
+// One line per error of `errores` (the array of ValidarDatosImportar): "Linea 7 - DNI-CIF
+// " the DNI as read, blanks kept, ": " and the message of the code (none for an unknown code).
+QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni);
+// An empty line, "FORMATO:" in the language in use, and the 19 fields, always in Spanish.
+QByteArray Formato();
+// The number of errors of an array of ValidarDatosImportar.
+int NumeroErrores(const Arreglo2D& errores);
+
+}  // namespace FicheroErrores

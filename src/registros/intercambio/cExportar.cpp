@@ -1,0 +1,331 @@
+#include "registros/intercambio/cExportar.h"
+
+#include "plataforma/Estado.h"
+#include "plataforma/General.h"
+#include "valores/Val.h"
+#include "registros/partes/CriteriosLista.h"
+#include "registros/intercambio/Cp1252.h"
+#include "servicios/Almacen.h"
+#include "servicios/PosicionesImportar.h"
+#include "servicios/cContribSvr.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+using C = CampoIntercambio;
+
+// The column of the store's answer that holds each field of the line.
+constexpr int kColumnaDe[kCamposIntercambio] = {
+    PosContribuyente::TIPODNI,  PosContribuyente::DNIC,
+    PosContribuyente::NOMBREC,  PosContribuyente::VIAC,
+    PosContribuyente::DOMICILIOC, PosContribuyente::NUMEROC,
+    PosContribuyente::LETRAC,   PosContribuyente::ESCALERAC,
+    PosContribuyente::PISOC,    PosContribuyente::MANOC,
+    PosContribuyente::TIPODOMI, PosContribuyente::PAIS,
+    PosContribuyente::CODPROVC, PosContribuyente::NOMPROVC,
+    PosContribuyente::CODPOSC,  PosContribuyente::CODMUNC,
+    PosContribuyente::NOMMUNC,  PosContribuyente::NUMSP,
+    PosContribuyente::NUMTR,
+};
+
+// A stored number as the file writes it; blank is 0, and a value that is no whole number
+// gives -1, which the line refuses rather than writing a wrong number.
+int64_t Numero(const QVariant& v)
+{
+    const QString t = v.toString().trimmed();
+    if (t.isEmpty())
+        return 0;
+    bool ok = false;
+    const double d = t.toDouble(&ok);
+    if (!ok || d < 0 || d != double(int64_t(d)))
+        return -1;
+    return int64_t(d);
+}
+
+// A number of 0 (a non-official number must have a value).
+bool ValorCero(const QString& dni)
+{
+    const QString t = dni.trimmed();
+    if (t.isEmpty())
+        return false;
+    for (const QChar c : t)
+        if (!c.isDigit() && c != QLatin1Char('.') && c != QLatin1Char(','))
+            return false;
+    return Val(t) == 0;
+}
+
+}  // namespace
+
+void cExportar::Iniciar()
+{
+    ORDEN = 1;
+    BUSQUEDA = QStringLiteral("N");
+    CSCO = 0;
+    CSCOEXP = 0;
+    FICHEROAEXPORTAR = CarpetaDatos() + QStringLiteral("/CONTRI.txt");
+    TablaContriExpCLEAR();
+    TablaContriCLEAR();
+    SELECCIONACTUAL = QStringLiteral("0");
+    TABLASELECCION.reset();
+    lblTitulo.clear();
+    lblayuda.clear();
+    lblResultado1.clear();
+    LblResultado2.clear();
+    NUMCONTRISEL = 0;
+    NUMCONTRIEXP = 0;
+}
+
+void cExportar::COPIARELEMENTOENTRETABLAS(int indice)
+{
+    TablaContriExpAÑADIR(TablaContriELEMENTO(indice));
+}
+
+void cExportar::TablaContriCLEAR()
+{
+    m_contri.clear();
+}
+
+void cExportar::TablaContriExpCLEAR()
+{
+    m_contriExp.clear();
+    m_codigosExp.clear();
+    NUMCONTRIEXP = 0;
+}
+
+void cExportar::TablaContriAÑADIR(const Arreglo2D& datos, int fila)
+{
+    RegistroContri r;
+    r.CSCO = datos.at(PosContribuyente::CSCO).at(fila).toInt();
+    for (int i = 0; i < kCamposIntercambio; ++i) {
+        const QVariant& v = datos.at(kColumnaDe[i]).at(fila);
+        const DefinicionCampo& d = Definicion(static_cast<C>(i));
+        if (d.numero)
+            r.valores.numeros[i] = Numero(v);
+        else
+            r.valores.textos[i] = FormatoTexto(v.toString().left(d.ancho), d.ancho);
+    }
+    m_contri.push_back(std::move(r));
+}
+
+void cExportar::TablaContriExpAÑADIR(const RegistroContri& registro)
+{
+    m_contriExp.push_back(registro);
+    m_codigosExp.insert(registro.CSCO);
+    NUMCONTRIEXP = int32_t(m_contriExp.size());
+}
+
+void cExportar::TablaContriBORRAR(int indice)
+{
+    m_contri.erase(m_contri.begin() + (indice - 1));
+}
+
+void cExportar::TablaContriExpBORRAR(int indice)
+{
+    m_codigosExp.erase(m_contriExp.at(size_t(indice - 1)).CSCO);
+    m_contriExp.erase(m_contriExp.begin() + (indice - 1));
+    NUMCONTRIEXP = int32_t(m_contriExp.size());
+}
+
+bool cExportar::TablaContriPERTENECE(int32_t codigo) const
+{
+    return IndiceEnTablaContri(codigo) != 0;
+}
+
+bool cExportar::TablaContriExpPERTENECE(int32_t codigo) const
+{
+    return m_codigosExp.count(codigo) != 0;
+}
+
+const RegistroContri& cExportar::TablaContriELEMENTO(int indice) const
+{
+    return m_contri.at(size_t(indice - 1));
+}
+
+const RegistroContri& cExportar::TablaContriExpELEMENTO(int indice) const
+{
+    return m_contriExp.at(size_t(indice - 1));
+}
+
+int cExportar::IndiceEnTablaContri(int32_t codigo) const
+{
+    for (size_t i = 0; i < m_contri.size(); ++i)
+        if (m_contri[i].CSCO == codigo)
+            return int(i) + 1;
+    return 0;
+}
+
+bool cExportar::HayCriterios() const
+{
+    return CriteriosLista::Hay(TABLASELECCION);
+}
+
+int32_t cExportar::CargarFlxDeclaraciones()
+{
+    cContribSvr svr = Almacen<cContribSvr>();
+    Arreglo2D datos;
+    NUMCONTRISEL = svr.dameResultadoBusquedaTodo(CriteriosLista::Arreglo3(TABLASELECCION), datos,
+                                                 ORDEN);
+    TablaContriCLEAR();
+    m_contri.reserve(size_t(std::max(0, NUMCONTRISEL)));
+    for (int fila = 0; fila < NUMCONTRISEL; ++fila)
+        TablaContriAÑADIR(datos, fila);
+    return NUMCONTRISEL;
+}
+
+void cExportar::AnotarBusqueda(const QString& texto)
+{
+    const int columna = CriteriosLista::ColumnaDeBusqueda(SELECCIONACTUAL);
+    if (columna != 0) {
+        AnotarCriterio(TABLASELECCION, SELECCIONACTUAL, texto);
+        ORDEN = static_cast<uint8_t>(columna);
+    }
+    SELECCIONACTUAL = QStringLiteral("0");
+}
+
+void cExportar::CambiarBusqueda()
+{
+    if (BUSQUEDA == QLatin1String("N")) {
+        BUSQUEDA = QStringLiteral("B");
+        SELECCIONACTUAL = QStringLiteral("0");
+        TABLASELECCION.reset();
+        CSCO = 0;
+        CSCOEXP = 0;
+    } else {
+        BUSQUEDA = QStringLiteral("N");
+        SELECCIONACTUAL = QStringLiteral("0");
+    }
+}
+
+void cExportar::Todos()
+{
+    BUSQUEDA = QStringLiteral("N");
+    SELECCIONACTUAL = QStringLiteral("0");
+    TABLASELECCION.reset();
+    ORDEN = 1;
+    CSCO = 0;
+}
+
+bool cExportar::OrdenarPor(int columna)
+{
+    if (columna != 1 && columna != 2)
+        return false;
+    ORDEN = static_cast<uint8_t>(columna);
+    CSCO = 0;
+    return true;
+}
+
+bool cExportar::ElegirColumnaBusqueda(int columna)
+{
+    if (columna != 1 && columna != 2)
+        return false;
+    SELECCIONACTUAL = QString::number(columna);
+    return true;
+}
+
+bool cExportar::SeleccionarUno()
+{
+    const int indice = IndiceEnTablaContri(CSCO);
+    if (indice == 0 || TablaContriExpPERTENECE(CSCO))
+        return false;
+    COPIARELEMENTOENTRETABLAS(indice);
+    CSCOEXP = CSCO;
+    return true;
+}
+
+void cExportar::SeleccionarTodos()
+{
+    m_contriExp.reserve(m_contriExp.size() + m_contri.size());
+    for (int i = 1; i <= TablaContriCOUNT(); ++i) {
+        const int32_t codigo = m_contri[size_t(i - 1)].CSCO;
+        if (!TablaContriExpPERTENECE(codigo)) {
+            COPIARELEMENTOENTRETABLAS(i);
+            CSCOEXP = codigo;
+        }
+    }
+}
+
+void cExportar::DeseleccionarUno()
+{
+    for (int i = 1; i <= TablaContriExpCOUNT(); ++i) {
+        if (m_contriExp[size_t(i - 1)].CSCO == CSCOEXP) {
+            TablaContriExpBORRAR(i);
+            return;
+        }
+    }
+}
+
+void cExportar::DeseleccionarTodos()
+{
+    TablaContriExpCLEAR();
+    CSCOEXP = 0;
+}
+
+AvisoIntercambio cExportar::ComprobarIdentidades() const
+{
+    cContribSvr svr;
+    QStringList erroneos;
+    QStringList noRepresentables;
+    for (const RegistroContri& r : m_contriExp) {
+        const QString dni = r.texto(C::DNI).trimmed();
+        if (r.texto(C::TIPODNI) == QLatin1String("O") ? !svr.ValidarDniOficial(dni)
+                                                       : ValorCero(dni))
+            erroneos << dni;
+        else if (!ComponerLinea(r.valores))
+            noRepresentables << dni;
+    }
+    if (!erroneos.isEmpty())
+        return {MotivoAviso::NifErroneos, erroneos};
+    if (!noRepresentables.isEmpty())
+        return {MotivoAviso::NoRepresentables, noRepresentables};
+    return {};
+}
+
+AvisoIntercambio cExportar::ComprobarDestino() const
+{
+    const QFileInfo info(FICHEROAEXPORTAR);
+    if (FICHEROAEXPORTAR.trimmed().isEmpty() || info.fileName().isEmpty() || info.isDir()
+        || !info.absoluteDir().exists())
+        return {MotivoAviso::NoHayDisquete, {}};
+    return {};
+}
+
+bool cExportar::DestinoExiste() const
+{
+    return QFileInfo::exists(FICHEROAEXPORTAR);
+}
+
+AvisoIntercambio cExportar::EscribirFichero() const
+{
+    QSaveFile fichero(FICHEROAEXPORTAR);
+    if (!fichero.open(QIODevice::WriteOnly))
+        return FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
+    QByteArray bloque;
+    bloque.reserve(1 << 20);
+    for (const RegistroContri& r : m_contriExp) {
+        const std::optional<QByteArray> linea = ComponerLinea(r.valores);
+        if (!linea) {
+            fichero.cancelWriting();
+            return {MotivoAviso::NoRepresentables, {r.texto(C::DNI).trimmed()}};
+        }
+        bloque += *linea;
+        bloque += "\r\n";
+        if (bloque.size() >= (1 << 20)) {
+            fichero.write(bloque);
+            bloque.clear();
+        }
+    }
+    fichero.write(bloque);
+    if (!fichero.commit())
+        return FalloIntercambio::Aviso(fichero.error() == QFileDevice::ResourceError
+                                           ? FalloIntercambio::kDiscoLleno
+                                           : FalloIntercambio::kAccesoDenegado);
+    return {};
+}
+
+cExportar& Exportar()
+{
+    return Estado().de<cExportar>();
+}

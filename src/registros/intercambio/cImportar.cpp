@@ -1,0 +1,290 @@
+#include "registros/intercambio/cImportar.h"
+
+#include "plataforma/Fallo.h"
+#include "plataforma/Estado.h"
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
+#include "registros/partes/cConDatos.h"
+#include "registros/intercambio/FicheroErrores.h"
+#include "registros/intercambio/LectorLineas.h"
+#include "registros/intercambio/LineaIntercambio.h"
+#include "servicios/LoteContribuyentes.h"
+#include "servicios/PosicionesImportar.h"
+#include "servicios/cContribSvr.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <limits>
+
+namespace {
+
+using C = CampoIntercambio;
+
+// A failure of the run, with the message that reports it.
+struct FalloEjecucion {
+    AvisoIntercambio aviso;
+};
+
+QString Ruta(const QString& fichero)
+{
+    const QFileInfo info(fichero);
+    const QString canonica = info.canonicalFilePath();
+    return canonica.isEmpty() ? info.absoluteFilePath() : canonica;
+}
+
+// The validation array of a line: its raw fields, blanks included.
+Arreglo ArregloValidacion(const LineaLeida& l)
+{
+    namespace P = PosImportar;
+    Arreglo a(P::Tamano);
+    a[P::TIPODNI] = l[C::TIPODNI];
+    a[P::DNIC] = l[C::DNI];
+    a[P::NOMBREC] = l[C::NOMBRE];
+    a[P::DOMICILIOC] = l[C::DOMICILIO];
+    a[P::TIPODOMI] = l[C::TIPODOMICILIO];
+    a[P::PAIS] = l[C::PAIS];
+    a[P::CODPROVC] = l[C::CODIGOPROVINCIA];
+    a[P::CODPOSC] = l[C::CODIGOPOSTAL];
+    a[P::NOMPROVC] = l[C::NOMBREPROVINCIA];
+    a[P::NOMMUNC] = l[C::NOMBREMUNICIPIO];
+    a[P::CODMUNC] = l[C::CODIGOMUNICIPIO];
+    a[P::NUMEROC] = l[C::NUMERO];
+    a[P::NUMSP] = l[C::NUMEROSUJETOPASIVO];
+    a[P::NUMTR] = l[C::NUMEROTRANSMITENTE];
+    a[P::VIAC] = l[C::SIGLAS];
+    return a;
+}
+
+// The save array of a line: the code found, then the 19 raw fields in file order, which is
+// the order of the store's save array.
+Arreglo ArregloGuardar(const LineaLeida& l, int32_t codigo)
+{
+    namespace P = PosContribuyente;
+    static_assert(P::TIPODNI + kCamposIntercambio == P::Tamano);
+    Arreglo a(P::Tamano);
+    a[P::CSCO] = codigo;
+    for (int i = 0; i < kCamposIntercambio; ++i)
+        a[P::TIPODNI + i] = l.campos[i];
+    return a;
+}
+
+}  // namespace
+
+// One run: the open files, the batch of saves, and the steps of one line.
+struct cImportar::Ejecucion {
+    cImportar& estado;
+    const Interlocutor& interlocutor;
+    std::unique_ptr<QFile> entrada;
+    std::unique_ptr<QFile> errores;
+    std::unique_ptr<cLoteContribuyentes> lote;
+
+    void Escribir(const QByteArray& bytes)
+    {
+        if (errores->write(bytes) != bytes.size())
+            throw FalloEjecucion{FalloIntercambio::Aviso(errores->error() == QFileDevice::ResourceError
+                                                             ? FalloIntercambio::kDiscoLleno
+                                                             : FalloIntercambio::kAccesoDenegado)};
+    }
+
+    // A short line, or one that fails validation, is refused: true when it was.
+    bool Refusada(const LineaLeida& l)
+    {
+        const int numero = estado.LineasLeidas;
+        if (l.corta) {
+            Escribir(FicheroErrores::LineaCorta(numero));
+            ++estado.NUMEROINC;
+            return true;
+        }
+        Arreglo2D fallos;
+        lote->ValidarDatosImportar(ArregloValidacion(l), fallos);
+        if (FicheroErrores::NumeroErrores(fallos) == 0)
+            return false;
+        Escribir(FicheroErrores::LineasErrores(fallos, numero, l[C::DNI]));
+        ++estado.NUMEROINC;
+        return true;
+    }
+
+    void Sustituir(const LineaLeida& l, int32_t codigo)
+    {
+        if (Refusada(l))
+            return;
+        lote->GuardarContribuyente(ArregloGuardar(l, codigo), true);
+        ++estado.NUMEROSUS;
+        ++estado.NUMEROIMP;
+    }
+
+    // A new contributor: the file's counters count only for a replaced one.
+    void Nuevo(const LineaLeida& l, bool sustituir)
+    {
+        if (Refusada(l))
+            return;
+        Arreglo a = ArregloGuardar(l, 0);
+        a[PosContribuyente::NUMSP] = 0;
+        a[PosContribuyente::NUMTR] = 0;
+        lote->GuardarContribuyente(a, sustituir);
+        ++estado.NUMEROIMP;
+    }
+
+    void Automatico(const LineaLeida& l, int32_t codigo)
+    {
+        if (codigo != 0)
+            Sustituir(l, codigo);
+        else
+            Nuevo(l, false);
+    }
+
+    void Linea(const QByteArray& bytes)
+    {
+        const LineaLeida l = CortarLinea(bytes);
+        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI]);
+        if (estado.AUTOMATICO == QLatin1String("X")) {
+            Automatico(l, codigo);
+        } else if (codigo == 0) {
+            Nuevo(l, false);
+        } else {
+            // Nobody is kept waiting for the store while the question stands.
+            lote->Confirmar();
+            if (interlocutor.sustituir && interlocutor.sustituir(l[C::DNI]))
+                Sustituir(l, codigo);
+            else
+                ++estado.NUMEROIGN;
+        }
+    }
+
+    void Leer()
+    {
+        const double estimado = double(entrada->size()) / kLargoLineaIntercambio;
+        LectorLineas lector(*entrada, kLargoLineaIntercambio);
+        QByteArray bytes;
+        while (lector.Siguiente(bytes)) {
+            if (estado.LineasLeidas == std::numeric_limits<int16_t>::max())
+                throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kDesbordamiento)};
+            ++estado.LineasLeidas;
+            Linea(bytes);
+            if (interlocutor.avance)
+                interlocutor.avance(estado.LineasLeidas, estimado, false);
+        }
+        if (lector.error())
+            throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado)};
+        if (interlocutor.avance)
+            interlocutor.avance(estado.LineasLeidas, estimado, true);
+    }
+};
+
+void cImportar::Iniciar()
+{
+    NUMEROIMP = 0;
+    NUMEROINC = 0;
+    NUMEROSUS = 0;
+    NUMEROIGN = 0;
+    LineasLeidas = 0;
+    AUTOMATICO.clear();
+    FICHEROAIMPORTAR = CarpetaDatos() + QStringLiteral("/CONTRI.txt");
+    FICHEROERRORES = CarpetaDatos() + QStringLiteral("/Erorres.txt");
+    TERMINADA.clear();
+}
+
+int16_t cImportar::ValidarDatosContribuyente(const Arreglo& datos) const
+{
+    return cContribSvr().ValidarDatosContribuyentes(datos);
+}
+
+QString cImportar::TextoPreguntaSustituir(const QString& dni)
+{
+    return TextoSegunIdioma(QStringLiteral("El contribuyente con DNI ") + dni
+                                + QStringLiteral(" ya existe."),
+                            dni + QStringLiteral(" zk.ko NA duen zergaduna lehenagotik dago."))
+        + QLatin1Char('\n') + Texto(269);
+}
+
+bool cImportar::Abierto(const QString& ruta) const
+{
+    for (const auto& f : m_dejadosAbiertos)
+        if (Ruta(f->fileName()) == ruta)
+            return true;
+    return false;
+}
+
+AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
+{
+    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr};
+    const QString rutaEntrada = Ruta(FICHEROAIMPORTAR);
+    const QString rutaErrores = Ruta(FICHEROERRORES);
+    try {
+        if (Abierto(rutaEntrada))
+            return {MotivoAviso::FicheroAbierto, {}};
+        run.entrada = std::make_unique<QFile>(FICHEROAIMPORTAR);
+        if (FICHEROAIMPORTAR.isEmpty() || !QFileInfo::exists(FICHEROAIMPORTAR))
+            return {MotivoAviso::NoExisteFichero, {}};
+        if (QFileInfo(FICHEROAIMPORTAR).isDir() || !run.entrada->open(QIODevice::ReadOnly))
+            return FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
+        // The error file is the exchange file itself, or one a failed run left open.
+        if (rutaErrores == rutaEntrada || Abierto(rutaErrores))
+            throw FalloEjecucion{{MotivoAviso::FicheroAbierto, {}}};
+        run.errores = std::make_unique<QFile>(FICHEROERRORES);
+        if (!run.errores->open(QIODevice::WriteOnly | QIODevice::Truncate))
+            throw FalloEjecucion{FalloIntercambio::Aviso(
+                QFileInfo(FICHEROERRORES).absoluteDir().exists()
+                    ? FalloIntercambio::kAccesoDenegado
+                    : FalloIntercambio::kRutaNoEncontrada)};
+        run.lote = std::make_unique<cLoteContribuyentes>(mdbmod, mdblec);
+        LineasLeidas = 0;
+        run.Leer();
+        run.lote->Confirmar();
+        run.lote.reset();
+        run.entrada->close();
+        if (NUMEROINC > 0) {
+            run.Escribir(FicheroErrores::Formato());
+            run.errores->close();
+        } else {
+            run.errores->close();
+            run.errores->remove();
+        }
+    } catch (const FalloEjecucion& f) {
+        return Fallar(run, f.aviso);
+    } catch (const cFallo& f) {
+        return Fallar(run, FalloIntercambio::Aviso(f.numero(), f.descripcion()));
+    }
+    TERMINADA = QStringLiteral("S");
+    return Cierre();
+}
+
+AvisoIntercambio cImportar::Fallar(Ejecucion& run, const AvisoIntercambio& aviso)
+{
+    // What was saved before the failure stays saved: the statement that failed changed
+    // nothing, and the saves before it are whole. A store that cannot commit them any more
+    // has rolled them back, which leaves it as the last committed batch had it.
+    if (run.lote) {
+        try {
+            run.lote->Confirmar();
+        } catch (const cFallo&) {
+        }
+        run.lote.reset();
+    }
+    // The files stay open, as they were when the run stopped; what was written of the error
+    // file is handed to the system, so that a person can read it.
+    if (run.errores && run.errores->isOpen())
+        run.errores->flush();
+    for (auto* f : {&run.entrada, &run.errores})
+        if (*f && (*f)->isOpen())
+            m_dejadosAbiertos.push_back(std::move(*f));
+    return aviso;
+}
+
+AvisoIntercambio cImportar::Cierre() const
+{
+    if (NUMEROINC != 0 && NUMEROINC == LineasLeidas)
+        return {MotivoAviso::TodosErroneos, {}};
+    if (NUMEROINC == 1)
+        return {MotivoAviso::UnErroneo, {QStringLiteral("1")}};
+    if (NUMEROINC > 1)
+        return {MotivoAviso::VariosErroneos, {QString::number(NUMEROINC)}};
+    if (NUMEROIMP > 0)
+        return {MotivoAviso::Importados, {}};
+    return {};
+}
+
+cImportar& Importar()
+{
+    return Estado().de<cImportar>();
+}

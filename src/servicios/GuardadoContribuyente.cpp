@@ -1,0 +1,128 @@
+#include "servicios/GuardadoContribuyente.h"
+
+#include "plataforma/Fallo.h"
+#include "servicios/ArreglosPartes.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/TextoGuardable.h"
+
+#include <limits>
+
+using namespace ArreglosPartes;
+namespace P = PosContribuyente;
+
+namespace {
+
+// The values of a save array in their stored form, in the order of Columnas().
+QVariantList filaGuardada(const Arreglo& a, const QString& org)
+{
+    const QString tipoDni = TextoGuardado(a, P::TIPODNI, 1, "TIPODNI", org);
+    const QString tipoDomi = TextoGuardado(a, P::TIPODOMI, 1, "TIPODOMI", org);
+    if (tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"))
+        throw cFallo(13, org, QStringLiteral("TIPODNI = '%1'").arg(tipoDni));
+    if (tipoDomi != QLatin1String("N") && tipoDomi != QLatin1String("E"))
+        throw cFallo(13, org, QStringLiteral("TIPODOMI = '%1'").arg(tipoDomi));
+    const bool extranjero = tipoDomi == QLatin1String("E");
+    // A national postal code has its five digits; a foreign one is kept as it was typed.
+    const QString cp = extranjero ? CifrasGuardadas(a, P::CODPOSC, 5, "CODPOSC", org)
+                                  : CodigoGuardado(a, P::CODPOSC, 5, "CODPOSC", org);
+    return {
+        tipoDni,
+        TextoGuardado(a, P::DNIC, 9, "DNIC", org),
+        TextoGuardado(a, P::NOMBREC, 40, "NOMBREC", org),
+        TextoGuardado(a, P::VIAC, 2, "VIAC", org),
+        TextoGuardado(a, P::DOMICILIOC, 20, "DOMICILIOC", org),
+        EnteroGuardado(a, P::NUMEROC, 99999, "NUMEROC", org),
+        TextoGuardado(a, P::LETRAC, 2, "LETRAC", org),
+        TextoGuardado(a, P::ESCALERAC, 2, "ESCALERAC", org),
+        TextoGuardado(a, P::PISOC, 2, "PISOC", org),
+        TextoGuardado(a, P::MANOC, 3, "MANOC", org),
+        tipoDomi,
+        TextoGuardado(a, P::PAIS, 20, "PAIS", org),
+        CodigoGuardado(a, P::CODPROVC, 2, "CODPROVC", org),
+        TextoGuardado(a, P::NOMPROVC, 20, "NOMPROVC", org),
+        cp,
+        CodigoGuardado(a, P::CODMUNC, 3, "CODMUNC", org),
+        TextoGuardado(a, P::NOMMUNC, 25, "NOMMUNC", org),
+    };
+}
+
+// The texts of a save array, as the store keeps them: the width of each column, the label that
+// names its field, the field, and for the number and the name, which must hold a value, the
+// record's own message for an empty one.
+constexpr ColumnaTexto kTextos[] = {
+    {P::DNIC, 9, 26, "txtdnic", 29},
+    {P::NOMBREC, 40, 27, "txtnombrec", 30},
+    {P::VIAC, 2, 13, "txtviac"},
+    {P::DOMICILIOC, 20, 19, "txtdomicilioc"},
+    {P::LETRAC, 2, 21, "txtletrac"},
+    {P::ESCALERAC, 2, 20, "txtescalerac"},
+    {P::PISOC, 2, 23, "txtpisoc"},
+    {P::MANOC, 3, 24, "txtmanoc"},
+    {P::PAIS, 20, 18, "txtpais"},
+    {P::CODPROVC, kAnchoDeCifras, 10, "txtcodprovc"},
+    {P::NOMPROVC, 20, 15, "txtnomprovc"},
+    {P::CODPOSC, kAnchoDeCifras, 25, "txtcodposc"},
+    {P::CODMUNC, kAnchoDeCifras, 12, "txtcodmunc"},
+    {P::NOMMUNC, 25, 14, "txtnommunc"},
+};
+
+}  // namespace
+
+namespace GuardadoContribuyente {
+
+const QStringList& Columnas()
+{
+    static const QStringList columnas = {
+        QStringLiteral("TIPODNI"),  QStringLiteral("DNIC"),       QStringLiteral("NOMBREC"),
+        QStringLiteral("VIAC"),     QStringLiteral("DOMICILIOC"), QStringLiteral("NUMEROC"),
+        QStringLiteral("LETRAC"),   QStringLiteral("ESCALERAC"),  QStringLiteral("PISOC"),
+        QStringLiteral("MANOC"),    QStringLiteral("TIPODOMI"),   QStringLiteral("PAIS"),
+        QStringLiteral("CODPROVC"), QStringLiteral("NOMPROVC"),   QStringLiteral("CODPOSC"),
+        QStringLiteral("CODMUNC"),  QStringLiteral("NOMMUNC"),
+    };
+    return columnas;
+}
+
+const TablaParte& Tabla()
+{
+    static const TablaParte t(QStringLiteral("CONTRIBUYENTES"), QStringLiteral("CSCO"),
+                              QStringLiteral("DNIC"), Columnas());
+    return t;
+}
+
+QString DniGuardado(const Arreglo& datos)
+{
+    return Texto(datos, P::DNIC).trimmed();
+}
+
+int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& org,
+                std::optional<int32_t> conocido, Veredicto* rechazo)
+{
+    using namespace VeredictoGuardarContribuyente;
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
+        if (rechazo)
+            *rechazo = std::move(v);
+        return TextoRechazado;
+    }
+    const QVariantList fila = filaGuardada(datos, org);
+    int32_t csco = modo == Modo::Anadir
+        ? 0
+        : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
+    const QString dni = fila[P::DNIC - P::TIPODNI].toString();
+    const int32_t titular = conocido ? *conocido : tabla.CodigoPorDni(dni);
+    if (modo == Modo::Sustituir && csco == 0)
+        csco = titular;
+    if (csco == 0) {
+        if (titular != 0)
+            return DniExistente;
+        tabla.Insertar(0, fila);
+    } else {
+        if (titular != 0 && titular != csco)
+            return DniDeOtro;
+        if (!tabla.Actualizar(csco, fila))
+            tabla.Insertar(csco, fila);
+    }
+    return Guardado;
+}
+
+}  // namespace GuardadoContribuyente

@@ -1,0 +1,51 @@
+#pragma once
+// The save of one contributor, shared by the store's single saves (cContribSvr) and its
+// batches (cLoteContribuyentes), so that both write the same values after the same checks
+// and answer the same verdicts.
+#include "servicios/AccesoTabla.h"
+#include "servicios/Arreglos.h"
+#include "servicios/TablaParte.h"
+#include "valores/Veredicto.h"
+
+#include <QSqlDatabase>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+// Verdicts of a contributor's save.
+namespace VeredictoGuardarContribuyente {
+enum : int16_t {
+    Guardado = 0,
+    DniExistente = 1,    // insert of a number already in the store
+    DniDeOtro = 2,       // update to a number held by another contributor
+    TextoRechazado = 3,  // a text the store cannot keep as given (TextoGuardable.h)
+};
+}
+
+namespace GuardadoContribuyente {
+
+enum class Modo {
+    PorCodigo,  // element 0 is 0: insert; otherwise update of that code
+    Sustituir,  // replace the contributor of element 0, or (0) the one that has the number
+    Anadir,     // always a new contributor
+};
+
+// The stored columns in the order of the save array, from element 1 (no counters).
+const QStringList& Columnas();
+const TablaParte& Tabla();
+
+// Saves the array through `tabla` (an access to Tabla()), within a write transaction that the
+// caller holds. Its texts pass the store's door first (TextoGuardable.h); then every value is
+// put in its stored form before anything is written (cFallo 13 when one cannot be). Verdicts
+// (VeredictoGuardarContribuyente): 0 saved; 1 insert of a number already in the store; 2
+// update to a number held by another; 3 a text the store cannot keep as given, whose message
+// and field `rechazo` (when given) receives. Nothing is written unless the verdict is 0.
+// `titular`, when given, is the code that holds the array's number (0 none), as the caller has
+// just read it through `tabla` with nothing written since; the save then does not read it again.
+int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& origen,
+                std::optional<int32_t> titular = std::nullopt, Veredicto* rechazo = nullptr);
+// The number of a save array as the store keeps it and looks it up (blanks around it removed).
+QString DniGuardado(const Arreglo& datos);
+
+}  // namespace GuardadoContribuyente

@@ -1,0 +1,348 @@
+// The import over a real store: the four counters, the paths of a new and an existing
+// contributor in manual and automatic mode, short lines, the error file byte for byte, the
+// closing messages, the failures and their messages (the 16-bit line counter included), and the
+// same results as saving the lines one by one.
+#include "ApoyoIntercambio.h"
+#include "comun/AlmacenNuevo.h"
+
+#include "plataforma/General.h"
+#include "catalogo/Catalogo.h"
+#include "registros/intercambio/cImportar.h"
+#include "servicios/cContribSvr.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace ApoyoIntercambio;
+
+namespace {
+
+cContribSvr Svr()
+{
+    cContribSvr s;
+    s.mdbmod = mdbmod;
+    s.mdblec = mdblec;
+    return s;
+}
+
+int32_t Codigo(quint32 n)
+{
+    return Svr().ExisteContribuyente(QString::fromLatin1(DniDe(n)));
+}
+
+QString NombreGuardado(quint32 n)
+{
+    Arreglo a;
+    Svr().CargarContribuyente(Codigo(n), a);
+    return a.value(3).toString();
+}
+
+int Contribuyentes()
+{
+    Arreglo2D datos;
+    return Svr().dameResultadoBusqueda({0, 0, 0}, datos, 1);
+}
+
+}  // namespace
+
+class TestImportar : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<CarpetaDePrueba> m_carpeta;
+    QStringList m_preguntas;
+    QList<bool> m_respuestas;
+    QList<double> m_estimados;
+    int m_finales = 0;
+
+    QString Ruta(const QString& nombre) const { return m_carpeta->ruta() + QLatin1Char('/') + nombre; }
+
+    // A run of the file `bytes` in the mode given; the questions are answered from
+    // m_respuestas (No when none is left).
+    AvisoIntercambio Importa(const QByteArray& bytes, bool automatico)
+    {
+        Escribir(Importar().FICHEROAIMPORTAR, bytes);
+        Importar().AUTOMATICO = automatico ? QStringLiteral("X") : QStringLiteral(" ");
+        cImportar::Interlocutor i;
+        i.sustituir = [this](const QString& dni) {
+            m_preguntas << dni;
+            return m_respuestas.isEmpty() ? false : m_respuestas.takeFirst();
+        };
+        i.avance = [this](int, double estimado, bool fin) {
+            m_estimados << estimado;
+            m_finales += fin ? 1 : 0;
+        };
+        return Importar().Ejecutar(i);
+    }
+
+    void Contadores(int total, int imp, int inc, int sus, int ign)
+    {
+        const cImportar& i = Importar();
+        QCOMPARE(int(i.LineasLeidas), total);
+        QCOMPARE(int(i.NUMEROIMP), imp);
+        QCOMPARE(int(i.NUMEROINC), inc);
+        QCOMPARE(int(i.NUMEROSUS), sus);
+        QCOMPARE(int(i.NUMEROIGN), ign);
+        QCOMPARE(total, imp + inc + ign);
+    }
+
+private slots:
+    void init()
+    {
+        m_carpeta = AlmacenNuevo();
+        Importar().Iniciar();
+        m_preguntas.clear();
+        m_respuestas.clear();
+        m_estimados.clear();
+        m_finales = 0;
+    }
+    void cleanup()
+    {
+        Importar() = cImportar();  // the files a failed run left open go with it
+        m_carpeta.reset();
+    }
+
+    void valoresDeInicio()
+    {
+        QCOMPARE(Importar().FICHEROAIMPORTAR, m_carpeta->ruta() + QStringLiteral("/CONTRI.txt"));
+        QCOMPARE(Importar().FICHEROERRORES, m_carpeta->ruta() + QStringLiteral("/Erorres.txt"));
+        QCOMPARE(Importar().AUTOMATICO, QString());
+        QCOMPARE(Importar().TERMINADA, QString());
+    }
+
+    void todoCorrecto()
+    {
+        const AvisoIntercambio a =
+            Importa(LineaValida(1, "GARC\xCD" "A \xD1" "O\xD1" "O") + "\r\n" + LineaValida(2) + "\r\n",
+                    false);
+        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        QCOMPARE(a.texto(), QStringLiteral("Sus datos han sido importados correctamente"));
+        Contadores(2, 2, 0, 0, 0);
+        QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
+        QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
+        QCOMPARE(NombreGuardado(1), QStringLiteral("GARCÍA ÑOÑO"));
+        QCOMPARE(Contribuyentes(), 2);
+        QCOMPARE(m_finales, 1);
+        QCOMPARE(m_estimados.first(), 356.0 / 176.0);
+        QVERIFY(m_preguntas.isEmpty());
+    }
+
+    void ficheroDeErroresByteAByte()
+    {
+        QList<QByteArray> malos = CamposValidos(3);
+        malos[0] = "X";   // code 20
+        malos[3] = "ZZ";  // code 22
+        malos[5] = "1A";  // code 14
+        const QByteArray fichero = LineaValida(1) + "\r\n" + LineaValida(2).left(100) + "\r\n"
+            + Linea(malos) + "\r\n" + LineaValida(4);
+        const AvisoIntercambio a = Importa(fichero, true);
+        Contadores(4, 2, 2, 0, 0);
+        QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
+        QCOMPARE(a.texto(), QStringLiteral("Hay 2 contibuyentes erróneos"));
+        QByteArray esperado = "Linea 2No se han importado todos los datos\r\n";
+        const QByteArray cabeza = "Linea 3 - DNI-CIF " + DniDe(3) + ": ";
+        esperado += cabeza + "El n\xFAmero de portal debe ser un n\xFAmero\r\n";
+        esperado += cabeza + "El tipo de DNI no tiene un valor v\xE1lido: 'O' \xF3 'N'\r\n";
+        esperado += cabeza + "La sigla del domicilio no es una de las admisibles\r\n";
+        esperado += "\r\nFORMATO:\r\n";
+        for (const char* c : {"TIPODNI(1)", "DNI(9)", "NOMBRE(40)", "SIGLAS(2)", "DOMICILIO(20)",
+                              "NUMERO(5)", "LETRA(2)", "ESCALERA(2)", "PISO(2)", "MANO(3)",
+                              "TIPODOMICILIO(1)", "PAIS(20)", "CODIGO PROVINCIA(2)",
+                              "NOMBRE PROVINCIA(20)", "CODIGO POSTAL(5)", "CODIGO MUNICIPIO(3)",
+                              "NOMBRE MUNICIOPIO(25)", "NUMERO SUJETO PASIVO(7)",
+                              "NUMERO TRANSMITENTE(7)"})
+            esperado += QByteArray("         ") + c + "\r\n";
+        QCOMPARE(Leer(Importar().FICHEROERRORES), esperado);
+        QCOMPARE(Contribuyentes(), 2);
+    }
+
+    void unoMaloDeDiez()
+    {
+        QByteArray f;
+        for (quint32 n = 1; n <= 10; ++n)
+            f += (n == 5 ? QByteArray("O") : LineaValida(n)) + "\r\n";
+        const AvisoIntercambio a = Importa(f, true);
+        QCOMPARE(a.motivo, MotivoAviso::UnErroneo);
+        QCOMPARE(a.texto(), QStringLiteral("Hay 1 un contibuyente erróneo"));
+        Contadores(10, 9, 1, 0, 0);
+        QVERIFY(QFile::exists(Importar().FICHEROERRORES));
+    }
+
+    void todosMalos()
+    {
+        QByteArray f;
+        for (int n = 1; n <= 10; ++n)
+            f += "corta\r\n";
+        QCOMPARE(Importa(f, true).motivo, MotivoAviso::TodosErroneos);
+        QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
+        Contadores(10, 0, 10, 0, 0);
+    }
+
+    void ficheroVacio()
+    {
+        const AvisoIntercambio a = Importa(QByteArray(), false);
+        QVERIFY(!a);
+        Contadores(0, 0, 0, 0, 0);
+        QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
+        QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
+        QCOMPARE(m_estimados, QList<double>{0.0});
+    }
+
+    void finesDeLinea()
+    {
+        // LF alone, and no end after the last line.
+        Importa(LineaValida(1) + "\n" + LineaValida(2) + "\n" + LineaValida(3), true);
+        Contadores(3, 3, 0, 0, 0);
+        QCOMPARE(Contribuyentes(), 3);
+    }
+
+    void lineaLargaAceptada()
+    {
+        Importa(LineaValida(1) + "COLA IGNORADA\r\n", true);
+        Contadores(1, 1, 0, 0, 0);
+    }
+
+    void manualPreguntaPorElExistente()
+    {
+        Importa(LineaValida(1, "VIEJO") + "\r\n" + LineaValida(2, "OTRO") + "\r\n", false);
+        Importar().Iniciar();
+        m_respuestas = {false, true};
+        const AvisoIntercambio a = Importa(
+            LineaValida(1, "NUEVO UNO") + "\r\n" + LineaValida(2, "NUEVO DOS") + "\r\n"
+                + LineaValida(3) + "\r\n",
+            false);
+        QCOMPARE(m_preguntas, (QStringList{QString::fromLatin1(DniDe(1)),
+                                           QString::fromLatin1(DniDe(2))}));
+        Contadores(3, 2, 0, 1, 1);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("VIEJO"));
+        QCOMPARE(NombreGuardado(2), QStringLiteral("NUEVO DOS"));
+        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        QCOMPARE(cImportar::TextoPreguntaSustituir(QStringLiteral("12345678Z")),
+                 QStringLiteral("El contribuyente con DNI 12345678Z ya existe.\n"
+                                "¿Está seguro que desea sustituirlo?"));
+    }
+
+    void manualCortaExistentePreguntaAntes()
+    {
+        Importa(LineaValida(1) + "\r\n", true);
+        Importar().Iniciar();
+        // No: ignored, never validated.
+        Importa(LineaValida(1).left(50) + "\r\n", false);
+        QCOMPARE(m_preguntas.size(), 1);
+        Contadores(1, 0, 0, 0, 1);
+        QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
+        // Yes: then refused as short.
+        Importar().Iniciar();
+        m_respuestas = {true};
+        Importa(LineaValida(1).left(50) + "\r\n", false);
+        QCOMPARE(m_preguntas.size(), 2);
+        Contadores(1, 0, 1, 0, 0);
+        QCOMPARE(Leer(Importar().FICHEROERRORES).left(44),
+                 QByteArray("Linea 1No se han importado todos los datos\r\n"));
+    }
+
+    void automaticoSustituyeSinPreguntar()
+    {
+        Importa(LineaValida(1, "ANTES") + "\r\n", true);
+        Importar().Iniciar();
+        Importa(LineaValida(1, "DESPUES") + "\r\n" + LineaValida(2) + "\r\n", true);
+        QVERIFY(m_preguntas.isEmpty());
+        Contadores(2, 2, 0, 1, 0);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("DESPUES"));
+    }
+
+    void existenteConDatosMalosQuedaComoEstaba()
+    {
+        Importa(LineaValida(1, "BUENO") + "\r\n", true);
+        Importar().Iniciar();
+        QList<QByteArray> c = CamposValidos(1, "MALO");
+        c[14] = "01001";  // postal code of another province
+        Importa(Linea(c) + "\r\n", true);
+        Contadores(1, 0, 1, 0, 0);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("BUENO"));
+    }
+
+    void mismoDniDosVecesComoUnoAUno()
+    {
+        // The second line finds the contributor the first one saved, in the same batch.
+        Importa(LineaValida(1, "PRIMERO") + "\r\n" + LineaValida(1, "SEGUNDO") + "\r\n", true);
+        Contadores(2, 2, 0, 1, 0);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("SEGUNDO"));
+        QCOMPARE(Contribuyentes(), 1);
+    }
+
+    void ficheroQueNoExiste()
+    {
+        Importar().FICHEROAIMPORTAR = Ruta(QStringLiteral("NOESTA.txt"));
+        const AvisoIntercambio a = Importar().Ejecutar({});
+        QCOMPARE(a.motivo, MotivoAviso::NoExisteFichero);
+        QCOMPARE(a.texto(), QStringLiteral("No existe el fichero que desea importar"));
+        QCOMPARE(Importar().TERMINADA, QString());
+    }
+
+    void ficheroYaAbierto()
+    {
+        // The error file is the exchange file itself.
+        Escribir(Importar().FICHEROAIMPORTAR, LineaValida(1) + "\r\n");
+        Importar().FICHEROERRORES = Importar().FICHEROAIMPORTAR;
+        QCOMPARE(Importar().Ejecutar({}).texto(), QStringLiteral("El fichero ya está abierto"));
+        QCOMPARE(Importar().TERMINADA, QString());
+        QCOMPARE(Leer(Importar().FICHEROAIMPORTAR), LineaValida(1) + "\r\n");
+        // The failed run left the exchange file open: a second run says so.
+        Importar().FICHEROERRORES = Ruta(QStringLiteral("Erorres.txt"));
+        QCOMPARE(Importar().Ejecutar({}).motivo, MotivoAviso::FicheroAbierto);
+        QCOMPARE(Contribuyentes(), 0);
+    }
+
+    void otroFallo()
+    {
+        Escribir(Importar().FICHEROAIMPORTAR, LineaValida(1) + "\r\n");
+        Importar().FICHEROERRORES = Ruta(QStringLiteral("no/hay/carpeta/E.txt"));
+        const AvisoIntercambio a = Importar().Ejecutar({});
+        QCOMPARE(a.motivo, MotivoAviso::ErrorEjecucion);
+        QCOMPARE(a.texto(),
+                 QStringLiteral("ERROR Nº: 76 : No se ha encontrado la ruta de acceso"));
+        QCOMPARE(Importar().TERMINADA, QString());
+    }
+
+    void limiteDeDieciseisBits()
+    {
+        QByteArray f;
+        f.reserve(32768 * 178);
+        for (quint32 n = 1; n <= 32768; ++n)
+            f += LineaValida(n) + "\r\n";
+        const AvisoIntercambio a = Importa(f, true);
+        QCOMPARE(a.texto(), QStringLiteral("ERROR Nº: 6 : Desbordamiento"));
+        QCOMPARE(Importar().TERMINADA, QString());
+        QCOMPARE(int(Importar().LineasLeidas), 32767);
+        // Every line read before the failure stays saved.
+        QCOMPARE(Contribuyentes(), 32767);
+        QCOMPARE(Codigo(32768), 0);
+    }
+
+    void treintaYDosMilSetecientosSesentaYSiete()
+    {
+        QByteArray f;
+        for (quint32 n = 1; n <= 32767; ++n)
+            f += LineaValida(n) + "\r\n";
+        QCOMPARE(Importa(f, true).motivo, MotivoAviso::Importados);
+        Contadores(32767, 32767, 0, 0, 0);
+    }
+
+    void enEuskera()
+    {
+        OffsetIdioma = 10000;
+        const AvisoIntercambio a = Importa(LineaValida(1) + "\r\ncorta\r\n", true);
+        QCOMPARE(a.texto(), TextoFila(10272) + QStringLiteral("1") + TextoFila(10273));
+        const QByteArray corta = (TextoFila(10265) + QStringLiteral("2") + TextoFila(10266)).toLatin1()
+            + "\r\n";
+        QVERIFY(corta != "Linea 2No se han importado todos los datos\r\n");
+        QVERIFY(Leer(Importar().FICHEROERRORES).startsWith(corta));
+        QVERIFY(cImportar::TextoPreguntaSustituir(QStringLiteral("1Z"))
+                    .startsWith(QStringLiteral("1Z zk.ko NA duen zergaduna lehenagotik dago.\n")));
+        OffsetIdioma = 0;
+    }
+};
+
+QTEST_MAIN(TestImportar)
+#include "test_importar.moc"
