@@ -191,6 +191,11 @@ void Busquedas()
     prefijo(QStringLiteral("G"), 0, "de nombre 'G'");
     prefijo(0, QStringLiteral("0001234"), "de DNI '0001234'");
     prefijo(QStringLiteral("ALONSO"), QStringLiteral("0000"), "de nombre y DNI");
+    // Letters beyond ASCII, in both cases: imported names may be in lower case.
+    prefijo(QStringLiteral("MUÑOZ"), 0, "de nombre 'MUÑOZ'");
+    prefijo(QStringLiteral("muñoz"), 0, "de nombre 'muñoz'");
+    prefijo(QStringLiteral("LARRAÑAGA G"), 0, "de nombre 'LARRAÑAGA G'");
+    prefijo(QStringLiteral("larrañaga g"), 0, "de nombre 'larrañaga g'");
 
     const double antes = PicoMemoria();
     const auto lista = [&](const char* que, auto&& llamada, const char* limite = "; límite 1000 ms") {

@@ -730,5 +730,9 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "Eragiketak 'N43' edo 'T1' edo 'T2' edo 'T3' edo 'T4' edo 'T5'  edo 'TE' izan behar du sailkapen zenbaki horrentzat"},
     /* 363 */ {"Fecha de presentación",
               "Aurkezpen data"},
+    /* 364 */ {"La casilla %1 contiene caracteres que no se pueden guardar",
+              "%1 laukiak gorde ezin diren karaktereak ditu"},
+    /* 365 */ {"La casilla %1 no puede tener más de %2 caracteres",
+              "%1 laukiak ezin ditu %2 karaktere baino gehiago izan"},
 };
 }

@@ -1,6 +1,7 @@
 #include "servicios/ArreglosPartes.h"
 
 #include "plataforma/Fallo.h"
+#include "servicios/BusquedaTexto.h"
 #include "servicios/CodigoPostal.h"
 
 #include <QStringList>
@@ -86,7 +87,8 @@ QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
 {
     const QVariant& v = valor(a, i);
     QString t = v.toString().trimmed();
-    if (t.size() > ancho)
+    // Whole characters, as the column counts them (a character beyond the BMP is one).
+    if (t.toUcs4().size() > ancho)
         noCoincide(campo, v, origen);
     if (t.isNull())
         t = QStringLiteral("");  // SQLite takes a null text for NULL
@@ -148,18 +150,6 @@ std::optional<QString> Criterio(const Arreglo& criterios, int i)
     if (esNumero(v))
         return v.toDouble() == 0 ? std::nullopt : std::optional<QString>(v.toString());
     return v.toString();
-}
-
-QString CondicionPrefijo(const QString& columna, const QString& prefijo, QVariantList& valores)
-{
-    // Every text that begins with the prefix sorts at or after it and before the prefix
-    // followed by the highest character there is.
-    const QString techo = prefijo + QString::fromUcs4(U"\U0010FFFF", 1);
-    valores << prefijo << techo << static_cast<qlonglong>(prefijo.toUcs4().size()) << prefijo;
-    // The comparisons with the column take its collation; a substring is no longer the
-    // column, so it is given the same one by hand.
-    return QStringLiteral("(%1 >= ? AND %1 < ? AND substr(%1, 1, ?) = ? COLLATE NOCASE)")
-        .arg(columna);
 }
 
 QString CondicionesBusqueda(const Arreglo& criterios, const QString& nombre, const QString& dni,

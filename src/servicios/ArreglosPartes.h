@@ -33,14 +33,9 @@ QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
 // whole number 0 when there is no criterion on that column. An empty prefix matches all.
 std::optional<QString> Criterio(const Arreglo& criterios, int i);
 
-// A condition for a WHERE clause: `columna`, a column of NOCASE collation, begins with
-// `prefijo`, without regard to the case of ASCII letters. The prefix is plain text: quotes, "%" and "_" are characters like any other.
-// The range on the column lets SQLite use the column's index; the exact test comes after it.
-// The bound values are appended to `valores`.
-QString CondicionPrefijo(const QString& columna, const QString& prefijo, QVariantList& valores);
-
 // The WHERE clause of a list (" WHERE ..." or ""): criterios[1] a prefix of `nombre`,
-// criterios[2] a prefix of `dni`, both when both are given.
+// criterios[2] a prefix of `dni`, both when both are given, each without regard to case
+// (CondicionPrefijo, BusquedaTexto.h).
 QString CondicionesBusqueda(const Arreglo& criterios, const QString& nombre, const QString& dni,
                             QVariantList& valores);
 // The order of a list, as a user of names in Spanish and Basque expects it: without regard to

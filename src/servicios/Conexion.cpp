@@ -1,6 +1,7 @@
 #include "servicios/Conexion.h"
 
 #include "plataforma/Fallo.h"
+#include "servicios/BusquedaTexto.h"
 
 #include <QFileInfo>
 #include <QSqlError>
@@ -48,6 +49,8 @@ QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, boo
                                  : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
     if (!db.open())
         fallar(origen, db.lastError(), ruta);
+    // The searches compare texts folded beyond ASCII (BusquedaTexto.h).
+    RegistrarPlegado(db, origen);
     if (!lectura) {
         pragma(db, QStringLiteral("PRAGMA foreign_keys = ON"), origen);
         pragma(db, QStringLiteral("PRAGMA journal_mode = WAL"), origen);

@@ -11,6 +11,8 @@
 namespace Conexion {
 // The read/write database: foreign keys on, WAL journal, and a busy timeout so that a second
 // running instance waits for a lock instead of failing. The file must exist unless `crear`.
+// Every connection, of either file, has the SQL function PLEGAR of the searches
+// (BusquedaTexto.h).
 QSqlDatabase Modificable(const QString& ruta, const QString& origen, bool crear = false);
 // The read-only reference database.
 QSqlDatabase Lectura(const QString& ruta, const QString& origen);

@@ -3,11 +3,48 @@
 #include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesContribuyente.h"
+#include "servicios/TextoGuardable.h"
 
 #include <limits>
 
 using namespace ArreglosPartes;
 namespace P = PosContribuyente;
+
+namespace {
+
+// The texts of a save array, as the store keeps them: the width of each column, the label that
+// names its field, the field, and for the number and the name, which must hold a value, the
+// record's own message for an empty one.
+constexpr ColumnaTexto kTextos[] = {
+    {P::DNIC, 9, 26, "txtdnic", 29},
+    {P::NOMBREC, 40, 27, "txtnombrec", 30},
+    {P::VIAC, 2, 13, "txtviac"},
+    {P::DOMICILIOC, 20, 19, "txtdomicilioc"},
+    {P::LETRAC, 2, 21, "txtletrac"},
+    {P::ESCALERAC, 2, 20, "txtescalerac"},
+    {P::PISOC, 2, 23, "txtpisoc"},
+    {P::MANOC, 3, 24, "txtmanoc"},
+    {P::PAIS, 20, 18, "txtpais"},
+    {P::CODPROVC, kAnchoDeCifras, 10, "txtcodprovc"},
+    {P::NOMPROVC, 20, 15, "txtnomprovc"},
+    {P::CODPOSC, kAnchoDeCifras, 25, "txtcodposc"},
+    {P::CODMUNC, kAnchoDeCifras, 12, "txtcodmunc"},
+    {P::NOMMUNC, 25, 14, "txtnommunc"},
+};
+
+// The store's door for the texts of a save array: the verdict TextoRechazado, with its message
+// in `rechazo`, for a text the store cannot keep as given; Guardado when every text can be kept.
+int16_t Puerta(const Arreglo& datos, Veredicto* rechazo)
+{
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
+        if (rechazo)
+            *rechazo = std::move(v);
+        return VeredictoGuardarContribuyente::TextoRechazado;
+    }
+    return VeredictoGuardarContribuyente::Guardado;
+}
+
+}  // namespace
 
 namespace GuardadoContribuyente {
 
@@ -70,8 +107,11 @@ QString DniGuardado(const Arreglo& datos)
 }
 
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& org,
-                std::optional<int32_t> conocido)
+                std::optional<int32_t> conocido, Veredicto* rechazo)
 {
+    using namespace VeredictoGuardarContribuyente;
+    if (const int16_t puerta = Puerta(datos, rechazo); puerta != Guardado)
+        return puerta;
     const QVariantList fila = FilaGuardada(datos, org);
     int32_t csco = modo == Modo::Anadir
         ? 0
@@ -82,23 +122,29 @@ int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QStri
         csco = titular;
     if (csco == 0) {
         if (titular != 0)
-            return 1;
+            return DniExistente;
         tabla.Insertar(0, fila);
     } else {
         if (titular != 0 && titular != csco)
-            return 2;
+            return DniDeOtro;
         if (!tabla.Actualizar(csco, fila))
             tabla.Insertar(csco, fila);
     }
-    return 0;
+    return Guardado;
 }
 
-int32_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& org)
+int16_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& org,
+                      int32_t& titular, Veredicto* rechazo)
 {
+    using namespace VeredictoGuardarContribuyente;
+    titular = 0;
+    if (const int16_t puerta = Puerta(datos, rechazo); puerta != Guardado)
+        return puerta;
     const QVariantList fila = FilaGuardada(datos, org);
     if (tabla.InsertarSiNuevo(fila))
-        return 0;
-    return tabla.CodigoPorDni(fila[P::DNIC - P::TIPODNI].toString());
+        return Guardado;
+    titular = tabla.CodigoPorDni(fila[P::DNIC - P::TIPODNI].toString());
+    return DniExistente;
 }
 
 }  // namespace GuardadoContribuyente

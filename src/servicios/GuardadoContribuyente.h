@@ -5,12 +5,23 @@
 #include "servicios/AccesoTabla.h"
 #include "servicios/Arreglos.h"
 #include "servicios/TablaParte.h"
+#include "valores/Veredicto.h"
 
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
 #include <optional>
+
+// Verdicts of a contributor's save.
+namespace VeredictoGuardarContribuyente {
+enum : int16_t {
+    Guardado = 0,
+    DniExistente = 1,    // insert of a number already in the store
+    DniDeOtro = 2,       // update to a number held by another contributor
+    TextoRechazado = 3,  // a text the store cannot keep as given (TextoGuardable.h)
+};
+}
 
 namespace GuardadoContribuyente {
 
@@ -24,21 +35,25 @@ enum class Modo {
 const QStringList& Columnas();
 const TablaParte& Tabla();
 
-// Saves the array through `tabla` (an access to Tabla()), within a write transaction that the caller holds. Every value is
-// put in its stored form before anything is written (cFallo 13 when one cannot be). Verdicts:
-// 0 saved; 1 insert of a number already in the store; 2 update to a number held by another.
+// Saves the array through `tabla` (an access to Tabla()), within a write transaction that the
+// caller holds. Its texts pass the store's door first (TextoGuardable.h); then every value is
+// put in its stored form before anything is written (cFallo 13 when one cannot be). Verdicts
+// (VeredictoGuardarContribuyente): 0 saved; 1 insert of a number already in the store; 2
+// update to a number held by another; 3 a text the store cannot keep as given, whose message
+// and field `rechazo` (when given) receives. Nothing is written unless the verdict is 0.
 // `titular`, when given, is the code that holds the array's number (0 none), as the caller has
 // just read it through `tabla` with nothing written since; the save then does not read it again.
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& origen,
-                std::optional<int32_t> titular = std::nullopt);
+                std::optional<int32_t> titular = std::nullopt, Veredicto* rechazo = nullptr);
 // The values of a save array in their stored form, in the order of Columnas() (cFallo 13 when
-// one cannot be put in it).
+// one cannot be put in it). It does not pass the door: a caller that writes them does.
 QVariantList FilaGuardada(const Arreglo& datos, const QString& origen);
-// As Guardar(tabla, datos, Modo::Anadir) for a number that is not in the store, answering 0;
-// for one that is, writes nothing and answers the code that holds it. The insert itself finds
-// the holder, so that a new contributor costs one look-up of its number instead of two. Both
-// saves take their row from FilaGuardada: a check of the values belongs there.
-int32_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& origen);
+// As Guardar(tabla, datos, Modo::Anadir), through the same door and the same stored form, but
+// for a number already in the store it writes nothing, answers DniExistente and puts in
+// `titular` the code that holds the number (0 otherwise). The insert itself finds the holder,
+// so that a new contributor costs one look-up of its number instead of two.
+int16_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& origen,
+                      int32_t& titular, Veredicto* rechazo = nullptr);
 // The number of a save array as the store keeps it and looks it up (blanks around it removed).
 QString DniGuardado(const Arreglo& datos);
 

@@ -43,7 +43,8 @@ void cLoteContribuyentes::Contar()
         Confirmar();
 }
 
-int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir)
+int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir,
+                                                  Veredicto* rechazo)
 {
     Empezar();
     // A save refused by its verdict has written nothing, so the batch goes on.
@@ -54,7 +55,7 @@ int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sus
     const int16_t veredicto = GuardadoContribuyente::Guardar(
         *m_acceso, datos,
         sustituir ? GuardadoContribuyente::Modo::Sustituir : GuardadoContribuyente::Modo::Anadir,
-        m_origen, titular);
+        m_origen, titular, rechazo);
     if (veredicto == 0)
         Contar();
     else if (m_reloj.elapsed() >= kMilisegundosPorLote)
@@ -62,20 +63,22 @@ int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sus
     return veredicto;
 }
 
-int32_t cLoteContribuyentes::AnadirSiNuevo(const Arreglo& datos)
+int16_t cLoteContribuyentes::AnadirSiNuevo(const Arreglo& datos, int32_t& titular,
+                                           Veredicto* rechazo)
 {
     Empezar();
     m_consultaVigente = false;
-    const int32_t titular = GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen);
-    if (titular == 0) {
+    const int16_t veredicto =
+        GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen, titular, rechazo);
+    if (veredicto == VeredictoGuardarContribuyente::Guardado) {
         Contar();
-        return 0;
+    } else if (titular != 0) {
+        // Nothing was written: the holder stays known for the save that follows.
+        m_codigoConsultado = titular;
+        m_dniConsultado = GuardadoContribuyente::DniGuardado(datos);
+        m_consultaVigente = true;
     }
-    // Nothing was written: the holder stays known for the save that follows.
-    m_codigoConsultado = titular;
-    m_dniConsultado = GuardadoContribuyente::DniGuardado(datos);
-    m_consultaVigente = true;
-    return titular;
+    return veredicto;
 }
 
 void cLoteContribuyentes::Confirmar()

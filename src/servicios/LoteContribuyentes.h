@@ -15,6 +15,7 @@
 #include "servicios/Arreglos.h"
 #include "servicios/Conexion.h"
 #include "servicios/ValidacionPartes.h"
+#include "valores/Veredicto.h"
 
 #include <QElapsedTimer>
 #include <QSqlDatabase>
@@ -39,15 +40,16 @@ public:
     void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
     // Code of the contributor with this number (blanks around it ignored), 0 when none.
     int32_t ExisteContribuyente(const QString& dni);
-    // As cContribSvr::GuardarContribuyente(datos, sustituir). A save refused by its verdict
-    // writes nothing.
-    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir);
-    // As GuardarContribuyente(datos, false) for a number that is not in the store, answering
-    // 0; for one that is, writes nothing and answers the code that holds it, as
+    // As cContribSvr::GuardarContribuyente(datos, sustituir, rechazo). A save refused by its
+    // verdict writes nothing.
+    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
+                                 Veredicto* rechazo = nullptr);
+    // As GuardarContribuyente(datos, false), but for a number already in the store it writes
+    // nothing, answers DniExistente and puts in `titular` the code that holds the number, as
     // ExisteContribuyente would (a save of that code that follows does not read it again).
     // One look-up of the number instead of two for a new contributor: the insert itself finds
     // the holder.
-    int32_t AnadirSiNuevo(const Arreglo& datos);
+    int16_t AnadirSiNuevo(const Arreglo& datos, int32_t& titular, Veredicto* rechazo = nullptr);
     // Commits the saves made so far.
     void Confirmar();
     // Saves not yet committed.

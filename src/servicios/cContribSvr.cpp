@@ -110,24 +110,26 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
     datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos) const
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo) const
 {
-    return guardar(datos, Modo::PorCodigo);
+    return guardar(datos, Modo::PorCodigo, rechazo);
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir) const
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir,
+                                          Veredicto* rechazo) const
 {
-    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir);
+    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir, rechazo);
 }
 
-int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo) const
+int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const
 {
     const QString org = origen("GuardarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     AccesoPreparado acceso(tabla(), db, org);
-    const int16_t veredicto = GuardadoContribuyente::Guardar(acceso, datos, modo, org);
-    if (veredicto == 0)
+    const int16_t veredicto =
+        GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt, rechazo);
+    if (veredicto == VeredictoGuardarContribuyente::Guardado)
         transaccion.confirmar();
     return veredicto;
 }

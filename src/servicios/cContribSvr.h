@@ -47,12 +47,16 @@ public:
     void CargarContribuyente(int32_t csco, Arreglo& datos) const;
     // Element 0 is 0: insert; otherwise update of that code (written back under the same code
     // when it is no longer in the store). Verdicts: 0 saved; 1 insert of a number already in
-    // the store; 2 update to a number held by another contributor.
-    int16_t GuardarContribuyente(const Arreglo& datos) const;
+    // the store; 2 update to a number held by another contributor; 3 a text that the store
+    // cannot keep as given (a name of blanks, a control character, a broken character, a text
+    // too long), of which `rechazo`, when given, receives the message and the field. Nothing
+    // is written unless the verdict is 0.
+    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
     // The import's form: `sustituir` true replaces the contributor of element 0 (or, with 0,
     // the one that has the number; a new one when none has), false adds a new one. Same
     // verdicts.
-    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir) const;
+    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
+                                 Veredicto* rechazo = nullptr) const;
     // Deletes the contributor unless a declaration names him; true when a row went.
     bool BorrarContribuyente(int32_t csco) const;
     // {declarations as subject, as transmitter}.
@@ -69,5 +73,5 @@ public:
 
 private:
     using Modo = GuardadoContribuyente::Modo;
-    int16_t guardar(const Arreglo& datos, Modo modo) const;
+    int16_t guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const;
 };

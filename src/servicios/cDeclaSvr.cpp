@@ -8,6 +8,7 @@
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/TextoGuardable.h"
 
 #include <QSqlRecord>
 #include <array>
@@ -58,6 +59,57 @@ constexpr std::array<Columna, cDeclaSvr::kValoresGuardar> kColumnas{{
     {"CODPOSTR", Clase::Texto},       {"CODMUNTR", Clase::Texto},
     {"NOMMUNTR", Clase::Texto},
 }};
+
+namespace G = PosGuardarDeclaracion;
+constexpr int kSujeto = 0;        // the tabs of the declaration form that hold the parties
+constexpr int kTransmitente = 1;
+
+// The texts of the save array as the store keeps them (as given, blanks included): the width of
+// each column, the label that names its field and the field, on its tab for a party's. The
+// widths are those of the form's fields, but for the make and the type, whose boxes on the
+// printed form hold 20 characters (the form lets 15 be typed).
+constexpr ColumnaTexto kTextos[] = {
+    {G::REFERENCIA, 10, 114, "txtreferencia"},
+    {G::ADQUIRIDO, 1, 104, "chkAdquirido"},
+    {G::MARCA, 20, 120, "txtmarca"},
+    {G::TIPO, 20, 118, "txttipo"},
+    {G::MODELO, 20, 119, "txtmodelo"},
+    {G::BASTIDOR, 17, 117, "txtbastidor"},
+    {G::MOTOR, 1, 110, "optDiesel"},
+    {G::OPERACION, 3, 122, "txtoperacion"},
+    {G::NOSUJETO, 1, 113, "chknosujeto"},
+    {G::EXENTO, 1, 105, "chkexento"},
+    {G::REDUCCION, 1, 326, "chkReduccion1"},
+    {G::DNISP, 9, 26, "txtdnisp", 0, kSujeto},
+    {G::NOMBRESP, 40, 27, "txtnombresp", 0, kSujeto},
+    {G::VIASP, 2, 13, "txtviasp", 0, kSujeto},
+    {G::DOMICILIOSP, 20, 19, "txtdomiciliosp", 0, kSujeto},
+    {G::LETRASP, 2, 21, "txtletrasp", 0, kSujeto},
+    {G::ESCALERASP, 2, 20, "txtescalerasp", 0, kSujeto},
+    {G::PISOSP, 2, 23, "txtpisosp", 0, kSujeto},
+    {G::MANOSP, 3, 24, "txtmanosp", 0, kSujeto},
+    {G::CODPROVSP, 2, 10, "txtcodprovsp", 0, kSujeto},
+    {G::NOMPROVSP, 20, 15, "txtnomprovsp", 0, kSujeto},
+    {G::CODPOSSP, 5, 25, "txtcodpossp", 0, kSujeto},
+    {G::CODMUNSP, 3, 12, "txtcodmunsp", 0, kSujeto},
+    {G::NOMMUNSP, 25, 14, "txtnommunsp", 0, kSujeto},
+    {G::TIPODNITR, 1, 9, "chktipodnitr", 0, kTransmitente},
+    {G::DNITR, 9, 26, "txtdnitr", 0, kTransmitente},
+    {G::NOMBRETR, 40, 27, "txtnombretr", 0, kTransmitente},
+    {G::VIATR, 2, 13, "txtviatr", 0, kTransmitente},
+    {G::DOMICILIOTR, 20, 19, "txtdomiciliotr", 0, kTransmitente},
+    {G::LETRATR, 2, 21, "txtletratr", 0, kTransmitente},
+    {G::ESCALERATR, 2, 20, "txtescaleratr", 0, kTransmitente},
+    {G::PISOTR, 2, 23, "txtpisotr", 0, kTransmitente},
+    {G::MANOTR, 3, 24, "txtmanotr", 0, kTransmitente},
+    {G::TIPODOMITR, 1, 8, "chktipodomitr", 0, kTransmitente},
+    {G::PAISTR, 20, 18, "txtpaistr", 0, kTransmitente},
+    {G::CODPROVTR, 2, 10, "txtcodprovtr", 0, kTransmitente},
+    {G::NOMPROVTR, 20, 15, "txtnomprovtr", 0, kTransmitente},
+    {G::CODPOSTR, 5, 25, "txtcodpostr", 0, kTransmitente},
+    {G::CODMUNTR, 3, 12, "txtcodmuntr", 0, kTransmitente},
+    {G::NOMMUNTR, 25, 14, "txtnommuntr", 0, kTransmitente},
+};
 
 [[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
 {
@@ -240,9 +292,14 @@ bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant&
 
 }  // namespace
 
-int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos) const
+int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo) const
 {
     const QString o = origen("GuardarDeclaracion");
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados); !v.vacio()) {
+        if (rechazo)
+            *rechazo = std::move(v);
+        return 0;
+    }
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
     Transaccion transaccion(db, o);
     QVariantList valores = valoresGuardados(db, datos, o);

@@ -6,6 +6,7 @@
 #include "servicios/Arreglos.h"
 #include "servicios/PosicionesContribuyente.h"
 #include "servicios/PosicionesDeclaracion.h"
+#include "valores/Veredicto.h"
 
 #include <QString>
 #include <QVariant>
@@ -31,9 +32,11 @@ public:
     // row that no longer exists, else the row of that code. Party codes that name no stored
     // contributor or presenter are kept as 0 (the return keeps its own copy of the party).
     // The counters of the parties named before and after follow in the same transaction.
-    // Answers the code of the row. An array of another size or with a number that is not a
-    // number raises cFallo and writes nothing.
-    int32_t GuardarDeclaracion(const Arreglo& datos) const;
+    // Answers the code of the row. A text that the store cannot keep as given (a control
+    // character, a broken character, a text longer than its field) answers 0 and writes
+    // nothing; `rechazo`, when given, receives the message and the field. An array of another
+    // size or with a number that is not a number raises cFallo and writes nothing.
+    int32_t GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
     // Fills `datos` with the 58-value load array of the return `csde` (0 the code, then the
     // save array's values with the presenter's number and name at 24 and 25, and at 57 the
     // number of returns whose subject is this return's transmitter). An unknown code leaves

@@ -10,6 +10,7 @@
 
 #include "valores/Formato.h"
 #include "valores/Val.h"
+#include "servicios/BusquedaTexto.h"
 #include "servicios/Conexion.h"
 
 #include <QStringList>
@@ -60,12 +61,12 @@ struct Filtro {
         condiciones << condicion;
         valores << v;
     }
-    // The texts of the column that begin with `prefijo`: a range, so that the index serves.
+    // The texts of the column that begin with `prefijo`, whatever their case: ranges, so
+    // that the index serves, then the folded comparison.
     void prefijo(const char* columna, const QString& inicio)
     {
-        const QString techo = inicio + QString::fromUcs4(U"\U0010FFFF", 1);
-        agregar(QStringLiteral("d.%1 >= ? AND d.%1 < ?").arg(QLatin1String(columna)),
-                {inicio, techo});
+        condiciones << CondicionPrefijo(QStringLiteral("d.") + QLatin1String(columna), inicio,
+                                        valores);
     }
     QString where() const
     {

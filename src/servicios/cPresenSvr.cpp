@@ -6,6 +6,7 @@
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
+#include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
 
 #include <QStringList>
@@ -53,6 +54,24 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
     };
 }
 
+// The texts of a save array, as the store keeps them (see the contributor's store). An empty
+// number is, for a presenter, a wrong one.
+constexpr ColumnaTexto kTextos[] = {
+    {P::DNIP, 9, 26, "txtdnip", 330},
+    {P::NOMBREP, 40, 27, "txtnombrep", 30},
+    {P::VIAP, 2, 13, "txtviap"},
+    {P::DOMICILIOP, 20, 19, "txtdomiciliop"},
+    {P::LETRAP, 2, 21, "txtletrap"},
+    {P::ESCALERAP, 2, 20, "txtescalerap"},
+    {P::PISOP, 2, 23, "txtpisop"},
+    {P::MANOP, 3, 24, "txtmanop"},
+    {P::CODPROVP, kAnchoDeCifras, 10, "txtcodprovp"},
+    {P::CODPOSP, kAnchoDeCifras, 25, "txtcodposp"},
+    {P::CODMUNP, kAnchoDeCifras, 12, "txtcodmunp"},
+    {P::NOMMUNP, 25, 14, "txtnommunp"},
+    {P::TELEFONOP, 9, 194, "txttelefonop"},
+};
+
 const TablaParte& tabla()
 {
     static const TablaParte t(QStringLiteral("PRESENTADORES"), QStringLiteral("CSPR"),
@@ -67,9 +86,15 @@ int16_t cPresenSvr::ValidarDatosPresentador(const Arreglo& datos) const
     return ReglasPresentador(datos);
 }
 
-int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
+int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo) const
 {
+    using namespace VeredictoGuardarPresentador;
     const QString org = origen("GuardarPresentador");
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
+        if (rechazo)
+            *rechazo = std::move(v);
+        return TextoRechazado;
+    }
     const QVariantList fila = filaGuardada(datos, org);
     const int32_t cspr =
         EnteroGuardado(datos, P::CSPR, std::numeric_limits<int32_t>::max(), "CSPR", org);
@@ -80,11 +105,11 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
     const int32_t titular = tabla().CodigoPorDni(db, dni, org);
     if (cspr == 0) {
         if (titular != 0)
-            return 1;
+            return DniExistente;
         tabla().Insertar(db, 0, fila, org);
     } else {
         if (titular != 0 && titular != cspr)
-            return 2;
+            return DniDeOtro;
         QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
                                     {cspr}, org);
         if (!actual.next()) {
@@ -95,12 +120,12 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos) const
             const bool otroDni =
                 actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
             if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
-                return 3;
+                return DniEnDeclaraciones;
             tabla().Actualizar(db, cspr, fila, org);
         }
     }
     transaccion.confirmar();
-    return 0;
+    return Guardado;
 }
 
 void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos) const

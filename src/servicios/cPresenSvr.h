@@ -13,9 +13,21 @@
 // declarations when it is asked for; a presenter named in a declaration cannot be deleted, and
 // his number (which the declaration copies) cannot change.
 #include "servicios/Arreglos.h"
+#include "valores/Veredicto.h"
 
 #include <QString>
 #include <cstdint>
+
+// Verdicts of GuardarPresentador.
+namespace VeredictoGuardarPresentador {
+enum : int16_t {
+    Guardado = 0,
+    DniExistente = 1,         // insert of a number already in the store
+    DniDeOtro = 2,            // update to a number held by another presenter
+    DniEnDeclaraciones = 3,   // change of the number of a presenter named in a declaration
+    TextoRechazado = 4,       // a text the store cannot keep as given (TextoGuardable.h)
+};
+}
 
 class cPresenSvr {
 public:
@@ -27,8 +39,10 @@ public:
     // Element 0 is 0: insert; otherwise update of that code (written back under the same code
     // when it is no longer in the store). Verdicts: 0 saved; 1 insert of a number already in
     // the store; 2 update to a number held by another presenter; 3 change of the number of a
-    // presenter named in a declaration.
-    int16_t GuardarPresentador(const Arreglo& datos) const;
+    // presenter named in a declaration; 4 a text that the store cannot keep as given, of which
+    // `rechazo`, when given, receives the message and the field. Nothing is written unless the
+    // verdict is 0.
+    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
     // Fills the load array; leaves it empty when the store has no such code.
     void CargarPresentador(int32_t cspr, Arreglo& datos) const;
     // Deletes the presenter unless a declaration names him; true when a row went.

@@ -1,6 +1,7 @@
 #include "paneles/partes/CamposDatos.h"
 
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
 #include "catalogo/Catalogo.h"
 
 #include "paneles/controles/CajaNum.h"
@@ -224,4 +225,10 @@ void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<Foco
             foco.campo->setFocus(Qt::OtherFocusReason);
             return;
         }
+}
+
+void AvisarRechazo(QWidget* panel, Veredicto rechazo)
+{
+    rechazo.titulo = panel->windowTitle();
+    MostrarVeredicto(rechazo, panel);
 }

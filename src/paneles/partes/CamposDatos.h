@@ -3,6 +3,7 @@
 // their key filter and limit, numeric boxes with their digits and formats, the open and closed
 // look of a field, and the icons that act as their button.
 #include "paneles/controles/FiltroCampo.h"
+#include "valores/Veredicto.h"
 
 #include <QList>
 #include <QString>
@@ -74,3 +75,6 @@ struct FocoDeVeredicto {
 // information box with the panel's title; then the field that `focos` names for the verdict,
 // if any, takes the focus.
 void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<FocoDeVeredicto>& focos);
+// A text the store refused (TextoGuardable): its message in a box with the panel's title, then
+// the field it names takes the focus. Nothing when the store refused nothing.
+void AvisarRechazo(QWidget* panel, Veredicto rechazo);

@@ -233,7 +233,10 @@ bool FrmConDatos::ValidarCampos()
 
 int16_t FrmConDatos::GuardarContribuyente()
 {
-    const int16_t veredicto = ConDatos().GuardarContribuyente(ConDatos().ArregloGuardar());
+    Veredicto rechazo;
+    const int16_t veredicto =
+        ConDatos().GuardarContribuyente(ConDatos().ArregloGuardar(), &rechazo);
+    AvisarRechazo(this, rechazo);
     AvisarVeredicto(this, cConDatos::IdMensajeGuardar(veredicto), veredicto, {});
     return veredicto;
 }

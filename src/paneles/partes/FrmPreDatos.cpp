@@ -155,7 +155,9 @@ bool FrmPreDatos::ValidarCampos()
 
 int16_t FrmPreDatos::GuardarPresentador()
 {
-    const int16_t veredicto = PreDatos().GuardarPresentador(PreDatos().ArregloGuardar());
+    Veredicto rechazo;
+    const int16_t veredicto = PreDatos().GuardarPresentador(PreDatos().ArregloGuardar(), &rechazo);
+    AvisarRechazo(this, rechazo);
     AvisarVeredicto(this, cPreDatos::IdMensajeGuardar(veredicto), veredicto, {});
     return veredicto;
 }

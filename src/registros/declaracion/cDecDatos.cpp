@@ -296,9 +296,10 @@ void cDecDatos::ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha,
     resultado = svr.ValidarDatosDeclaraciones(datos, impresion, fecha);
 }
 
-void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado) const
+void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado,
+                                   Veredicto* rechazo) const
 {
-    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos);
+    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos, rechazo);
 }
 
 void cDecDatos::CargarDeclaracion()
@@ -371,9 +372,9 @@ cDecDatos& DecDatos()
     return Estado().de<cDecDatos>();
 }
 
-int32_t GuardarDatosDeclaracion()
+int32_t GuardarDatosDeclaracion(Veredicto* rechazo)
 {
     int32_t codigo = 0;
-    DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo);
+    DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo, rechazo);
     return codigo;
 }

@@ -4,6 +4,7 @@
 // fields are plain properties; only MODO has a side effect ("A" makes a clean new return).
 // The operations open a cDeclaSvr for one call each.
 #include "servicios/Arreglos.h"
+#include "valores/Veredicto.h"
 
 #include <QString>
 #include <QStringList>
@@ -101,7 +102,10 @@ public:
 
     // --- Operations through cDeclaSvr ----------------------------------------------------------
     void ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha, int16_t& resultado) const;
-    void GuardarDeclaracion(const Arreglo& datos, int32_t& resultado) const;
+    // `resultado` 0 when the store refused a text it cannot keep as given: `rechazo`, when
+    // given, then holds the message and the field to show.
+    void GuardarDeclaracion(const Arreglo& datos, int32_t& resultado,
+                            Veredicto* rechazo = nullptr) const;
     void CargarDeclaracion();
     void BorrarDeclaracion() const;
     void ObtenerUltimasDeclaraciones(Arreglo2D& lista) const;
@@ -124,5 +128,6 @@ private:
 cDecDatos& DecDatos();
 
 // The form's save: the 55-value array of DecDatos() to the store. Answers the return's code,
-// above 0 when it was stored.
-int32_t GuardarDatosDeclaracion();
+// above 0 when it was stored; 0 when the store refused a text, whose message and field
+// `rechazo` (when given) receives for the form to show.
+int32_t GuardarDatosDeclaracion(Veredicto* rechazo = nullptr);

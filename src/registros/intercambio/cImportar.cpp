@@ -8,6 +8,7 @@
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LectorLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
+#include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
@@ -151,8 +152,9 @@ struct cImportar::Ejecucion {
     {
         if (Refusada(l))
             return;
-        const int32_t codigo = lote->AnadirSiNuevo(ArregloNuevo(l));
-        if (codigo != 0) {
+        int32_t codigo = 0;
+        if (lote->AnadirSiNuevo(ArregloNuevo(l), codigo)
+            == VeredictoGuardarContribuyente::DniExistente) {
             lote->GuardarContribuyente(ArregloGuardar(l, codigo), true);
             ++estado.NUMEROSUS;
         }

@@ -99,9 +99,9 @@ int32_t cConDatos::ObtenerCodigoContribuyente(const QString& dni) const
     return Almacen<cContribSvr>().ObtenerCodigoContribuyente(dni);
 }
 
-int16_t cConDatos::GuardarContribuyente(const Arreglo& datos) const
+int16_t cConDatos::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo) const
 {
-    return Almacen<cContribSvr>().GuardarContribuyente(datos);
+    return Almacen<cContribSvr>().GuardarContribuyente(datos, rechazo);
 }
 
 Arreglo cConDatos::ArregloValidacion() const

@@ -4,6 +4,7 @@
 // except MODO, whose setting to "A" resets the record to a new contributor's defaults. The
 // operations each make a store object for one call.
 #include "servicios/Arreglos.h"
+#include "valores/Veredicto.h"
 
 #include <QString>
 #include <cstdint>
@@ -49,8 +50,9 @@ public:
     // Verdict 0 to 14 of the validation array.
     int16_t ValidarDatosContribuyente(const Arreglo& datos) const;
     int32_t ObtenerCodigoContribuyente(const QString& dni) const;
-    // Verdict 0 to 2 of the save array.
-    int16_t GuardarContribuyente(const Arreglo& datos) const;
+    // Verdict 0 to 3 of the save array; on 3 (a text the store cannot keep as given)
+    // `rechazo`, when given, holds the message and the field to show.
+    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
 
     // The arrays of the record, as the store takes them.
     Arreglo ArregloValidacion() const;

@@ -73,9 +73,9 @@ void cPreDatos::CargarPresentador(int32_t codigo)
     TELEFONOP = Val(d[P::TELEFONOP].toString()) != 0 ? d[P::TELEFONOP].toString() : QString();
 }
 
-int16_t cPreDatos::GuardarPresentador(const Arreglo& datos) const
+int16_t cPreDatos::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo) const
 {
-    return servidor().GuardarPresentador(datos);
+    return servidor().GuardarPresentador(datos, rechazo);
 }
 
 int16_t cPreDatos::ValidarDatosPresentador(const Arreglo& datos) const

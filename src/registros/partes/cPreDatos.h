@@ -4,6 +4,7 @@
 // object for one call. A presenter is always national and official: no kind of document or
 // domicile, no country, no typed province, no counters; a telephone.
 #include "servicios/Arreglos.h"
+#include "valores/Veredicto.h"
 
 #include <QString>
 #include <cstdint>
@@ -16,8 +17,9 @@ public:
     // given two digits and the postal code five; a telephone of value 0 reads empty. A code
     // the store does not have leaves the record as it was.
     void CargarPresentador(int32_t codigo);
-    // Verdict 0 to 3 of the save array.
-    int16_t GuardarPresentador(const Arreglo& datos) const;
+    // Verdict 0 to 4 of the save array; on 4 (a text the store cannot keep as given)
+    // `rechazo`, when given, holds the message and the field to show.
+    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
     // Verdict 0 to 11 of the validation array.
     int16_t ValidarDatosPresentador(const Arreglo& datos) const;
     // Deletes the presenter CSPR; the store refuses one named in a declaration.

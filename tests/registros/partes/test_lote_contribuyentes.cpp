@@ -7,6 +7,7 @@
 #include "plataforma/General.h"
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
+#include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/SentenciaNativa.h"
 #include "servicios/PosicionesImportar.h"
@@ -108,15 +109,30 @@ private slots:
             : 0;
         QVERIFY(uno != 0);
         cLoteContribuyentes lote(mdbmod, mdblec);
+        namespace V = VeredictoGuardarContribuyente;
+        int32_t titular = -1;
         // A new number is added, as GuardarContribuyente(datos, false) adds it.
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS")), 0);
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS"), titular), int16_t(V::Guardado));
+        QCOMPARE(titular, 0);
         QCOMPARE(lote.Pendientes(), 1);
         const int32_t dos = lote.ExisteContribuyente(Dni(2));
         QVERIFY(dos != 0 && dos != uno);
         // A number in the store, with blanks around it, writes nothing and names its holder,
         // whether the holder was committed before or saved in this batch.
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO")), uno);
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS BIS")), dos);
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO"), titular),
+                 int16_t(V::DniExistente));
+        QCOMPARE(titular, uno);
+        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS BIS"), titular),
+                 int16_t(V::DniExistente));
+        QCOMPARE(titular, dos);
+        QCOMPARE(lote.Pendientes(), 1);
+        // A text the store cannot keep stops at the door, as it stops GuardarContribuyente.
+        Arreglo control = ContribuyenteNacional(Dni(4), "CON\tTABULADOR");
+        Veredicto rechazo;
+        QCOMPARE(lote.AnadirSiNuevo(control, titular, &rechazo), int16_t(V::TextoRechazado));
+        QCOMPARE(titular, 0);
+        QVERIFY(!rechazo.vacio());
+        QCOMPARE(lote.GuardarContribuyente(control, false), int16_t(V::TextoRechazado));
         QCOMPARE(lote.Pendientes(), 1);
         // The save of the holder that follows replaces it in place.
         QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO NUEVO", uno), true),
@@ -139,7 +155,8 @@ private slots:
         cLoteContribuyentes lote(mdbmod, mdblec);
         Arreglo malo = ContribuyenteNacional(Dni(3), "TRES");
         malo[PosContribuyente::TIPODOMI] = QStringLiteral("Q");
-        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo));
+        int32_t titular = 0;
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo, titular));
         lote.Confirmar();
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
     }
@@ -162,7 +179,9 @@ private slots:
             Arreglo d = ContribuyenteNacional(Dni(++n), "CODIGOS");
             d[PosContribuyente::CODPROVC] = c.provincia;
             d[PosContribuyente::CODMUNC] = c.municipio;
-            QCOMPARE(lote.AnadirSiNuevo(d), 0);
+            int32_t titular = -1;
+            QCOMPARE(lote.AnadirSiNuevo(d, titular), int16_t(0));
+            QCOMPARE(titular, 0);
             const int32_t codigo = lote.ExisteContribuyente(Dni(n));
             lote.Confirmar();
             QCOMPARE(a.Valor(QStringLiteral("SELECT CODPROVC FROM CONTRIBUYENTES WHERE CSCO = ?"),
@@ -174,7 +193,8 @@ private slots:
         }
         Arreglo ancho = ContribuyenteNacional(Dni(99), "ANCHO");
         ancho[PosContribuyente::CODMUNC] = QStringLiteral("01001");
-        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho));
+        int32_t titular = 0;
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho, titular));
     }
 
     void textosDeLasSentenciasNativas()

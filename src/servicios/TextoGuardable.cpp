@@ -1,0 +1,105 @@
+#include "servicios/TextoGuardable.h"
+
+#include "catalogo/Catalogo.h"
+
+namespace {
+
+// A character no store keeps: the controls of C0 (NUL, tab, line break...) and DEL. NUL ends a
+// text for SQLite's own functions, and the others break a line of the exchange file or a field
+// of one line. The controls of C1 are kept: they survive the store unchanged, and the file of
+// the exchange, read as Windows-1252, turns its five undefined bytes into them.
+bool esControl(char32_t c)
+{
+    return c < 0x20 || c == 0x7F;
+}
+
+// True when every UTF-16 unit belongs to a whole character: no half of a surrogate pair stands
+// alone (SQLite would join it with its neighbour or replace it on the way to UTF-8).
+bool caracteresEnteros(const QString& t)
+{
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        const QChar c = t[i];
+        if (c.isHighSurrogate()) {
+            if (i + 1 >= t.size() || !t[i + 1].isLowSurrogate())
+                return false;
+            ++i;
+        } else if (c.isLowSurrogate()) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool hayControles(const QString& t)
+{
+    for (char32_t c : t.toUcs4())
+        if (esControl(c))
+            return true;
+    return false;
+}
+
+// Characters as SQLite counts them (whole characters, not UTF-16 units).
+qsizetype caracteres(const QString& t)
+{
+    return t.toUcs4().size();
+}
+
+Veredicto veredicto(int id, const QString& mensaje, const ColumnaTexto& c)
+{
+    Veredicto v;
+    v.id = id;
+    v.mensaje = mensaje;
+    v.botones = vb::OKOnly + vb::Information;
+    v.control = QLatin1String(c.control);
+    v.pestana = c.pestana;
+    return v;
+}
+
+}  // namespace
+
+DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Blancos blancos)
+{
+    const QString t = blancos == Blancos::Recortados ? texto.trimmed() : texto;
+    if (obligatorio && t.trimmed().isEmpty())
+        return DefectoTexto::Vacio;
+    if (!caracteresEnteros(t) || hayControles(t))
+        return DefectoTexto::Caracteres;
+    if (ancho != kAnchoDeCifras && caracteres(t) > ancho)
+        return DefectoTexto::Largo;
+    return DefectoTexto::Ninguno;
+}
+
+Veredicto ComprobarTextos(const Arreglo& datos, std::span<const ColumnaTexto> columnas,
+                          Blancos blancos)
+{
+    for (const ColumnaTexto& c : columnas) {
+        const QString texto = c.posicion < datos.size() ? datos[c.posicion].toString() : QString();
+        switch (ExaminarTexto(texto, c.ancho, c.idVacio != 0, blancos)) {
+        case DefectoTexto::Ninguno:
+            break;
+        case DefectoTexto::Vacio:
+            return veredicto(c.idVacio, Texto(c.idVacio), c);
+        case DefectoTexto::Caracteres:
+            return veredicto(kIdTextoCaracteres,
+                             Texto(kIdTextoCaracteres).arg(NombreDeCampo(c.idEtiqueta)), c);
+        case DefectoTexto::Largo:
+            return veredicto(kIdTextoLargo,
+                             Texto(kIdTextoLargo).arg(NombreDeCampo(c.idEtiqueta),
+                                                        QString::number(c.ancho)),
+                             c);
+        }
+    }
+    return {};
+}
+
+QString NombreDeCampo(int idEtiqueta)
+{
+    QString nombre = Texto(idEtiqueta);
+    nombre.remove(QLatin1Char('&'));
+    nombre = nombre.trimmed();
+    if (nombre.endsWith(QStringLiteral("...")))
+        nombre.chop(3);
+    else if (nombre.endsWith(QLatin1Char(':')))
+        nombre.chop(1);
+    return nombre.trimmed();
+}

@@ -1,0 +1,149 @@
+// Texts of a return at the store's door: a text the store cannot keep as given (a NUL, half of a
+// surrogate pair, a text longer than its field) is refused with the program's message, the
+// field and its tab, and the store stays as it was; and the search of the list finds a
+// reference whatever the case of its letters beyond ASCII.
+#include "comun/DeclaracionPrueba.h"
+
+#include "plataforma/General.h"
+#include "registros/declaracion/Validacion.h"
+#include "registros/declaracion/cDecDatos.h"
+#include "servicios/TextoGuardable.h"
+#include "servicios/cDeclaSvr.h"
+
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTest>
+
+namespace {
+
+const QChar kNul(u'\0');
+const QChar kMitadAlta(char16_t(0xD800));
+
+// Every value of every stored return, to see that nothing changed.
+QStringList Contenido(const AlmacenDePrueba& almacen)
+{
+    QSqlQuery q(almacen.db());
+    q.exec(QStringLiteral("SELECT * FROM DECLARACIONES ORDER BY CSDE"));
+    QStringList filas;
+    while (q.next()) {
+        QStringList valores;
+        for (int i = 0; i < q.record().count(); ++i)
+            valores << q.value(i).toString();
+        filas << valores.join(QLatin1Char('|'));
+    }
+    return filas;
+}
+
+}  // namespace
+
+class TestDeclTextos : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { OffsetIdioma = 0; }
+
+    void textoImposible_data()
+    {
+        QTest::addColumn<QString>("campo");
+        QTest::addColumn<QString>("valor");
+        QTest::addColumn<QString>("mensaje");
+        QTest::addColumn<int>("pestana");
+        QTest::newRow("marca larga") << "txtmarca" << QStringLiteral("SEAT IBIZA FR TDI 2.0 A")
+                                     << QStringLiteral("La casilla Marca no puede tener más de 20 caracteres")
+                                     << kSinPestana;
+        QTest::newRow("referencia con NUL") << "txtreferencia" << QString(kNul) + QStringLiteral("R1")
+                                            << QStringLiteral("La casilla Referencia contiene caracteres que no se pueden guardar")
+                                            << kSinPestana;
+        QTest::newRow("sujeto con NUL") << "txtnombresp" << QString(kNul) + QStringLiteral("GARCIA")
+                                        << QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")
+                                        << kPestanaSujeto;
+        QTest::newRow("calle con mitad de par") << "txtdomiciliotr"
+                                                << QStringLiteral("GAS") + kMitadAlta + QStringLiteral("TEIZ")
+                                                << QStringLiteral("La casilla Domicilio contiene caracteres que no se pueden guardar")
+                                                << kPestanaTransmitente;
+        QTest::newRow("transmitente largo") << "txtnombretr" << QString(41, QLatin1Char('T'))
+                                            << QStringLiteral("La casilla Apellidos y Nombre no puede tener más de 40 caracteres")
+                                            << kPestanaTransmitente;
+        QTest::newRow("referencia con blancos de más") << "txtreferencia" << QStringLiteral(" REF-00001 ")
+                                                       << QStringLiteral("La casilla Referencia no puede tener más de 10 caracteres")
+                                                       << kSinPestana;
+    }
+
+    void textoImposible()
+    {
+        QFETCH(QString, campo);
+        QFETCH(QString, valor);
+        QFETCH(QString, mensaje);
+        QFETCH(int, pestana);
+        AlmacenDePrueba almacen;
+        DeclaracionValida();
+        const int32_t guardada = GuardarDatosDeclaracion();
+        QVERIFY(guardada > 0);
+        const QStringList antes = Contenido(almacen);
+
+        // The same return changed (an update) and as a new one (an insert).
+        for (const int32_t codigo : {guardada, 0}) {
+            DeclaracionValida();
+            DecDatos().CSDE = codigo;
+            cDecDatos& d = DecDatos();
+            QString* destino = campo == QLatin1String("txtmarca")        ? &d.MARCA
+                : campo == QLatin1String("txtreferencia")                ? &d.REFERENCIA
+                : campo == QLatin1String("txtnombresp")                  ? &d.NOMBRESP
+                : campo == QLatin1String("txtdomiciliotr")               ? &d.DOMICILIOTR
+                                                                         : &d.NOMBRETR;
+            *destino = valor;
+            Veredicto rechazo;
+            QCOMPARE(GuardarDatosDeclaracion(&rechazo), 0);
+            QCOMPARE(rechazo.mensaje, mensaje);
+            QCOMPARE(rechazo.control, campo);
+            QCOMPARE(rechazo.pestana, pestana);
+            QCOMPARE(Contenido(almacen), antes);
+        }
+    }
+
+    void loQueEntraNoCambia()
+    {
+        // A text the store keeps is read back exactly as it was given.
+        AlmacenDePrueba almacen;
+        DeclaracionValida();
+        DecDatos().NOMBRESP = QStringLiteral("ÑANDÚ ") + QString::fromUcs4(U"\U0001F697", 1);
+        DecDatos().REFERENCIA = QStringLiteral(" ç-1 ");
+        const int32_t c = GuardarDatosDeclaracion();
+        QVERIFY(c > 0);
+        DecDatos().setMODO(QStringLiteral("A"));
+        DecDatos().CSDE = c;
+        DecDatos().CargarDeclaracion();
+        QCOMPARE(DecDatos().NOMBRESP, QStringLiteral("ÑANDÚ ") + QString::fromUcs4(U"\U0001F697", 1));
+        QCOMPARE(DecDatos().REFERENCIA, QStringLiteral(" ç-1 "));
+    }
+
+    void busquedaDeReferencia()
+    {
+        AlmacenDePrueba almacen;
+        for (const char* referencia : {"AÑO-1", "año-2", "ANO-3", "ÇA-4"}) {
+            DeclaracionValida();
+            DecDatos().REFERENCIA = QString::fromUtf8(referencia);
+            QVERIFY(GuardarDatosDeclaracion() > 0);
+        }
+        cDeclaSvr svr;
+        svr.mdbmod = mdbmod;
+        svr.mdblec = mdblec;
+        const auto buscar = [&svr](const QString& prefijo) {
+            Arreglo2D r;
+            svr.dameResultadoBusqueda(r, {0, prefijo, 0, 0, QString()}, 2, QStringLiteral("ASC"), 0);
+            QStringList refs;
+            for (const QVariant& v : r.value(1))
+                refs << v.toString();
+            refs.sort();
+            return refs;
+        };
+        const QStringList anos = {QStringLiteral("AÑO-1"), QStringLiteral("año-2")};
+        QCOMPARE(buscar(QStringLiteral("año")), anos);
+        QCOMPARE(buscar(QStringLiteral("AÑO")), anos);
+        QCOMPARE(buscar(QStringLiteral("ç")), QStringList{QStringLiteral("ÇA-4")});
+        QCOMPARE(buscar(QStringLiteral("an")), QStringList{QStringLiteral("ANO-3")});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestDeclTextos)
+#include "test_decl_textos.moc"
