@@ -3,6 +3,7 @@
 #include "plataforma/Fallo.h"
 #include "servicios/BusquedaTexto.h"
 #include "servicios/CodigoPostal.h"
+#include "servicios/TextoGuardable.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -88,7 +89,7 @@ QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
     const QVariant& v = valor(a, i);
     QString t = v.toString().trimmed();
     // Whole characters, as the column counts them (a character beyond the BMP is one).
-    if (t.toUcs4().size() > ancho)
+    if (Caracteres(t) > ancho)
         noCoincide(campo, v, origen);
     if (t.isNull())
         t = QStringLiteral("");  // SQLite takes a null text for NULL

@@ -15,7 +15,7 @@ bool esControl(char32_t c)
 
 // True when every UTF-16 unit belongs to a whole character: no half of a surrogate pair stands
 // alone (SQLite would join it with its neighbour or replace it on the way to UTF-8).
-bool caracteresEnteros(const QString& t)
+bool caracteresEnteros(QStringView t)
 {
     for (qsizetype i = 0; i < t.size(); ++i) {
         const QChar c = t[i];
@@ -30,18 +30,13 @@ bool caracteresEnteros(const QString& t)
     return true;
 }
 
-bool hayControles(const QString& t)
+// Every control is one UTF-16 unit, so the units are looked at one by one, without a copy.
+bool hayControles(QStringView t)
 {
-    for (char32_t c : t.toUcs4())
-        if (esControl(c))
+    for (QChar c : t)
+        if (esControl(c.unicode()))
             return true;
     return false;
-}
-
-// Characters as SQLite counts them (whole characters, not UTF-16 units).
-qsizetype caracteres(const QString& t)
-{
-    return t.toUcs4().size();
 }
 
 Veredicto veredicto(int id, const QString& mensaje, const ColumnaTexto& c)
@@ -57,14 +52,26 @@ Veredicto veredicto(int id, const QString& mensaje, const ColumnaTexto& c)
 
 }  // namespace
 
+qsizetype Caracteres(QStringView texto)
+{
+    qsizetype n = 0;
+    for (qsizetype i = 0; i < texto.size(); ++i, ++n)
+        if (texto[i].isHighSurrogate() && i + 1 < texto.size() && texto[i + 1].isLowSurrogate())
+            ++i;
+    return n;
+}
+
 DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Blancos blancos)
 {
-    const QString t = blancos == Blancos::Recortados ? texto.trimmed() : texto;
+    // A view: every save looks at each of its texts here, and the blanks are set aside
+    // without a copy.
+    const QStringView t = blancos == Blancos::Recortados ? QStringView(texto).trimmed()
+                                                        : QStringView(texto);
     if (obligatorio && t.trimmed().isEmpty())
         return DefectoTexto::Vacio;
     if (!caracteresEnteros(t) || hayControles(t))
         return DefectoTexto::Caracteres;
-    if (ancho != kAnchoDeCifras && caracteres(t) > ancho)
+    if (ancho != kAnchoDeCifras && Caracteres(t) > ancho)
         return DefectoTexto::Largo;
     return DefectoTexto::Ninguno;
 }

@@ -50,6 +50,10 @@ inline constexpr int kIdTextoLargo = 365;
 // store of returns keeps it as given.
 enum class Blancos { Recortados, Conservados };
 
+// Characters as SQLite counts them: whole characters, a pair of surrogates being one (a lone
+// half counts as one, as it does once replaced on its way to UTF-8).
+qsizetype Caracteres(QStringView texto);
+
 DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Blancos blancos);
 
 // The verdict on the first of `columnas` whose value in `datos` its column cannot keep: the
