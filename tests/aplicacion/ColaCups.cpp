@@ -64,6 +64,7 @@ ColaCups::ColaCups(quint16 puerto) : m_puerto(puerto)
 
 ColaCups::~ColaCups()
 {
+    // VELDO_CUPS_GUARDAR keeps the folder (configuration, logs, jobs) to look at a failure.
     if (qEnvironmentVariableIsSet("VELDO_CUPS_GUARDAR"))
         m_dir.setAutoRemove(false);
     if (!m_cupsd || m_cupsd->state() == QProcess::NotRunning)
