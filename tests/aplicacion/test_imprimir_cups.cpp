@@ -35,15 +35,6 @@ const QString kTotal = QStringLiteral("999,95");
 const QString kFecha = QStringLiteral("2004/03/11n /// 11/03/2004");
 constexpr int kEsperaTrabajos = 60000;
 
-QString texto(const QString& documento)
-{
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"),
-            {QStringLiteral("-layout"), documento, QStringLiteral("-")});
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
 // A job's document is one page of PDF that holds the return's data (the bank's sheet has no
 // presenter's block, so the presenter is looked for on the other copies only).
 void comprobarDocumento(const QString& documento)
@@ -51,7 +42,7 @@ void comprobarDocumento(const QString& documento)
     QFile f(documento);
     QVERIFY(f.open(QIODevice::ReadOnly));
     QVERIFY2(f.read(5) == "%PDF-", qPrintable(documento));
-    const QString t = texto(documento);
+    const QString t = TextoDePdf(documento);
     QCOMPARE(t.count(QLatin1Char('\f')), 1);
     QVERIFY2(t.contains(kSujeto), qPrintable(t));
     QVERIFY2(t.contains(kTotal), qPrintable(t));
@@ -71,13 +62,13 @@ private:
     int32_t m_codigo = 0;
     QTemporaryDir m_ejecucion;  // XDG_RUNTIME_DIR of the program run on its own
 
-    // The program copied beside the test's store, run with no display and printing to the
-    // test's own server.
-    void prepararVeldo(QProcess& p)
+    // Runs the program copied beside the test's store, with no display and printing to the
+    // test's own server; answers its status (-1 when it did not end) and keeps its stderr.
+    int Veldo(const QStringList& argumentos, QString& error)
     {
         const QString programa = m_almacen->carpeta().ruta() + QStringLiteral("/Veldo");
-        if (!QFile::exists(programa))
-            QVERIFY(QFile::copy(QStringLiteral(VELDO_PROGRAMA), programa));
+        if (!QFile::exists(programa) && !QFile::copy(QStringLiteral(VELDO_PROGRAMA), programa))
+            return -1;
         QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
         entorno.remove(QStringLiteral("DISPLAY"));
         entorno.remove(QStringLiteral("WAYLAND_DISPLAY"));
@@ -85,9 +76,14 @@ private:
         entorno.insert(QStringLiteral("CUPS_SERVER"), m_cola.Servidor());
         entorno.insert(QStringLiteral("XDG_RUNTIME_DIR"), m_ejecucion.path());
         entorno.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        QProcess p;
         p.setProcessEnvironment(entorno);
         p.setWorkingDirectory(m_almacen->carpeta().ruta());
-        p.setProgram(programa);
+        p.start(programa, argumentos);
+        if (!p.waitForFinished(120000))
+            return -1;
+        error = QString::fromUtf8(p.readAllStandardError()).trimmed();
+        return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
     }
 
 private slots:
@@ -139,44 +135,40 @@ private slots:
             comprobarDocumento(t);
         // In the fixed order: traffic, taxpayer, administration, then the bank's sheet.
         for (int i = 0; i < 3; ++i)
-            QVERIFY(texto(trabajos.at(i)).contains(kPresentador));
-        QVERIFY(!texto(trabajos.at(3)).contains(kPresentador));
-        QVERIFY(texto(trabajos.first()).contains(kFecha));
+            QVERIFY(TextoDePdf(trabajos.at(i)).contains(kPresentador));
+        QVERIFY(!TextoDePdf(trabajos.at(3)).contains(kPresentador));
+        QVERIFY(TextoDePdf(trabajos.first()).contains(kFecha));
     }
 
     // The program on its own, with no window, names the queue.
     void laLineaDeOrdenesImprimeEnLaCola()
     {
-        QProcess p;
-        prepararVeldo(p);
-        p.start(p.program(), {QStringLiteral("--imprimir"), QString::number(m_codigo),
-                           QStringLiteral("--impresora"), kCola, QStringLiteral("--copias"),
-                           QStringLiteral("trafico,banco"), QStringLiteral("--fecha"),
-                           QStringLiteral("11/03/2004")});
-        QVERIFY(p.waitForFinished(120000));
-        QCOMPARE(QString::fromUtf8(p.readAllStandardError()).trimmed(), QString());
-        QCOMPARE(p.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(p.exitCode(), 0);
+        QString error;
+        QCOMPARE(Veldo({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                        QStringLiteral("--impresora"), kCola, QStringLiteral("--copias"),
+                        QStringLiteral("trafico,banco"), QStringLiteral("--fecha"),
+                        QStringLiteral("11/03/2004")},
+                       error),
+                 0);
+        QCOMPARE(error, QString());
         const QStringList trabajos = m_cola.Trabajos(2, kEsperaTrabajos);
         QCOMPARE(trabajos.size(), 2);
         for (const QString& t : trabajos)
             comprobarDocumento(t);
-        QVERIFY(texto(trabajos.first()).contains(kPresentador));
-        QVERIFY(!texto(trabajos.at(1)).contains(kPresentador));
-        QVERIFY(texto(trabajos.first()).contains(kFecha));
+        QVERIFY(TextoDePdf(trabajos.first()).contains(kPresentador));
+        QVERIFY(!TextoDePdf(trabajos.at(1)).contains(kPresentador));
+        QVERIFY(TextoDePdf(trabajos.first()).contains(kFecha));
     }
 
     // A queue that the server does not have: the program's message, a non-zero status, no job.
     void unaColaQueNoExiste()
     {
-        QProcess p;
-        prepararVeldo(p);
-        p.start(p.program(), {QStringLiteral("--imprimir"), QString::number(m_codigo),
-                           QStringLiteral("--impresora"), QStringLiteral("Ninguna")});
-        QVERIFY(p.waitForFinished(120000));
-        QCOMPARE(p.exitCode(), 1);
-        QCOMPARE(QString::fromUtf8(p.readAllStandardError()).trimmed(),
-                 QStringLiteral("No existe la impresora Ninguna"));
+        QString error;
+        QCOMPARE(Veldo({QStringLiteral("--imprimir"), QString::number(m_codigo),
+                        QStringLiteral("--impresora"), QStringLiteral("Ninguna")},
+                       error),
+                 1);
+        QCOMPARE(error, QStringLiteral("No existe la impresora Ninguna"));
         QVERIFY(m_cola.Trabajos(1, 2000).isEmpty());
     }
 };
