@@ -481,6 +481,26 @@ private slots:
         EscribirYSalir(n("txtbasei"), QStringLiteral("1234,5"));
         QCOMPARE(n("txtbasei")->text(), QStringLiteral("1.234,50"));
     }
+
+    // A stored contributor who is the subject of another return, typed as transmitter: the
+    // national/foreign boxes stay off; one who is subject of none leaves them on.
+    void transmitenteSujetoDeOtraNoSeCambia()
+    {
+        const int32_t sujeto = NuevoContribuyente(Dni(44444444), QStringLiteral("SUJETO DE OTRA"));
+        NuevoContribuyente(Dni(55555555), QStringLiteral("SOLO TRANSMITENTE"));
+        DeclaracionGuardada(QStringLiteral("OTRA"), 20100315, QStringLiteral("T2"), sujeto);
+        nueva();
+        pestana(1);
+        EscribirYSalir(t("txtdnitr"), Dni(55555555));
+        QCOMPARE(DecDatos().DECLASP, 0.0);
+        QVERIFY(k("chktipodnitr")->isEnabled() && k("chktipodomitr")->isEnabled());
+        EscribirYSalir(t("txtdnitr"), Dni(44444444));
+        QCOMPARE(DecDatos().CSTRA, sujeto);
+        QVERIFY(DecDatos().DECLASP > 0);
+        QVERIFY(!k("chktipodnitr")->isEnabled());
+        QVERIFY(!k("chktipodomitr")->isEnabled());
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
 };
 
 QTEST_MAIN(TestFrmDeclaracion)

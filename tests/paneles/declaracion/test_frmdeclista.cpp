@@ -234,6 +234,22 @@ private slots:
         Clic(b("cmdAceptar"));
         QCOMPARE(Declaraciones(), 2);
     }
+
+    // In Basque: the panel's title, headings and counter in Basque, dates as yyyy/mm/dd, amounts
+    // the Spanish way.
+    void enEuskera()
+    {
+        m_prog.reset();
+        m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
+        DeclaracionGuardada(QStringLiteral("AAA"), 20110101, QStringLiteral("T4"));
+        abrir();
+        QVERIFY(m_panel);
+        QCOMPARE(m_panel->windowTitle(), TextoFila(10174));
+        QVERIFY(m_panel->windowTitle() != TextoFila(174));
+        QCOMPARE(grid()->TextMatrix(1, 2), QStringLiteral("2011/01/01"));
+        QCOMPARE(grid()->TextMatrix(1, 3), QStringLiteral("712,50"));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
 };
 
 QTEST_MAIN(TestFrmDecLista)

@@ -207,6 +207,29 @@ private slots:
         QCOMPARE(t("txtnombrepr")->text(), QString());
         QVERIFY(!con->isEnabled());
     }
+
+    // The presenters' list keeps no criteria from one trip to the next.
+    void presentadorSinCriteriosEnLaSegundaVisita()
+    {
+        NuevoPresentador(Dni(87654321), QStringLiteral("GESTORIA ARBELIA"));
+        NuevoPresentador(Dni(76543210), QStringLiteral("ASESORIA VELDO"));
+        nueva();
+        ir("CmdPresentador", "FrmPreSeleccion");
+        QCOMPARE(grid("flxPresentadores")->TextMatrix(2, 1).isEmpty(), false);
+        Clic(b("cmdBuscar"));
+        ClicEnCelda(grid("flxPresentadores"), 1, 1);
+        Escribir(t("txtBusqueda"), QStringLiteral("GES"));
+        Tabular();
+        Clic(b("cmdBuscar"));
+        QCOMPARE(grid("flxPresentadores")->TextMatrix(1, 1), QStringLiteral("GESTORIA ARBELIA"));
+        QVERIFY(grid("flxPresentadores")->TextMatrix(2, 1).isEmpty());
+        Clic(b("cmdAceptar"));
+        volver();
+        ir("CmdPresentador", "FrmPreSeleccion");
+        QVERIFY(!grid("flxPresentadores")->TextMatrix(2, 1).isEmpty());
+        Clic(b("cmdCancelar"));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
 };
 
 QTEST_MAIN(TestSeleccion)
