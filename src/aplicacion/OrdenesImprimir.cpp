@@ -8,6 +8,7 @@
 #include "plataforma/General.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/CopiasImpresas.h"
+#include "registros/imprimir/FechaPresentacion.h"
 #include "registros/imprimir/cImOf.h"
 #include "valores/cFecha.h"
 
@@ -19,9 +20,6 @@
 #include <QTextStream>
 
 namespace {
-// The earliest date of presentation the form accepts.
-constexpr int32_t kFechaMinima = 20031201;
-
 struct PeticionPdf {
     int32_t csde = 0;
     QString fichero;         // --pdf: the file written
@@ -94,7 +92,8 @@ PeticionPdf leer(const QStringList& a)
     return p;
 }
 
-// The date of presentation checked as the print panel checks it, read day first.
+// The date of presentation checked as the print panel checks it, but always read day first;
+// today's date when none is given.
 int32_t fechaPresentacion(const QString& texto)
 {
     cFecha& fecha = Fecha();
@@ -103,17 +102,11 @@ int32_t fechaPresentacion(const QString& texto)
     const QString dada = texto.isEmpty()
                              ? QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"))
                              : texto;
-    const bool valida = !dada.isEmpty() && dada != fecha.FecVacia() && fecha.EsFecha(dada);
-    const int32_t numero = valida ? fecha.StringToLong(dada) : -1;
-    const QString limite = fecha.LongToString(kFechaMinima);
+    const Veredicto v = VeredictoFechaPresentacion(dada);
+    const int32_t numero = v.vacio() ? fecha.StringToLong(dada) : 0;
     fecha.fecidioma = antes;
-    if (!valida || numero <= 0)
-        throw Rechazo{Texto(327)};
-    if (numero < kFechaMinima)
-        throw Rechazo{TextoSegunIdioma(
-            QStringLiteral("La Fecha de presentación no puede ser anterior al ") + limite,
-            QStringLiteral("Aurkezpen data ezin da ") + limite +
-                QStringLiteral(" baino lehenagokoa izan"))};
+    if (!v.vacio())
+        throw Rechazo{v.mensaje};
     return numero;
 }
 

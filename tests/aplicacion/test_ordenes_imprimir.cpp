@@ -11,7 +11,6 @@
 #include <QFile>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,16 +44,6 @@ Resultado ejecutar(const QStringList& argumentos, const QString& carpeta,
     r.error = QString::fromUtf8(leido.readAll()).trimmed();
     return r;
 }
-
-QString texto(const QString& pdf)
-{
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
-int paginas(const QString& pdf) { return static_cast<int>(texto(pdf).count(QLatin1Char('\f'))); }
 }
 
 class TestOrdenesImprimir : public QObject {
@@ -96,8 +85,8 @@ private slots:
                                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(0));
         QCOMPARE(r.error, QString());
-        QCOMPARE(paginas(pdf("todas.pdf")), 4);
-        const QString t = texto(pdf("todas.pdf"));
+        QCOMPARE(PaginasDePdf(pdf("todas.pdf")), 4);
+        const QString t = TextoDePdf(pdf("todas.pdf"));
         QVERIFY(t.contains(QLatin1String("2004/03/11n /// 11/03/2004")));
         QVERIFY(t.contains(QLatin1String("GESTORIA UNO")));
         QVERIFY(t.contains(QLatin1String("999,95")));
@@ -111,15 +100,15 @@ private slots:
                                 QStringLiteral("banco,interesado")},
                                m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(0));
-        QCOMPARE(paginas(pdf("banco.pdf")), 2);
+        QCOMPARE(PaginasDePdf(pdf("banco.pdf")), 2);
 
         r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo), pdf("borrador.pdf"),
                       QStringLiteral("--borrador"), QStringLiteral("--sin-presentador")},
                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(0));
-        QCOMPARE(paginas(pdf("borrador.pdf")), 1);
-        QVERIFY(!texto(pdf("borrador.pdf")).contains(QLatin1String("GESTORIA UNO")));
-        QVERIFY(texto(pdf("borrador.pdf")).contains(QLatin1String("NNNNNNNNNN")));
+        QCOMPARE(PaginasDePdf(pdf("borrador.pdf")), 1);
+        QVERIFY(!TextoDePdf(pdf("borrador.pdf")).contains(QLatin1String("GESTORIA UNO")));
+        QVERIFY(TextoDePdf(pdf("borrador.pdf")).contains(QLatin1String("NNNNNNNNNN")));
     }
 
     void rechazos_data()
@@ -160,7 +149,7 @@ private slots:
                                       QStringLiteral("trafico")},
                                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(0));
-        QVERIFY(texto(pdf("limite.pdf")).contains(QLatin1String("2003/12/01ean /// 01/12/2003")));
+        QVERIFY(TextoDePdf(pdf("limite.pdf")).contains(QLatin1String("2003/12/01ean /// 01/12/2003")));
     }
 
     void declaracionQueNoExiste()
@@ -196,16 +185,16 @@ private slots:
                                m_dir.path(), &impresora);
         QCOMPARE(r.estado, std::optional<int>(0));
         QCOMPARE(r.error, QString());
-        QCOMPARE(paginas(pdf("impresora.pdf")), 1);
-        QVERIFY(texto(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
-        QVERIFY(texto(pdf("impresora.pdf")).contains(QLatin1String("2004/03/11n /// 11/03/2004")));
+        QCOMPARE(PaginasDePdf(pdf("impresora.pdf")), 1);
+        QVERIFY(TextoDePdf(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
+        QVERIFY(TextoDePdf(pdf("impresora.pdf")).contains(QLatin1String("2004/03/11n /// 11/03/2004")));
 
         r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
                       QStringLiteral("--borrador"), QStringLiteral("--sin-presentador")},
                      m_dir.path(), &impresora);
         QCOMPARE(r.estado, std::optional<int>(0));
-        QCOMPARE(paginas(pdf("impresora.pdf")), 1);
-        QVERIFY(!texto(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
+        QCOMPARE(PaginasDePdf(pdf("impresora.pdf")), 1);
+        QVERIFY(!TextoDePdf(pdf("impresora.pdf")).contains(QLatin1String("GESTORIA UNO")));
     }
 
     void imprimirRechazos()

@@ -7,6 +7,7 @@
 #include "paneles/controles/CajaNum.h"
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/partes/BloqueDomicilio.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -46,9 +47,18 @@ bool FrmDeclaracion::ValidarCampos()
 
 bool FrmDeclaracion::Guardar()
 {
-    const int32_t codigo = GuardarDatosDeclaracion();
-    if (codigo < 1)
+    Veredicto rechazo;
+    const int32_t codigo = GuardarDatosDeclaracion(&rechazo);
+    if (codigo < 1) {
+        // A text the store cannot keep (dropped or pasted into a field past its key filter):
+        // the store's message under the form's title, and the field with the focus.
+        if (!rechazo.vacio()) {
+            if (rechazo.titulo.isEmpty())
+                rechazo.titulo = windowTitle();
+            MostrarVeredicto(rechazo, this);
+        }
         return false;
+    }
     const QString modo = DecDatos().MODO();
     if (modo == QLatin1String("A") || modo == QLatin1String("D"))
         AnotarEnLista(codigo);

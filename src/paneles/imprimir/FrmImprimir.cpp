@@ -3,6 +3,7 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "paneles/imprimir/ImpresoraSistema.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
@@ -11,9 +12,9 @@
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/CopiasImpresas.h"
+#include "registros/imprimir/FechaPresentacion.h"
 #include "registros/imprimir/cImOf.h"
 #include "registros/partes/cPreDatos.h"
-#include "valores/cFecha.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -34,9 +35,6 @@
 #include <QVBoxLayout>
 
 namespace {
-// The earliest date of presentation the form accepts.
-constexpr int32_t kFechaMinima = 20031201;
-
 // The hourglass while the copies are drawn, the arrow again however the drawing ends.
 class CursorEspera {
 public:
@@ -281,23 +279,10 @@ void FrmImprimir::alMarcarCopia(QCheckBox* caja, QString& propiedad)
 
 bool FrmImprimir::ValidarFechaPresentacion()
 {
-    cFecha& fecha = Fecha();
-    const QString texto = txtFechaPresentacion->text();
-    if (!fecha.EsFecha(texto)) {
-        Mensaje(Texto(327), vb::OKOnly | vb::Exclamation, Texto(131));
-        return true;
-    }
-    if (fecha.StringToLong(texto) < kFechaMinima) {
-        const QString limite = fecha.LongToString(kFechaMinima);
-        Mensaje(TextoSegunIdioma(
-                    QStringLiteral("La Fecha de presentación no puede ser anterior al ") + limite,
-                    QStringLiteral("Aurkezpen data ezin da ") + limite +
-                        QStringLiteral(" baino lehenagokoa izan")),
-                vb::OKOnly | vb::Exclamation, Texto(131));
-        return true;
-    }
-    ImOf().FECHAPRE = fecha.StringToLong(texto);
-    return false;
+    // A good date is kept in ImOf().FECHAPRE for the drawing.
+    const Veredicto v = FijarFechaPresentacion(txtFechaPresentacion->text());
+    MostrarVeredicto(v, this);
+    return !v.vacio();
 }
 
 bool FrmImprimir::conPresentador() const { return opcion(optPresentador, 0)->isChecked(); }

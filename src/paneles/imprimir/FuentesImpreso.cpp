@@ -1,11 +1,22 @@
 #include "paneles/imprimir/FuentesImpreso.h"
 
-#include <QFontMetricsF>
+#include <map>
+#include <memory>
+#include <tuple>
 
 namespace {
 // Pixel size of the font the metrics are read on; the ratio to the point size scales them.
 constexpr int kPixelesReferencia = 1000;
 constexpr double kMmPorPunto = 25.4 / 72.0;
+// Widths kept per font before the memory is given back: far more than a sheet has texts, so
+// only a long run of many returns ever empties it.
+constexpr qsizetype kAnchosGuardados = 4096;
+
+QFont aReferencia(QFont fuente)
+{
+    fuente.setPixelSize(kPixelesReferencia);
+    return fuente;
+}
 }
 
 QString FamiliaInstalada(const QString& familia)
@@ -30,11 +41,35 @@ QFont FuenteImpreso(const QString& familia, double puntos, bool negrita, bool cu
     return f;
 }
 
-MedidaTexto MedirTexto(const QFont& fuente, double puntos, const QString& texto)
+FuenteMedida::FuenteMedida(const QString& familia, double puntos, bool negrita, bool cursiva,
+                           bool subrayado)
+    : m_fuente(FuenteImpreso(familia, puntos, negrita, cursiva, subrayado)),
+      m_metricas(aReferencia(m_fuente)),
+      m_escala(puntos * kMmPorPunto / kPixelesReferencia)
 {
-    QFont grande(fuente);
-    grande.setPixelSize(kPixelesReferencia);
-    const QFontMetricsF m(grande);
-    const double escala = puntos * kMmPorPunto / kPixelesReferencia;
-    return {m.horizontalAdvance(texto) * escala, m.height() * escala, m.ascent() * escala};
+}
+
+MedidaTexto FuenteMedida::Medir(const QString& texto) const
+{
+    auto it = m_anchos.constFind(texto);
+    if (it == m_anchos.cend()) {
+        if (m_anchos.size() >= kAnchosGuardados)
+            m_anchos.clear();
+        it = m_anchos.insert(texto, m_metricas.horizontalAdvance(texto));
+    }
+    return {*it * m_escala, m_metricas.height() * m_escala, m_metricas.ascent() * m_escala};
+}
+
+const FuenteMedida& FuenteDeImpreso(const QString& familia, double puntos, bool negrita,
+                                    bool cursiva, bool subrayado)
+{
+    using Clave = std::tuple<QString, double, bool, bool, bool>;
+    static std::map<Clave, std::unique_ptr<FuenteMedida>> hechas;
+    const Clave clave{familia, puntos, negrita, cursiva, subrayado};
+    auto it = hechas.find(clave);
+    if (it == hechas.end())
+        it = hechas.emplace(clave, std::make_unique<FuenteMedida>(familia, puntos, negrita,
+                                                                  cursiva, subrayado))
+                 .first;
+    return *it->second;
 }

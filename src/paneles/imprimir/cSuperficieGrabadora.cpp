@@ -5,9 +5,8 @@
 namespace {
 MedidaTexto medir(const cSuperficiePagina& p, const QString& texto)
 {
-    return MedirTexto(FuenteImpreso(p.FontName, p.FontSize, p.FontBold, p.FontItalic,
-                                    p.FontUnderline),
-                      p.FontSize, texto);
+    return FuenteDeImpreso(p.FontName, p.FontSize, p.FontBold, p.FontItalic, p.FontUnderline)
+        .Medir(texto);
 }
 }
 

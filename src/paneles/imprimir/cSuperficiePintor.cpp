@@ -12,6 +12,8 @@ QPainter& cSuperficiePintor::Pintor()
     if (m_hojaPendiente) {
         m_hojaPendiente = false;
         EmpezarHoja(m_pintor);
+        m_fuentePuesta = nullptr;
+        m_colorTexto.reset();
         m_pintor.setRenderHint(QPainter::Antialiasing);
         m_pintor.setRenderHint(QPainter::TextAntialiasing);
     }
@@ -29,28 +31,41 @@ double cSuperficiePintor::Px(float unidades) const
     return unidades * MmPorUnidad() * m_pxPorMm;
 }
 
-QFont cSuperficiePintor::Fuente() const
+const FuenteMedida& cSuperficiePintor::Fuente()
 {
-    return FuenteImpreso(FontName, FontSize, FontBold, FontItalic, FontUnderline);
+    return FuenteDeImpreso(FontName, FontSize, FontBold, FontItalic, FontUnderline);
+}
+
+QPainter& cSuperficiePintor::PintorDeTexto(const FuenteMedida& fuente)
+{
+    QPainter& p = Pintor();
+    if (m_fuentePuesta != &fuente) {
+        p.setFont(fuente.Fuente());
+        m_fuentePuesta = &fuente;
+    }
+    if (m_colorTexto != ForeColor) {
+        p.setPen(QColor::fromRgb(ForeColor));
+        m_colorTexto = ForeColor;
+    }
+    return p;
 }
 
 float cSuperficiePintor::TextWidth(const QString& texto)
 {
-    return static_cast<float>(MedirTexto(Fuente(), FontSize, texto).ancho / MmPorUnidad());
+    return static_cast<float>(Fuente().Medir(texto).ancho / MmPorUnidad());
 }
 
 float cSuperficiePintor::TextHeight(const QString& texto)
 {
-    return static_cast<float>(MedirTexto(Fuente(), FontSize, texto).alto / MmPorUnidad());
+    return static_cast<float>(Fuente().Medir(texto).alto / MmPorUnidad());
 }
 
 void cSuperficiePintor::Print(const QString& texto)
 {
-    const MedidaTexto m = MedirTexto(Fuente(), FontSize, texto);
-    QPainter& p = Pintor();
-    p.setFont(Fuente());
-    p.setPen(QColor::fromRgb(ForeColor));
-    p.drawText(QPointF(Px(CurrentX), Px(CurrentY) + m.ascenso * m_pxPorMm), texto);
+    const FuenteMedida& fuente = Fuente();
+    const MedidaTexto m = fuente.Medir(texto);
+    PintorDeTexto(fuente).drawText(QPointF(Px(CurrentX), Px(CurrentY) + m.ascenso * m_pxPorMm),
+                                   texto);
     CurrentX += static_cast<float>(m.ancho / MmPorUnidad());
 }
 
@@ -67,6 +82,7 @@ void cSuperficiePintor::Line(float x1, float y1, float x2, float y2, uint32_t co
     QPen pluma(QColor::fromRgb(color), MmDeGrosor(DrawWidth) * m_pxPorMm, Qt::SolidLine,
                Qt::SquareCap, Qt::MiterJoin);
     p.setPen(pluma);
+    m_colorTexto.reset();
     p.setBrush(Qt::NoBrush);
     if (modo == ModoLinea::Caja)
         p.drawRect(QRectF(a, b).normalized());

@@ -6,7 +6,9 @@
 #include "registros/imprimir/cSuperficiePagina.h"
 
 #include <QPainter>
+#include <optional>
 
+class FuenteMedida;
 class QPaintDevice;
 
 class cSuperficiePintor : public cSuperficiePagina {
@@ -32,9 +34,15 @@ protected:
 
 private:
     double Px(float unidades) const;
-    QFont Fuente() const;
+    // The font of the state in force, shared by every surface of the process.
+    const FuenteMedida& Fuente();
+    // The painter with the state's font and colour for a text, set only when they changed.
+    QPainter& PintorDeTexto(const FuenteMedida& fuente);
 
     QPainter m_pintor;
     double m_pxPorMm;
     bool m_hojaPendiente = true;
+    // What the painter holds now; forgotten when a sheet begins on a new painter.
+    const FuenteMedida* m_fuentePuesta = nullptr;
+    std::optional<uint32_t> m_colorTexto;  // the pen is a text's of this colour
 };

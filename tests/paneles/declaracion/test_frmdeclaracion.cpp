@@ -501,6 +501,40 @@ private slots:
         QVERIFY(!k("chktipodomitr")->isEnabled());
         QVERIFY(MensajeSeam::registro().isEmpty());
     }
+
+    // A reference with a NUL, dropped on the field of a stored return: Aceptar shows the
+    // store's message under the form's title, the focus goes to the field, the form stays
+    // open and the stored return is as it was; once mended, the return is saved.
+    void textoQueElAlmacenNoGuarda()
+    {
+        DeclaracionGuardada(QStringLiteral("REF-1"));
+        m_prog->ventana()->ActualizarMenus();
+        Comando(*m_prog, "d1");
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QVERIFY(m_panel);
+        Entrar(t("txtreferencia"));
+        Soltar(t("txtreferencia"), QString(QChar(u'\0')) + QStringLiteral("X"));
+        Tabular();
+        QVERIFY(DecDatos().MODIFICADO);
+        MensajeSeam::setNextAnswer(vb::OK);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QVERIFY2(MensajeSeam::registro().first().texto.contains(QStringLiteral("Referencia")),
+                 qPrintable(MensajeSeam::registro().first().texto));
+        QCOMPARE(MensajeSeam::registro().first().titulo, QStringLiteral("Datos Declaración"));
+        Procesar();
+        QCOMPARE(Foco(), t("txtreferencia"));
+        QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmDeclaracion")});
+        QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES")).toString(),
+                 QStringLiteral("REF-1"));
+        MensajeSeam::limpiar();
+        EscribirYSalir(t("txtreferencia"), QStringLiteral("REF-2"));
+        Clic(b("cmdAceptar"));
+        QCOMPARE(mensajes(), QStringList());
+        QVERIFY(m_prog->paneles().isEmpty());
+        QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES")).toString(),
+                 QStringLiteral("REF-2"));
+    }
 };
 
 QTEST_MAIN(TestFrmDeclaracion)

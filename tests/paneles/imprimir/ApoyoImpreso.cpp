@@ -5,6 +5,7 @@
 #include "registros/imprimir/CopiasImpresas.h"
 #include "registros/imprimir/cImOf.h"
 
+#include <QProcess>
 #include <QTest>
 
 int32_t DeclaracionLlena()
@@ -110,4 +111,17 @@ float AltoDe(const LlamadaPagina& l)
     s.FontBold = l.negrita;
     s.FontItalic = l.cursiva;
     return s.TextHeight(l.texto);
+}
+
+QString TextoDePdf(const QString& pdf)
+{
+    QProcess p;
+    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
+    p.waitForFinished(30000);
+    return QString::fromUtf8(p.readAllStandardOutput());
+}
+
+int PaginasDePdf(const QString& pdf)
+{
+    return static_cast<int>(TextoDePdf(pdf).count(QLatin1Char('\f')));
 }

@@ -4,6 +4,7 @@
 #include "paneles/imprimir/cSuperficieGrabadora.h"
 
 #include <QList>
+#include <QString>
 #include <cstdint>
 
 // Stores a presenter, two contributors and a return whose every text field is as long as the
@@ -18,3 +19,8 @@ QList<LlamadaPagina> Dibujos(const cSuperficieGrabadora& s);
 int FinesDeDocumento(const cSuperficieGrabadora& s);
 // The height the surface gives a text in the font of a recorded call.
 float AltoDe(const LlamadaPagina& l);
+
+// The text of a PDF as pdftotext -layout reads it; a page ends with a form feed.
+QString TextoDePdf(const QString& pdf);
+// The pages of a PDF, counted in that text.
+int PaginasDePdf(const QString& pdf);

@@ -23,7 +23,6 @@
 #include <QPointer>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -37,16 +36,6 @@ void euskera(bool si)
     OffsetIdioma = si ? 10000 : 0;
     Fecha().fecidioma = si ? QStringLiteral("E") : QStringLiteral("C");
 }
-
-QString texto(const QString& pdf)
-{
-    QProcess p;
-    p.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), pdf, QStringLiteral("-")});
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
-int paginas(const QString& pdf) { return static_cast<int>(texto(pdf).count(QLatin1Char('\f'))); }
 
 template <typename T>
 T* hijo(QWidget* w, const char* nombre)
@@ -343,8 +332,8 @@ private slots:
         pulsar("cmdPdf");
         QCOMPARE(DialogoFicheroSeam::registro().size(), 1);
         QVERIFY(DialogoFicheroSeam::registro().first().guardar);
-        QCOMPARE(paginas(fichero), 3);
-        const QString t = texto(fichero);
+        QCOMPARE(PaginasDePdf(fichero), 3);
+        const QString t = TextoDePdf(fichero);
         QVERIFY(t.contains(QLatin1String("GESTORIA UNO")));
         QVERIFY(t.contains(QLatin1String("2004/03/11n /// 11/03/2004")));
         // The panel stays open: the PDF is no printing.
@@ -356,8 +345,8 @@ private slots:
         const QString borrador = m_dir.filePath(QStringLiteral("borrador.pdf"));
         DialogoFicheroSeam::setNextFileName(borrador);
         pulsar("cmdPdf");
-        QCOMPARE(paginas(borrador), 1);
-        QVERIFY(!texto(borrador).contains(QLatin1String("GESTORIA UNO")));
+        QCOMPARE(PaginasDePdf(borrador), 1);
+        QVERIFY(!TextoDePdf(borrador).contains(QLatin1String("GESTORIA UNO")));
     }
 
     void pdfCanceladoOMalo()

@@ -6,6 +6,7 @@
 #include "valores/Formato.h"
 
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QTest>
 
 namespace {
@@ -119,6 +120,35 @@ private slots:
         enMilimetros(s, QStringLiteral("Arial"), 10);
         QVERIFY(qAbs(s.TextWidth(QStringLiteral("0123456789")) - 10 * 0.556f * 10 * 25.4f / 72)
                 < 0.05f);
+    }
+
+    // Each font of the form is made once per process, and a width measured again, kept or
+    // measured anew after the kept ones were given back, is the font's own.
+    void fuentesHechasUnaVez()
+    {
+        const FuenteMedida& a = FuenteDeImpreso(QStringLiteral("Arial"), 8, true, false, false);
+        QCOMPARE(&FuenteDeImpreso(QStringLiteral("Arial"), 8, true, false, false), &a);
+        QVERIFY(&FuenteDeImpreso(QStringLiteral("Arial"), 8, false, false, false) != &a);
+        QVERIFY(&FuenteDeImpreso(QStringLiteral("Arial"), 8.5, true, false, false) != &a);
+        QVERIFY(&FuenteDeImpreso(QStringLiteral("Times New Roman"), 8, true, false, false) != &a);
+        QCOMPARE(a.Fuente().family(), QStringLiteral("Liberation Sans"));
+        QVERIFY(a.Fuente().bold());
+
+        QFont grande(a.Fuente());
+        grande.setPixelSize(1000);
+        const QFontMetricsF m(grande);
+        const double mmPorPixel = 8 * 25.4 / 72 / 1000;
+        const QString texto = QStringLiteral("Base imponible (1)");
+        const MedidaTexto primera = a.Medir(texto);
+        QCOMPARE(primera.ancho, m.horizontalAdvance(texto) * mmPorPixel);
+        QCOMPARE(primera.alto, m.height() * mmPorPixel);
+        QCOMPARE(primera.ascenso, m.ascent() * mmPorPixel);
+        QCOMPARE(a.Medir(texto).ancho, primera.ancho);
+        for (int i = 0; i < 5000; ++i)
+            a.Medir(QString::number(i));
+        QCOMPARE(a.Medir(texto).ancho, primera.ancho);
+        QCOMPARE(a.Medir(QStringLiteral("4999")).ancho,
+                 m.horizontalAdvance(QStringLiteral("4999")) * mmPorPixel);
     }
 
     void escalaEnOtrasUnidades()

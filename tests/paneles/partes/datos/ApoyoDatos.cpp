@@ -10,7 +10,9 @@
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
 
+#include <QDropEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QPalette>
 
 QWidget* Foco()
@@ -65,6 +67,20 @@ void EscribirYSalir(QLineEdit* campo, const QString& texto)
 void Clic(QWidget* w)
 {
     QTest::mouseClick(w, Qt::LeftButton, Qt::NoModifier, w->rect().center());
+    Procesar();
+}
+
+void Soltar(QLineEdit* campo, const QString& texto)
+{
+    QMimeData datos;
+    datos.setText(texto);
+    const QPointF punto(campo->width() - 4, campo->height() / 2.0);
+    QDragEnterEvent entra(punto.toPoint(), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(campo, &entra);
+    QDragMoveEvent mueve(punto.toPoint(), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(campo, &mueve);
+    QDropEvent suelta(punto, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(campo, &suelta);
     Procesar();
 }
 

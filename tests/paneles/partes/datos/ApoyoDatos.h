@@ -91,6 +91,9 @@ void Tabular();
 void EscribirYSalir(QLineEdit* campo, const QString& texto);
 // A click of the mouse on a widget (press and release at its centre).
 void Clic(QWidget* w);
+// The drag of `texto` from another program over `campo`, dropped at its end: the one way a
+// user brings in text that the field's key filter never sees.
+void Soltar(QLineEdit* campo, const QString& texto);
 // The widget that has the focus.
 QWidget* Foco();
 

@@ -12,25 +12,7 @@
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cPreDatos.h"
 
-#include <QDropEvent>
-#include <QMimeData>
-
 namespace {
-
-// The drag of `texto` from another program over `campo`, dropped at its end.
-void Soltar(QLineEdit* campo, const QString& texto)
-{
-    QMimeData datos;
-    datos.setText(texto);
-    const QPointF punto(campo->width() - 4, campo->height() / 2.0);
-    QDragEnterEvent entra(punto.toPoint(), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(campo, &entra);
-    QDragMoveEvent mueve(punto.toPoint(), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(campo, &mueve);
-    QDropEvent suelta(punto, Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(campo, &suelta);
-    Procesar();
-}
 
 void ContribuyenteValido(cConDatos& c)
 {
