@@ -44,12 +44,23 @@ int NumeroErrores(const Arreglo2D& errores)
     return errores.isEmpty() ? 0 : std::max<int>(0, int(errores.first().size()) - 1);
 }
 
-QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni)
+// "Linea 7 - DNI-CIF " the DNI as read, and ": ".
+QString Cabeza(int linea, const QString& dni)
 {
     QString etiqueta = Texto(kIdDniCif);
     etiqueta.chop(1);
-    const QString cabeza = Texto(kIdLinea) + QString::number(linea) + QStringLiteral(" - ")
-        + etiqueta + QLatin1Char(' ') + dni + QStringLiteral(": ");
+    return Texto(kIdLinea) + QString::number(linea) + QStringLiteral(" - ") + etiqueta
+        + QLatin1Char(' ') + dni + QStringLiteral(": ");
+}
+
+QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje)
+{
+    return Linea(Cabeza(linea, dni) + mensaje);
+}
+
+QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni)
+{
+    const QString cabeza = Cabeza(linea, dni);
     QByteArray lineas;
     const int n = NumeroErrores(errores);
     for (int k = 0; k < n; ++k) {

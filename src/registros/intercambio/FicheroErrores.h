@@ -14,6 +14,9 @@ QByteArray LineaCorta(int linea);
 // One line per error of `errores` (the array of ValidarDatosImportar): "Linea 7 - DNI-CIF
 // " the DNI as read, blanks kept, ": " and the message of the code (none for an unknown code).
 QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni);
+// The line of a valid line whose save the store refused (a text it cannot keep as given):
+// the same head as LineasErrores, then the store's message.
+QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje);
 // An empty line, "FORMATO:" in the language in use, and the 19 fields, always in Spanish.
 QByteArray Formato();
 // The number of errors of an array of ValidarDatosImportar.

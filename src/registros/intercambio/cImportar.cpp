@@ -12,6 +12,7 @@
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
+#include "valores/Veredicto.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -118,11 +119,26 @@ struct cImportar::Ejecucion {
         return true;
     }
 
+    // A save the store refused, for a text it cannot keep as given (a control character, half
+    // of a surrogate pair: the line's checks do not look at those): the line is incorrect and
+    // the store's message goes to the error file. True when it was refused.
+    bool Rechazada(int16_t resultado, const Veredicto& rechazo, const LineaLeida& l)
+    {
+        if (resultado != VeredictoGuardarContribuyente::TextoRechazado)
+            return false;
+        Escribir(FicheroErrores::LineaRechazo(estado.LineasLeidas, l[C::DNI], rechazo.mensaje));
+        ++estado.NUMEROINC;
+        return true;
+    }
+
     void Sustituir(const LineaLeida& l, int32_t codigo)
     {
         if (Refusada(l))
             return;
-        lote->GuardarContribuyente(ArregloGuardar(l, codigo), true);
+        Veredicto rechazo;
+        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo),
+                      rechazo, l))
+            return;
         ++estado.NUMEROSUS;
         ++estado.NUMEROIMP;
     }
@@ -140,7 +156,9 @@ struct cImportar::Ejecucion {
     {
         if (Refusada(l))
             return;
-        lote->GuardarContribuyente(ArregloNuevo(l), false);
+        Veredicto rechazo;
+        if (Rechazada(lote->GuardarContribuyente(ArregloNuevo(l), false, &rechazo), rechazo, l))
+            return;
         ++estado.NUMEROIMP;
     }
 
@@ -153,11 +171,15 @@ struct cImportar::Ejecucion {
         if (Refusada(l))
             return;
         int32_t codigo = 0;
-        if (lote->AnadirSiNuevo(ArregloNuevo(l), codigo)
-            == VeredictoGuardarContribuyente::DniExistente) {
-            lote->GuardarContribuyente(ArregloGuardar(l, codigo), true);
+        Veredicto rechazo;
+        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo);
+        const bool sustituye = resultado == VeredictoGuardarContribuyente::DniExistente;
+        if (sustituye)
+            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo);
+        if (Rechazada(resultado, rechazo, l))
+            return;
+        if (sustituye)
             ++estado.NUMEROSUS;
-        }
         ++estado.NUMEROIMP;
     }
 

@@ -266,6 +266,40 @@ private slots:
         QCOMPARE(NombreGuardado(1), QStringLiteral("BUENO"));
     }
 
+    // A valid line with a text the store cannot keep (a control character in the letter,
+    // which the line's checks do not look at): incorrect, the store's message in the error
+    // file, nothing written; in both modes, for a new contributor and for one that would be
+    // replaced.
+    void textoQueElAlmacenNoGuarda_data()
+    {
+        QTest::addColumn<bool>("automatico");
+        QTest::newRow("automatico") << true;
+        QTest::newRow("manual") << false;
+    }
+    void textoQueElAlmacenNoGuarda()
+    {
+        QFETCH(bool, automatico);
+        Importa(LineaValida(1, "BUENO") + "\r\n", true);
+        Importar().Iniciar();
+        m_respuestas = {true};
+        QList<QByteArray> c1 = CamposValidos(1, "MALO");
+        c1[6] = "\x01";
+        QList<QByteArray> c2 = CamposValidos(2);
+        c2[6] = "\x01";
+        const AvisoIntercambio a = Importa(Linea(c1) + "\r\n" + Linea(c2) + "\r\n"
+                                               + LineaValida(3) + "\r\n",
+                                           automatico);
+        Contadores(3, 1, 2, 0, 0);
+        QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("BUENO"));
+        QCOMPARE(Codigo(2), 0);
+        QCOMPARE(Contribuyentes(), 2);
+        const QByteArray errores = Leer(Importar().FICHEROERRORES);
+        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": La casilla "), errores.constData());
+        QVERIFY(errores.contains("\r\nLinea 2 - DNI-CIF " + DniDe(2) + ": La casilla "));
+        QVERIFY(errores.contains("no se pueden guardar\r\n"));
+    }
+
     void mismoDniDosVecesComoUnoAUno()
     {
         // The second line finds the contributor the first one saved, in the same batch.
