@@ -87,7 +87,11 @@ QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                       const QString& origen)
 {
     const QVariant& v = valor(a, i);
-    QString t = v.toString().trimmed();
+    const QString dado = v.toString();
+    // A text without blanks around it (the usual case: panels and the import trim them) is
+    // kept as it is shared, without a copy.
+    const QStringView recortado = QStringView(dado).trimmed();
+    QString t = recortado.size() == dado.size() ? dado : recortado.toString();
     // Whole characters, as the column counts them (a character beyond the BMP is one).
     if (Caracteres(t) > ancho)
         noCoincide(campo, v, origen);
