@@ -8,6 +8,7 @@
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/dialogos/MostrarVeredicto.h"
+#include "paneles/dialogos/Ventanas.h"
 #include "paneles/partes/BloqueDomicilio.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -17,7 +18,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTimer>
 
@@ -123,10 +123,7 @@ void FrmDeclaracion::Imprimir()
 void FrmDeclaracion::Cerrar()
 {
     m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void FrmDeclaracion::closeEvent(QCloseEvent* evento)

@@ -1,5 +1,7 @@
 #include "paneles/declaracion/PanelDeclaraciones.h"
 
+#include "paneles/dialogos/Ventanas.h"
+
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/FilaDeGrid.h"
 #include "paneles/controles/FiltroCampo.h"
@@ -499,10 +501,7 @@ void PanelDeclaraciones::EliminarSeleccionada(int idEntre)
 void PanelDeclaraciones::Cerrar()
 {
     m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void PanelDeclaraciones::closeEvent(QCloseEvent* evento)

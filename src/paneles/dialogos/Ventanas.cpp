@@ -1,5 +1,6 @@
 #include "paneles/dialogos/Ventanas.h"
 
+#include <QMdiSubWindow>
 #include <QWidget>
 
 namespace {
@@ -19,4 +20,12 @@ void AbrirPanel(QWidget* panel)
 QWidget* VentanaPrincipal()
 {
     return g_ganchos.ventanaPrincipal ? g_ganchos.ventanaPrincipal() : nullptr;
+}
+
+void CerrarPanel(QWidget* panel)
+{
+    if (auto* marco = qobject_cast<QMdiSubWindow*>(panel->parentWidget()))
+        marco->close();
+    else
+        panel->close();
 }

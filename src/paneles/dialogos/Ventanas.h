@@ -16,3 +16,5 @@ void instalar(Ganchos ganchos);
 // Shows `panel` as a child window of the main window (free-standing when there is none).
 void AbrirPanel(QWidget* panel);
 QWidget* VentanaPrincipal();
+// Closes the child window that holds `panel`, or the panel itself when it stands free.
+void CerrarPanel(QWidget* panel);

@@ -24,7 +24,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStyle>
@@ -556,10 +555,7 @@ void FrmExportar::Aceptar()
 void FrmExportar::Cerrar()
 {
     m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void FrmExportar::closeEvent(QCloseEvent* evento)

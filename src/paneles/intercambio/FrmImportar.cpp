@@ -15,7 +15,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStyle>
@@ -241,10 +240,7 @@ void FrmImportar::Aceptar()
 
 void FrmImportar::Cerrar()
 {
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void FrmImportar::closeEvent(QCloseEvent* evento)

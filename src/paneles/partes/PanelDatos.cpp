@@ -10,7 +10,6 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QPushButton>
 
 PanelDatos::PanelDatos(const QString& nombre, QWidget* parent) : QWidget(parent)
@@ -95,10 +94,7 @@ void PanelDatos::Aceptar()
 void PanelDatos::Cerrar()
 {
     m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void PanelDatos::closeEvent(QCloseEvent* evento)

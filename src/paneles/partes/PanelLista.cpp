@@ -695,10 +695,7 @@ void PanelLista::Declaraciones()
 void PanelLista::Cerrar()
 {
     m_cerrando = true;
-    if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
-        marco->close();
-    else
-        close();
+    CerrarPanel(this);
 }
 
 void PanelLista::closeEvent(QCloseEvent* evento)
