@@ -6,7 +6,7 @@
 #include "catalogo/Catalogo.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/intercambio/FicheroErrores.h"
-#include "registros/intercambio/LectorLineas.h"
+#include "registros/intercambio/FuenteLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
@@ -91,7 +91,9 @@ struct cImportar::Ejecucion {
     std::unique_ptr<QFile> entrada;
     std::unique_ptr<QFile> errores;
     std::unique_ptr<cLoteContribuyentes> lote;
+    std::unique_ptr<FuenteLineas> fuente;
     LineaLeida leida;  // the line under way; its texts keep their room from line to line
+    int numero = 0;    // its number in the error file: its line, or its row in a spreadsheet
 
     void Escribir(const QByteArray& bytes)
     {
@@ -104,7 +106,6 @@ struct cImportar::Ejecucion {
     // A short line, or one that fails validation, is refused: true when it was.
     bool Refusada(const LineaLeida& l)
     {
-        const int numero = estado.LineasLeidas;
         if (l.corta) {
             Escribir(FicheroErrores::LineaCorta(numero));
             ++estado.NUMEROINC;
@@ -126,7 +127,7 @@ struct cImportar::Ejecucion {
     {
         if (resultado != VeredictoGuardarContribuyente::TextoRechazado)
             return false;
-        Escribir(FicheroErrores::LineaRechazo(estado.LineasLeidas, l[C::DNI], rechazo.mensaje));
+        Escribir(FicheroErrores::LineaRechazo(numero, l[C::DNI], rechazo.mensaje));
         ++estado.NUMEROINC;
         return true;
     }
@@ -183,9 +184,8 @@ struct cImportar::Ejecucion {
         ++estado.NUMEROIMP;
     }
 
-    void Linea(const QByteArray& bytes)
+    void Linea()
     {
-        CortarLinea(bytes, leida);
         const LineaLeida& l = leida;
         if (estado.AUTOMATICO == QLatin1String("X")) {
             Automatico(l);
@@ -204,20 +204,37 @@ struct cImportar::Ejecucion {
         }
     }
 
+    // A row of a spreadsheet that cannot be split is refused with the reason.
+    void Ilegible(const QString& motivo)
+    {
+        Escribir(FicheroErrores::LineaIlegible(numero, motivo));
+        ++estado.NUMEROINC;
+    }
+
     void Leer()
     {
-        const double estimado = double(entrada->size()) / kLargoLineaIntercambio;
-        LectorLineas lector(*entrada, kLargoLineaIntercambio);
-        QByteArray bytes;
-        while (lector.Siguiente(bytes)) {
+        AvisoIntercambio malo;
+        fuente = AbrirFuente(*entrada, malo);
+        if (!fuente)
+            throw FalloEjecucion{malo};
+        const double estimado = fuente->Estimado();
+        QString motivo;
+        for (;;) {
+            const FuenteLineas::Resultado r = fuente->Siguiente(leida, motivo);
+            if (r == FuenteLineas::Resultado::Fin)
+                break;
             if (estado.LineasLeidas == std::numeric_limits<int16_t>::max())
                 throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kDesbordamiento)};
             ++estado.LineasLeidas;
-            Linea(bytes);
+            numero = fuente->Numero();
+            if (r == FuenteLineas::Resultado::Ilegible)
+                Ilegible(motivo);
+            else
+                Linea();
             if (interlocutor.avance)
                 interlocutor.avance(estado.LineasLeidas, estimado, false);
         }
-        if (lector.error())
+        if (fuente->Error())
             throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado)};
         if (interlocutor.avance)
             interlocutor.avance(estado.LineasLeidas, estimado, true);
@@ -260,7 +277,7 @@ bool cImportar::Abierto(const QString& ruta) const
 
 AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
 {
-    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, {}};
+    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, nullptr, {}, 0};
     const QString rutaEntrada = Ruta(FICHEROAIMPORTAR);
     const QString rutaErrores = Ruta(FICHEROERRORES);
     try {
