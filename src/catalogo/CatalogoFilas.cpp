@@ -736,6 +736,8 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "%1 laukiak gorde ezin diren karaktereak ditu"},
     /* 365 */ {"La casilla %1 no puede tener más de %2 caracteres",
               "%1 laukiak ezin ditu %2 karaktere baino gehiago izan"},
+    /* 366 */ {"La casilla %1 no contiene un importe válido",
+              "%1 laukiak ez du zenbateko zuzenik"},
 };
 
 const FilaAnadida kFilasAnadidas[] = {

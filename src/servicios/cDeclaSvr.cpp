@@ -8,10 +8,12 @@
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/ImporteGuardable.h"
 #include "servicios/TextoGuardable.h"
 
 #include <QSqlRecord>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -111,6 +113,13 @@ constexpr ColumnaTexto kTextos[] = {
     {G::NOMMUNTR, 25, 14, "txtnommuntr", 0, kTransmitente},
 };
 
+// The amounts of the save array, each with the label that names its field and the field.
+constexpr ColumnaImporte kImportes[] = {
+    {G::BASEI, 124, "txtbasei"},   {G::BASEIREDUCIDA, 325, "txtBaseIReducida"},
+    {G::TIPOIMP, 125, "txttipoimp"}, {G::CUOTA, 126, "txtcuota"},
+    {G::DEDUCCION, 127, "txtdeduccion"}, {G::TOTAL, 123, "txttotal"},
+};
+
 [[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
 {
     // Failure 13, "type mismatch": a value of the array cannot become its column's type.
@@ -144,7 +153,8 @@ double numeroDe(const Columna& c, const QVariant& v, const QString& o)
 qint64 enteroDe(const Columna& c, const QVariant& v, const QString& o)
 {
     const double d = numeroDe(c, v, o);
-    if (d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
+    // Not a number and the infinities have no integer (converting them would be undefined).
+    if (!std::isfinite(d) || d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
         noCoincide(c, v, o);
     return static_cast<qint64>(d);
 }
@@ -295,7 +305,10 @@ bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant&
 int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo) const
 {
     const QString o = origen("GuardarDeclaracion");
-    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados); !v.vacio()) {
+    Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados);
+    if (v.vacio())
+        v = ComprobarImportes(datos, kImportes);
+    if (!v.vacio()) {
         if (rechazo)
             *rechazo = std::move(v);
         return 0;
