@@ -1,7 +1,9 @@
 #include "aplicacion/OrdenesImprimir.h"
 
 #include "aplicacion/Arranque.h"
+#include "aplicacion/PdfEnParalelo.h"
 #include "catalogo/Catalogo.h"
+#include "paneles/imprimir/cSuperficieGrabadora.h"
 #include "paneles/imprimir/cSuperficieImpresora.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
 #include "plataforma/Fallo.h"
@@ -395,16 +397,20 @@ public:
                     QStringLiteral("Ezin izan da inprimatu hemen: ") + impresora.printerName())};
             return;
         }
-        const QString fichero = QDir(m_peticion.fichero).filePath(nombreFichero(csde));
-        QSaveFile destino(fichero);
-        bool bien = destino.open(QIODevice::WriteOnly);
-        if (bien) {
-            cSuperficiePdf pdf(&destino);
-            const int hojas = ImprimirCopias(pdf, presentador);
-            bien = pdf.Terminar() && hojas > 0;
-        }
-        if (!bien || !destino.commit())
-            throw Rechazo{noSeEscribe(fichero)};
+        // The sheets are recorded here, where the return is loaded, and painted into their
+        // file on another thread while the next return is loaded.
+        cSuperficieGrabadora hojas;
+        if (ImprimirCopias(hojas, presentador) == 0)
+            throw Rechazo{noSeEscribe(nombreFichero(csde))};
+        m_paralelo.Encargar(csde, QDir(m_peticion.fichero).filePath(nombreFichero(csde)),
+                            std::move(hojas.Llamadas));
+    }
+
+    // The files of the folder that could not be written, among those finished; with
+    // `esperar`, once all are.
+    std::vector<PdfEnParalelo::Fallido> fallidos(bool esperar)
+    {
+        return m_paralelo.Fallidos(esperar);
     }
 
     // Finishes the one file; false when it could not be written. A file without any page
@@ -427,11 +433,27 @@ private:
     QPrinter m_propia{QPrinter::HighResolution};
     std::unique_ptr<QSaveFile> m_unico;
     std::unique_ptr<cSuperficiePdf> m_pdfUnico;
+    PdfEnParalelo m_paralelo;
 };
 
 // The exit status of a batch: the number of returns that failed, at most 125 (the statuses
 // above are the shell's).
 int estadoLote(int fallos) { return std::min(fallos, 125); }
+
+void fallo(QTextStream& error, int32_t csde, const QString& mensaje)
+{
+    error << TextoSegunIdioma(QStringLiteral("Declaración %1: "), QStringLiteral("%1 aitorpena: "))
+                 .arg(csde)
+          << mensaje << Qt::endl;
+}
+
+// Names each return whose file could not be written; how many there were.
+int noEscritos(const std::vector<PdfEnParalelo::Fallido>& fallidos, QTextStream& error)
+{
+    for (const PdfEnParalelo::Fallido& f : fallidos)
+        fallo(error, f.csde, noSeEscribe(f.fichero));
+    return int(fallidos.size());
+}
 
 int imprimirLote(const PeticionPdf& p, QPrinter* dada, QTextStream& error)
 {
@@ -467,12 +489,11 @@ int imprimirLote(const PeticionPdf& p, QPrinter* dada, QTextStream& error)
             destino.imprimir(csde);
         } catch (const Rechazo& r) {
             ++fallos;
-            error << TextoSegunIdioma(QStringLiteral("Declaración %1: "),
-                                      QStringLiteral("%1 aitorpena: "))
-                         .arg(csde)
-                  << r.mensaje << Qt::endl;
+            fallo(error, csde, r.mensaje);
         }
+        fallos += noEscritos(destino.fallidos(false), error);
     }
+    fallos += noEscritos(destino.fallidos(true), error);
     if (!destino.terminar(total - fallos)) {
         error << noSeEscribe(p.unFichero) << Qt::endl;
         return estadoLote(total);

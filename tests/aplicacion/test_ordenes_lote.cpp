@@ -16,6 +16,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QPrinter>
@@ -243,6 +244,26 @@ private slots:
             QCOMPARE(r.estado, std::optional<int>(1));
             QVERIFY(!QFile::exists(ruta(QStringLiteral("x"))));
         }
+    }
+
+    // A file of the folder that cannot be written (a folder stands in its place) names its
+    // return and counts in the status; the files of the others are written.
+    void ficheroQueNoSeEscribe()
+    {
+        const QString carpeta = ruta(QStringLiteral("ocupada"));
+        const QString tapado = QStringLiteral("747_%1_%2.pdf").arg(m_codigos.at(2)).arg(Dni(10000003));
+        QVERIFY(QDir().mkpath(carpeta + QLatin1Char('/') + tapado));
+        const Resultado r = ejecutar({QStringLiteral("--pdf"),
+                                      QStringLiteral("%1-%2").arg(m_codigos.at(0)).arg(m_codigos.at(5)),
+                                      carpeta, QStringLiteral("--borrador")},
+                                     m_dir.path());
+        QCOMPARE(r.estado, std::optional<int>(1));
+        QVERIFY2(r.error.contains(QStringLiteral("Declaración %1: No se ha podido escribir el fichero ")
+                                      .arg(m_codigos.at(2))),
+                 qPrintable(r.error));
+        const QStringList escritos = QDir(carpeta).entryList({QStringLiteral("*.pdf")}, QDir::Files);
+        QCOMPARE(escritos.size(), 5);
+        QVERIFY(QFileInfo(carpeta + QLatin1Char('/') + tapado).isDir());
     }
 
     // --imprimir of many: each return's sheets to the printer, the failing one named.
