@@ -734,13 +734,13 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "%1 laukiak gorde ezin diren karaktereak ditu"},
     /* 365 */ {"La casilla %1 no puede tener más de %2 caracteres",
               "%1 laukiak ezin ditu %2 karaktere baino gehiago izan"},
-    /* 366 */ {"Los datos guardados han cambiado desde que se abrieron (en otra copia del programa o por una restauración); no se ha guardado nada.",
+    /* 367 */ {"Los datos guardados han cambiado desde que se abrieron (en otra copia del programa o por una restauración); no se ha guardado nada.",
               "Gordetako datuak aldatu egin dira ireki zirenetik (programaren beste kopia batean edo leheneratze batean); ez da ezer gorde."},
-    /* 367 */ {"¿Desea cargar los datos guardados? Si responde No, se conserva lo escrito sin guardar.",
+    /* 368 */ {"¿Desea cargar los datos guardados? Si responde No, se conserva lo escrito sin guardar.",
               "Gordetako datuak kargatu nahi dituzu? Ezetz erantzunez gero, idatzitakoa mantenduko da, gorde gabe."},
-    /* 368 */ {"Los datos ya no están guardados: se han borrado desde que se abrieron. No se ha guardado nada.",
+    /* 369 */ {"Los datos ya no están guardados: se han borrado desde que se abrieron. No se ha guardado nada.",
               "Datuak ez daude gordeta: ireki zirenetik ezabatu egin dira. Ez da ezer gorde."},
-    /* 369 */ {"El contribuyente ha cambiado en la base de datos durante la importación; no se ha sustituido",
+    /* 370 */ {"El contribuyente ha cambiado en la base de datos durante la importación; no se ha sustituido",
               "Zergaduna datu-basean aldatu da inportazioan zehar; ez da ordeztu"},
 };
 }

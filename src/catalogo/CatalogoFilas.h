@@ -5,6 +5,6 @@ struct FilaCatalogo {
     const char* castellano;
     const char* euskera;
 };
-inline constexpr int kUltimoId = 369;
+inline constexpr int kUltimoId = 370;
 extern const FilaCatalogo kFilas[kUltimoId];  // kFilas[n - 1] is base id n
 }

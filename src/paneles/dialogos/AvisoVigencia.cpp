@@ -4,9 +4,9 @@
 #include "paneles/dialogos/Mensaje.h"
 
 namespace {
-constexpr int kIdCambiado = 366;
-constexpr int kIdCargarGuardado = 367;
-constexpr int kIdBorrado = 368;
+constexpr int kIdCambiado = 367;
+constexpr int kIdCargarGuardado = 368;
+constexpr int kIdBorrado = 369;
 }  // namespace
 
 bool AvisarVigencia(Vigencia vigencia, const QString& titulo)

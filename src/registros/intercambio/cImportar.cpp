@@ -23,7 +23,7 @@ namespace {
 
 // The message of a line whose contributor was saved again or deleted, since the import read
 // it, by another running copy of the program.
-constexpr int kIdContribuyenteCambiado = 369;
+constexpr int kIdContribuyenteCambiado = 370;
 
 using C = CampoIntercambio;
 

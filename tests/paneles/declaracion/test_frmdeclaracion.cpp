@@ -528,7 +528,7 @@ private slots:
                 throw std::runtime_error("no guardada");
         }));
         EscribirYSalir(t("txtreferencia"), QStringLiteral("MIA"));
-        const QString pregunta = Texto(366) + QStringLiteral("\n") + Texto(367);
+        const QString pregunta = Texto(367) + QStringLiteral("\n") + Texto(368);
         const auto referencia = [] {
             return ValorAlmacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES")).toString();
         };

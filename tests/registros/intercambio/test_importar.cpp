@@ -294,7 +294,7 @@ private slots:
         QCOMPARE(Codigo(2), 0);
         QCOMPARE(Contribuyentes(), 1);
         const QByteArray errores = Leer(Importar().FICHEROERRORES);
-        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": " + Texto(369).toLatin1()),
+        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": " + Texto(370).toLatin1()),
                  errores.constData());
         QVERIFY(errores.contains("\r\nLinea 2 - DNI-CIF " + DniDe(2) + ": "));
     }

@@ -24,7 +24,7 @@ const QString kDeLaOtra = QStringLiteral("DE LA OTRA COPIA");
 // The box that asks whether to load the stored party.
 QString pregunta()
 {
-    return Texto(366) + QStringLiteral("\n") + Texto(367);
+    return Texto(367) + QStringLiteral("\n") + Texto(368);
 }
 
 QString nombreContribuyente(int32_t csco)
@@ -143,7 +143,7 @@ private slots:
         abrirContribuyente(cs);
         QVERIFY(EnOtraConexion([cs] { Almacen<cContribSvr>().BorrarContribuyente(cs); }));
         EscribirYSalir(t("txtnombrec"), kDelPanel);
-        aceptarConRespuesta(vb::OK, Texto(368), vb::OKOnly + vb::Information);
+        aceptarConRespuesta(vb::OK, Texto(369), vb::OKOnly + vb::Information);
         QVERIFY(m_panel);
         QCOMPARE(t("txtnombrec")->text(), kDelPanel);
         QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")).toInt(), 0);
