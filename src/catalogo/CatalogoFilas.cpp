@@ -738,6 +738,14 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "%1 laukiak ezin ditu %2 karaktere baino gehiago izan"},
     /* 366 */ {"La casilla %1 no contiene un importe válido",
               "%1 laukiak ez du zenbateko zuzenik"},
+    /* 367 */ {"Los datos guardados han cambiado desde que se abrieron (en otra copia del programa o por una restauración); no se ha guardado nada.",
+              "Gordetako datuak aldatu egin dira ireki zirenetik (programaren beste kopia batean edo leheneratze batean); ez da ezer gorde."},
+    /* 368 */ {"¿Desea cargar los datos guardados? Si responde No, se conserva lo escrito sin guardar.",
+              "Gordetako datuak kargatu nahi dituzu? Ezetz erantzunez gero, idatzitakoa mantenduko da, gorde gabe."},
+    /* 369 */ {"Los datos ya no están guardados: se han borrado desde que se abrieron. No se ha guardado nada.",
+              "Datuak ez daude gordeta: ireki zirenetik ezabatu egin dira. Ez da ezer gorde."},
+    /* 370 */ {"El contribuyente ha cambiado en la base de datos durante la importación; no se ha sustituido",
+              "Zergaduna datu-basean aldatu da inportazioan zehar; ez da ordeztu"},
 };
 
 const FilaAnadida kFilasAnadidas[] = {

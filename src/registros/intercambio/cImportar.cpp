@@ -21,6 +21,10 @@
 
 namespace {
 
+// The message of a line whose contributor was saved again or deleted, since the import read
+// it, by another running copy of the program.
+constexpr int kIdContribuyenteCambiado = 370;
+
 using C = CampoIntercambio;
 
 // A failure of the run, with the message that reports it.
@@ -121,23 +125,37 @@ struct cImportar::Ejecucion {
     }
 
     // A save the store refused, for a text it cannot keep as given (a control character, half
-    // of a surrogate pair: the line's checks do not look at those): the line is incorrect and
-    // the store's message goes to the error file. True when it was refused.
+    // of a surrogate pair: the line's checks do not look at those), or because the contributor
+    // to replace was saved again or deleted since the import read it (by another running copy
+    // of the program: it is not overwritten): the line is incorrect and the message goes to the
+    // error file. True when it was refused.
     bool Rechazada(int16_t resultado, const Veredicto& rechazo, const LineaLeida& l)
     {
-        if (resultado != VeredictoGuardarContribuyente::TextoRechazado)
+        QString mensaje;
+        switch (resultado) {
+        case VeredictoGuardarContribuyente::TextoRechazado:
+            mensaje = rechazo.mensaje;
+            break;
+        case VeredictoGuardarContribuyente::Cambiado:
+        case VeredictoGuardarContribuyente::Borrado:
+            mensaje = Texto(kIdContribuyenteCambiado);
+            break;
+        default:
             return false;
-        Escribir(FicheroErrores::LineaRechazo(numero, l[C::DNI], rechazo.mensaje));
+        }
+        Escribir(FicheroErrores::LineaRechazo(numero, l[C::DNI], mensaje));
         ++estado.NUMEROINC;
         return true;
     }
 
-    void Sustituir(const LineaLeida& l, int32_t codigo)
+    // Replaces the contributor `codigo`, as the import read it (`version`).
+    void Sustituir(const LineaLeida& l, int32_t codigo, int64_t version)
     {
         if (Refusada(l))
             return;
         Veredicto rechazo;
-        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo),
+        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
+                                                 &version),
                       rechazo, l))
             return;
         ++estado.NUMEROSUS;
@@ -172,11 +190,13 @@ struct cImportar::Ejecucion {
         if (Refusada(l))
             return;
         int32_t codigo = 0;
+        int64_t version = 0;
         Veredicto rechazo;
-        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo);
+        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo, &version);
         const bool sustituye = resultado == VeredictoGuardarContribuyente::DniExistente;
         if (sustituye)
-            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo);
+            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
+                                                   &version);
         if (Rechazada(resultado, rechazo, l))
             return;
         if (sustituye)
@@ -191,14 +211,16 @@ struct cImportar::Ejecucion {
             Automatico(l);
             return;
         }
-        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI]);
+        int64_t version = 0;
+        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI], &version);
         if (codigo == 0) {
             Nuevo(l);
         } else {
-            // Nobody is kept waiting for the store while the question stands.
+            // Nobody is kept waiting for the store while the question stands; what another
+            // copy saves meanwhile is not overwritten (the version read is the one replaced).
             lote->Confirmar();
             if (interlocutor.sustituir && interlocutor.sustituir(l[C::DNI]))
-                Sustituir(l, codigo);
+                Sustituir(l, codigo, version);
             else
                 ++estado.NUMEROIGN;
         }
