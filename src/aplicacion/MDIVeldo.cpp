@@ -15,6 +15,7 @@
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Navegador.h"
 #include "paneles/dialogos/Ventanas.h"
+#include "paneles/controles/SalidaAntesDeOrden.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "servicios/cMiscelaneos.h"
@@ -80,6 +81,8 @@ MDIVeldo::MDIVeldo(QWidget* parent) : QMainWindow(parent)
     resize(1024, 720);
     EstablecerVentanaMDI(this);
     Ventanas::instalar({[this](QWidget* panel) { AbrirPanel(panel); }, [this] { return this; }});
+    // The access keys of the panels' buttons leave the field being typed in before they act.
+    SalidaAntesDeOrden::Instalar();
     // When loaded: captions, and the first activation still to come.
     Anadir_captions();
     primeraVez = true;
