@@ -146,8 +146,10 @@ int HacerExportacion(const LineaDeOrdenes::Llamada& llamada)
     return Hecho;
 }
 
-// Runs a piece of work once the store is ready; a failure of the program's own kind is told
-// on stderr.
+}  // namespace
+
+namespace OrdenesIntercambio {
+
 int ConAlmacen(const LineaDeOrdenes::Llamada& llamada,
                int (*trabajo)(const LineaDeOrdenes::Llamada&))
 {
@@ -160,10 +162,6 @@ int ConAlmacen(const LineaDeOrdenes::Llamada& llamada,
     }
     return Imposible;
 }
-
-}  // namespace
-
-namespace OrdenesIntercambio {
 
 int Importacion(const LineaDeOrdenes::Llamada& llamada)
 {

@@ -228,6 +228,21 @@ void sustituirContenido(const QSqlDatabase& db)
     Ejecutar(db, QStringLiteral("PRAGMA main.application_id = %1").arg(marca), {}, kOrigen);
 }
 
+// A backup of an older layout is brought to the current one in its checked copy, before that
+// copy replaces the live content: the running copies of the program go on writing the current
+// layout (the rows' versions among it) into the restored store.
+void alLayoutActual(const QString& ruta)
+{
+    Propia conexion(ruta, false);
+    const QSqlDatabase db = conexion.db();
+    const int version = Esquema::VersionDe(db, kOrigen);
+    if (version >= Esquema::VersionActual())
+        return;
+    Transaccion transaccion(db, kOrigen);
+    Esquema::Migrar(db, version, kOrigen);
+    transaccion.confirmar();
+}
+
 // The checked copy replaces the live content in one transaction of the live file.
 void restaurarEnVivo(const QString& viva, const QString& copia)
 {
@@ -332,6 +347,7 @@ cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) c
         }
         if (examinar(temporal.ruta(), marca()) != Examen::Valida)
             return resultado;
+        alLayoutActual(temporal.ruta());
         if (viva.exists())
             resultado.copiaPrevia = guardarCopiaPrevia(destino, RutaOrigen);
         restaurarEnVivo(destino, temporal.ruta());
