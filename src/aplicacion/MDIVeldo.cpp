@@ -15,6 +15,7 @@
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Navegador.h"
 #include "paneles/dialogos/Ventanas.h"
+#include "paneles/controles/SalidaAntesDeOrden.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "servicios/cMiscelaneos.h"
@@ -80,6 +81,8 @@ MDIVeldo::MDIVeldo(QWidget* parent) : QMainWindow(parent)
     resize(1024, 720);
     EstablecerVentanaMDI(this);
     Ventanas::instalar({[this](QWidget* panel) { AbrirPanel(panel); }, [this] { return this; }});
+    // The access keys of the panels' buttons leave the field being typed in before they act.
+    SalidaAntesDeOrden::Instalar();
     // When loaded: captions, and the first activation still to come.
     Anadir_captions();
     primeraVez = true;
@@ -175,6 +178,7 @@ void MDIVeldo::conectarComandos()
 {
     auto al = [this](const char* nombre, std::function<void()> hacer) {
         QAction* a = findChild<QAction*>(QString::fromLatin1(nombre));
+        m_comandos.insert(QString::fromLatin1(nombre), hacer);
         connect(a, &QAction::triggered, this, [hacer = std::move(hacer)] {
             Proceso::Protegido(hacer);
         });
@@ -216,8 +220,11 @@ void MDIVeldo::botonBarra(const QString& etiqueta)
         {QStringLiteral("ayu"), "mnucontind"},
         {QStringLiteral("salir"), "mnuSalir"},
     };
+    // The button runs its menu entry's command itself: the entry is switched on or off only as
+    // its menu drops down, so it may still be off from an earlier count (the menu looked at
+    // before the first return was saved), and an entry that is off ignores trigger().
     if (const char* nombre = mismaAccion.value(etiqueta))
-        findChild<QAction*>(QString::fromLatin1(nombre))->trigger();
+        Proceso::Protegido(m_comandos.value(QString::fromLatin1(nombre)));
 }
 
 void MDIVeldo::Anadir_captions()

@@ -1,7 +1,9 @@
 #pragma once
 // The one top-level window: an MDI area with the menu tree and the toolbar. It holds no
 // business logic: each command sets a few mode fields on a shared object and opens a panel.
+#include <QHash>
 #include <QMainWindow>
+#include <functional>
 
 class QAction;
 class QMdiArea;
@@ -50,6 +52,7 @@ private:
     QToolBar* m_barra = nullptr;
     QList<QAction*> m_botones;  // the five toolbar buttons, in order
     QList<QAction*> m_recientes;  // d1 to d4
+    QHash<QString, std::function<void()>> m_comandos;  // each menu entry's command, by name
     bool primeraVez = true;
 };
 

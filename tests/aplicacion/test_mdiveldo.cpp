@@ -146,6 +146,40 @@ private slots:
         QVERIFY(accion("mnuExport")->isEnabled());
     }
 
+    // The Declaración menu looked at while the store holds no return leaves its Open entry off;
+    // after the first return is saved the toolbar's Open, clicked with the mouse, opens the list
+    // at once, and again after the list is left.
+    void abrirDeLaBarraTrasLaPrimeraDeclaracion()
+    {
+        ActOnline().ActOnline = 0;  // the language is chosen: no chooser at the first activation
+        m_ventana->ActualizarMenus();
+        QMenu* dec = menu("mnuDeclaracion");
+        dec->popup(m_ventana->mapToGlobal(QPoint(20, 20)));
+        QTRY_VERIFY(dec->isVisible());
+        dec->hide();
+        QVERIFY(!accion("mnuAbrirDeclaracion")->isEnabled());
+        guardarDeclaraciones(1);
+        m_ventana->ActualizarMenus();
+        QWidget* abrir = m_ventana->findChild<QToolBar*>("Toolbar1")->widgetForAction(boton(2));
+        QVERIFY(abrir && abrir->isEnabled());
+        auto abiertos = [this] {
+            QStringList nombres;
+            for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
+                if (sub->widget() && sub->isVisible())
+                    nombres << sub->widget()->objectName();
+            return nombres;
+        };
+        for (int vez = 0; vez < 2; ++vez) {
+            QTest::mouseClick(abrir, Qt::LeftButton, Qt::NoModifier, abrir->rect().center());
+            QTRY_COMPARE(abiertos(), QStringList{QStringLiteral("FrmDecLista")});
+            for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
+                sub->close();
+            QTRY_COMPARE(abiertos(), QStringList());
+            m_ventana->ActualizarMenus();
+        }
+        QCOMPARE(MensajeSeam::registro().size(), 0);
+    }
+
     void sieteDeclaracionesCuatroEntradas()
     {
         const QList<int32_t> codigos = guardarDeclaraciones(7);

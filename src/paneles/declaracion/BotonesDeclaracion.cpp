@@ -96,9 +96,6 @@ void FrmDeclaracion::AnotarEnLista(int32_t codigo)
 
 void FrmDeclaracion::Aceptar()
 {
-    // Reached by its access key, the field being typed in is left first, as a click leaves it.
-    if (QWidget* foco = focusWidget(); foco && foco != cmdAceptar && isAncestorOf(foco))
-        cmdAceptar->setFocus(Qt::OtherFocusReason);
     if (m_domSp->SelectorAbierto() || m_domTr->SelectorAbierto())
         return;
     // An unchanged return is not sent to the store.

@@ -4,6 +4,7 @@
 
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/CajaNum.h"
+#include "paneles/controles/Listas.h"
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/SalidaCampos.h"
@@ -138,7 +139,7 @@ void FrmDeclaracion::ActualizarOperacionPorFecha()
     const QStringList lista = ::ActualizarOperacionPorFecha(txttipoimp->locked());
     cmbOperacion->clear();
     cmbOperacion->addItems(lista);
-    cmbOperacion->setCurrentIndex(cmbOperacion->findText(Operacion().DESCRIP));
+    BuscarEnCombo(Operacion().DESCRIP, cmbOperacion);
     m_cargandoOperaciones = false;
 }
 
@@ -157,9 +158,7 @@ void FrmDeclaracion::SalirOperacion()
     d.OPERACION = texto;
     d.ObtenerDatosOperacion(false);
     m_cargandoOperaciones = true;
-    cmbOperacion->setCurrentIndex(Operacion().DESCRIP.isEmpty()
-                                      ? -1
-                                      : cmbOperacion->findText(Operacion().DESCRIP));
+    BuscarEnCombo(Operacion().DESCRIP, cmbOperacion);  // no entry: the list's text is cleared
     m_cargandoOperaciones = false;
     AplicarOperacion();
     Redibujar();

@@ -7,6 +7,7 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/EnterComoTab.h"
+#include "paneles/controles/Listas.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "paneles/partes/BloqueDomicilio.h"
 #include "paneles/partes/CamposDatos.h"
@@ -25,6 +26,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedLayout>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -187,6 +189,13 @@ void FrmDeclaracion::ConstruirPartes()
                                    r.CODMUNTR, r.NOMMUNTR},
                                   MarcaCambios::AlSalir, true);
     txtpaistr = CampoTexto(t, "txtpaistr", 20, TipoFiltro::Texto, true);
+    // The codes show their significant digits only; the subject's postal code too, while the
+    // transmitter's follows the kind of domicile (PresentarDeclaracion).
+    for (BloqueDomicilio* dom : {m_domSp, m_domTr}) {
+        dom->txtcodprov->setFormato(QStringLiteral("##"));
+        dom->txtcodpos->setFormato(QStringLiteral("#####"));
+        dom->txtcodmun->setFormato(QStringLiteral("###"));
+    }
 }
 
 void FrmDeclaracion::ConstruirBotones()
@@ -253,14 +262,22 @@ void FrmDeclaracion::Disponer()
           {txtdnisp, 9}, {txtnombresp, 28}, {txtdnitr, 9}, {txtnombretr, 28}, {txtpaistr, 16}})
         AnchoDeCaracteres(campo, caracteres);
 
+    // The two parties' frames share one place, as tall as the taller of them, so that the
+    // panel keeps one layout whichever tab is shown.
+    for (QVBoxLayout* parte : {sp, tr})
+        parte->addStretch();
+    auto* terceros = new QWidget(this);
+    m_pilaTerceros = new QStackedLayout(terceros);
+    m_pilaTerceros->setContentsMargins(0, 0, 0, 0);
+    m_pilaTerceros->addWidget(FraSujetoPasivo);
+    m_pilaTerceros->addWidget(FraTransmitente);
+
     auto* todo = new QVBoxLayout(this);
     todo->addWidget(FraDeclaracion);
     todo->addWidget(FraPresentador);
     todo->addWidget(tabTerceros);
-    todo->addWidget(FraSujetoPasivo);
-    todo->addWidget(FraTransmitente);
+    todo->addWidget(terceros);
     todo->addWidget(fraBotones);
-    FraTransmitente->hide();
 }
 
 void FrmDeclaracion::OrdenDeTabulacion()
@@ -421,8 +438,11 @@ void FrmDeclaracion::SeleccionarOperacion()
     m_cargandoOperaciones = true;
     cmbOperacion->clear();
     cmbOperacion->addItems(d.CargarListaOperaciones());
+    // The reduction of the operation is the return's own: a new date or operation keeps it,
+    // and no other return's choice stays behind in the shared operation.
+    Operacion().T_RED = d.REDUCCION;
     d.ObtenerDatosOperacion(false);
-    cmbOperacion->setCurrentIndex(cmbOperacion->findText(Operacion().DESCRIP));
+    BuscarEnCombo(Operacion().DESCRIP, cmbOperacion);
     m_cargandoOperaciones = false;
 }
 

@@ -22,6 +22,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QStackedLayout;
 class QTabBar;
 class SalidaCampos;
 
@@ -124,6 +125,7 @@ private:
     void ClicTipoDomiTr(bool marcado);
     void EspejoDomicilio(bool desdeSujeto);
     void MostrarPestana(int pestana);
+    void CambioDePestana(int pestana);
     void ClicPestana(int pestana);
     void Elegir(EleccionParte parte);
 
@@ -141,6 +143,7 @@ private:
     QTabBar* tabTerceros = nullptr;
     QFrame* FraSujetoPasivo = nullptr;
     QFrame* FraTransmitente = nullptr;
+    QStackedLayout* m_pilaTerceros = nullptr;  // the two frames in one place
     QFrame* fraBotones = nullptr;
 
     // The return.
@@ -201,6 +204,7 @@ private:
     bool m_saltarValidacion = false;
     bool m_presentandoDatos = false;
     bool m_cargandoOperaciones = false;
+    bool m_mostrandoPestana = false;  // the panel itself selects a tab
     bool m_cerrado = false;
     bool m_cerrando = false;
     bool m_activado = false;

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QStackedLayout>
 #include <QTabBar>
 
 namespace {
@@ -38,10 +39,12 @@ void FrmDeclaracion::ConectarPartes()
     cDecDatos& d = DecDatos();
     auto saltar = [this] { return m_saltarValidacion; };
     auto modificado = [this] { Modificado(); };
+    // After any choice in a picker the focus goes to Aceptar; on the way out no field of an
+    // address writes the record.
     m_domSp->Conectar({m_salidas, [this] { EspejoDomicilio(true); Redibujar(); }, modificado, saltar,
-                       cmdAceptar});
+                       cmdAceptar, cmdAceptar, cmdAceptar, true});
     m_domTr->Conectar({m_salidas, [this] { EspejoDomicilio(false); Redibujar(); }, modificado, saltar,
-                       cmdAceptar});
+                       cmdAceptar, cmdAceptar, cmdAceptar, true});
     m_salidas->Vigilar(txtdnisp, [this] { SalirDniSujeto(); });
     m_salidas->Vigilar(txtdnitr, [this] { SalirDniTransmitente(); });
     m_salidas->Vigilar(txtnombresp, [this, &d] { SalirTexto(txtnombresp, d.NOMBRESP); });
@@ -62,7 +65,12 @@ void FrmDeclaracion::ConectarPartes()
 
     connect(chktipodnitr, &QCheckBox::clicked, this, &FrmDeclaracion::ClicTipoDniTr);
     connect(chktipodomitr, &QCheckBox::clicked, this, &FrmDeclaracion::ClicTipoDomiTr);
-    connect(tabTerceros, &QTabBar::tabBarClicked, this, &FrmDeclaracion::ClicPestana);
+    // A tab chosen by the mouse or by its access key; a click on the tab already shown.
+    connect(tabTerceros, &QTabBar::currentChanged, this, &FrmDeclaracion::CambioDePestana);
+    connect(tabTerceros, &QTabBar::tabBarClicked, this, [this](int pestana) {
+        if (pestana >= 0 && pestana == tabTerceros->currentIndex())
+            ClicPestana(pestana);
+    });
     connect(cmdSujetoPasivo, &QPushButton::clicked, this, [this] { Elegir(EleccionParte::Sujeto); });
     connect(cmdTransmitente, &QPushButton::clicked, this,
             [this] { Elegir(EleccionParte::Transmitente); });
@@ -268,15 +276,32 @@ void FrmDeclaracion::EspejoDomicilio(bool desdeSujeto)
 
 void FrmDeclaracion::MostrarPestana(int pestana)
 {
+    m_mostrandoPestana = true;
     tabTerceros->setCurrentIndex(pestana);
-    FraSujetoPasivo->setVisible(pestana == 0);
-    FraTransmitente->setVisible(pestana == 1);
+    m_mostrandoPestana = false;
+    m_pilaTerceros->setCurrentIndex(pestana);
+}
+
+void FrmDeclaracion::CambioDePestana(int pestana)
+{
+    if (m_mostrandoPestana || pestana < 0)
+        return;
+    // The field being typed in is left while its frame still shows: its leaving may keep the
+    // user there (a message, a picker), and then the strip goes back to that frame's tab.
+    const int anterior = m_pilaTerceros->currentIndex();
+    QWidget* marco = m_pilaTerceros->currentWidget();
+    if (QWidget* foco = focusWidget(); anterior != pestana && foco && marco->isAncestorOf(foco)) {
+        tabTerceros->setFocus(Qt::MouseFocusReason);
+        if (focusWidget() != tabTerceros) {
+            MostrarPestana(m_pilaTerceros->currentIndex());
+            return;
+        }
+    }
+    ClicPestana(pestana);
 }
 
 void FrmDeclaracion::ClicPestana(int pestana)
 {
-    if (pestana < 0)
-        return;
     MostrarPestana(pestana);
     QLineEdit* campo = pestana == 0 ? txtdnisp : txtdnitr;
     campo->setFocus(Qt::MouseFocusReason);

@@ -123,7 +123,6 @@ void FrmDeclaracion::PresentarPartes()
     const cDecDatos& d = DecDatos();
     PonerTexto(txtdnisp, d.DNISP);
     PonerTexto(txtnombresp, d.NOMBRESP);
-    PonerFormato(m_domSp->txtcodpos, QStringLiteral("00000"));
     const bool spEnTesoreria = Val(d.CODPROVSP) == 77;
     m_domSp->Presentar(spEnTesoreria);
     if (Val(d.CODPROVSP) == 0)
@@ -145,8 +144,10 @@ void FrmDeclaracion::PresentarPartes()
     chktipodnitr->setChecked(d.TIPODNITR == QLatin1String("N"));
     chktipodomitr->setChecked(d.TIPODOMITR == QLatin1String("E"));
     // A subject is official and national: a transmitter who is, or may be, a subject keeps
-    // both boxes as they are.
-    const bool libre = d.DECLASP <= 0 && !MismaParte();
+    // both boxes as they are. Only a stored contributor can be that: the same number typed on
+    // both tabs without one leaves them free.
+    const bool sujetoDeEsta = d.CSSU == d.CSTRA && d.CSSU != 0;
+    const bool libre = d.DECLASP <= 0 && !sujetoDeEsta;
     chktipodnitr->setEnabled(libre);
     chktipodomitr->setEnabled(libre);
 }

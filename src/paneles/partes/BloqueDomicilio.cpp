@@ -127,12 +127,12 @@ void BloqueDomicilio::Conectar(EnlacePanel enlace)
     VigilarTexto(txtescalera, r.ESCALERA);
     VigilarTexto(txtpiso, r.PISO);
     VigilarTexto(txtmano, r.MANO);
-    VigilarTexto(txtcodpos, r.CODPOS);
     if (r.NOMPROV)
         VigilarTexto(txtnomprov, *r.NOMPROV, true);
     VigilarTexto(txtnommun, r.NOMMUN, true);
     SalidaCampos* salidas = m_enlace.salidas;
     salidas->Vigilar(txtnumero, [this] { SalirNumero(); });
+    salidas->Vigilar(txtcodpos, [this] { SalirCodigoPostal(); });
     salidas->Vigilar(txtvia, [this] { SalirVia(); });
     salidas->Vigilar(txtcodprov, [this] { SalirProvincia(); });
     salidas->Vigilar(txtcodmun, [this] { SalirMunicipio(); });
@@ -245,7 +245,8 @@ void BloqueDomicilio::CambioAlSalir()
 
 void BloqueDomicilio::NuevaProvincia(const QString& codigo)
 {
-    m_registro.CODPROV = codigo;
+    // Kept in two digits, however the box shows it ("1" or "01").
+    m_registro.CODPROV = Formato(codigo, QStringLiteral("00"));
     if (Val(m_registro.CODPROV) != 77)
         m_registro.CODMUN.clear();
     m_registro.NOMMUN.clear();
@@ -253,7 +254,7 @@ void BloqueDomicilio::NuevaProvincia(const QString& codigo)
 
 void BloqueDomicilio::SalirCampoTexto(QLineEdit* campo, QString& valor)
 {
-    if (campo->text() == valor)
+    if (SaltarSinSelector() || campo->text() == valor)
         return;
     CambioAlSalir();
     valor = campo->text();
@@ -263,10 +264,27 @@ void BloqueDomicilio::SalirCampoTexto(QLineEdit* campo, QString& valor)
 void BloqueDomicilio::SalirNumero()
 {
     const auto numero = static_cast<int32_t>(txtnumero->value());
-    if (numero == m_registro.NUMERO)
+    if (SaltarSinSelector() || numero == m_registro.NUMERO)
         return;
     CambioAlSalir();
     m_registro.NUMERO = numero;
+    Redibujar();
+}
+
+void BloqueDomicilio::SalirCodigoPostal()
+{
+    if (SaltarSinSelector())
+        return;
+    // A code in a box with a format is a number of five digits, whatever the format shows
+    // ("1001" is "01001"); one without (a foreign domicile) is kept as typed.
+    const QString texto = txtcodpos->text();
+    const QString codigo = txtcodpos->formato().isEmpty() || texto.trimmed().isEmpty()
+        ? texto
+        : Formato(texto, QStringLiteral("00000"));
+    if (codigo == m_registro.CODPOS)
+        return;
+    CambioAlSalir();
+    m_registro.CODPOS = codigo;
     Redibujar();
 }
 
@@ -335,7 +353,7 @@ void BloqueDomicilio::ElegidaVia(const QString& clave, const QString& texto)
     m_registro.VIA = Selectores::CodigoDeClave(TipoSelector::Via, clave);
     m_enlace.modificado();
     Redibujar();
-    lstvia->Cerrar(txtdomicilio);
+    lstvia->Cerrar(m_enlace.focoTrasVia ? m_enlace.focoTrasVia : txtdomicilio);
 }
 
 void BloqueDomicilio::ElegidaProvincia(const QString& clave, const QString& texto)
@@ -347,7 +365,7 @@ void BloqueDomicilio::ElegidaProvincia(const QString& clave, const QString& text
                            txtcodprov->formato()));
     m_enlace.modificado();
     Redibujar();
-    lstcodprov->Cerrar(txtcodpos);
+    lstcodprov->Cerrar(m_enlace.focoTrasProvincia ? m_enlace.focoTrasProvincia : txtcodpos);
 }
 
 void BloqueDomicilio::ElegidoMunicipio(const QString& clave, const QString& texto)

@@ -60,6 +60,11 @@ struct EnlacePanel {
     std::function<void()> modificado;      // the party has changed
     std::function<bool()> saltarValidacion;  // the user is on the way out through Cancelar
     QWidget* focoTrasMunicipio = nullptr;  // takes the focus after a municipality is chosen
+    // Take the focus after a street type, a province is chosen; none: the street, the postal code.
+    QWidget* focoTrasVia = nullptr;
+    QWidget* focoTrasProvincia = nullptr;
+    // On the way out every field of the address is left alone, not only those with a picker.
+    bool saltarEnTodos = false;
 };
 
 class BloqueDomicilio : public QObject {
@@ -128,11 +133,14 @@ private:
     // A leaving that wrote a new value into the record.
     void CambioAlSalir();
     bool Saltar() const { return m_enlace.saltarValidacion && m_enlace.saltarValidacion(); }
+    // The way out, for the fields that have no picker.
+    bool SaltarSinSelector() const { return m_enlace.saltarEnTodos && Saltar(); }
     // A new province clears the municipality (its code too outside the treasury's province).
     void NuevaProvincia(const QString& codigo);
 
     void SalirCampoTexto(QLineEdit* campo, QString& valor);
     void SalirNumero();
+    void SalirCodigoPostal();
     void SalirVia();
     void SalirProvincia();
     void SalirMunicipio();

@@ -6,6 +6,7 @@
 
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/Colores.h"
+#include "paneles/controles/SalidaAntesDeOrden.h"
 #include "valores/Val.h"
 
 #include <QAbstractButton>
@@ -59,8 +60,10 @@ protected:
         if (objeto != m_icono || evento->type() != QEvent::MouseButtonRelease)
             return false;
         const auto* raton = static_cast<QMouseEvent*>(evento);
+        // The field being typed in is left first, as a click on the button leaves it.
         if (raton->button() == Qt::LeftButton && m_icono->rect().contains(raton->position().toPoint())
-            && m_boton->isEnabled() && m_boton->isVisible())
+            && m_boton->isEnabled() && m_boton->isVisible()
+            && DejarCampoPara(m_boton, Qt::MouseFocusReason))
             m_boton->click();
         return false;
     }

@@ -76,10 +76,6 @@ void PanelDatos::Iniciar()
 
 void PanelDatos::Aceptar()
 {
-    // Reached by its access key or its icon, the field being typed in is left first, as a
-    // click on the button leaves it.
-    if (QWidget* foco = focusWidget(); foco && fraDatos->isAncestorOf(foco))
-        cmdAceptar->setFocus(Qt::OtherFocusReason);
     if (SelectorAbierto())
         return;
     if (!ValidarCampos())

@@ -38,16 +38,19 @@ bool SalidaCampos::eventFilter(QObject* objeto, QEvent* evento)
         m_conFoco = campo;
         return false;
     }
-    // The window lost the activation or a popup opened: the user has not left the field.
-    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason)
+    // The window lost the activation or a popup opened: the user has not left the field. A
+    // combo's list, once open, also takes the focus into itself with another reason.
+    if (razon == Qt::ActiveWindowFocusReason || razon == Qt::PopupFocusReason
+        || QApplication::activePopupWidget())
         return false;
     const bool loTenia = m_conFoco == campo;
     if (loTenia)
         m_conFoco = nullptr;
     if (!loTenia)
         return false;
-    // The mouse went down on a way out: the focus is already that button's.
-    if (razon == Qt::MouseFocusReason)
+    // The mouse went down on a way out, or its access key was pressed: the focus is already
+    // that button's.
+    if (razon == Qt::MouseFocusReason || razon == Qt::ShortcutFocusReason)
         for (const Salida& salida : std::as_const(m_cancelar))
             if (salida.boton && QApplication::focusWidget() == salida.boton && salida.alPulsar)
                 salida.alPulsar();

@@ -5,6 +5,7 @@
 // the finished text with the record.
 //
 // Not every loss of focus is a leaving:
+//  - a popup that opens (a combo's list, a context menu) does not leave the field;
 //  - when the program's window loses the activation (another program, a message box) the user
 //    has not left the field; when it gets it back, the field that receives the focus is the one
 //    the user will leave next, whether it had the focus before or was given it meanwhile;
@@ -28,8 +29,9 @@ public:
 
     // Calls `alSalir` each time the user leaves `campo`.
     void Vigilar(QWidget* campo, std::function<void()> alSalir);
-    // A press of the mouse on `boton` that takes the focus from a field calls `alPulsar` before
-    // the field's leaving. A panel may name several such ways out, one call each.
+    // A press of the mouse on `boton`, or its access key, that takes the focus from a field
+    // calls `alPulsar` before the field's leaving. A panel may name several such ways out, one
+    // call each.
     void setBotonCancelar(QWidget* boton, std::function<void()> alPulsar);
     // While `activo` answers false, leavings are not reported.
     void setActivo(std::function<bool()> activo) { m_activo = std::move(activo); }
