@@ -135,7 +135,7 @@ private slots:
     {
         general().CambiarIdioma(QStringLiteral("E"));
         general().GuardarActOnline(1);
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 5);
+        InsertarContribuyentes(mdbmod, 5);
         QVERIFY(QFileInfo(mdbmod + QStringLiteral("-wal")).size() > 0);
         ConexionCruda lector(mdbmod, true);
         lector.ejecutar(QStringLiteral("BEGIN"));
@@ -270,11 +270,11 @@ private slots:
     void restaurarUnaCopiaBuena()
     {
         general().CambiarIdioma(QStringLiteral("E"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 2);
+        InsertarContribuyentes(mdbmod, 2);
         QVERIFY(paraCopia().CrearBackup());
         const QString enLaCopia = Volcado(copia());
         general().CambiarIdioma(QStringLiteral("C"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 4);
+        InsertarContribuyentes(mdbmod, 4);
         QCOMPARE(contribuyentes(), 6);
 
         MensajeSeam::limpiar();
@@ -303,7 +303,7 @@ private slots:
     {
         QVERIFY(paraCopia().CrearBackup());
         general().CambiarIdioma(QStringLiteral("E"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 3);
+        InsertarContribuyentes(mdbmod, 3);
         const QString antes = Volcado(mdbmod);
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::No);
@@ -339,7 +339,7 @@ private slots:
         case 3: escribir(copia(), QByteArray("SQLite format 3", 16) + QByteArray(8192, '\x5A')); break;
         case 4: escribir(copia(), QByteArray()); break;
         case 5: {
-            InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 200);
+            InsertarContribuyentes(mdbmod, 200);
             QVERIFY(paraCopia().CrearBackup());
             MensajeSeam::limpiar();
             QByteArray danada = Bytes(copia());
