@@ -93,6 +93,9 @@ bool Sana(const QString& ruta, bool completa)
         return false;
     QSqlQuery q(conexion.db());
     q.setForwardOnly(true);
+    // Every page is read: mapped into memory they are read in place instead of being copied
+    // one by one into the page cache, which on a store of 50 MB is a good part of the time.
+    q.exec(QStringLiteral("PRAGMA mmap_size = 1073741824"));
     if (!q.exec(completa ? QStringLiteral("PRAGMA integrity_check(1)")
                          : QStringLiteral("PRAGMA quick_check(1)")))
         return false;
