@@ -195,18 +195,29 @@ private slots:
         QVERIFY(!QFileInfo::exists(m_carpeta->ruta() + QStringLiteral("/backups")));
     }
 
-    // A damaged store: the start-up without a display, a backup and a restore all refuse it
-    // with the message that names it, status 2, and write nothing.
+    // A damaged store: the start-up without a display, a backup, a restore and every other
+    // option that opens the store refuse it with the message that names it, and write
+    // nothing. The status is 2, or the one each older option gives a store it cannot use.
     void almacenDanadoSeRechaza_data()
     {
         QTest::addColumn<QStringList>("argumentos");
-        QTest::newRow("arranque") << QStringList{};
-        QTest::newRow("copia de seguridad") << QStringList{QStringLiteral("--copia-seguridad")};
-        QTest::newRow("restaurar") << QStringList{QStringLiteral("--restaurar"), QStringLiteral("copia.mdb")};
+        QTest::addColumn<int>("estado");
+        QTest::newRow("arranque") << QStringList{} << 2;
+        QTest::newRow("copia de seguridad") << QStringList{QStringLiteral("--copia-seguridad")} << 2;
+        QTest::newRow("restaurar") << QStringList{QStringLiteral("--restaurar"), QStringLiteral("@copia.mdb")}
+                                   << 2;
+        QTest::newRow("pdf") << QStringList{QStringLiteral("--pdf"), QStringLiteral("1"),
+                                            QStringLiteral("@salida.pdf")}
+                             << 1;
+        QTest::newRow("exportar") << QStringList{QStringLiteral("--exportar"),
+                                                 QStringLiteral("@salida.txt"),
+                                                 QStringLiteral("--todos")}
+                                  << 3;
     }
     void almacenDanadoSeRechaza()
     {
         QFETCH(QStringList, argumentos);
+        QFETCH(int, estado);
         almacenCon(3000);
         const QString copia = m_carpeta->ruta() + QStringLiteral("/copia.mdb");
         QCOMPARE(ejecutar({QStringLiteral("--copia-seguridad"), copia}).estado, 0);
@@ -214,11 +225,13 @@ private slots:
         danarAlmacen();
         const QStringList antes = Contenido(m_carpeta->ruta());
         const QByteArray bytes = Bytes(mdbmod);
-        if (argumentos.size() == 2)
-            argumentos[1] = copia;
+        // "@name" stands for a file of the program folder, whose content is compared.
+        for (QString& a : argumentos)
+            if (a.startsWith(QLatin1Char('@')))
+                a = m_carpeta->ruta() + QLatin1Char('/') + a.mid(1);
 
         const Salida s = ejecutar(argumentos);
-        QCOMPARE(s.estado, 2);
+        QCOMPARE(s.estado, estado);
         QVERIFY2(s.errores.contains(QStringLiteral("La base de datos %1 está dañada")
                                         .arg(QDir::toNativeSeparators(mdbmod))),
                  qPrintable(s.errores));
