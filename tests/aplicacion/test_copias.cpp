@@ -316,6 +316,34 @@ private slots:
                  QStringList());
     }
 
+    // A backup whose shape is the program's but whose rows break its rules is found out only
+    // while they are carried over, after the question: it is refused then with the message
+    // for a file that is not a backup, and the live database is left byte for byte.
+    void restaurarUnaCopiaConFilasFueraDeLasReglas()
+    {
+        InsertarContribuyentes(mdbmod, 2);
+        QVERIFY(paraCopia().CrearBackup());
+        {
+            ConexionCruda c(copia());
+            c.ejecutar(QStringLiteral("PRAGMA ignore_check_constraints = ON"));
+            c.ejecutar(QStringLiteral("UPDATE CONTRIBUYENTES SET NUMEROC = -1"));
+        }
+        InsertarContribuyentes(mdbmod, 3);
+        Conexion::Cerrar(mdbmod);
+        const QByteArray antes = Bytes(mdbmod);
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);
+        QCOMPARE(paraRestaurar().CrearRestore(), false);
+        QCOMPARE(MensajeSeam::registro().size(), 2);
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(341));
+        QVERIFY2(MensajeSeam::registro()[1].texto.contains(
+                     QStringLiteral("no es una copia de seguridad de la base de datos de este programa")),
+                 qPrintable(MensajeSeam::registro()[1].texto));
+        QCOMPARE(Bytes(mdbmod), antes);
+        QCOMPARE(contribuyentes(), 5);
+    }
+
     // A file that is not a backup of this program is refused before any question, and the
     // live database is not touched.
     void restaurarUnFicheroMalo_data()
