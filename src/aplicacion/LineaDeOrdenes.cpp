@@ -3,6 +3,7 @@
 #include "aplicacion/OrdenesCopia.h"
 #include "aplicacion/OrdenesImprimir.h"
 #include "aplicacion/OrdenesIntercambio.h"
+#include "aplicacion/OrdenesListar.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
@@ -70,17 +71,46 @@ const std::vector<Opcion>& Opciones()
          {"FICHERO", "FITXATEGIA"},
          OrdenesCopia::Restauracion},
         {{QStringLiteral("pdf")},
-         {"Guarda en FICHERO el impreso de la declaración CODIGO, en PDF.",
-          "KODEA aitorpenaren inprimakia FITXATEGIAn gordetzen du, PDFn."},
+         {"Guarda en FICHERO el impreso de la declaración CODIGO, en PDF. Con varios códigos "
+          "(12,15-40) o con --desde, --hasta o --dni (y entonces sin códigos), guarda en la "
+          "carpeta un fichero por declaración, 747_<código>_<NIF>.pdf, o con --un-fichero todas "
+          "en un solo PDF.",
+          "KODEA aitorpenaren inprimakia FITXATEGIAn gordetzen du, PDFn. Kode batzuekin "
+          "(12,15-40) edo --desde, --hasta edo --dni-ekin (eta orduan koderik gabe), aitorpen "
+          "bakoitzeko fitxategi bat gordetzen du karpetan, 747_<kodea>_<IFZ>.pdf, edo "
+          "--un-fichero-rekin guztiak PDF bakar batean."},
          {"CODIGO FICHERO", "KODEA FITXATEGIA"},
          ImprimirDeclaracion,
          true},
         {{QStringLiteral("imprimir")},
-         {"Imprime la declaración CODIGO en la impresora del sistema.",
-          "KODEA aitorpena sistemaren inprimagailuan inprimatzen du."},
+         {"Imprime la declaración CODIGO en la impresora del sistema; o varias, como --pdf.",
+          "KODEA aitorpena sistemaren inprimagailuan inprimatzen du; edo batzuk, --pdf bezala."},
          {"CODIGO", "KODEA"},
          ImprimirDeclaracion,
          true},
+        {{QStringLiteral("un-fichero")},
+         {"Con --pdf, todas las declaraciones en FICHERO, una tras otra.",
+          "--pdf-ekin, aitorpen guztiak FITXATEGIAn, bata bestearen atzetik."},
+         {"FICHERO", "FITXATEGIA"}},
+        {{QStringLiteral("desde")},
+         {"Con --pdf, --imprimir o --listar, las declaraciones devengadas desde esa fecha.",
+          "--pdf, --imprimir edo --listar-ekin, data horretatik aurrera sortutako aitorpenak."},
+         {"DD/MM/AAAA", "EE/HH/UUUU"}},
+        {{QStringLiteral("hasta")},
+         {"Con --pdf, --imprimir o --listar, las declaraciones devengadas hasta esa fecha.",
+          "--pdf, --imprimir edo --listar-ekin, data horretara arte sortutako aitorpenak."},
+         {"DD/MM/AAAA", "EE/HH/UUUU"}},
+        {{QStringLiteral("dni")},
+         {"Con --pdf, --imprimir o --listar, las declaraciones de ese sujeto pasivo.",
+          "--pdf, --imprimir edo --listar-ekin, subjektu pasibo horren aitorpenak."},
+         {"NIF", "IFZ"}},
+        {{QStringLiteral("listar")},
+         {"Escribe en FICHERO (CSV) una fila por declaración: código, referencia, fecha, sujeto "
+          "pasivo, transmitente, operación e importes.",
+          "Aitorpen bakoitzeko errenkada bat idazten du FITXATEGIAn (CSV): kodea, erreferentzia, "
+          "data, subjektu pasiboa, eskualdatzailea, eragiketa eta zenbatekoak."},
+         {"FICHERO", "FITXATEGIA"},
+         OrdenesListar::Listado},
         {{QStringLiteral("impresora")},
          {"Con --imprimir, la impresora (la predeterminada, si no).",
           "--imprimir-ekin, inprimagailua (lehenetsia, bestela)."},
@@ -100,8 +130,11 @@ const std::vector<Opcion>& Opciones()
          {"Con --pdf o --imprimir, sin los datos del presentador.", "--pdf edo --imprimir-ekin, aurkezlearen datuak gabe."},
          {}},
         {{QStringLiteral("importar")},
-         {"Importa los contribuyentes de FICHERO en modo automático.",
-          "FITXATEGIko zergadunak modu automatikoan inportatzen ditu."},
+         {"Importa los contribuyentes de FICHERO en modo automático: un fichero de intercambio, "
+          "o un CSV (.csv) cuya primera fila nombra los campos (TIPODNI, DNI, NOMBRE...).",
+          "FITXATEGIko zergadunak modu automatikoan inportatzen ditu: truke-fitxategi bat, edo "
+          "CSV bat (.csv), zeinaren lehen errenkadak eremuak izendatzen dituen (TIPODNI, DNI, "
+          "NOMBRE...)."},
          {"FICHERO", "FITXATEGIA"},
          OrdenesIntercambio::Importacion},
         {{QStringLiteral("errores")},
@@ -110,9 +143,9 @@ const std::vector<Opcion>& Opciones()
          {"FICHERO", "FITXATEGIA"}},
         {{QStringLiteral("exportar")},
          {"Exporta a FICHERO los contribuyentes de los DNI que siguen, en ese orden, o con "
-          "--todos todos ellos.",
+          "--todos todos ellos; en CSV si FICHERO acaba en .csv.",
           "Ondoren datozen NAen zergadunak FITXATEGIra esportatzen ditu, ordena horretan, edo "
-          "--todos-ekin guztiak."},
+          "--todos-ekin guztiak; CSVn, FITXATEGIA .csv-z amaitzen bada."},
          {"FICHERO [DNI...]", "FITXATEGIA [NA...]"},
          OrdenesIntercambio::Exportacion},
         {{QStringLiteral("todos")},
@@ -307,6 +340,82 @@ std::unique_ptr<QCoreApplication> Aplicacion(bool pinta, int& argc, char** argv)
 }
 
 }  // namespace
+
+namespace {
+
+// A text as roff shows it as it stands: a backslash and a dash escaped, and no line that a
+// dot or an apostrophe would turn into a request.
+QString Roff(QString texto)
+{
+    texto.replace(QLatin1Char('\\'), QStringLiteral("\\e"));
+    texto.replace(QLatin1Char('-'), QStringLiteral("\\-"));
+    if (texto.startsWith(QLatin1Char('.')) || texto.startsWith(QLatin1Char('\'')))
+        texto.prepend(QStringLiteral("\\&"));
+    return texto;
+}
+
+// "--pdf CODIGO FICHERO" in roff: the names in bold, the values in italics.
+QString FirmaRoff(const Opcion& o)
+{
+    QStringList nombres;
+    for (const QString& n : o.nombres)
+        nombres.append(QStringLiteral("\\fB") + Roff(nombreConGuiones(n)) + QStringLiteral("\\fR"));
+    QString texto = nombres.join(QStringLiteral(", "));
+    if (o.valor.es)
+        texto += QStringLiteral(" \\fI") + Roff(QString::fromUtf8(o.valor.es)) + QStringLiteral("\\fR");
+    return texto;
+}
+
+}  // namespace
+
+QString PaginaManual(const QString& version)
+{
+    QString t;
+    QTextStream s(&t);
+    s << "'\\\" -*- coding: utf-8 -*-\n"
+      << ".TH VELDORIA 1 \"\" \"veldoria " << Roff(version) << QString::fromUtf8("\" \"Órdenes de usuario\"\n")
+      << ".SH NOMBRE\n"
+      << QString::fromUtf8("veldoria \\- autoliquidación del impuesto de matriculación, modelo 747\n")
+      << ".SH SINOPSIS\n"
+      << ".B veldoria\n"
+      << "[\\fIopciones\\fR]\n"
+      << QString::fromUtf8(".SH DESCRIPCIÓN\n")
+      << QString::fromUtf8("Veldoria prepara el modelo 747, la autoliquidación del impuesto especial sobre\n")
+      << "determinados medios de transporte, en castellano y en euskera. Guarda\n"
+      << QString::fromUtf8("contribuyentes, presentadores y declaraciones, calcula y valida la declaración,\n")
+      << "imprime el impreso oficial e intercambia contribuyentes con otras instalaciones.\n"
+      << ".PP\n"
+      << "Sin opciones, abre el programa. Con una de las opciones siguientes hace su trabajo\n"
+      << "sin abrir ninguna ventana y termina.\n"
+      << ".SH OPCIONES\n";
+    for (const Opcion& o : Opciones()) {
+        s << ".TP\n" << FirmaRoff(o) << '\n' << Roff(QString::fromUtf8(o.ayuda.es)) << '\n';
+    }
+    s << ".SH EJEMPLOS\n"
+      << ".nf\n"
+      << Roff(QStringLiteral("veldoria --pdf 42 d42.pdf --copias interesado,banco --fecha 15/03/2024")) << '\n'
+      << Roff(QStringLiteral("veldoria --pdf 12,15-40 salida")) << '\n'
+      << Roff(QStringLiteral("veldoria --pdf --desde 01/03/2024 --hasta 31/03/2024 --un-fichero marzo.pdf")) << '\n'
+      << Roff(QStringLiteral("veldoria --listar declaraciones.csv --dni 12345678Z")) << '\n'
+      << Roff(QStringLiteral("veldoria --importar clientes.csv --errores errores.txt")) << '\n'
+      << Roff(QStringLiteral("veldoria --exportar contribuyentes.csv --todos")) << '\n'
+      << ".fi\n"
+      << ".SH ESTADO DE SALIDA\n"
+      << QString::fromUtf8("0 cuando el trabajo se ha hecho. Al imprimir varias declaraciones, el número de\n")
+      << QString::fromUtf8("las que no se han podido imprimir; en los demás casos, distinto de 0 cuando algo\n")
+      << "ha fallado, con el mensaje en la salida de errores.\n"
+      << ".SH ARCHIVOS\n"
+      << ".TP\n"
+      << Roff(QStringLiteral("~/.local/share/veldoria/Tablas/VELDOMOD.mdb")) << '\n'
+      << "La base de datos de cada usuario, cuando la carpeta del programa no se puede escribir.\n"
+      << ".SH ENTORNO\n"
+      << ".TP\n"
+      << ".B LC_ALL, LC_MESSAGES, LANG\n"
+      << QString::fromUtf8("El idioma de los mensajes de la línea de órdenes: euskera para \"eu\", castellano\n")
+      << "en otro caso.\n";
+    s.flush();
+    return t;
+}
 
 QString Pista(const QString& programa)
 {

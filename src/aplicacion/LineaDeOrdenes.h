@@ -35,6 +35,10 @@ QString Pista(const QString& programa);
 // for work that draws pages.
 std::optional<int> Atender(int argc, char** argv);
 
+// The manual page veldoria(1), in Spanish and in the roff of man(7), made from the same table
+// of options as --help: the build writes it, and it is installed with the program.
+QString PaginaManual(const QString& version);
+
 // The same over arguments already split (the first is the program's name), writing to the
 // given streams, with the application object already made.
 std::optional<int> Atender(const QStringList& argumentos, QTextStream& salida,

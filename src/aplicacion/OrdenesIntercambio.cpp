@@ -145,8 +145,10 @@ int HacerExportacion(const LineaDeOrdenes::Llamada& llamada)
     return Hecho;
 }
 
-// Runs a piece of work once the store is ready; a failure of the program's own kind is told
-// on stderr.
+}  // namespace
+
+namespace OrdenesIntercambio {
+
 int ConAlmacen(const LineaDeOrdenes::Llamada& llamada,
                int (*trabajo)(const LineaDeOrdenes::Llamada&))
 {
@@ -159,10 +161,6 @@ int ConAlmacen(const LineaDeOrdenes::Llamada& llamada,
     }
     return Imposible;
 }
-
-}  // namespace
-
-namespace OrdenesIntercambio {
 
 int Importacion(const LineaDeOrdenes::Llamada& llamada)
 {

@@ -19,4 +19,9 @@ namespace OrdenesIntercambio {
 int Importacion(const LineaDeOrdenes::Llamada& llamada);
 int Exportacion(const LineaDeOrdenes::Llamada& llamada);
 
+// Runs `trabajo` on the store of the program's data folder, ready as for the exchange; 3 when
+// the store cannot be used, 2 for a failure of the program's own kind, told on stderr.
+int ConAlmacen(const LineaDeOrdenes::Llamada& llamada,
+               int (*trabajo)(const LineaDeOrdenes::Llamada&));
+
 }  // namespace OrdenesIntercambio

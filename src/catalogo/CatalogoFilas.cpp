@@ -2,6 +2,8 @@
 // Texts are kept exactly as the program shows them, blanks and spellings included.
 #include "catalogo/CatalogoFilas.h"
 
+#include <iterator>
+
 namespace Catalogo {
 const FilaCatalogo kFilas[kUltimoId] = {
     /*   1 */ {"Error en Clase Fecha",
@@ -734,5 +736,34 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "%1 laukiak gorde ezin diren karaktereak ditu"},
     /* 365 */ {"La casilla %1 no puede tener más de %2 caracteres",
               "%1 laukiak ezin ditu %2 karaktere baino gehiago izan"},
+    /* 366 */ {"La casilla %1 no contiene un importe válido",
+              "%1 laukiak ez du zenbateko zuzenik"},
+    /* 367 */ {"Los datos guardados han cambiado desde que se abrieron (en otra copia del programa o por una restauración); no se ha guardado nada.",
+              "Gordetako datuak aldatu egin dira ireki zirenetik (programaren beste kopia batean edo leheneratze batean); ez da ezer gorde."},
+    /* 368 */ {"¿Desea cargar los datos guardados? Si responde No, se conserva lo escrito sin guardar.",
+              "Gordetako datuak kargatu nahi dituzu? Ezetz erantzunez gero, idatzitakoa mantenduko da, gorde gabe."},
+    /* 369 */ {"Los datos ya no están guardados: se han borrado desde que se abrieron. No se ha guardado nada.",
+              "Datuak ez daude gordeta: ireki zirenetik ezabatu egin dira. Ez da ezer gorde."},
+    /* 370 */ {"El contribuyente ha cambiado en la base de datos durante la importación; no se ha sustituido",
+              "Zergaduna datu-basean aldatu da inportazioan zehar; ez da ordeztu"},
 };
+
+const FilaAnadida kFilasAnadidas[] = {
+    // 380 to 389: the reading of a CSV file of contributors.
+    {380, {"La fila tiene más campos que la primera fila del fichero",
+           "Errenkadak fitxategiaren lehen errenkadak baino eremu gehiago ditu"}},
+    {381, {"La fila tiene menos campos que la primera fila del fichero",
+           "Errenkadak fitxategiaren lehen errenkadak baino eremu gutxiago ditu"}},
+    {382, {"La fila tiene unas comillas sin cerrar",
+           "Errenkadak itxi gabeko komatxoak ditu"}},
+    {383, {"La fila tiene texto detrás de unas comillas de cierre",
+           "Errenkadak testua du komatxoak itxi ondoren"}},
+    {384, {"La primera fila del fichero CSV nombra una columna desconocida: ",
+           "CSV fitxategiaren lehen errenkadak zutabe ezezagun bat aipatzen du: "}},
+    {385, {"Falta en la primera fila del fichero CSV la columna ",
+           "CSV fitxategiaren lehen errenkadan zutabe hau falta da: "}},
+    {386, {"La primera fila del fichero CSV repite la columna ",
+           "CSV fitxategiaren lehen errenkadak zutabe hau errepikatzen du: "}},
+};
+const int kNumeroFilasAnadidas = int(std::size(kFilasAnadidas));
 }

@@ -5,19 +5,25 @@ AccesoPreparado::AccesoPreparado(const TablaParte& tabla, QSqlDatabase db, QStri
 {
 }
 
-int32_t AccesoPreparado::CodigoPorDni(const QString& dni)
+TitularParte AccesoPreparado::TitularPorDni(const QString& dni)
 {
-    return m_tabla.CodigoPorDni(m_db, dni, m_origen);
+    return m_tabla.TitularPorDni(m_db, dni, m_origen);
 }
 
-void AccesoPreparado::Insertar(int32_t codigo, const QVariantList& fila)
+void AccesoPreparado::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
-    m_tabla.Insertar(m_db, codigo, fila, m_origen);
+    m_tabla.Insertar(m_db, codigo, fila, version, m_origen);
 }
 
-bool AccesoPreparado::Actualizar(int32_t codigo, const QVariantList& fila)
+bool AccesoPreparado::Actualizar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
-    return m_tabla.Actualizar(m_db, codigo, fila, m_origen);
+    return m_tabla.Actualizar(m_db, codigo, fila, version, m_origen);
+}
+
+Vigencia AccesoPreparado::ActualizarVigente(int32_t codigo, const QVariantList& fila,
+                                            int64_t cargada, int64_t nueva)
+{
+    return m_tabla.ActualizarVigente(m_db, codigo, fila, cargada, nueva, m_origen);
 }
 
 AccesoNativo::AccesoNativo(const TablaParte& tabla, const QSqlDatabase& db, const QString& origen)
@@ -25,37 +31,55 @@ AccesoNativo::AccesoNativo(const TablaParte& tabla, const QSqlDatabase& db, cons
       m_insertar(db, tabla.sqlInsertar(), origen),
       m_insertarConCodigo(db, tabla.sqlInsertarConCodigo(), origen),
       m_actualizar(db, tabla.sqlActualizar(), origen),
+      m_actualizarVigente(db, tabla.sqlActualizarVigente(), origen),
+      m_existe(db, tabla.sqlExiste(), origen),
       m_insertarSiNuevo(db, tabla.sqlInsertarSiNuevo(), origen)
 {
 }
 
-int32_t AccesoNativo::CodigoPorDni(const QString& dni)
+TitularParte AccesoNativo::TitularPorDni(const QString& dni)
 {
     const QString t = dni.trimmed();
     if (t.isEmpty())
-        return 0;
-    return int32_t(m_codigoPorDni.Escalar({t}, 0));
+        return {};
+    int64_t fila[2] = {0, 0};
+    if (!m_codigoPorDni.Enteros({t}, fila, 2))
+        return {};
+    return {int32_t(fila[0]), fila[1]};
 }
 
-void AccesoNativo::Insertar(int32_t codigo, const QVariantList& fila)
+void AccesoNativo::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
+    QVariantList valores = fila;
+    valores << qlonglong(version);
     if (codigo == 0) {
-        m_insertar.Ejecutar(fila);
+        m_insertar.Ejecutar(valores);
         return;
     }
-    QVariantList valores = fila;
-    valores.prepend(codigo);
+    valores << codigo;
     m_insertarConCodigo.Ejecutar(valores);
 }
 
-bool AccesoNativo::Actualizar(int32_t codigo, const QVariantList& fila)
+bool AccesoNativo::Actualizar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
     QVariantList valores = fila;
-    valores << codigo;
+    valores << qlonglong(version) << codigo;
     return m_actualizar.Ejecutar(valores) > 0;
 }
 
-bool AccesoNativo::InsertarSiNuevo(const QVariantList& fila)
+Vigencia AccesoNativo::ActualizarVigente(int32_t codigo, const QVariantList& fila,
+                                         int64_t cargada, int64_t nueva)
 {
-    return m_insertarSiNuevo.Ejecutar(fila) > 0;
+    QVariantList valores = fila;
+    valores << qlonglong(nueva) << codigo << qlonglong(cargada);
+    if (m_actualizarVigente.Ejecutar(valores) > 0)
+        return Vigencia::Vigente;
+    return m_existe.Escalar({codigo}, 0) > 0 ? Vigencia::Cambiada : Vigencia::Borrada;
+}
+
+bool AccesoNativo::InsertarSiNuevo(const QVariantList& fila, int64_t version)
+{
+    QVariantList valores = fila;
+    valores << qlonglong(version);
+    return m_insertarSiNuevo.Ejecutar(valores) > 0;
 }

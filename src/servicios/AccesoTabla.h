@@ -13,20 +13,28 @@
 class AccesoTabla {
 public:
     virtual ~AccesoTabla() = default;
-    // The code of the party with this number (blanks around it ignored); 0 for none.
-    virtual int32_t CodigoPorDni(const QString& dni) = 0;
-    // A new row: under a new code when `codigo` is 0, else under `codigo`.
-    virtual void Insertar(int32_t codigo, const QVariantList& fila) = 0;
-    // Rewrites the row of `codigo`; false when there is none.
-    virtual bool Actualizar(int32_t codigo, const QVariantList& fila) = 0;
+    // The code of the party with this number (blanks around it ignored) and the version of its
+    // row; code 0 for none.
+    virtual TitularParte TitularPorDni(const QString& dni) = 0;
+    int32_t CodigoPorDni(const QString& dni) { return TitularPorDni(dni).codigo; }
+    // A new row with version `version`: under a new code when `codigo` is 0, else under
+    // `codigo`.
+    virtual void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) = 0;
+    // Rewrites the row of `codigo` whatever its version; false when there is none.
+    virtual bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) = 0;
+    // Rewrites the row of `codigo` only when its version is still `cargada`.
+    virtual Vigencia ActualizarVigente(int32_t codigo, const QVariantList& fila, int64_t cargada,
+                                       int64_t nueva) = 0;
 };
 
 class AccesoPreparado final : public AccesoTabla {
 public:
     AccesoPreparado(const TablaParte& tabla, QSqlDatabase db, QString origen);
-    int32_t CodigoPorDni(const QString& dni) override;
-    void Insertar(int32_t codigo, const QVariantList& fila) override;
-    bool Actualizar(int32_t codigo, const QVariantList& fila) override;
+    TitularParte TitularPorDni(const QString& dni) override;
+    void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    Vigencia ActualizarVigente(int32_t codigo, const QVariantList& fila, int64_t cargada,
+                               int64_t nueva) override;
 
 private:
     const TablaParte& m_tabla;
@@ -37,16 +45,21 @@ private:
 class AccesoNativo final : public AccesoTabla {
 public:
     AccesoNativo(const TablaParte& tabla, const QSqlDatabase& db, const QString& origen);
-    int32_t CodigoPorDni(const QString& dni) override;
-    void Insertar(int32_t codigo, const QVariantList& fila) override;
-    bool Actualizar(int32_t codigo, const QVariantList& fila) override;
-    // A new row under a new code; false, with nothing written, when its number is held.
-    bool InsertarSiNuevo(const QVariantList& fila);
+    TitularParte TitularPorDni(const QString& dni) override;
+    void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    Vigencia ActualizarVigente(int32_t codigo, const QVariantList& fila, int64_t cargada,
+                               int64_t nueva) override;
+    // A new row under a new code, with version `version`; false, with nothing written, when
+    // its number is held.
+    bool InsertarSiNuevo(const QVariantList& fila, int64_t version);
 
 private:
     SentenciaNativa m_codigoPorDni;
     SentenciaNativa m_insertar;
     SentenciaNativa m_insertarConCodigo;
     SentenciaNativa m_actualizar;
+    SentenciaNativa m_actualizarVigente;
+    SentenciaNativa m_existe;
     SentenciaNativa m_insertarSiNuevo;
 };

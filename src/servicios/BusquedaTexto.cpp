@@ -5,6 +5,7 @@
 #include <QList>
 #include <QSqlDriver>
 #include <QStringList>
+#include <optional>
 #include <sqlite3.h>
 
 namespace {
@@ -30,11 +31,37 @@ sqlite3* manejador(const QSqlDatabase& db)
     return *static_cast<sqlite3* const*>(v.constData());
 }
 
-// The texts between `inicio` and what `inicio` followed by the highest character is: every text
-// that begins with `inicio`, as the column's collation compares them.
+// The first text past every text that begins with `inicio`, as NOCASE compares: the last
+// character raised by one. NOCASE compares ASCII letters as small ones, so an ASCII character is
+// raised from its small form ("Z" gives "{", not "["). A last character with nothing above it is
+// dropped and the one before it raised; nothing when there is none (every text is below).
+std::optional<QString> siguienteTras(const QString& inicio)
+{
+    QList<uint> letras = inicio.toUcs4();
+    while (!letras.isEmpty() && letras.last() >= 0x10FFFF)
+        letras.removeLast();
+    if (letras.isEmpty())
+        return std::nullopt;
+    uint& ultima = letras.last();
+    if (ultima < 0x80)
+        ultima = uint(QChar::toLower(char32_t(ultima)));
+    ++ultima;
+    if (ultima >= 0xD800 && ultima < 0xE000)  // no character is written with a lone surrogate
+        ultima = 0xE000;
+    return QString::fromUcs4(reinterpret_cast<const char32_t*>(letras.constData()),
+                             letras.size());
+}
+
+// The texts from `inicio` up to the first text past every one that begins with it: every text
+// that begins with `inicio`, as the column's collation compares them, and a few more that the
+// folded comparison after it leaves out.
 QString rango(const QString& columna, const QString& inicio, QVariantList& valores)
 {
-    valores << inicio << inicio + QString::fromUcs4(U"\U0010FFFF", 1);
+    valores << inicio;
+    const std::optional<QString> tope = siguienteTras(inicio);
+    if (!tope)
+        return QStringLiteral("(%1 >= ?)").arg(columna);
+    valores << *tope;
     return QStringLiteral("(%1 >= ? AND %1 < ?)").arg(columna);
 }
 

@@ -53,6 +53,12 @@ void paso1(const QSqlDatabase& db, const QString& origen)
     ejecutarTodas(db, EsquemaDeclaracionesV1(), origen);
 }
 
+// Layout 1 -> 2: the version of every row of the parties and of the returns.
+void paso2(const QSqlDatabase& db, const QString& origen)
+{
+    ejecutarTodas(db, EsquemaVersionesV2(), origen);
+}
+
 bool esCabeceraSqlite(const QString& ruta)
 {
     QFile f(ruta);
@@ -173,6 +179,7 @@ QList<Paso> Pasos()
 {
     QList<Paso> pasos{
         {1, paso1},
+        {2, paso2},
     };
     pasos.append(pasosDePrueba());
     return pasos;

@@ -14,6 +14,8 @@
 //  1  CONFIGURACION rebuilt with a fixed single row (ID 1), plus the tables of the parties
 //     (EsquemaPartesV1: CONTRIBUYENTES, PRESENTADORES) and of the declarations
 //     (EsquemaDeclaracionesV1: DECLARACIONES, referencing the other two).
+//  2  a column VERSION in CONTRIBUYENTES, PRESENTADORES and DECLARACIONES (EsquemaVersionesV2):
+//     the version of the row, which a save checks and renews (VersionFila.h).
 //
 // A later layout is one more entry at the end of Pasos(): its number and the routine that
 // turns the previous layout into it. Migrar runs, in order, every step above the file's
@@ -32,6 +34,8 @@
 // order, after CONFIGURACION, on an empty database or one of layout 0.
 QStringList EsquemaPartesV1();
 QStringList EsquemaDeclaracionesV1();
+// The statements of layout 2 (EsquemaVersiones.cpp), run on a database of layout 1.
+QStringList EsquemaVersionesV2();
 
 namespace Esquema {
 

@@ -4,6 +4,7 @@
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesContribuyente.h"
 #include "servicios/TextoGuardable.h"
+#include "servicios/VersionFila.h"
 
 #include <limits>
 
@@ -107,7 +108,7 @@ QString DniGuardado(const Arreglo& datos)
 }
 
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& org,
-                std::optional<int32_t> conocido, Veredicto* rechazo)
+                std::optional<TitularParte> conocido, Veredicto* rechazo, int64_t* version)
 {
     using namespace VeredictoGuardarContribuyente;
     if (const int16_t puerta = Puerta(datos, rechazo); puerta != Guardado)
@@ -117,33 +118,51 @@ int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QStri
         ? 0
         : EnteroGuardado(datos, P::CSCO, std::numeric_limits<int32_t>::max(), "CSCO", org);
     const QString dni = fila[P::DNIC - P::TIPODNI].toString();
-    const int32_t titular = conocido ? *conocido : tabla.CodigoPorDni(dni);
-    if (modo == Modo::Sustituir && csco == 0)
-        csco = titular;
-    if (csco == 0) {
-        if (titular != 0)
-            return DniExistente;
-        tabla.Insertar(0, fila);
-    } else {
-        if (titular != 0 && titular != csco)
-            return DniDeOtro;
-        if (!tabla.Actualizar(csco, fila))
-            tabla.Insertar(csco, fila);
+    const TitularParte titular = conocido ? *conocido : tabla.TitularPorDni(dni);
+    std::optional<int64_t> cargada;
+    if (version)
+        cargada = *version;
+    if (modo == Modo::Sustituir && csco == 0) {
+        csco = titular.codigo;
+        cargada = titular.version;
     }
+    const int64_t nueva = VersionFila::Nueva();
+    if (csco == 0) {
+        if (titular.codigo != 0)
+            return DniExistente;
+        tabla.Insertar(0, fila, nueva);
+    } else {
+        if (titular.codigo != 0 && titular.codigo != csco)
+            return DniDeOtro;
+        if (cargada) {
+            switch (tabla.ActualizarVigente(csco, fila, *cargada, nueva)) {
+            case Vigencia::Cambiada:
+                return Cambiado;
+            case Vigencia::Borrada:
+                return Borrado;
+            case Vigencia::Vigente:
+                break;
+            }
+        } else if (!tabla.Actualizar(csco, fila, nueva)) {
+            tabla.Insertar(csco, fila, nueva);
+        }
+    }
+    if (version)
+        *version = nueva;
     return Guardado;
 }
 
 int16_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& org,
-                      int32_t& titular, Veredicto* rechazo)
+                      TitularParte& titular, Veredicto* rechazo)
 {
     using namespace VeredictoGuardarContribuyente;
-    titular = 0;
+    titular = {};
     if (const int16_t puerta = Puerta(datos, rechazo); puerta != Guardado)
         return puerta;
     const QVariantList fila = FilaGuardada(datos, org);
-    if (tabla.InsertarSiNuevo(fila))
+    if (tabla.InsertarSiNuevo(fila, VersionFila::Nueva()))
         return Guardado;
-    titular = tabla.CodigoPorDni(fila[P::DNIC - P::TIPODNI].toString());
+    titular = tabla.TitularPorDni(fila[P::DNIC - P::TIPODNI].toString());
     return DniExistente;
 }
 

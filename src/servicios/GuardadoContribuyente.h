@@ -20,6 +20,8 @@ enum : int16_t {
     DniExistente = 1,    // insert of a number already in the store
     DniDeOtro = 2,       // update to a number held by another contributor
     TextoRechazado = 3,  // a text the store cannot keep as given (TextoGuardable.h)
+    Cambiado = 4,        // update of a contributor saved again since the version given
+    Borrado = 5,         // update of a contributor no longer in the store
 };
 }
 
@@ -40,20 +42,30 @@ const TablaParte& Tabla();
 // put in its stored form before anything is written (cFallo 13 when one cannot be). Verdicts
 // (VeredictoGuardarContribuyente): 0 saved; 1 insert of a number already in the store; 2
 // update to a number held by another; 3 a text the store cannot keep as given, whose message
-// and field `rechazo` (when given) receives. Nothing is written unless the verdict is 0.
-// `titular`, when given, is the code that holds the array's number (0 none), as the caller has
-// just read it through `tabla` with nothing written since; the save then does not read it again.
+// and field `rechazo` (when given) receives; 4 and 5 an update of a contributor whose row is no
+// longer the version `version` names: saved again since, or deleted. Nothing is written unless
+// the verdict is 0.
+// `version`, when given, is the version of the row the caller loaded (VersionFila.h): an
+// update writes only over it, and on a save it receives the row's new version. Without it an
+// update writes whatever the row holds (and a row gone is written back): for a caller that
+// loaded nothing. Modo::Sustituir without a code replaces the holder of the number as it is
+// now, read in the same transaction.
+// `titular`, when given, is the holder of the array's number (code 0 none) with its version,
+// as the caller has just read it through `tabla` with nothing written since; the save then does
+// not read it again.
 int16_t Guardar(AccesoTabla& tabla, const Arreglo& datos, Modo modo, const QString& origen,
-                std::optional<int32_t> titular = std::nullopt, Veredicto* rechazo = nullptr);
+                std::optional<TitularParte> titular = std::nullopt, Veredicto* rechazo = nullptr,
+                int64_t* version = nullptr);
 // The values of a save array in their stored form, in the order of Columnas() (cFallo 13 when
 // one cannot be put in it). It does not pass the door: a caller that writes them does.
 QVariantList FilaGuardada(const Arreglo& datos, const QString& origen);
 // As Guardar(tabla, datos, Modo::Anadir), through the same door and the same stored form, but
 // for a number already in the store it writes nothing, answers DniExistente and puts in
-// `titular` the code that holds the number (0 otherwise). The insert itself finds the holder,
-// so that a new contributor costs one look-up of its number instead of two.
+// `titular` the code that holds the number and its version (code 0 otherwise). The insert
+// itself finds the holder, so that a new contributor costs one look-up of its number instead
+// of two.
 int16_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& origen,
-                      int32_t& titular, Veredicto* rechazo = nullptr);
+                      TitularParte& titular, Veredicto* rechazo = nullptr);
 // The number of a save array as the store keeps it and looks it up (blanks around it removed).
 QString DniGuardado(const Arreglo& datos);
 

@@ -19,13 +19,15 @@ void cLoteContribuyentes::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& 
 
 cLoteContribuyentes::~cLoteContribuyentes() = default;
 
-int32_t cLoteContribuyentes::ExisteContribuyente(const QString& dni)
+int32_t cLoteContribuyentes::ExisteContribuyente(const QString& dni, int64_t* version)
 {
     m_consultaVigente = false;
-    m_codigoConsultado = m_acceso->CodigoPorDni(dni);
+    m_consultado = m_acceso->TitularPorDni(dni);
     m_dniConsultado = dni.trimmed();
     m_consultaVigente = true;
-    return m_codigoConsultado;
+    if (version)
+        *version = m_consultado.version;
+    return m_consultado.codigo;
 }
 
 void cLoteContribuyentes::Empezar()
@@ -44,18 +46,18 @@ void cLoteContribuyentes::Contar()
 }
 
 int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                                  Veredicto* rechazo)
+                                                  Veredicto* rechazo, int64_t* version)
 {
     Empezar();
     // A save refused by its verdict has written nothing, so the batch goes on.
-    std::optional<int32_t> titular;
+    std::optional<TitularParte> titular;
     if (m_consultaVigente && GuardadoContribuyente::DniGuardado(datos) == m_dniConsultado)
-        titular = m_codigoConsultado;
+        titular = m_consultado;
     m_consultaVigente = false;  // whatever happens now, the store may have changed
     const int16_t veredicto = GuardadoContribuyente::Guardar(
         *m_acceso, datos,
         sustituir ? GuardadoContribuyente::Modo::Sustituir : GuardadoContribuyente::Modo::Anadir,
-        m_origen, titular, rechazo);
+        m_origen, titular, rechazo, version);
     if (veredicto == 0)
         Contar();
     else if (m_reloj.elapsed() >= kMilisegundosPorLote)
@@ -64,17 +66,21 @@ int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sus
 }
 
 int16_t cLoteContribuyentes::AnadirSiNuevo(const Arreglo& datos, int32_t& titular,
-                                           Veredicto* rechazo)
+                                           Veredicto* rechazo, int64_t* version)
 {
     Empezar();
     m_consultaVigente = false;
+    TitularParte poseedor;
     const int16_t veredicto =
-        GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen, titular, rechazo);
+        GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen, poseedor, rechazo);
+    titular = poseedor.codigo;
+    if (version)
+        *version = poseedor.version;
     if (veredicto == VeredictoGuardarContribuyente::Guardado) {
         Contar();
-    } else if (titular != 0) {
+    } else if (poseedor.codigo != 0) {
         // Nothing was written: the holder stays known for the save that follows.
-        m_codigoConsultado = titular;
+        m_consultado = poseedor;
         m_dniConsultado = GuardadoContribuyente::DniGuardado(datos);
         m_consultaVigente = true;
     }

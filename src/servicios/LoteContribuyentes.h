@@ -38,18 +38,22 @@ public:
 
     // As cContribSvr::ValidarDatosImportar: every error of one exchange line.
     void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
-    // Code of the contributor with this number (blanks around it ignored), 0 when none.
-    int32_t ExisteContribuyente(const QString& dni);
-    // As cContribSvr::GuardarContribuyente(datos, sustituir, rechazo). A save refused by its
+    // Code of the contributor with this number (blanks around it ignored), 0 when none;
+    // `version`, when given, receives the version of its row.
+    int32_t ExisteContribuyente(const QString& dni, int64_t* version = nullptr);
+    // As cContribSvr::GuardarContribuyente(datos, sustituir, rechazo, version): with the
+    // version that ExisteContribuyente or AnadirSiNuevo gave, a contributor saved again or
+    // deleted since is not replaced (verdicts Cambiado, Borrado). A save refused by its
     // verdict writes nothing.
     int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                 Veredicto* rechazo = nullptr);
+                                 Veredicto* rechazo = nullptr, int64_t* version = nullptr);
     // As GuardarContribuyente(datos, false), but for a number already in the store it writes
-    // nothing, answers DniExistente and puts in `titular` the code that holds the number, as
-    // ExisteContribuyente would (a save of that code that follows does not read it again).
-    // One look-up of the number instead of two for a new contributor: the insert itself finds
-    // the holder.
-    int16_t AnadirSiNuevo(const Arreglo& datos, int32_t& titular, Veredicto* rechazo = nullptr);
+    // nothing, answers DniExistente and puts in `titular` the code that holds the number and in
+    // `version` (when given) the version of its row, as ExisteContribuyente would (a save of
+    // that code that follows does not read it again). One look-up of the number instead of two
+    // for a new contributor: the insert itself finds the holder.
+    int16_t AnadirSiNuevo(const Arreglo& datos, int32_t& titular, Veredicto* rechazo = nullptr,
+                          int64_t* version = nullptr);
     // Commits the saves made so far.
     void Confirmar();
     // Saves not yet committed.
@@ -71,6 +75,6 @@ private:
     // The last look-up, while nothing has been written after it: a save of that number need
     // not read its holder again.
     QString m_dniConsultado;
-    int32_t m_codigoConsultado = 0;
+    TitularParte m_consultado;
     bool m_consultaVigente = false;
 };

@@ -18,6 +18,7 @@ class QLockFile;
 namespace RevisionAlmacen {
 
 // Whether the store's pages are whole: quick_check, or integrity_check when `completa`.
+// Rows that merely break a CHECK or a NOT NULL do not count: they are not damage of the file.
 // Read-only; a file SQLite cannot read as a database answers false.
 bool Sana(const QString& ruta, bool completa);
 

@@ -158,3 +158,13 @@ int64_t SentenciaNativa::Escalar(const QVariantList& valores, int64_t siVacio)
     Terminar();
     return valor;
 }
+
+bool SentenciaNativa::Enteros(const QVariantList& valores, int64_t* columnas, int n)
+{
+    const bool hay = Paso(valores);
+    if (hay)
+        for (int i = 0; i < n; ++i)
+            columnas[i] = sqlite3_column_int64(m_sentencia, i);
+    Terminar();
+    return hay;
+}

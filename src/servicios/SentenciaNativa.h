@@ -28,6 +28,9 @@ public:
     int Ejecutar(const QVariantList& valores);
     // A statement that reads one whole number: its first column of its first row, or `siVacio`.
     int64_t Escalar(const QVariantList& valores, int64_t siVacio);
+    // A statement that reads whole numbers: the first `n` columns of its first row into
+    // `columnas`; false, with nothing written there, when there is no row.
+    bool Enteros(const QVariantList& valores, int64_t* columnas, int n);
 
     // How a value goes over.
     enum class Clase { Texto, Entero, Real, Nulo };

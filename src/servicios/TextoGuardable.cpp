@@ -13,19 +13,25 @@ bool esControl(char32_t c)
     return c < 0x20 || c == 0x7F;
 }
 
-// True when every UTF-16 unit belongs to a whole character: no half of a surrogate pair stands
-// alone (SQLite would join it with its neighbour or replace it on the way to UTF-8).
+// True when every UTF-16 unit belongs to a whole character that the store gives back as it was
+// given: no half of a surrogate pair stands alone (SQLite would join it with its neighbour or
+// replace it on the way to UTF-8), and no noncharacter stands (U+FFFE, U+FFFF and the other
+// code points Unicode keeps out of texts come back from the store as U+FFFD).
 bool caracteresEnteros(QStringView t)
 {
     for (qsizetype i = 0; i < t.size(); ++i) {
         const QChar c = t[i];
+        char32_t punto = c.unicode();
         if (c.isHighSurrogate()) {
             if (i + 1 >= t.size() || !t[i + 1].isLowSurrogate())
                 return false;
+            punto = QChar::surrogateToUcs4(c, t[i + 1]);
             ++i;
         } else if (c.isLowSurrogate()) {
             return false;
         }
+        if (QChar::isNonCharacter(punto))
+            return false;
     }
     return true;
 }

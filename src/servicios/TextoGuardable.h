@@ -9,7 +9,8 @@
 // texts drops them):
 //  - empty, where the column must hold a value: the record's own message for a missing value;
 //  - holding a control character of C0 or DEL (NUL, tab, line break, ...) or a broken character
-//    (a lone half of a surrogate pair, which does not survive the way to UTF-8 and back);
+//    (a lone half of a surrogate pair, which does not survive the way to UTF-8 and back) or a
+//    noncharacter (U+FFFE, U+FFFF...), which comes back as U+FFFD;
 //  - longer, in characters, than the column holds.
 // Nothing is ever changed silently: a text passes as it stands or is refused.
 #include "servicios/Arreglos.h"

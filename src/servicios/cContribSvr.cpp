@@ -11,6 +11,7 @@
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
+#include "servicios/VersionFila.h"
 
 #include <QStringList>
 #include <limits>
@@ -89,17 +90,23 @@ int32_t cContribSvr::ObtenerCodigoContribuyente(const QString& dni) const
     return tabla().CodigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
 }
 
-void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
+void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos, int64_t* version) const
 {
     const QString org = origen("CargarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QSqlQuery q = Ejecutar(db,
-                           QStringLiteral("SELECT %1, %2 FROM CONTRIBUYENTES c WHERE c.CSCO = ?")
-                               .arg(kColumnas.join(QStringLiteral(", ")), contadores()),
+                           QStringLiteral("SELECT %1, %2, c.%3 FROM CONTRIBUYENTES c "
+                                          "WHERE c.CSCO = ?")
+                               .arg(kColumnas.join(QStringLiteral(", ")), contadores(),
+                                    VersionFila::kColumna),
                            {csco}, org);
     datos.clear();
+    if (version)
+        *version = 0;
     if (!q.next())
         return;
+    if (version)
+        *version = q.value(P::NUMTR - kPrimera + 1).toLongLong();
     // The query's columns: those of the stored row, then the two counters.
     datos.resize(P::Tamano);
     datos[P::CSCO] = csco;
@@ -110,27 +117,34 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos) const
     datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo) const
+int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo,
+                                          int64_t* version) const
 {
-    return guardar(datos, Modo::PorCodigo, rechazo);
+    return guardar(datos, Modo::PorCodigo, rechazo, version);
 }
 
 int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                          Veredicto* rechazo) const
+                                          Veredicto* rechazo, int64_t* version) const
 {
-    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir, rechazo);
+    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir, rechazo, version);
 }
 
-int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const
+int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo,
+                             int64_t* version) const
 {
     const QString org = origen("GuardarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     AccesoPreparado acceso(tabla(), db, org);
-    const int16_t veredicto =
-        GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt, rechazo);
-    if (veredicto == VeredictoGuardarContribuyente::Guardado)
+    // The new version is handed back only once it is committed.
+    int64_t nueva = version ? *version : 0;
+    const int16_t veredicto = GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt,
+                                                             rechazo, version ? &nueva : nullptr);
+    if (veredicto == VeredictoGuardarContribuyente::Guardado) {
         transaccion.confirmar();
+        if (version)
+            *version = nueva;
+    }
     return veredicto;
 }
 

@@ -43,20 +43,26 @@ public:
     // Code of the contributor with this number (blanks around it ignored), 0 when none.
     int32_t ExisteContribuyente(const QString& dni) const;
     int32_t ObtenerCodigoContribuyente(const QString& dni) const;
-    // Fills the load array; leaves it empty when the store has no such code.
-    void CargarContribuyente(int32_t csco, Arreglo& datos) const;
-    // Element 0 is 0: insert; otherwise update of that code (written back under the same code
-    // when it is no longer in the store). Verdicts: 0 saved; 1 insert of a number already in
-    // the store; 2 update to a number held by another contributor; 3 a text that the store
-    // cannot keep as given (a name of blanks, a control character, a broken character, a text
-    // too long), of which `rechazo`, when given, receives the message and the field. Nothing
-    // is written unless the verdict is 0.
-    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
+    // Fills the load array; leaves it empty when the store has no such code. `version`, when
+    // given, receives the version of the row (VersionFila.h), 0 when there is none.
+    void CargarContribuyente(int32_t csco, Arreglo& datos, int64_t* version = nullptr) const;
+    // Element 0 is 0: insert; otherwise update of that code. Verdicts
+    // (VeredictoGuardarContribuyente): 0 saved; 1 insert of a number already in the store; 2
+    // update to a number held by another contributor; 3 a text that the store cannot keep as
+    // given (a name of blanks, a control character, a broken character, a text too long), of
+    // which `rechazo`, when given, receives the message and the field; 4 the contributor was
+    // saved again since the version given was loaded, 5 it was deleted since. Nothing is
+    // written unless the verdict is 0.
+    // `version` is the version the caller loaded: an update writes only over that version, and
+    // a save puts the row's new version there. Without it an update writes whatever the row
+    // holds, and a code no longer in the store is written back under the same code.
+    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr,
+                                 int64_t* version = nullptr) const;
     // The import's form: `sustituir` true replaces the contributor of element 0 (or, with 0,
     // the one that has the number; a new one when none has), false adds a new one. Same
-    // verdicts.
+    // verdicts and the same use of `version`.
     int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                 Veredicto* rechazo = nullptr) const;
+                                 Veredicto* rechazo = nullptr, int64_t* version = nullptr) const;
     // Deletes the contributor unless a declaration names him; true when a row went.
     bool BorrarContribuyente(int32_t csco) const;
     // {declarations as subject, as transmitter}.
@@ -73,5 +79,5 @@ public:
 
 private:
     using Modo = GuardadoContribuyente::Modo;
-    int16_t guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo) const;
+    int16_t guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo, int64_t* version) const;
 };

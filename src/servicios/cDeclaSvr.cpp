@@ -8,10 +8,13 @@
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/ImporteGuardable.h"
 #include "servicios/TextoGuardable.h"
+#include "servicios/VersionFila.h"
 
 #include <QSqlRecord>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -111,6 +114,13 @@ constexpr ColumnaTexto kTextos[] = {
     {G::NOMMUNTR, 25, 14, "txtnommuntr", 0, kTransmitente},
 };
 
+// The amounts of the save array, each with the label that names its field and the field.
+constexpr ColumnaImporte kImportes[] = {
+    {G::BASEI, 124, "txtbasei"},   {G::BASEIREDUCIDA, 325, "txtBaseIReducida"},
+    {G::TIPOIMP, 125, "txttipoimp"}, {G::CUOTA, 126, "txtcuota"},
+    {G::DEDUCCION, 127, "txtdeduccion"}, {G::TOTAL, 123, "txttotal"},
+};
+
 [[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
 {
     // Failure 13, "type mismatch": a value of the array cannot become its column's type.
@@ -144,7 +154,8 @@ double numeroDe(const Columna& c, const QVariant& v, const QString& o)
 qint64 enteroDe(const Columna& c, const QVariant& v, const QString& o)
 {
     const double d = numeroDe(c, v, o);
-    if (d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
+    // Not a number and the infinities have no integer (converting them would be undefined).
+    if (!std::isfinite(d) || d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
         noCoincide(c, v, o);
     return static_cast<qint64>(d);
 }
@@ -208,14 +219,6 @@ QVariantList valoresGuardados(const QSqlDatabase& db, const Arreglo& datos, cons
         }
     }
     return valores;
-}
-
-QString listaColumnas(int desde)
-{
-    QStringList nombres;
-    for (int i = desde; i < cDeclaSvr::kValoresGuardar; ++i)
-        nombres << QLatin1String(kColumnas[i].nombre);
-    return nombres.join(QStringLiteral(", "));
 }
 
 QVariant valorCargado(const Columna& c, const QVariant& v)
@@ -292,10 +295,14 @@ bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant&
 
 }  // namespace
 
-int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo) const
+int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo,
+                                      int64_t* version) const
 {
     const QString o = origen("GuardarDeclaracion");
-    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados); !v.vacio()) {
+    Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados);
+    if (v.vacio())
+        v = ComprobarImportes(datos, kImportes);
+    if (!v.vacio()) {
         if (rechazo)
             *rechazo = std::move(v);
         return 0;
@@ -309,14 +316,32 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo) 
         Escalar(db, QStringLiteral("SELECT COALESCE(MAX(GRABACION), 0) + 1 FROM DECLARACIONES"),
                 {}, o, 1)
             .toLongLong();
-    valores << grabacion;
+    const int64_t nueva = VersionFila::Nueva();
+    valores << grabacion << qlonglong(nueva);
+    QStringList columnas;
+    for (int i = PosGuardarDeclaracion::REFERENCIA; i < kValoresGuardar; ++i)
+        columnas << QLatin1String(kColumnas[i].nombre);
+    columnas << QStringLiteral("GRABACION");
 
     int32_t resultado = 0;
-    if (codigo > 0) {
+    if (codigo > 0 && version) {
+        QVariantList conCodigo = valores;
+        conCodigo << codigo << qlonglong(*version);
+        const QSqlQuery q = Ejecutar(
+            db, VersionFila::SqlActualizarVigente(QStringLiteral("DECLARACIONES"), columnas,
+                                                  QStringLiteral("CSDE")),
+            conCodigo, o);
+        if (q.numRowsAffected() == 0)
+            return VersionFila::Diagnostico(db, QStringLiteral("DECLARACIONES"),
+                                            QStringLiteral("CSDE"), codigo, o)
+                    == Vigencia::Cambiada
+                ? kCambiada
+                : kBorrada;
+        resultado = static_cast<int32_t>(codigo);
+    } else if (codigo > 0) {
         QStringList asignaciones;
-        for (int i = PosGuardarDeclaracion::REFERENCIA; i < kValoresGuardar; ++i)
-            asignaciones << QLatin1String(kColumnas[i].nombre) + QStringLiteral(" = ?");
-        asignaciones << QStringLiteral("GRABACION = ?");
+        for (const QString& c : columnas + QStringList{VersionFila::kColumna})
+            asignaciones << c + QStringLiteral(" = ?");
         QVariantList conCodigo = valores;
         conCodigo << codigo;
         QSqlQuery q = Ejecutar(db,
@@ -327,23 +352,25 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo) 
             resultado = static_cast<int32_t>(codigo);
     }
     if (resultado == 0) {
-        // A new return, or one whose row was deleted meanwhile: it gets a new row.
+        // A new return, or (saved without a version) one whose row was deleted meanwhile: it
+        // gets a new row.
         QStringList marcas;
         for (qsizetype i = 0; i < valores.size(); ++i)
             marcas << QStringLiteral("?");
-        const QString columnas = listaColumnas(PosGuardarDeclaracion::REFERENCIA);
         QSqlQuery q = Ejecutar(db,
-                               QStringLiteral("INSERT INTO DECLARACIONES (%1, GRABACION) "
-                                              "VALUES (%2)")
-                                   .arg(columnas, marcas.join(QStringLiteral(", "))),
+                               QStringLiteral("INSERT INTO DECLARACIONES (%1, %2) VALUES (%3)")
+                                   .arg(columnas.join(QStringLiteral(", ")), VersionFila::kColumna,
+                                        marcas.join(QStringLiteral(", "))),
                                valores, o);
         resultado = q.lastInsertId().toInt();
     }
     transaccion.confirmar();
+    if (version)
+        *version = nueva;
     return resultado;
 }
 
-void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos) const
+void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos, int64_t* version) const
 {
     const QString o = origen("CargarDeclaracion");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
@@ -351,15 +378,19 @@ void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos) const
     for (const Columna& c : kColumnas)
         columnas << QStringLiteral("d.") + QLatin1String(c.nombre);
     QSqlQuery q = Ejecutar(db,
-                           QStringLiteral("SELECT %1, p.DNIP, p.NOMBREP FROM DECLARACIONES d "
+                           QStringLiteral("SELECT %1, p.DNIP, p.NOMBREP, d.%2 FROM DECLARACIONES d "
                                           "LEFT JOIN PRESENTADORES p ON p.CSPR = d.CSPR "
                                           "WHERE d.CSDE = ?")
-                               .arg(columnas.join(QStringLiteral(", "))),
+                               .arg(columnas.join(QStringLiteral(", ")), VersionFila::kColumna),
                            {csde}, o);
+    if (version)
+        *version = 0;
     if (!q.next()) {
         datos = cargaVacia();
         return;
     }
+    if (version)
+        *version = q.value(kValoresGuardar + 2).toLongLong();
     Arreglo carga(kValoresCargar);
     for (int i = 0; i < kValoresGuardar; ++i)
         carga[PosicionDeCarga(i)] = valorCargado(kColumnas[i], q.value(i));

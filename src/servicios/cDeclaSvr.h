@@ -27,21 +27,33 @@ public:
     // Highest rule number of ValidarDatosDeclaraciones.
     static constexpr int kUltimaRegla = 40;
 
+    // What GuardarDeclaracion answers, instead of a code, for a return whose row is no longer
+    // the version loaded: saved again since, or deleted.
+    static constexpr int32_t kCambiada = -1;
+    static constexpr int32_t kBorrada = -2;
+
     // --- Returns -------------------------------------------------------------------------
-    // Stores the 55-value save array: a new row when its value 0 (the code) is 0 or names a
-    // row that no longer exists, else the row of that code. Party codes that name no stored
+    // Stores the 55-value save array: a new row when its value 0 (the code) is 0, else the row
+    // of that code.
+    // `version` is the version the caller loaded (VersionFila.h): the row of the code is
+    // rewritten only while it still has that version, and otherwise nothing is written and the
+    // answer is kCambiada (saved again since) or kBorrada (deleted since); a save puts the
+    // row's new version there. Without it the row is rewritten whatever it holds, and a code
+    // that names no row any more makes a new row. Party codes that name no stored
     // contributor or presenter are kept as 0 (the return keeps its own copy of the party).
     // The counters of the parties named before and after follow in the same transaction.
     // Answers the code of the row. A text that the store cannot keep as given (a control
     // character, a broken character, a text longer than its field) answers 0 and writes
     // nothing; `rechazo`, when given, receives the message and the field. An array of another
     // size or with a number that is not a number raises cFallo and writes nothing.
-    int32_t GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
+    int32_t GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo = nullptr,
+                               int64_t* version = nullptr) const;
     // Fills `datos` with the 58-value load array of the return `csde` (0 the code, then the
     // save array's values with the presenter's number and name at 24 and 25, and at 57 the
     // number of returns whose subject is this return's transmitter). An unknown code leaves
-    // an array of empty values with code 0.
-    void CargarDeclaracion(int32_t csde, Arreglo& datos) const;
+    // an array of empty values with code 0. `version`, when given, receives the version of the
+    // row, 0 when there is none.
+    void CargarDeclaracion(int32_t csde, Arreglo& datos, int64_t* version = nullptr) const;
     // Removes the row and lowers the counters of its parties; false when there was none.
     bool BorrarDeclaracion(int32_t csde) const;
     // The last saved returns, the most recent first, at most four: lista[i][0] the code,

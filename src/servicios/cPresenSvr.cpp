@@ -8,6 +8,7 @@
 #include "servicios/TablaParte.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
+#include "servicios/VersionFila.h"
 
 #include <QStringList>
 #include <algorithm>
@@ -86,7 +87,8 @@ int16_t cPresenSvr::ValidarDatosPresentador(const Arreglo& datos) const
     return ReglasPresentador(datos);
 }
 
-int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo) const
+int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo,
+                                       int64_t* version) const
 {
     using namespace VeredictoGuardarPresentador;
     const QString org = origen("GuardarPresentador");
@@ -103,17 +105,20 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo)
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     const int32_t titular = tabla().CodigoPorDni(db, dni, org);
+    const int64_t nueva = VersionFila::Nueva();
     if (cspr == 0) {
         if (titular != 0)
             return DniExistente;
-        tabla().Insertar(db, 0, fila, org);
+        tabla().Insertar(db, 0, fila, nueva, org);
     } else {
         if (titular != 0 && titular != cspr)
             return DniDeOtro;
         QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
                                     {cspr}, org);
         if (!actual.next()) {
-            tabla().Insertar(db, cspr, fila, org);
+            if (version)
+                return Borrado;
+            tabla().Insertar(db, cspr, fila, nueva, org);
         } else {
             // The declarations copy the presenter's number: once one names him it stays. A
             // change of case only is the same number (the column ignores case).
@@ -121,24 +126,41 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo)
                 actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
             if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
                 return DniEnDeclaraciones;
-            tabla().Actualizar(db, cspr, fila, org);
+            if (!version) {
+                tabla().Actualizar(db, cspr, fila, nueva, org);
+            } else {
+                switch (tabla().ActualizarVigente(db, cspr, fila, *version, nueva, org)) {
+                case Vigencia::Cambiada:
+                    return Cambiado;
+                case Vigencia::Borrada:
+                    return Borrado;
+                case Vigencia::Vigente:
+                    break;
+                }
+            }
         }
     }
     transaccion.confirmar();
+    if (version)
+        *version = nueva;
     return Guardado;
 }
 
-void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos) const
+void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos, int64_t* version) const
 {
     const QString org = origen("CargarPresentador");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QSqlQuery q = Ejecutar(db,
-                           QStringLiteral("SELECT %1 FROM PRESENTADORES WHERE CSPR = ?")
-                               .arg(kColumnas.join(QStringLiteral(", "))),
+                           QStringLiteral("SELECT %1, %2 FROM PRESENTADORES WHERE CSPR = ?")
+                               .arg(kColumnas.join(QStringLiteral(", ")), VersionFila::kColumna),
                            {cspr}, org);
     datos.clear();
+    if (version)
+        *version = 0;
     if (!q.next())
         return;
+    if (version)
+        *version = q.value(int(kColumnas.size())).toLongLong();
     datos.resize(P::Tamano);
     datos[P::CSPR] = cspr;
     for (int p = P::DNIP; p < P::Tamano; ++p)

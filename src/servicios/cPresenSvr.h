@@ -26,6 +26,8 @@ enum : int16_t {
     DniDeOtro = 2,            // update to a number held by another presenter
     DniEnDeclaraciones = 3,   // change of the number of a presenter named in a declaration
     TextoRechazado = 4,       // a text the store cannot keep as given (TextoGuardable.h)
+    Cambiado = 5,             // update of a presenter saved again since the version given
+    Borrado = 6,              // update of a presenter no longer in the store
 };
 }
 
@@ -36,15 +38,20 @@ public:
 
     // Number of the first rule that the validation array breaks, 0 when none (1 to 11).
     int16_t ValidarDatosPresentador(const Arreglo& datos) const;
-    // Element 0 is 0: insert; otherwise update of that code (written back under the same code
-    // when it is no longer in the store). Verdicts: 0 saved; 1 insert of a number already in
-    // the store; 2 update to a number held by another presenter; 3 change of the number of a
-    // presenter named in a declaration; 4 a text that the store cannot keep as given, of which
-    // `rechazo`, when given, receives the message and the field. Nothing is written unless the
-    // verdict is 0.
-    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
-    // Fills the load array; leaves it empty when the store has no such code.
-    void CargarPresentador(int32_t cspr, Arreglo& datos) const;
+    // Element 0 is 0: insert; otherwise update of that code. Verdicts: 0 saved; 1 insert of a
+    // number already in the store; 2 update to a number held by another presenter; 3 change of
+    // the number of a presenter named in a declaration; 4 a text that the store cannot keep as
+    // given, of which `rechazo`, when given, receives the message and the field; 5 the
+    // presenter was saved again since the version given was loaded, 6 it was deleted since.
+    // Nothing is written unless the verdict is 0.
+    // `version` is the version the caller loaded (VersionFila.h): an update writes only over
+    // it, and a save puts the row's new version there. Without it an update writes whatever
+    // the row holds, and a code no longer in the store is written back under the same code.
+    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr,
+                               int64_t* version = nullptr) const;
+    // Fills the load array; leaves it empty when the store has no such code. `version`, when
+    // given, receives the version of the row, 0 when there is none.
+    void CargarPresentador(int32_t cspr, Arreglo& datos, int64_t* version = nullptr) const;
     // Deletes the presenter unless a declaration names him; true when a row went.
     bool BorrarPresentador(int32_t cspr) const;
     // Code of the presenter with this number, 0 when none.

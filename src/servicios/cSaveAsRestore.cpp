@@ -234,6 +234,21 @@ void sustituirContenido(const QSqlDatabase& db)
              {}, kOrigen);
 }
 
+// A backup of an older layout is brought to the current one in its checked copy, before that
+// copy replaces the live content: the running copies of the program go on writing the current
+// layout (the rows' versions among it) into the restored store.
+void alLayoutActual(const QString& ruta)
+{
+    Propia conexion(ruta, false);
+    const QSqlDatabase db = conexion.db();
+    const int version = Esquema::VersionDe(db, kOrigen);
+    if (version >= Esquema::VersionActual())
+        return;
+    Transaccion transaccion(db, kOrigen);
+    Esquema::Migrar(db, version, kOrigen);
+    transaccion.confirmar();
+}
+
 // Under one write lock of the live file: the dated safety copy of what it holds, then its
 // content replaced by the clean copy's. A second running copy of the program that saves
 // meanwhile waits for the lock: what it saved before is in the safety copy, what it saves
@@ -354,6 +369,8 @@ cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) c
             resultado.examen = Examen::Ajena;
             return resultado;
         }
+        // An older layout is brought to the current one in the clean copy, before the lock.
+        alLayoutActual(temporal.ruta());
         resultado.copiaPrevia = restaurarEnVivo(destino, temporal.ruta(), RutaOrigen, viva.exists());
         resultado.hecha = true;
     } catch (const cFallo&) {

@@ -121,13 +121,24 @@ private slots:
         QVERIFY(tieneLinea(r.salida, "  -h, --help +Muestra esta ayuda."));
         QVERIFY(tieneLinea(r.salida, "  -v, --version +Muestra la versión del programa."));
         QVERIFY(tieneLinea(r.salida, "  --pdf CODIGO FICHERO +Guarda en FICHERO el impreso de la "
-                                     "declaración CODIGO, en PDF."));
+                                     "declaración CODIGO, en PDF. Con varios códigos "
+                                     "\\(12,15-40\\) o con --desde, --hasta o --dni .* "
+                                     "747_<código>_<NIF>.pdf, o con --un-fichero todas en un "
+                                     "solo PDF."));
         QVERIFY(tieneLinea(r.salida, "  --imprimir CODIGO +Imprime la declaración CODIGO en la "
-                                     "impresora del sistema."));
+                                     "impresora del sistema; o varias, como --pdf."));
+        QVERIFY(tieneLinea(r.salida, "  --un-fichero FICHERO +Con --pdf, todas las declaraciones "
+                                     "en FICHERO, una tras otra."));
+        QVERIFY(tieneLinea(r.salida, "  --desde DD/MM/AAAA +Con --pdf, --imprimir o --listar, las "
+                                     "declaraciones devengadas desde esa fecha."));
+        QVERIFY(tieneLinea(r.salida, "  --dni NIF +Con --pdf, --imprimir o --listar, las "
+                                     "declaraciones de ese sujeto pasivo."));
+        QVERIFY(tieneLinea(r.salida, "  --listar FICHERO +Escribe en FICHERO \\(CSV\\) una fila "
+                                     "por declaración: .*"));
         QVERIFY(tieneLinea(r.salida, "  --fecha DD/MM/AAAA +Con --pdf o --imprimir, la fecha de "
                                      "presentación \\(hoy, si no\\)."));
         QVERIFY(tieneLinea(r.salida, "  --importar FICHERO +Importa los contribuyentes de FICHERO "
-                                     "en modo automático."));
+                                     "en modo automático: un fichero de intercambio, o un CSV .*"));
         // Qt's own options are accepted but not listed.
         QVERIFY(!r.salida.contains("platform"));
         // Help comes first when both are asked for.
@@ -144,7 +155,7 @@ private slots:
         QVERIFY(r.salida.startsWith("Erabilera: veldoria [aukerak]\n"));
         QVERIFY(tieneLinea(r.salida, "  -v, --version +Programaren bertsioa erakusten du."));
         QVERIFY(tieneLinea(r.salida, "  --pdf KODEA FITXATEGIA +KODEA aitorpenaren inprimakia "
-                                     "FITXATEGIAn gordetzen du, PDFn."));
+                                     "FITXATEGIAn gordetzen du, PDFn. Kode batzuekin .*"));
     }
 
     void opcionDesconocida()

@@ -25,7 +25,7 @@ private slots:
             const int tab = linea.indexOf(QLatin1Char('\t'));
             m_filas.append({linea.left(tab).toInt(), linea.mid(tab + 1)});
         }
-        QCOMPARE(m_filas.size(), 730);
+        QCOMPARE(m_filas.size(), 754);
     }
 
     void cadaFilaTalCual()
@@ -95,9 +95,9 @@ private slots:
 
     void filaInexistenteEsUnFallo()
     {
-        QVERIFY_THROWS_EXCEPTION(cFallo, TextoFila(366));
+        QVERIFY_THROWS_EXCEPTION(cFallo, TextoFila(9999));
         QVERIFY_THROWS_EXCEPTION(cFallo, TextoFila(0));
-        QVERIFY_THROWS_EXCEPTION(cFallo, TextoFila(10366));
+        QVERIFY_THROWS_EXCEPTION(cFallo, TextoFila(19999));
     }
 };
 

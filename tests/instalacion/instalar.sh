@@ -19,7 +19,8 @@ for f in "$programa/Veldo" "$programa/Tablas/VELDOLEC.mdb" \
          "$compartido/icons/hicolor/scalable/apps/org.veldoria.Veldoria.svg" \
          "$compartido/icons/hicolor/48x48/apps/org.veldoria.Veldoria.png" \
          "$compartido/metainfo/org.veldoria.Veldoria.metainfo.xml" \
-         "$compartido/doc/veldoria/copyright" "$compartido/doc/veldoria/changelog.gz"; do
+         "$compartido/doc/veldoria/copyright" "$compartido/doc/veldoria/changelog.gz" \
+         "$compartido/man/man1/veldoria.1.gz"; do
   [ -e "$f" ] || fallo "no se ha instalado ${f#"$raiz"}"
 done
 [ -x "$programa/Veldo" ] || fallo "Veldo no es ejecutable"

@@ -4,4 +4,10 @@
 # Argument: the output folder of paquete.sh.
 set -euo pipefail
 command -v lintian >/dev/null || { echo "lintian no está instalado: sin revisar"; exit 77; }
-lintian --fail-on error --display-info "$1"/veldoria_*.deb
+informe=$(lintian --fail-on error --display-info "$1"/veldoria_*.deb) || { echo "$informe"; exit 1; }
+echo "$informe"
+# The command has its manual page.
+if grep -q "no-manual-page" <<<"$informe"; then
+    echo "lintian echa en falta la página de manual"
+    exit 1
+fi

@@ -20,7 +20,8 @@ for f in ./usr/lib/veldoria/Veldo ./usr/lib/veldoria/Tablas/VELDOLEC.mdb \
          ./usr/share/icons/hicolor/scalable/apps/org.veldoria.Veldoria.svg \
          ./usr/share/icons/hicolor/48x48/apps/org.veldoria.Veldoria.png \
          ./usr/share/metainfo/org.veldoria.Veldoria.metainfo.xml \
-         ./usr/share/doc/veldoria/copyright ./usr/share/doc/veldoria/changelog.gz; do
+         ./usr/share/doc/veldoria/copyright ./usr/share/doc/veldoria/changelog.gz \
+         ./usr/share/man/man1/veldoria.1.gz; do
   grep -q " $f\( \|$\)" <<<"$contenido" || fallo "el paquete no lleva $f"
 done
 grep -q "VELDOMOD" <<<"$contenido" && fallo "el paquete lleva una base de datos de usuario"

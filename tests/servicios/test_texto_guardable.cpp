@@ -63,6 +63,10 @@ QList<Caso> NombresImposibles()
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
         {"mitad baja sola", QStringLiteral("GARCIA") + kMitadBaja, kIdTextoCaracteres,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
+        {"U+FFFE", QStringLiteral("GARCIA\uFFFE"), kIdTextoCaracteres,
+         QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
+        {"U+FFFF", QStringLiteral("GAR\uFFFFCIA"), kIdTextoCaracteres,
+         QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
         {"tabulador", QStringLiteral("GARCIA\tLOPEZ"), kIdTextoCaracteres,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
         {"41 letras", QString(41, QLatin1Char('N')), kIdTextoLargo,
@@ -146,6 +150,14 @@ private slots:
         QTest::newRow("mitad alta") << QString(kMitadAlta) << 5 << false << int(D::Caracteres);
         QTest::newRow("mitades al revés") << QString(kMitadBaja) + kMitadAlta << 5 << false
                                           << int(D::Caracteres);
+        // Noncharacters come back from the store as U+FFFD: they are refused, not changed.
+        QTest::newRow("U+FFFE") << QStringLiteral("A\uFFFEB") << 5 << false << int(D::Caracteres);
+        QTest::newRow("U+FFFF") << QStringLiteral("AB\uFFFF") << 5 << false << int(D::Caracteres);
+        QTest::newRow("U+FDD0") << QStringLiteral("\uFDD0") << 5 << false << int(D::Caracteres);
+        QTest::newRow("U+1FFFF") << QString::fromUcs4(U"A\U0001FFFF", 2) << 5 << false
+                                 << int(D::Caracteres);
+        QTest::newRow("U+FFFD se guarda") << QStringLiteral("A\uFFFDB") << 5 << false
+                                          << int(D::Ninguno);
         // A character beyond the BMP is one character, as the column counts it.
         QTest::newRow("par entero") << QStringLiteral("AB") + QString::fromUcs4(U"\U0001F697", 1)
                                     << 3 << false << int(D::Ninguno);
@@ -419,6 +431,39 @@ private slots:
         QCOMPARE(nombres, esperados);
     }
 
+    void busquedaSigueConCualquierCaracter_data()
+    {
+        QTest::addColumn<QString>("prefijo");
+        QTest::newRow("prefijo ASCII") << QStringLiteral("garcia");
+        QTest::newRow("prefijo con Ñ") << QStringLiteral("ibáñez");
+    }
+
+    void busquedaSigueConCualquierCaracter()
+    {
+        // A name is found by its beginning whatever character follows it: one of the BMP's last
+        // (private use, U+FFFD), one beyond the BMP, the highest a text can hold.
+        QFETCH(QString, prefijo);
+        AlmacenDePrueba almacen;
+        const QString base = prefijo.toUpper();
+        const QStringList siguientes = {
+            QStringLiteral(" ANA"), QStringLiteral("\uE000"), QStringLiteral("\uFFFD"),
+            QString::fromUcs4(U"\U0001F697", 1), QString::fromUcs4(U"\U00020000", 1),
+            QString::fromUcs4(U"\U0010FFFD", 1), QString::fromUcs4(U"\U0010FFFD\U0010FFFD", 2)};
+        QStringList esperados;
+        quint32 n = 40;
+        for (const QString& s : siguientes) {
+            esperados << base + s;
+            QVERIFY(NuevoContribuyente(Dni(n++), base + s) > 0);
+        }
+        NuevoContribuyente(Dni(n++), QStringLiteral("OTRO ") + base);
+        Arreglo2D lista;
+        Contribuyentes().dameResultadoBusqueda({0, prefijo, 0}, lista, 1);
+        QStringList nombres = Nombres(lista);
+        nombres.sort();
+        esperados.sort();
+        QCOMPARE(nombres, esperados);
+    }
+
     void busquedaPresentadores()
     {
         AlmacenDePrueba almacen;
@@ -433,6 +478,55 @@ private slots:
             QCOMPARE(nombres, (QStringList{QStringLiteral("GESTORÍA IBÁÑEZ"),
                                            QStringLiteral("gestoría ibáñez hnos")}));
         }
+    }
+
+    void prefijoSeguidoDeCualquierCaracter_data()
+    {
+        QTest::addColumn<QString>("prefijo");
+        QTest::newRow("acaba en Z") << QStringLiteral("ruiz");
+        QTest::newRow("acaba en @") << QStringLiteral("info@");
+        QTest::newRow("acaba en Ñ") << QStringLiteral("ibáñ");
+        QTest::newRow("acaba antes de los sustitutos") << QStringLiteral("a\uD7FF");
+        QTest::newRow("acaba en U+10FFFD") << QStringLiteral("b") + QString::fromUcs4(U"\U0010FFFD", 1);
+    }
+    void prefijoSeguidoDeCualquierCaracter()
+    {
+        // The condition finds every text that begins with the prefix, whatever comes after it,
+        // even the highest code point followed by more text, which a bound made of the prefix
+        // and that code point would leave out; and nothing that does not begin with it.
+        QFETCH(QString, prefijo);
+        AlmacenDePrueba almacen;
+        QSqlQuery q(almacen.db());
+        QVERIFY(q.exec(QStringLiteral("CREATE TEMP TABLE NOMBRES (N TEXT COLLATE NOCASE)")));
+        const QString mayor = QString::fromUcs4(U"\U0010FFFF", 1);
+        const QStringList siguen = {QString(), QStringLiteral("A"), QStringLiteral("\uFFFD"),
+                                    QString::fromUcs4(U"\U0001F697", 1), mayor,
+                                    mayor + QStringLiteral("Z"), mayor + mayor + QStringLiteral("1")};
+        QStringList esperados;
+        for (const QString& s : siguen)
+            esperados << prefijo.toUpper() + s << prefijo + s;
+        QStringList todos = esperados;
+        const QString sinUltimo = prefijo.chopped(1);
+        todos << sinUltimo << sinUltimo + QStringLiteral("{") << sinUltimo + QStringLiteral("[")
+              << QStringLiteral("X") + prefijo;
+        for (const QString& n : std::as_const(todos)) {
+            QVERIFY(q.prepare(QStringLiteral("INSERT INTO NOMBRES VALUES (?)")));
+            q.addBindValue(n);
+            QVERIFY(q.exec());
+        }
+        QVariantList valores;
+        QVERIFY(q.prepare(QStringLiteral("SELECT N FROM NOMBRES WHERE ")
+                          + CondicionPrefijo(QStringLiteral("N"), prefijo, valores)));
+        for (const QVariant& v : valores)
+            q.addBindValue(v);
+        QVERIFY(q.exec());
+        QStringList hallados;
+        while (q.next())
+            hallados << q.value(0).toString();
+        hallados.sort();
+        esperados.removeDuplicates();
+        esperados.sort();
+        QCOMPARE(hallados, esperados);
     }
 
     void busquedaUsaElIndice()

@@ -1,7 +1,7 @@
 // Bringing the read/write database to the current layout: the first run, the runs after it,
-// the migration of a file of an older layout, the refusal of a newer layout and of files that
-// are not this program's, a failing migration that leaves the file as it was, and two
-// instances starting at once.
+// the migration of a file of an older layout (the rows' versions included), the refusal of a
+// newer layout and of files that are not this program's, a failing migration that leaves the
+// file as it was, and two instances starting at once.
 #include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
@@ -216,6 +216,37 @@ private slots:
         QCOMPARE(general().ObtenerActOnline(), int16_t(-1));
     }
 
+    // A store of layout 1 (before rows had versions) gets its version column at open: each
+    // row a version of its own, never 0, and the data as they were.
+    void migraUnaBaseDelLayout1ConVersiones()
+    {
+        CrearLayout0(mdbmod, QStringLiteral("C"), 0);
+        {
+            ConexionCruda c(mdbmod);
+            Esquema::Pasos().first().aplicar(c.db(), QStringLiteral("prueba"));
+            c.ejecutar(QStringLiteral("PRAGMA user_version = 1"));
+        }
+        for (const char* tabla : {"CONTRIBUYENTES", "PRESENTADORES", "DECLARACIONES"})
+            QVERIFY2(!ColumnasDe(mdbmod, QLatin1String(tabla)).contains(QStringLiteral("VERSION")), tabla);
+        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 3);
+        InsertarFilas(mdbmod, QStringLiteral("PRESENTADORES"), 2);
+        const QString nombres = [] {
+            ConexionCruda c(mdbmod, true);
+            return c.escalar(QStringLiteral("SELECT group_concat(NOMBREC, '|') FROM CONTRIBUYENTES")).toString();
+        }();
+        QCOMPARE(traspaso(), false);
+        comprobarLayoutActual();
+        ConexionCruda c(mdbmod, true);
+        for (const char* tabla : {"CONTRIBUYENTES", "PRESENTADORES", "DECLARACIONES"})
+            QVERIFY2(ColumnasDe(mdbmod, QLatin1String(tabla)).contains(QStringLiteral("VERSION")), tabla);
+        QCOMPARE(c.escalar(QStringLiteral("SELECT COUNT(DISTINCT VERSION) FROM CONTRIBUYENTES "
+                                          "WHERE VERSION > 0")).toInt(), 3);
+        QCOMPARE(c.escalar(QStringLiteral("SELECT COUNT(DISTINCT VERSION) FROM PRESENTADORES "
+                                          "WHERE VERSION > 0")).toInt(), 2);
+        QCOMPARE(c.escalar(QStringLiteral("SELECT group_concat(NOMBREC, '|') FROM CONTRIBUYENTES")).toString(),
+                 nombres);
+    }
+
     // A later layout is one more step: a layout-1 file reaches it, keeping its data.
     void unLayoutPosteriorEsUnPasoMas()
     {
@@ -395,6 +426,25 @@ private slots:
         QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
         marcaAbandonada(mdbmod);
         QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Danada);
+    }
+    // Rows written by another tool that break a CHECK or a NOT NULL are not damage of the
+    // file: the store opens, after the full check too.
+    void filasFueraDeLasReglasNoSonDanno()
+    {
+        QCOMPARE(traspaso(), false);
+        Conexion::Cerrar(mdbmod);
+        {
+            ConexionCruda c(mdbmod);
+            c.ejecutar(QStringLiteral("PRAGMA ignore_check_constraints = ON"));
+            c.ejecutar(QStringLiteral("INSERT INTO CONTRIBUYENTES (TIPODNI, DNIC, NOMBREC, TIPODOMI, "
+                                      "CODPROVC) VALUES ('Q', 'X1', 'OTRA HERRAMIENTA', 'N', '77')"));
+        }
+        cTraspaso t;
+        t.mdbmod = mdbmod;
+        t.mdbPath = mdbPath;
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
+        marcaAbandonada(mdbmod);
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
     }
 };
 

@@ -6,6 +6,7 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
+#include "paneles/dialogos/AvisoVigencia.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Ventanas.h"
@@ -57,6 +58,10 @@ bool FrmDeclaracion::Guardar()
                 rechazo.titulo = windowTitle();
             MostrarVeredicto(rechazo, this);
         }
+        // The stored return is no longer the one loaded: nothing was written; the form keeps
+        // what was typed unless the user asks for the stored return.
+        if (AvisarVigencia(VigenciaGuardado(codigo), windowTitle()))
+            CargarGuardada();
         return false;
     }
     const QString modo = DecDatos().MODO();
@@ -64,6 +69,17 @@ bool FrmDeclaracion::Guardar()
         AnotarEnLista(codigo);
     DecDatos().CSDE = codigo;
     return true;
+}
+
+void FrmDeclaracion::CargarGuardada()
+{
+    cDecDatos& d = DecDatos();
+    d.CargarDeclaracion();
+    SeleccionarOperacion();
+    CargarNombres();
+    d.MODIFICADO = false;
+    PresentarDeclaracion();
+    ActivarSelectores();
 }
 
 void FrmDeclaracion::AnotarEnLista(int32_t codigo)

@@ -131,6 +131,8 @@ private:
     void Aceptar();
     void Imprimir();
     bool Guardar();
+    // The stored return CSDE loaded into the record and drawn, in place of what was typed.
+    void CargarGuardada();
     void AnotarEnLista(int32_t codigo);
 
     // Frames and tabs.

@@ -88,7 +88,8 @@ QImage emblema()
 
 const QImage& ImagenDibujo(Dibujo dibujo)
 {
-    static QHash<int, QImage> hechas;
+    // Made once per thread: a batch paints its PDF files on several threads at once.
+    thread_local QHash<int, QImage> hechas;
     const int clave = static_cast<int>(dibujo);
     auto it = hechas.find(clave);
     if (it == hechas.end())

@@ -64,7 +64,9 @@ const FuenteMedida& FuenteDeImpreso(const QString& familia, double puntos, bool 
                                     bool cursiva, bool subrayado)
 {
     using Clave = std::tuple<QString, double, bool, bool, bool>;
-    static std::map<Clave, std::unique_ptr<FuenteMedida>> hechas;
+    // One set per thread: a batch writes its PDF files on several threads at once, and a
+    // font and its metrics are not to be shared between threads.
+    thread_local std::map<Clave, std::unique_ptr<FuenteMedida>> hechas;
     const Clave clave{familia, puntos, negrita, cursiva, subrayado};
     auto it = hechas.find(clave);
     if (it == hechas.end())

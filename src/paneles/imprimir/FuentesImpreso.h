@@ -40,6 +40,6 @@ private:
     mutable QHash<QString, double> m_anchos;
 };
 
-// The shared FuenteMedida of a surface's state; it lives as long as the process.
+// The shared FuenteMedida of a surface's state; it lives as long as its thread.
 const FuenteMedida& FuenteDeImpreso(const QString& familia, double puntos, bool negrita,
                                     bool cursiva, bool subrayado);

@@ -18,6 +18,7 @@ LlamadaPagina cSuperficieGrabadora::llamada(LlamadaPagina::Tipo tipo) const
     l.tamano = FontSize;
     l.negrita = FontBold;
     l.cursiva = FontItalic;
+    l.subrayado = FontUnderline;
     l.grosor = DrawWidth;
     l.escala = ScaleMode;
     return l;

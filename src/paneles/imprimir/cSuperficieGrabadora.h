@@ -1,7 +1,8 @@
 #pragma once
 // A page surface that draws nothing and keeps every call with its arguments and the state it
-// was made in, and every text metric asked for: the tests read a sheet from it. Its metrics
-// are those of the surfaces that paint.
+// was made in, and every text metric asked for: the tests read a sheet from it, and a batch
+// replays it on a PDF in another thread (ReproducirLlamadas). Its metrics are those of the
+// surfaces that paint.
 #include "registros/imprimir/cSuperficiePagina.h"
 
 #include <QList>
@@ -15,6 +16,7 @@ struct LlamadaPagina {
     float tamano = 0;
     bool negrita = false;
     bool cursiva = false;
+    bool subrayado = false;
     int16_t grosor = 0;        // DrawWidth of a line
     uint32_t color = 0;        // line colour or text colour
     ModoLinea modo = ModoLinea::Linea;

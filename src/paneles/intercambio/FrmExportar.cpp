@@ -37,7 +37,8 @@ constexpr int kColumnaCodigo = 0;
 constexpr int kColumnaNombre = 1;
 constexpr int kColumnaDni = 2;
 constexpr int kAnchos[] = {800, 2700, 1100};  // twips
-const QString kFiltro = QStringLiteral("*.txt (*.txt);;*.* (*)");
+// The exchange file, or a CSV file of a spreadsheet.
+const QString kFiltro = QStringLiteral("*.txt (*.txt);;*.csv (*.csv);;*.* (*)");
 
 QString TituloColumna(int columna)
 {

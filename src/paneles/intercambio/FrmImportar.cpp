@@ -22,7 +22,8 @@
 
 namespace {
 
-const QString kFiltro = QStringLiteral("*.txt (*.txt);;*.* (*)");
+// The exchange file, or a CSV file of a spreadsheet.
+const QString kFiltro = QStringLiteral("*.txt (*.txt);;*.csv (*.csv);;*.* (*)");
 
 }  // namespace
 

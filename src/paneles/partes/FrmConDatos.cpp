@@ -238,6 +238,7 @@ int16_t FrmConDatos::GuardarContribuyente()
         ConDatos().GuardarContribuyente(ConDatos().ArregloGuardar(), &rechazo);
     AvisarRechazo(this, rechazo);
     AvisarVeredicto(this, cConDatos::IdMensajeGuardar(veredicto), veredicto, {});
+    TratarVigencia(cConDatos::VigenciaGuardar(veredicto));
     return veredicto;
 }
 

@@ -159,6 +159,7 @@ int16_t FrmPreDatos::GuardarPresentador()
     const int16_t veredicto = PreDatos().GuardarPresentador(PreDatos().ArregloGuardar(), &rechazo);
     AvisarRechazo(this, rechazo);
     AvisarVeredicto(this, cPreDatos::IdMensajeGuardar(veredicto), veredicto, {});
+    TratarVigencia(cPreDatos::VigenciaGuardar(veredicto));
     return veredicto;
 }
 

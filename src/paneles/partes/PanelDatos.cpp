@@ -1,6 +1,7 @@
 #include "paneles/partes/PanelDatos.h"
 
 #include "plataforma/Proceso.h"
+#include "paneles/dialogos/AvisoVigencia.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "paneles/controles/EnterComoTab.h"
 #include "paneles/partes/BloqueDomicilio.h"
@@ -89,6 +90,15 @@ void PanelDatos::Aceptar()
         AnotarEnLista();
     }
     Cerrar();
+}
+
+void PanelDatos::TratarVigencia(Vigencia vigencia)
+{
+    if (!AvisarVigencia(vigencia, windowTitle()))
+        return;
+    CargarDatos();
+    Redibujar();
+    m_modificado = false;
 }
 
 void PanelDatos::Cerrar()

@@ -8,6 +8,7 @@
 // Each panel works straight on its own shared record and says what is its own: its fields,
 // captions, loading and drawing, the store's verdicts, and the list it hands back to.
 #include "paneles/dialogos/Ventanas.h"
+#include "valores/Vigencia.h"
 
 #include <QWidget>
 #include <cstdint>
@@ -71,6 +72,11 @@ protected:
     virtual int16_t Guardar() = 0;
     // After a save: a new party made from its list is the one the list selects on coming back.
     virtual void AnotarEnLista() = 0;
+
+    // A save the store refused because the stored party is no longer the one loaded: the
+    // message, and, when the user asks for it, the stored party loaded into the record and the
+    // panel drawn again from it. Otherwise the record and the panel keep what was typed.
+    void TratarVigencia(Vigencia vigencia);
 
     // Fills the address pickers.
     void CargarListas();

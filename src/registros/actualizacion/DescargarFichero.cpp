@@ -64,27 +64,37 @@ std::optional<QByteArray> traer(const QUrl& url)
     respuesta->setReadBufferSize(kTamannoMaximo + 1);
     QByteArray cuerpo;
     bool demasiado = false;
+    QEventLoop bucle;
+    // A reply that has said enough is done with: the wait ends at once, without counting on
+    // `finished` after an abort. Qt inflates a compressed body itself and may end a reply that
+    // inflates too far with an error of its own while the body is being read; after two such
+    // ends, Qt sends no `finished` at all.
+    auto basta = [&] {
+        demasiado = true;
+        respuesta->abort();
+        bucle.quit();
+    };
     auto leer = [&] {
+        if (demasiado)
+            return;
         cuerpo += respuesta->read(kTamannoMaximo + 1 - cuerpo.size());
         const QVariant anunciado = respuesta->header(QNetworkRequest::ContentLengthHeader);
         if (cuerpo.size() > kTamannoMaximo
-            || (anunciado.isValid() && anunciado.toLongLong() > kTamannoMaximo)) {
-            demasiado = true;
-            respuesta->abort();
-        }
+            || (anunciado.isValid() && anunciado.toLongLong() > kTamannoMaximo))
+            basta();
     };
-    QEventLoop bucle;
     QTimer limite;
     limite.setSingleShot(true);
     QObject::connect(&limite, &QTimer::timeout, respuesta.get(), &QNetworkReply::abort);
     QObject::connect(respuesta.get(), &QNetworkReply::metaDataChanged, &bucle, leer);
     QObject::connect(respuesta.get(), &QNetworkReply::readyRead, &bucle, leer);
+    QObject::connect(respuesta.get(), &QNetworkReply::errorOccurred, &bucle, &QEventLoop::quit);
     QObject::connect(respuesta.get(), &QNetworkReply::finished, &bucle, &QEventLoop::quit);
     limite.start(g_esperaMaxima);
-    if (!respuesta->isFinished())
+    if (!respuesta->isFinished() && respuesta->error() == QNetworkReply::NoError)
         bucle.exec(QEventLoop::ExcludeUserInputEvents);
     limite.stop();
-    if (!demasiado)
+    if (!demasiado && respuesta->isOpen())
         leer();
 
     if (demasiado || respuesta->error() != QNetworkReply::NoError)

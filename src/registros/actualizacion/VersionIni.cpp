@@ -11,11 +11,15 @@
 #include <algorithm>
 
 namespace {
-// A version with a control character (a bell, an escape, a line break inside) is no version.
+// A version with a control character (a bell, an escape, a line break inside) is no version,
+// nor one with a character of format: the bidirectional controls (U+202E...) turn the text
+// around on screen, so that "9.9.9" U+202E "1" shows as "9.9.91".
 bool tieneControl(const QString& texto)
 {
-    return std::any_of(texto.cbegin(), texto.cend(),
-                       [](QChar c) { return c.category() == QChar::Other_Control; });
+    return std::any_of(texto.cbegin(), texto.cend(), [](QChar c) {
+        const QChar::Category categoria = c.category();
+        return categoria == QChar::Other_Control || categoria == QChar::Other_Format;
+    });
 }
 }  // namespace
 

@@ -296,16 +296,15 @@ void cDecDatos::ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha,
     resultado = svr.ValidarDatosDeclaraciones(datos, impresion, fecha);
 }
 
-void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado,
-                                   Veredicto* rechazo) const
+void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado, Veredicto* rechazo)
 {
-    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos, rechazo);
+    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos, rechazo, &VERSION);
 }
 
 void cDecDatos::CargarDeclaracion()
 {
     Arreglo datos;
-    Almacen<cDeclaSvr>().CargarDeclaracion(CSDE, datos);
+    Almacen<cDeclaSvr>().CargarDeclaracion(CSDE, datos, &VERSION);
     DatosCargados(datos);
 }
 
@@ -377,4 +376,16 @@ int32_t GuardarDatosDeclaracion(Veredicto* rechazo)
     int32_t codigo = 0;
     DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo, rechazo);
     return codigo;
+}
+
+Vigencia VigenciaGuardado(int32_t resultado)
+{
+    switch (resultado) {
+    case cDeclaSvr::kCambiada:
+        return Vigencia::Cambiada;
+    case cDeclaSvr::kBorrada:
+        return Vigencia::Borrada;
+    default:
+        return Vigencia::Vigente;
+    }
 }

@@ -5,6 +5,7 @@
 // The operations open a cDeclaSvr for one call each.
 #include "servicios/Arreglos.h"
 #include "valores/Veredicto.h"
+#include "valores/Vigencia.h"
 
 #include <QString>
 #include <QStringList>
@@ -70,6 +71,9 @@ public:
     QString CODMUNTR;
     QString NOMMUNTR;
     double DECLASP = 0;          // returns whose subject is the transmitter (load value 57)
+    // The version of the stored row this return was loaded from or last saved as; a save of
+    // the return CSDE writes only over that version (VersionFila.h).
+    int64_t VERSION = 0;
 
     // --- Routing -------------------------------------------------------------------------------
     QString CRITERIO;            // search text handed to the selection panels
@@ -103,9 +107,11 @@ public:
     // --- Operations through cDeclaSvr ----------------------------------------------------------
     void ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha, int16_t& resultado) const;
     // `resultado` 0 when the store refused a text it cannot keep as given: `rechazo`, when
-    // given, then holds the message and the field to show.
+    // given, then holds the message and the field to show; cDeclaSvr::kCambiada or kBorrada
+    // when the stored return is no longer the VERSION loaded (nothing was written). A save
+    // takes the row's new version into VERSION.
     void GuardarDeclaracion(const Arreglo& datos, int32_t& resultado,
-                            Veredicto* rechazo = nullptr) const;
+                            Veredicto* rechazo = nullptr);
     void CargarDeclaracion();
     void BorrarDeclaracion() const;
     void ObtenerUltimasDeclaraciones(Arreglo2D& lista) const;
@@ -129,5 +135,8 @@ cDecDatos& DecDatos();
 
 // The form's save: the 55-value array of DecDatos() to the store. Answers the return's code,
 // above 0 when it was stored; 0 when the store refused a text, whose message and field
-// `rechazo` (when given) receives for the form to show.
+// `rechazo` (when given) receives for the form to show; below 0 when the stored return was
+// saved again or deleted since it was loaded (VigenciaGuardado tells which).
 int32_t GuardarDatosDeclaracion(Veredicto* rechazo = nullptr);
+// What an answer of GuardarDatosDeclaracion says of the stored return.
+Vigencia VigenciaGuardado(int32_t resultado);

@@ -21,6 +21,7 @@ int AvisoIntercambio::id() const
     case MotivoAviso::FicheroAbierto: return 312;
     case MotivoAviso::ErrorEjecucion: return 277;
     case MotivoAviso::NoHayDisquete: return 249;
+    case MotivoAviso::CabeceraCsv: return argumentos.value(0).toInt();
     case MotivoAviso::Ninguno:
     case MotivoAviso::NifErroneos:
     case MotivoAviso::NoRepresentables: return 0;
@@ -52,6 +53,7 @@ QString AvisoIntercambio::texto() const
             Lista(argumentos)
                 + QStringLiteral(" IFZ duten esku hartzailea(e)k trukerako fitxategian sartzen "
                                  "ez diren karaktereak ditu(zte)."));
+    case MotivoAviso::CabeceraCsv: return Texto(id()) + argumentos.value(1);
     default: return Texto(id());
     }
 }

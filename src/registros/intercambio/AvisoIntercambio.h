@@ -17,6 +17,7 @@ enum class MotivoAviso {
     NoHayDisquete,      // 249
     NifErroneos,        // the export's list of wrong identity numbers
     NoRepresentables,   // the export's list of contributors the file cannot hold
+    CabeceraCsv,        // a CSV file's first row: the id of what is wrong, then the column
 };
 
 struct AvisoIntercambio {

@@ -53,6 +53,11 @@ QString Cabeza(int linea, const QString& dni)
         + QLatin1Char(' ') + dni + QStringLiteral(": ");
 }
 
+QByteArray LineaIlegible(int linea, const QString& motivo)
+{
+    return Linea(Texto(kIdLinea) + QString::number(linea) + QStringLiteral(" - ") + motivo);
+}
+
 QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje)
 {
     return Linea(Cabeza(linea, dni) + mensaje);

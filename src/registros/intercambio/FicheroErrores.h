@@ -17,6 +17,8 @@ QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni
 // The line of a valid line whose save the store refused (a text it cannot keep as given):
 // the same head as LineasErrores, then the store's message.
 QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje);
+// A row of a spreadsheet that could not be split into its fields: "Linea 7 - " and the reason.
+QByteArray LineaIlegible(int linea, const QString& motivo);
 // An empty line, "FORMATO:" in the language in use, and the 19 fields, always in Spanish.
 QByteArray Formato();
 // The number of errors of an array of ValidarDatosImportar.

@@ -5,6 +5,7 @@
 #include "valores/Val.h"
 #include "registros/partes/CriteriosLista.h"
 #include "registros/intercambio/Cp1252.h"
+#include "registros/intercambio/CsvContribuyentes.h"
 #include "servicios/Almacen.h"
 #include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
@@ -268,12 +269,14 @@ AvisoIntercambio cExportar::ComprobarIdentidades() const
     cContribSvr svr;
     QStringList erroneos;
     QStringList noRepresentables;
+    // A CSV file is UTF-8 and has no widths: it holds every character and number.
+    const bool csv = EsFicheroCsv(FICHEROAEXPORTAR);
     for (const RegistroContri& r : m_contriExp) {
         const QString dni = r.texto(C::DNI).trimmed();
         if (r.texto(C::TIPODNI) == QLatin1String("O") ? !svr.ValidarDniOficial(dni)
                                                        : ValorCero(dni))
             erroneos << dni;
-        else if (!ComponerLinea(r.valores))
+        else if (!csv && !ComponerLinea(r.valores))
             noRepresentables << dni;
     }
     if (!erroneos.isEmpty())
@@ -304,14 +307,21 @@ AvisoIntercambio cExportar::EscribirFichero() const
         return FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
     QByteArray bloque;
     bloque.reserve(1 << 20);
+    const bool csv = EsFicheroCsv(FICHEROAEXPORTAR);
+    if (csv)
+        bloque += CsvContribuyentes::Cabecera();
     for (const RegistroContri& r : m_contriExp) {
-        const std::optional<QByteArray> linea = ComponerLinea(r.valores);
-        if (!linea) {
-            fichero.cancelWriting();
-            return {MotivoAviso::NoRepresentables, {r.texto(C::DNI).trimmed()}};
+        if (csv) {
+            bloque += CsvContribuyentes::Fila(r.valores);
+        } else {
+            const std::optional<QByteArray> linea = ComponerLinea(r.valores);
+            if (!linea) {
+                fichero.cancelWriting();
+                return {MotivoAviso::NoRepresentables, {r.texto(C::DNI).trimmed()}};
+            }
+            bloque += *linea;
+            bloque += "\r\n";
         }
-        bloque += *linea;
-        bloque += "\r\n";
         if (bloque.size() >= (1 << 20)) {
             fichero.write(bloque);
             bloque.clear();

@@ -6,7 +6,7 @@
 #include "catalogo/Catalogo.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/intercambio/FicheroErrores.h"
-#include "registros/intercambio/LectorLineas.h"
+#include "registros/intercambio/FuenteLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
@@ -20,6 +20,10 @@
 #include <limits>
 
 namespace {
+
+// The message of a line whose contributor was saved again or deleted, since the import read
+// it, by another running copy of the program.
+constexpr int kIdContribuyenteCambiado = 370;
 
 using C = CampoIntercambio;
 
@@ -91,7 +95,9 @@ struct cImportar::Ejecucion {
     std::unique_ptr<QFile> entrada;
     std::unique_ptr<QFile> errores;
     std::unique_ptr<cLoteContribuyentes> lote;
+    std::unique_ptr<FuenteLineas> fuente;
     LineaLeida leida;  // the line under way; its texts keep their room from line to line
+    int numero = 0;    // its number in the error file: its line, or its row in a spreadsheet
 
     void Escribir(const QByteArray& bytes)
     {
@@ -104,7 +110,6 @@ struct cImportar::Ejecucion {
     // A short line, or one that fails validation, is refused: true when it was.
     bool Refusada(const LineaLeida& l)
     {
-        const int numero = estado.LineasLeidas;
         if (l.corta) {
             Escribir(FicheroErrores::LineaCorta(numero));
             ++estado.NUMEROINC;
@@ -120,23 +125,37 @@ struct cImportar::Ejecucion {
     }
 
     // A save the store refused, for a text it cannot keep as given (a control character, half
-    // of a surrogate pair: the line's checks do not look at those): the line is incorrect and
-    // the store's message goes to the error file. True when it was refused.
+    // of a surrogate pair: the line's checks do not look at those), or because the contributor
+    // to replace was saved again or deleted since the import read it (by another running copy
+    // of the program: it is not overwritten): the line is incorrect and the message goes to the
+    // error file. True when it was refused.
     bool Rechazada(int16_t resultado, const Veredicto& rechazo, const LineaLeida& l)
     {
-        if (resultado != VeredictoGuardarContribuyente::TextoRechazado)
+        QString mensaje;
+        switch (resultado) {
+        case VeredictoGuardarContribuyente::TextoRechazado:
+            mensaje = rechazo.mensaje;
+            break;
+        case VeredictoGuardarContribuyente::Cambiado:
+        case VeredictoGuardarContribuyente::Borrado:
+            mensaje = Texto(kIdContribuyenteCambiado);
+            break;
+        default:
             return false;
-        Escribir(FicheroErrores::LineaRechazo(estado.LineasLeidas, l[C::DNI], rechazo.mensaje));
+        }
+        Escribir(FicheroErrores::LineaRechazo(numero, l[C::DNI], mensaje));
         ++estado.NUMEROINC;
         return true;
     }
 
-    void Sustituir(const LineaLeida& l, int32_t codigo)
+    // Replaces the contributor `codigo`, as the import read it (`version`).
+    void Sustituir(const LineaLeida& l, int32_t codigo, int64_t version)
     {
         if (Refusada(l))
             return;
         Veredicto rechazo;
-        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo),
+        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
+                                                 &version),
                       rechazo, l))
             return;
         ++estado.NUMEROSUS;
@@ -171,11 +190,13 @@ struct cImportar::Ejecucion {
         if (Refusada(l))
             return;
         int32_t codigo = 0;
+        int64_t version = 0;
         Veredicto rechazo;
-        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo);
+        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo, &version);
         const bool sustituye = resultado == VeredictoGuardarContribuyente::DniExistente;
         if (sustituye)
-            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo);
+            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
+                                                   &version);
         if (Rechazada(resultado, rechazo, l))
             return;
         if (sustituye)
@@ -183,41 +204,59 @@ struct cImportar::Ejecucion {
         ++estado.NUMEROIMP;
     }
 
-    void Linea(const QByteArray& bytes)
+    void Linea()
     {
-        CortarLinea(bytes, leida);
         const LineaLeida& l = leida;
         if (estado.AUTOMATICO == QLatin1String("X")) {
             Automatico(l);
             return;
         }
-        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI]);
+        int64_t version = 0;
+        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI], &version);
         if (codigo == 0) {
             Nuevo(l);
         } else {
-            // Nobody is kept waiting for the store while the question stands.
+            // Nobody is kept waiting for the store while the question stands; what another
+            // copy saves meanwhile is not overwritten (the version read is the one replaced).
             lote->Confirmar();
             if (interlocutor.sustituir && interlocutor.sustituir(l[C::DNI]))
-                Sustituir(l, codigo);
+                Sustituir(l, codigo, version);
             else
                 ++estado.NUMEROIGN;
         }
     }
 
+    // A row of a spreadsheet that cannot be split is refused with the reason.
+    void Ilegible(const QString& motivo)
+    {
+        Escribir(FicheroErrores::LineaIlegible(numero, motivo));
+        ++estado.NUMEROINC;
+    }
+
     void Leer()
     {
-        const double estimado = double(entrada->size()) / kLargoLineaIntercambio;
-        LectorLineas lector(*entrada, kLargoLineaIntercambio);
-        QByteArray bytes;
-        while (lector.Siguiente(bytes)) {
+        AvisoIntercambio malo;
+        fuente = AbrirFuente(*entrada, malo);
+        if (!fuente)
+            throw FalloEjecucion{malo};
+        const double estimado = fuente->Estimado();
+        QString motivo;
+        for (;;) {
+            const FuenteLineas::Resultado r = fuente->Siguiente(leida, motivo);
+            if (r == FuenteLineas::Resultado::Fin)
+                break;
             if (estado.LineasLeidas == std::numeric_limits<int16_t>::max())
                 throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kDesbordamiento)};
             ++estado.LineasLeidas;
-            Linea(bytes);
+            numero = fuente->Numero();
+            if (r == FuenteLineas::Resultado::Ilegible)
+                Ilegible(motivo);
+            else
+                Linea();
             if (interlocutor.avance)
                 interlocutor.avance(estado.LineasLeidas, estimado, false);
         }
-        if (lector.error())
+        if (fuente->Error())
             throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado)};
         if (interlocutor.avance)
             interlocutor.avance(estado.LineasLeidas, estimado, true);
@@ -260,7 +299,7 @@ bool cImportar::Abierto(const QString& ruta) const
 
 AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
 {
-    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, {}};
+    Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, nullptr, {}, 0};
     const QString rutaEntrada = Ruta(FICHEROAIMPORTAR);
     const QString rutaErrores = Ruta(FICHEROERRORES);
     try {

@@ -49,6 +49,7 @@ void cConDatos::setMODO(const QString& modo)
     NOMMUNC.clear();
     NUMSP = 0;
     NUMTR = 0;
+    VERSION = 0;
 }
 
 void cConDatos::BorrarContribuyente() const
@@ -59,9 +60,11 @@ void cConDatos::BorrarContribuyente() const
 void cConDatos::CargarContribuyente(int32_t codigo)
 {
     Arreglo d;
-    Almacen<cContribSvr>().CargarContribuyente(codigo, d);
+    int64_t version = 0;
+    Almacen<cContribSvr>().CargarContribuyente(codigo, d, &version);
     if (d.size() < P::Tamano)
         return;
+    VERSION = version;
     TIPODNI = d[P::TIPODNI].toString();
     DNIC = d[P::DNIC].toString();
     NOMBREC = d[P::NOMBREC].toString();
@@ -99,9 +102,9 @@ int32_t cConDatos::ObtenerCodigoContribuyente(const QString& dni) const
     return Almacen<cContribSvr>().ObtenerCodigoContribuyente(dni);
 }
 
-int16_t cConDatos::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo) const
+int16_t cConDatos::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo)
 {
-    return Almacen<cContribSvr>().GuardarContribuyente(datos, rechazo);
+    return Almacen<cContribSvr>().GuardarContribuyente(datos, rechazo, &VERSION);
 }
 
 Arreglo cConDatos::ArregloValidacion() const
@@ -157,6 +160,18 @@ int cConDatos::IdMensajeValidacion(int16_t veredicto)
 int cConDatos::IdMensajeGuardar(int16_t veredicto)
 {
     return veredicto == 1 ? 41 : veredicto == 2 ? 42 : 0;
+}
+
+Vigencia cConDatos::VigenciaGuardar(int16_t veredicto)
+{
+    switch (veredicto) {
+    case VeredictoGuardarContribuyente::Cambiado:
+        return Vigencia::Cambiada;
+    case VeredictoGuardarContribuyente::Borrado:
+        return Vigencia::Borrada;
+    default:
+        return Vigencia::Vigente;
+    }
 }
 
 int cConDatos::IdMensajeImportar(int codigo)

@@ -5,6 +5,7 @@
 // operations each make a store object for one call.
 #include "servicios/Arreglos.h"
 #include "valores/Veredicto.h"
+#include "valores/Vigencia.h"
 
 #include <QString>
 #include <cstdint>
@@ -37,6 +38,9 @@ public:
     QString NOMMUNC;        // typed municipality name
     double NUMSP = 0;       // declarations as subject (shown, never edited)
     double NUMTR = 0;       // declarations as transmitter
+    // The version of the stored row this record was loaded from or last saved as; 0 for a
+    // contributor not loaded. A save writes only over that version (VersionFila.h).
+    int64_t VERSION = 0;
 
     // Deletes the contributor CSCO; the store refuses one named in a declaration, and a code
     // it no longer has is not reported.
@@ -50,9 +54,11 @@ public:
     // Verdict 0 to 14 of the validation array.
     int16_t ValidarDatosContribuyente(const Arreglo& datos) const;
     int32_t ObtenerCodigoContribuyente(const QString& dni) const;
-    // Verdict 0 to 3 of the save array; on 3 (a text the store cannot keep as given)
-    // `rechazo`, when given, holds the message and the field to show.
-    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
+    // Verdict 0 to 5 of the save array; on 3 (a text the store cannot keep as given)
+    // `rechazo`, when given, holds the message and the field to show; 4 and 5 when the stored
+    // contributor is no longer the VERSION loaded (saved again or deleted since), and nothing
+    // was written. A save takes the row's new version into VERSION.
+    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr);
 
     // The arrays of the record, as the store takes them.
     Arreglo ArregloValidacion() const;
@@ -62,6 +68,8 @@ public:
     // table (which shows nothing and accepts nothing).
     static int IdMensajeValidacion(int16_t veredicto);
     static int IdMensajeGuardar(int16_t veredicto);
+    // Whether a verdict of the save tells of a stored contributor other than the one loaded.
+    static Vigencia VigenciaGuardar(int16_t veredicto);
     // The catalogue id of an error code of the import, 0 for a code outside the table.
     static int IdMensajeImportar(int codigo);
 

@@ -44,6 +44,7 @@ void cPreDatos::setMODO(const QString& modo)
     CODMUNP.clear();
     NOMMUNP.clear();
     TELEFONOP.clear();
+    VERSION = 0;
 }
 
 int16_t cPreDatos::NDeclaPresentador() const
@@ -54,9 +55,11 @@ int16_t cPreDatos::NDeclaPresentador() const
 void cPreDatos::CargarPresentador(int32_t codigo)
 {
     Arreglo d;
-    servidor().CargarPresentador(codigo, d);
+    int64_t version = 0;
+    servidor().CargarPresentador(codigo, d, &version);
     if (d.size() < P::Tamano)
         return;
+    VERSION = version;
     DNIP = d[P::DNIP].toString();
     NOMBREP = d[P::NOMBREP].toString();
     VIAP = d[P::VIAP].toString();
@@ -73,9 +76,9 @@ void cPreDatos::CargarPresentador(int32_t codigo)
     TELEFONOP = Val(d[P::TELEFONOP].toString()) != 0 ? d[P::TELEFONOP].toString() : QString();
 }
 
-int16_t cPreDatos::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo) const
+int16_t cPreDatos::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo)
 {
-    return servidor().GuardarPresentador(datos, rechazo);
+    return servidor().GuardarPresentador(datos, rechazo, &VERSION);
 }
 
 int16_t cPreDatos::ValidarDatosPresentador(const Arreglo& datos) const
@@ -146,6 +149,18 @@ int cPreDatos::IdMensajeGuardar(int16_t veredicto)
         return 197;
     default:
         return 0;
+    }
+}
+
+Vigencia cPreDatos::VigenciaGuardar(int16_t veredicto)
+{
+    switch (veredicto) {
+    case VeredictoGuardarPresentador::Cambiado:
+        return Vigencia::Cambiada;
+    case VeredictoGuardarPresentador::Borrado:
+        return Vigencia::Borrada;
+    default:
+        return Vigencia::Vigente;
     }
 }
 

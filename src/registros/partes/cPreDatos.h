@@ -5,6 +5,7 @@
 // domicile, no country, no typed province, no counters; a telephone.
 #include "servicios/Arreglos.h"
 #include "valores/Veredicto.h"
+#include "valores/Vigencia.h"
 
 #include <QString>
 #include <cstdint>
@@ -17,9 +18,11 @@ public:
     // given two digits and the postal code five; a telephone of value 0 reads empty. A code
     // the store does not have leaves the record as it was.
     void CargarPresentador(int32_t codigo);
-    // Verdict 0 to 4 of the save array; on 4 (a text the store cannot keep as given)
-    // `rechazo`, when given, holds the message and the field to show.
-    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr) const;
+    // Verdict 0 to 6 of the save array; on 4 (a text the store cannot keep as given)
+    // `rechazo`, when given, holds the message and the field to show; 5 and 6 when the stored
+    // presenter is no longer the VERSION loaded (saved again or deleted since), and nothing was
+    // written. A save takes the row's new version into VERSION.
+    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr);
     // Verdict 0 to 11 of the validation array.
     int16_t ValidarDatosPresentador(const Arreglo& datos) const;
     // Deletes the presenter CSPR; the store refuses one named in a declaration.
@@ -44,6 +47,9 @@ public:
     QString PISOP;
     QString MANOP;
     QString TELEFONOP;
+    // The version of the stored row this record was loaded from or last saved as; 0 for a
+    // presenter not loaded.
+    int64_t VERSION = 0;
 
     int32_t ObtenerCodigoPresentador(const QString& dni) const;
 
@@ -55,6 +61,8 @@ public:
     // table.
     static int IdMensajeValidacion(int16_t veredicto);
     static int IdMensajeGuardar(int16_t veredicto);
+    // Whether a verdict of the save tells of a stored presenter other than the one loaded.
+    static Vigencia VigenciaGuardar(int16_t veredicto);
 
 private:
     QString m_modo;

@@ -18,8 +18,18 @@ QString ServidorPrueba::url() const
 void ServidorPrueba::responder(int estado, const QByteArray& cuerpo)
 {
     m_calla = false;
+    m_sinFin = false;
+    m_codificacion.clear();
     m_estado = estado;
     m_cuerpo = cuerpo;
+}
+
+void ServidorPrueba::comprimido(const QByteArray& codificacion, const QByteArray& cuerpo,
+                                bool abierta)
+{
+    responder(200, cuerpo);
+    m_codificacion = codificacion;
+    m_abierta = abierta;
 }
 
 void ServidorPrueba::callar()
@@ -68,6 +78,13 @@ void ServidorPrueba::alLeer(QTcpSocket* s)
         s->write("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nConnection: close\r\n\r\n"
                  "[informacion]\r\ncurrentversion=1.30.2\r\n");
         connect(s, &QTcpSocket::bytesWritten, this, [this, s] { seguir(s); });
+        return;
+    }
+    if (!m_codificacion.isEmpty()) {
+        s->write("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nContent-Encoding: "
+                 + m_codificacion + "\r\n\r\n" + m_cuerpo);
+        if (!m_abierta)
+            s->disconnectFromHost();
         return;
     }
     const QByteArray razon = m_estado == 200 ? "OK" : m_estado == 404 ? "Not Found" : "Status";

@@ -24,6 +24,10 @@ public:
     void callar();
     // Every later request gets a success status without a length and a body that never ends.
     void sinFin();
+    // Every later request gets a success status and `cuerpo` as a body compressed with
+    // `codificacion` ("gzip", "deflate"), without a length; the connection is then closed, or
+    // left open when `abierta`.
+    void comprimido(const QByteArray& codificacion, const QByteArray& cuerpo, bool abierta);
     // Bytes of body written so far by the endless replies.
     qint64 enviados() const { return m_enviados; }
 
@@ -42,6 +46,8 @@ private:
 
     bool m_calla = false;
     bool m_sinFin = false;
+    QByteArray m_codificacion;
+    bool m_abierta = false;
     qint64 m_enviados = 0;
     int m_estado = 200;
     QByteArray m_cuerpo;

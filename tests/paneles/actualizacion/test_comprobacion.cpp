@@ -38,6 +38,19 @@ QByteArray ficheroVersion(const QByteArray& version)
            "descripcion=Nueva versión con mejoras\r\n";
 }
 
+// `datos` compressed for a reply's Content-Encoding. qCompress gives a length of 4 bytes and
+// a zlib stream, which is a "deflate" body; a "gzip" body is the stream's deflate data behind
+// gzip's header. The gzip trailer (checksum and size) is left out: the server keeps the
+// connection open, so the body never ends and the client must judge it as it inflates.
+QByteArray Comprimir(const QByteArray& codificacion, const QByteArray& datos)
+{
+    const QByteArray zlib = qCompress(datos, 9).mid(4);
+    if (codificacion == "deflate")
+        return zlib;
+    static const char cabecera[] = {'\x1f', '\x8b', 8, 0, 0, 0, 0, 0, 2, 3};
+    return QByteArray(cabecera, sizeof cabecera) + zlib.mid(2, zlib.size() - 6);
+}
+
 // What a panel showed when it opened.
 struct Vista {
     QString objeto;
@@ -417,6 +430,44 @@ private slots:
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
     }
 
+    // A compressed reply is counted as it inflates: one that grows past the limit stops there,
+    // at once, and does not keep the check waiting for the end of the time allowed.
+    void respuestaComprimidaEnormeEsSinConexion_data()
+    {
+        QTest::addColumn<QByteArray>("codificacion");
+        QTest::addColumn<int>("megas");
+        QTest::newRow("gzip 4 MiB") << QByteArray("gzip") << 4;
+        QTest::newRow("gzip 64 MiB") << QByteArray("gzip") << 64;
+        QTest::newRow("deflate 4 MiB") << QByteArray("deflate") << 4;
+        QTest::newRow("deflate 64 MiB") << QByteArray("deflate") << 64;
+    }
+    void respuestaComprimidaEnormeEsSinConexion()
+    {
+        QFETCH(QByteArray, codificacion);
+        QFETCH(int, megas);
+        const QByteArray cuerpo = ficheroVersion("1.30.2") + QByteArray(megas * 1024 * 1024, ' ');
+        m_servidor->comprimido(codificacion, Comprimir(codificacion, cuerpo), true);
+        EstablecerEsperaMaximaDescarga(std::chrono::seconds(60));
+        QElapsedTimer reloj;
+        reloj.start();
+        QCOMPARE(DescargarVersionIni(), 1);
+        QVERIFY2(reloj.elapsed() < 20000, qPrintable(QString::number(reloj.elapsed())));
+        QVERIFY(!QFile::exists(RutaVersionIni()));
+    }
+
+    void respuestaComprimidaPequenaSeLee()
+    {
+        // A compressed version file within the limit is read as any other.
+        m_servidor->comprimido("deflate", Comprimir("deflate", ficheroVersion("1.30.2")), false);
+        EstablecerEsperaMaximaDescarga(std::chrono::seconds(60));
+        QElapsedTimer reloj;
+        reloj.start();
+        QCOMPARE(DescargarVersionIni(), 3);
+        QVERIFY2(reloj.elapsed() < 20000, qPrintable(QString::number(reloj.elapsed())));
+        QCOMPARE(LeerVersionIni(), 3);
+        QCOMPARE(ActOnline().ActVer2, QStringLiteral("30"));
+    }
+
     void respuestaEnElLimiteSeGuarda()
     {
         QByteArray cuerpo = ficheroVersion("1.30.2");
@@ -437,6 +488,11 @@ private slots:
         QTest::newRow("escape") << QByteArray("1.\x1b[31m30.2");
         QTest::newRow("borrar") << QByteArray("1.30.2\x7f");
         QTest::newRow("tabulador dentro") << QByteArray("1.3\t0.2");
+        // Bidirectional controls turn the text around on screen ("9.9.9" U+202E "1" shows
+        // "9.9.91").
+        QTest::newRow("U+202E") << QByteArray("9.9.9\xE2\x80\xAE" "1");
+        QTest::newRow("U+200F") << QByteArray("1.\xE2\x80\x8F" "30.2");
+        QTest::newRow("U+2066") << QByteArray("\xE2\x81\xA6" "1.30.2");
     }
     void versionConCaracterDeControlEsDatoErroneo()
     {

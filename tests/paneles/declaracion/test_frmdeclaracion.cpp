@@ -6,12 +6,16 @@
 #include "aplicacion/MDIVeldo.h"
 #include "aplicacion/Navegacion.h"
 #include "catalogo/Catalogo.h"
+#include "comun/OtraConexion.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/nucleo/CEntrada.h"
+#include "servicios/Almacen.h"
+#include "servicios/PosicionesDeclaracion.h"
+#include "servicios/cDeclaSvr.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -19,6 +23,7 @@
 #include <QMenu>
 #include <QRadioButton>
 #include <QTabBar>
+#include <stdexcept>
 
 class TestFrmDeclaracion : public QObject, ControlesDePanel {
     Q_OBJECT
@@ -500,6 +505,62 @@ private slots:
         QVERIFY(!k("chktipodnitr")->isEnabled());
         QVERIFY(!k("chktipodomitr")->isEnabled());
         QVERIFY(MensajeSeam::registro().isEmpty());
+    }
+
+    // Another running copy saves the return while the form has it open: Aceptar writes
+    // nothing over it and asks; No keeps what was typed, Yes shows the stored return, which
+    // can then be edited and saved.
+    void declaracionCambiadaEnOtraCopia()
+    {
+        const int32_t csde = DeclaracionGuardada(QStringLiteral("REF-1"));
+        abrirGuardada(csde);
+        QVERIFY(m_panel);
+        QVERIFY(EnOtraConexion([csde] {
+            namespace G = PosGuardarDeclaracion;
+            Arreglo carga;
+            Almacen<cDeclaSvr>().CargarDeclaracion(csde, carga);
+            Arreglo datos(G::Tamano);
+            for (int i = 0; i < G::Tamano; ++i)
+                datos[i] = carga[PosicionDeCarga(i)];
+            datos[G::CSDE] = csde;
+            datos[G::REFERENCIA] = QStringLiteral("OTRA");
+            if (Almacen<cDeclaSvr>().GuardarDeclaracion(datos) != csde)
+                throw std::runtime_error("no guardada");
+        }));
+        EscribirYSalir(t("txtreferencia"), QStringLiteral("MIA"));
+        const QString pregunta = Texto(367) + QStringLiteral("\n") + Texto(368);
+        const auto referencia = [] {
+            return ValorAlmacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES")).toString();
+        };
+
+        MensajeSeam::setNextAnswer(vb::No);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(mensajes(), QStringList{pregunta});
+        QCOMPARE(MensajeSeam::registro().first().botones, vb::YesNo + vb::Question + vb::DefaultButton2);
+        QCOMPARE(MensajeSeam::registro().first().titulo, QStringLiteral("Datos Declaración"));
+        QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmDeclaracion")});
+        QCOMPARE(t("txtreferencia")->text(), QStringLiteral("MIA"));
+        QCOMPARE(DecDatos().REFERENCIA, QStringLiteral("MIA"));
+        QCOMPARE(referencia(), QStringLiteral("OTRA"));
+        QCOMPARE(Declaraciones(), 1);
+
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        Clic(b("cmdAceptar"));
+        QCOMPARE(mensajes(), QStringList{pregunta});
+        QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmDeclaracion")});
+        QCOMPARE(t("txtreferencia")->text(), QStringLiteral("OTRA"));
+        QCOMPARE(DecDatos().REFERENCIA, QStringLiteral("OTRA"));
+        QVERIFY(!DecDatos().MODIFICADO);
+        QCOMPARE(referencia(), QStringLiteral("OTRA"));
+
+        MensajeSeam::limpiar();
+        EscribirYSalir(t("txtreferencia"), QStringLiteral("NUEVA"));
+        Clic(b("cmdAceptar"));
+        QCOMPARE(mensajes(), QStringList());
+        QVERIFY(m_prog->paneles().isEmpty());
+        QCOMPARE(referencia(), QStringLiteral("NUEVA"));
+        QCOMPARE(Declaraciones(), 1);
     }
 
     // A reference with a NUL, dropped on the field of a stored return: Aceptar shows the

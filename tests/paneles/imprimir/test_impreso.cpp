@@ -7,6 +7,7 @@
 
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "paneles/imprimir/ReproducirLlamadas.h"
 #include "registros/imprimir/CopiasImpresas.h"
 #include "registros/imprimir/DatosImpreso.h"
 #include "registros/imprimir/ImpresoOficial.h"
@@ -17,6 +18,7 @@
 #include "valores/cFecha.h"
 
 #include <QTest>
+#include <tuple>
 
 namespace {
 constexpr float kTol = 1e-3f;
@@ -102,6 +104,33 @@ private slots:
         DeclaracionLlena();
     }
     void cleanup() { m_almacen.reset(); }
+
+    // A recording replayed on another surface makes the same calls in the same state: what a
+    // batch paints from a recording is the sheet itself.
+    void reproducidaIgualQueGrabada()
+    {
+        cSuperficieGrabadora grabada;
+        QVERIFY(ImprimirCopias(grabada, true) > 0);
+        grabada.FontUnderline = true;
+        grabada.ForeColor = 0x123456;
+        grabada.CurrentX = 3;
+        grabada.Print(QStringLiteral("subrayado"));
+        cSuperficieGrabadora otra;
+        ReproducirLlamadas(grabada.Llamadas, otra);
+        QCOMPARE(otra.Llamadas.size(), grabada.Llamadas.size());
+        for (qsizetype i = 0; i < otra.Llamadas.size(); ++i) {
+            const LlamadaPagina& a = grabada.Llamadas.at(i);
+            const LlamadaPagina& b = otra.Llamadas.at(i);
+            const auto campos = [](const LlamadaPagina& l) {
+                return std::tuple(int(l.tipo), l.x1, l.y1, l.x2, l.y2, l.texto, l.fuente, l.tamano,
+                                  l.negrita, l.cursiva, l.subrayado, l.grosor, l.color,
+                                  int(l.modo), int(l.dibujo), l.escala);
+            };
+            QVERIFY2(campos(a) == campos(b), qPrintable(QString::number(i) + QLatin1Char(' ') + a.texto));
+        }
+        QVERIFY(otra.Llamadas.last().subrayado);
+        QCOMPARE(otra.Llamadas.last().color, 0x123456u);
+    }
 
     void datosDeLaHojaCompleta()
     {

@@ -137,6 +137,39 @@ private slots:
         QVERIFY(!PanelAbierto(QStringLiteral("FrmImportar")));
     }
 
+    // A spreadsheet's CSV chosen in the file dialog, in manual mode: the question for the
+    // existing contributor, the row that cannot be split counted as incorrect and named in the
+    // error file by its row.
+    void hojaDeCalculoCsv()
+    {
+        NuevoContribuyente(QString::fromLatin1(DniDe(1)), QStringLiteral("VIEJO"));
+        QWidget* panel = AbrirDesdeMenu(m_entorno->ventana());
+        const QString hoja = CarpetaPrograma() + QStringLiteral("/clientes.csv");
+        Escribir(hoja, "NOMBRE;DNI;TIPODNI;SIGLAS;DOMICILIO;TIPODOMICILIO;CODIGO PROVINCIA;"
+                       "CODIGO POSTAL;CODIGO MUNICIPIO\r\n"
+                       "\"NUEVO; NOMBRE\";" + DniDe(1) + ";O;CL;MAYOR;N;77;77001;1\r\n"
+                       "OTRO;" + DniDe(2) + ";O;CL;MAYOR;N;77;77001;1;DE MAS\r\n"
+                       "TERCERO;" + DniDe(3) + ";O;CL;MAYOR;N;77;77001;1\r\n");
+        DialogoFicheroSeam::setNextFileName(hoja);
+        QTest::mouseClick(Boton(panel, "CmdModificar"), Qt::LeftButton);
+        QCOMPARE(Valor(panel, "LblFichero"), hoja);
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);
+        QTest::mouseClick(Boton(panel, "cmdAceptar"), Qt::LeftButton);
+        Procesar();
+        const auto& r = MensajeSeam::registro();
+        QCOMPARE(r.size(), 2);
+        QVERIFY(r[0].texto.startsWith(QStringLiteral("El contribuyente con DNI ") + QString::fromLatin1(DniDe(1))));
+        QCOMPARE(r[1].texto, QStringLiteral("Hay 1 un contibuyente erróneo"));
+        QCOMPARE(Valor(panel, "LblTotal"), QStringLiteral("3"));
+        QCOMPARE(Valor(panel, "LblImportados"), QStringLiteral("2"));
+        QCOMPARE(Valor(panel, "LblIncorrectos"), QStringLiteral("1"));
+        QCOMPARE(Valor(panel, "LblSustituidos"), QStringLiteral("1"));
+        QVERIFY(Leer(Importar().FICHEROERRORES)
+                    .startsWith("Linea 3 - La fila tiene m\xE1s campos que la primera fila del fichero\r\n"));
+    }
+
     void manualNoIgnora()
     {
         NuevoContribuyente(QString::fromLatin1(DniDe(1)), QStringLiteral("VIEJO"));

@@ -83,6 +83,33 @@ private slots:
                  LineaValida(3, "GAMMA") + "\r\n" + LineaValida(1, "ALFA \xD1") + "\r\n");
     }
 
+    // A spreadsheet's CSV (Windows-1252, "," between fields, headings in another order, a
+    // missing column) imported by --importar, a row it cannot split named in the error file;
+    // --exportar to a .csv writes the CSV the import reads.
+    void csv()
+    {
+        const QByteArray hoja = "DNI,nombre,TIPODNI,SIGLAS,DOMICILIO,TIPODOMICILIO,CODIGO PROVINCIA,CODIGO POSTAL,CODIGO MUNICIPIO\r\n"
+                                + DniDe(11) + ",\"PE\xD1" "A, ANA\",O,CL,MAYOR,N,77,77001,1\r\n"
+                                + DniDe(12) + ",SOBRA,O,CL,MAYOR,N,77,77001,1,X\r\n";
+        Escribir(Ruta(QStringLiteral("hoja.csv")), hoja);
+        QCOMPARE(Veldo({QStringLiteral("--importar"), QStringLiteral("hoja.csv"),
+                        QStringLiteral("--errores"), QStringLiteral("errores-csv.txt")}),
+                 1);
+        QVERIFY2(m_salida.contains(QStringLiteral("Total: 2\nImportados: 1\nIncorrectos: 1\n")),
+                 qPrintable(m_salida + m_errores));
+        QVERIFY(Leer(Ruta(QStringLiteral("errores-csv.txt")))
+                    .startsWith("Linea 3 - La fila tiene m\xE1s campos que la primera fila del fichero\r\n"));
+        QCOMPARE(Veldo({QStringLiteral("--exportar"), QStringLiteral("uno.csv"),
+                        QString::fromLatin1(DniDe(11))}),
+                 0);
+        QCOMPARE(Leer(Ruta(QStringLiteral("uno.csv"))),
+                 QByteArray("\xEF\xBB\xBFTIPODNI;DNI;NOMBRE;SIGLAS;DOMICILIO;NUMERO;LETRA;ESCALERA;PISO;"
+                            "MANO;TIPODOMICILIO;PAIS;CODIGO PROVINCIA;NOMBRE PROVINCIA;CODIGO POSTAL;"
+                            "CODIGO MUNICIPIO;NOMBRE MUNICIPIO;NUMERO SUJETO PASIVO;NUMERO TRANSMITENTE\r\n"
+                            "O;")
+                     + DniDe(11) + ";PE\xC3\x91" "A, ANA;CL;MAYOR;0;;;;;N;;77;;77001;001;;0;0\r\n");
+    }
+
     void rechazos()
     {
         QCOMPARE(Veldo({QStringLiteral("--importar"), QStringLiteral("no-esta.txt")}), 2);

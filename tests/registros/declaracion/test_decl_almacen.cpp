@@ -233,13 +233,22 @@ private slots:
         QCOMPARE(DecDatos().MARCA, QStringLiteral("SEAT"));
     }
 
-    void codigoBorradoMientrasTantoDaFilaNueva()
+    // The record's save of a return deleted since it was saved is not written back: the
+    // answer says so and no row appears. Saved without a version (by a caller that loaded
+    // nothing) it still makes a new row, under a new code.
+    void codigoBorradoMientrasTantoNoVuelve()
     {
         DeclaracionValida();
         const int32_t codigo = guardar();
+        QVERIFY(DecDatos().VERSION > 0);
         QVERIFY(servidor().BorrarDeclaracion(codigo));
         DecDatos().CSDE = codigo;
-        const int32_t nuevo = guardar();
+        const int32_t respuesta = guardar();
+        QCOMPARE(respuesta, cDeclaSvr::kBorrada);
+        QCOMPARE(VigenciaGuardado(respuesta), Vigencia::Borrada);
+        QCOMPARE(FilasDeclaraciones(), 0);
+
+        const int32_t nuevo = servidor().GuardarDeclaracion(DecDatos().DatosGuardar());
         QVERIFY(nuevo > 0);
         QVERIFY(nuevo != codigo);  // codes are never given twice
         QCOMPARE(FilasDeclaraciones(), 1);

@@ -7,12 +7,15 @@
 #include "plataforma/General.h"
 #include "registros/declaracion/Validacion.h"
 #include "registros/declaracion/cDecDatos.h"
+#include "servicios/ImporteGuardable.h"
+#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/cDeclaSvr.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTest>
+#include <limits>
 
 namespace {
 
@@ -97,6 +100,66 @@ private slots:
             QCOMPARE(rechazo.mensaje, mensaje);
             QCOMPARE(rechazo.control, campo);
             QCOMPARE(rechazo.pestana, pestana);
+            QCOMPARE(Contenido(almacen), antes);
+        }
+    }
+
+    void importeNoFinito_data()
+    {
+        QTest::addColumn<int>("posicion");
+        QTest::addColumn<QVariant>("valor");
+        QTest::addColumn<QString>("mensaje");
+        QTest::addColumn<QString>("control");
+        namespace G = PosGuardarDeclaracion;
+        const double nan = std::numeric_limits<double>::quiet_NaN();
+        const double inf = std::numeric_limits<double>::infinity();
+        QTest::newRow("base NaN") << int(G::BASEI) << QVariant(nan)
+                                  << QStringLiteral("La casilla Base Imponible no contiene un importe válido")
+                                  << QStringLiteral("txtbasei");
+        QTest::newRow("cuota infinita") << int(G::CUOTA) << QVariant(inf)
+                                        << QStringLiteral("La casilla Cuota no contiene un importe válido")
+                                        << QStringLiteral("txtcuota");
+        QTest::newRow("total menos infinito") << int(G::TOTAL) << QVariant(-inf)
+                                              << QStringLiteral("La casilla Total Ingresar no contiene un importe válido")
+                                              << QStringLiteral("txttotal");
+        QTest::newRow("tipo \"nan\"") << int(G::TIPOIMP) << QVariant(QStringLiteral("nan"))
+                                      << QStringLiteral("La casilla Tipo Impositivo no contiene un importe válido")
+                                      << QStringLiteral("txttipoimp");
+        QTest::newRow("deducción \"inf\"") << int(G::DEDUCCION) << QVariant(QStringLiteral("inf"))
+                                            << QStringLiteral("La casilla Deducción no contiene un importe válido")
+                                            << QStringLiteral("txtdeduccion");
+        QTest::newRow("base reducida \"-inf\"") << int(G::BASEIREDUCIDA)
+                                                 << QVariant(QStringLiteral(" -inf "))
+                                                 << QStringLiteral("La casilla Base Imp Reducida no contiene un importe válido")
+                                                 << QStringLiteral("txtBaseIReducida");
+    }
+
+    void importeNoFinito()
+    {
+        // An amount that is not a finite number is refused at the store's door with the
+        // program's message, never a raw NOT NULL failure nor an infinity kept.
+        QFETCH(int, posicion);
+        QFETCH(QVariant, valor);
+        QFETCH(QString, mensaje);
+        QFETCH(QString, control);
+        AlmacenDePrueba almacen;
+        DeclaracionValida();
+        const int32_t guardada = GuardarDatosDeclaracion();
+        QVERIFY(guardada > 0);
+        const QStringList antes = Contenido(almacen);
+        cDeclaSvr svr;
+        svr.mdbmod = mdbmod;
+        svr.mdblec = mdblec;
+        for (const int32_t codigo : {guardada, 0}) {
+            DeclaracionValida();
+            DecDatos().CSDE = codigo;
+            Arreglo datos = DecDatos().DatosGuardar();
+            datos[posicion] = valor;
+            Veredicto rechazo;
+            QCOMPARE(svr.GuardarDeclaracion(datos, &rechazo), 0);
+            QCOMPARE(rechazo.id, kIdImporteNoValido);
+            QCOMPARE(rechazo.mensaje, mensaje);
+            QCOMPARE(rechazo.control, control);
             QCOMPARE(Contenido(almacen), antes);
         }
     }

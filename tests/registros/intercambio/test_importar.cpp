@@ -4,10 +4,12 @@
 // same results as saving the lines one by one.
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
+#include "comun/OtraConexion.h"
 
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
 #include "registros/intercambio/cImportar.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>
@@ -253,6 +255,48 @@ private slots:
         // Replaced in place: the contributor keeps its code, and no second one appears.
         QCOMPARE(Codigo(1), codigo);
         QCOMPARE(Contribuyentes(), 2);
+    }
+
+    // While the question about an existing contributor stands, another running copy saves
+    // that contributor: the answer Yes does not overwrite it; the line is incorrect, with its
+    // message in the error file.
+    void sustitucionDeLoCambiadoEntretanto()
+    {
+        Importa(LineaValida(1, "LEIDO") + "\r\n" + LineaValida(2, "BORRABLE") + "\r\n", true);
+        const int32_t uno = Codigo(1);
+        const int32_t dos = Codigo(2);
+        Importar().Iniciar();
+        m_respuestas = {true, true};
+        int pregunta = 0;
+        cImportar::Interlocutor i;
+        i.sustituir = [&](const QString&) {
+            // The other copy edits the first one and deletes the second.
+            const bool hecho = EnOtraConexion([&] {
+                if (pregunta++ == 0) {
+                    Arreglo a;
+                    Svr().CargarContribuyente(uno, a);
+                    a[PosContribuyente::CSCO] = uno;
+                    a[PosContribuyente::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
+                    if (Svr().GuardarContribuyente(a) != 0)
+                        throw std::runtime_error("no guardado");
+                } else if (!Svr().BorrarContribuyente(dos)) {
+                    throw std::runtime_error("no borrado");
+                }
+            });
+            return hecho && m_respuestas.takeFirst();
+        };
+        Escribir(Importar().FICHEROAIMPORTAR,
+                 LineaValida(1, "DEL FICHERO") + "\r\n" + LineaValida(2, "DEL FICHERO") + "\r\n");
+        Importar().AUTOMATICO = QStringLiteral(" ");
+        Importar().Ejecutar(i);
+        Contadores(2, 0, 2, 0, 0);
+        QCOMPARE(NombreGuardado(1), QStringLiteral("DE LA OTRA COPIA"));
+        QCOMPARE(Codigo(2), 0);
+        QCOMPARE(Contribuyentes(), 1);
+        const QByteArray errores = Leer(Importar().FICHEROERRORES);
+        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": " + Texto(370).toLatin1()),
+                 errores.constData());
+        QVERIFY(errores.contains("\r\nLinea 2 - DNI-CIF " + DniDe(2) + ": "));
     }
 
     void existenteConDatosMalosQuedaComoEstaba()

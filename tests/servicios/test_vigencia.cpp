@@ -1,0 +1,390 @@
+// Two copies of the program on one store, each with its own connection: a record that one of
+// them saves or deletes, or that a restore puts back as a backup had it, is not overwritten by
+// the other's save of the copy it loaded before. Contributors, presenters and returns, single
+// saves, a restore and the import's batches, and the version that every save renews.
+#include "comun/AlmacenPrueba.h"
+#include "comun/BaseCruda.h"
+#include "comun/OtraConexion.h"
+#include "comun/PartesPrueba.h"
+
+#include "plataforma/General.h"
+#include "servicios/Almacen.h"
+#include "servicios/Conexion.h"
+#include "servicios/Esquema.h"
+#include "servicios/GuardadoContribuyente.h"
+#include "servicios/LoteContribuyentes.h"
+#include "servicios/PosicionesContribuyente.h"
+#include "servicios/PosicionesDeclaracion.h"
+#include "servicios/PosicionesPresentador.h"
+#include "servicios/cContribSvr.h"
+#include "servicios/cDeclaSvr.h"
+#include "servicios/cPresenSvr.h"
+#include "servicios/cSaveAsRestore.h"
+#include "servicios/cTraspaso.h"
+#include "servicios/VersionFila.h"
+
+#include <QDir>
+#include <QSet>
+#include <QTest>
+
+namespace {
+
+namespace C = PosContribuyente;
+namespace P = PosPresentador;
+namespace G = PosGuardarDeclaracion;
+
+cContribSvr contribuyentes() { return Almacen<cContribSvr>(); }
+cPresenSvr presentadores() { return Almacen<cPresenSvr>(); }
+cDeclaSvr declaraciones() { return Almacen<cDeclaSvr>(); }
+
+// A contributor as a copy loads it: its save array and the version of its row.
+struct Cargado {
+    Arreglo datos;
+    int64_t version = 0;
+};
+
+Cargado cargarContribuyente(int32_t csco)
+{
+    Cargado c;
+    contribuyentes().CargarContribuyente(csco, c.datos, &c.version);
+    c.datos[C::CSCO] = csco;
+    return c;
+}
+
+Cargado cargarPresentador(int32_t cspr)
+{
+    Cargado c;
+    presentadores().CargarPresentador(cspr, c.datos, &c.version);
+    c.datos[P::CSPR] = cspr;
+    return c;
+}
+
+// A return as a copy loads it: the save array made from the load array.
+Cargado cargarDeclaracion(int32_t csde)
+{
+    Arreglo carga;
+    Cargado c;
+    declaraciones().CargarDeclaracion(csde, carga, &c.version);
+    c.datos.resize(G::Tamano);
+    for (int i = 0; i < G::Tamano; ++i)
+        c.datos[i] = carga[PosicionDeCarga(i)];
+    c.datos[G::CSDE] = csde;
+    return c;
+}
+
+int32_t nuevaDeclaracion(const QString& referencia)
+{
+    Cargado c = cargarDeclaracion(0);
+    c.datos[G::REFERENCIA] = referencia;
+    return declaraciones().GuardarDeclaracion(c.datos, nullptr, &c.version);
+}
+
+QString almacenado(const QString& sql, const QVariantList& valores)
+{
+    return ValorAlmacenado(sql, valores).toString();
+}
+
+QString nombreContribuyente(int32_t csco)
+{
+    return almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco});
+}
+
+QString referenciaDeclaracion(int32_t csde)
+{
+    return almacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES WHERE CSDE = ?"), {csde});
+}
+
+void renombrarContribuyente(int32_t csco, const QString& nombre)
+{
+    Cargado c = cargarContribuyente(csco);
+    c.datos[C::NOMBREC] = nombre;
+    QCOMPARE(contribuyentes().GuardarContribuyente(c.datos, nullptr, &c.version), 0);
+}
+
+void cambiarReferencia(int32_t csde, const QString& referencia)
+{
+    Cargado c = cargarDeclaracion(csde);
+    c.datos[G::REFERENCIA] = referencia;
+    QCOMPARE(declaraciones().GuardarDeclaracion(c.datos, nullptr, &c.version), csde);
+}
+
+// The backup of the live store and its restore, as the backup panel makes them.
+cSaveAsRestore copiaDeSeguridad(bool restaurar)
+{
+    const QString copias = CarpetaPrograma() + QStringLiteral("/backups/");
+    cSaveAsRestore c;
+    c.ArchivoOrigen = restaurar ? QStringLiteral("VELDOMod_bak.mdb") : QStringLiteral("VELDOMOD.mdb");
+    c.ArchivoDestino = restaurar ? QStringLiteral("VELDOMOD.mdb") : QStringLiteral("VELDOMod_bak.mdb");
+    c.RutaDestino = restaurar ? mdbPath : copias;
+    c.RutaOrigen = restaurar ? copias : mdbPath;
+    c.BDLectura = mdblec;
+    c.BDTabla = QStringLiteral("T10_GENERAL");
+    c.BDCampo = QStringLiteral("T10_BACKUP_TVC");
+    return c;
+}
+
+}  // namespace
+
+class TestVigencia : public QObject {
+    Q_OBJECT
+    std::unique_ptr<AlmacenDePrueba> m_almacen;
+
+private slots:
+    void init() { m_almacen = std::make_unique<AlmacenDePrueba>(); }
+    void cleanup() { m_almacen.reset(); }
+
+    void cadaGuardadoDaUnaVersionNueva()
+    {
+        const int32_t a = NuevoContribuyente(Dni(1), QStringLiteral("UNO"));
+        const int32_t b = NuevoContribuyente(Dni(2), QStringLiteral("DOS"));
+        Cargado ca = cargarContribuyente(a);
+        const int64_t primera = ca.version;
+        QVERIFY(primera > 0);
+        QVERIFY(cargarContribuyente(b).version > 0);
+        QVERIFY(cargarContribuyente(b).version != primera);
+        QCOMPARE(contribuyentes().GuardarContribuyente(ca.datos, nullptr, &ca.version), 0);
+        QVERIFY(ca.version > 0);
+        QVERIFY(ca.version != primera);
+        QCOMPARE(cargarContribuyente(a).version, ca.version);
+        // And the copy that saved goes on saving over its own save.
+        ca.datos[C::NOMBREC] = QStringLiteral("UNO BIS");
+        QCOMPARE(contribuyentes().GuardarContribuyente(ca.datos, nullptr, &ca.version), 0);
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {a}),
+                 QStringLiteral("UNO BIS"));
+    }
+
+    void contribuyenteEnDosCopias()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(10), QStringLiteral("ORIGINAL"));
+        Cargado esta = cargarContribuyente(csco);
+        QVERIFY(EnOtraConexion([csco] {
+            Cargado otra = cargarContribuyente(csco);
+            otra.datos[C::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
+            if (contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version) != 0)
+                throw std::runtime_error("no guardado");
+        }));
+        const int64_t cargada = esta.version;
+        esta.datos[C::NOMBREC] = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version),
+                 int16_t(VeredictoGuardarContribuyente::Cambiado));
+        QCOMPARE(esta.version, cargada);
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
+                 QStringLiteral("DE LA OTRA COPIA"));
+        // Loaded again, the same save goes through.
+        const int64_t vigente = cargarContribuyente(csco).version;
+        esta.version = vigente;
+        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version), 0);
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
+                 QStringLiteral("DE ESTA COPIA"));
+    }
+
+    void contribuyenteBorradoNoVuelve()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(11), QStringLiteral("BORRABLE"));
+        Cargado esta = cargarContribuyente(csco);
+        QVERIFY(EnOtraConexion([csco] { contribuyentes().BorrarContribuyente(csco); }));
+        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version),
+                 int16_t(VeredictoGuardarContribuyente::Borrado));
+        QVERIFY(!ExisteContribuyente(csco));
+        QCOMPARE(m_almacen->Filas(QStringLiteral("CONTRIBUYENTES")), 0);
+    }
+
+    void presentadorEnDosCopias()
+    {
+        const int32_t cspr = NuevoPresentador(Dni(20), QStringLiteral("GESTORIA"));
+        Cargado esta = cargarPresentador(cspr);
+        QVERIFY(EnOtraConexion([cspr] {
+            Cargado otra = cargarPresentador(cspr);
+            otra.datos[P::NOMBREP] = QStringLiteral("DE LA OTRA COPIA");
+            if (presentadores().GuardarPresentador(otra.datos, nullptr, &otra.version) != 0)
+                throw std::runtime_error("no guardado");
+        }));
+        esta.datos[P::NOMBREP] = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(presentadores().GuardarPresentador(esta.datos, nullptr, &esta.version),
+                 int16_t(VeredictoGuardarPresentador::Cambiado));
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREP FROM PRESENTADORES WHERE CSPR = ?"), {cspr}),
+                 QStringLiteral("DE LA OTRA COPIA"));
+        // Deleted meanwhile: not written back.
+        Cargado otraVez = cargarPresentador(cspr);
+        QVERIFY(EnOtraConexion([cspr] { presentadores().BorrarPresentador(cspr); }));
+        QCOMPARE(presentadores().GuardarPresentador(otraVez.datos, nullptr, &otraVez.version),
+                 int16_t(VeredictoGuardarPresentador::Borrado));
+        QVERIFY(!ExistePresentador(cspr));
+    }
+
+    void declaracionEnDosCopias()
+    {
+        const int32_t csde = nuevaDeclaracion(QStringLiteral("ORIGINAL"));
+        QVERIFY(csde > 0);
+        Cargado esta = cargarDeclaracion(csde);
+        QVERIFY(esta.version > 0);
+        QVERIFY(EnOtraConexion([csde] {
+            Cargado otra = cargarDeclaracion(csde);
+            otra.datos[G::REFERENCIA] = QStringLiteral("OTRA");
+            if (declaraciones().GuardarDeclaracion(otra.datos, nullptr, &otra.version) != csde)
+                throw std::runtime_error("no guardada");
+        }));
+        esta.datos[G::REFERENCIA] = QStringLiteral("ESTA");
+        QCOMPARE(declaraciones().GuardarDeclaracion(esta.datos, nullptr, &esta.version),
+                 cDeclaSvr::kCambiada);
+        QCOMPARE(almacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES WHERE CSDE = ?"), {csde}),
+                 QStringLiteral("OTRA"));
+        QCOMPARE(FilasDeclaraciones(), 1);
+        // Deleted meanwhile: no new row takes its place.
+        Cargado otraVez = cargarDeclaracion(csde);
+        QVERIFY(EnOtraConexion([csde] { declaraciones().BorrarDeclaracion(csde); }));
+        QCOMPARE(declaraciones().GuardarDeclaracion(otraVez.datos, nullptr, &otraVez.version),
+                 cDeclaSvr::kBorrada);
+        QCOMPARE(FilasDeclaraciones(), 0);
+    }
+
+    // This copy holds a contributor and a return, as edited after the last backup, and a
+    // contributor made after it, while another copy restores that backup: none of the three
+    // saves overwrites what the restore put back, nor makes again what it took away.
+    void abiertosDuranteUnaRestauracion()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(40), QStringLiteral("EN LA COPIA"));
+        const int32_t csde = nuevaDeclaracion(QStringLiteral("ANTES"));
+        QVERIFY(copiaDeSeguridad(false).Copiar());
+        renombrarContribuyente(csco, QStringLiteral("TRAS LA COPIA"));
+        cambiarReferencia(csde, QStringLiteral("DESPUES"));
+        const int32_t nuevo = NuevoContribuyente(Dni(41), QStringLiteral("NUEVO"));
+
+        Cargado contribuyente = cargarContribuyente(csco);
+        Cargado declaracion = cargarDeclaracion(csde);
+        Cargado posterior = cargarContribuyente(nuevo);
+        QCOMPARE(contribuyente.datos[C::NOMBREC].toString(), QStringLiteral("TRAS LA COPIA"));
+
+        QVERIFY(EnOtraConexion([] {
+            const QString copia = CarpetaPrograma() + QStringLiteral("/backups/VELDOMod_bak.mdb");
+            if (!copiaDeSeguridad(true).Restaurar(copia).hecha)
+                throw std::runtime_error("no restaurada");
+        }));
+        QCOMPARE(nombreContribuyente(csco), QStringLiteral("EN LA COPIA"));
+        QVERIFY(!ExisteContribuyente(nuevo));
+
+        contribuyente.datos[C::NOMBREC] = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(contribuyentes().GuardarContribuyente(contribuyente.datos, nullptr,
+                                                       &contribuyente.version),
+                 int16_t(VeredictoGuardarContribuyente::Cambiado));
+        declaracion.datos[G::REFERENCIA] = QStringLiteral("ESTA");
+        QCOMPARE(declaraciones().GuardarDeclaracion(declaracion.datos, nullptr, &declaracion.version),
+                 cDeclaSvr::kCambiada);
+        QCOMPARE(contribuyentes().GuardarContribuyente(posterior.datos, nullptr, &posterior.version),
+                 int16_t(VeredictoGuardarContribuyente::Borrado));
+
+        QCOMPARE(nombreContribuyente(csco), QStringLiteral("EN LA COPIA"));
+        QCOMPARE(referenciaDeclaracion(csde), QStringLiteral("ANTES"));
+        QVERIFY(!ExisteContribuyente(nuevo));
+        QCOMPARE(m_almacen->Filas(QStringLiteral("CONTRIBUYENTES")), 1);
+        QCOMPARE(FilasDeclaraciones(), 1);
+    }
+
+    // A record left as the backup has it is the same record after the restore: its save goes
+    // through.
+    void restauradoSinCambiosSeGuarda()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(42), QStringLiteral("IGUAL"));
+        QVERIFY(copiaDeSeguridad(false).Copiar());
+        Cargado contribuyente = cargarContribuyente(csco);
+        QVERIFY(EnOtraConexion([] {
+            const QString copia = CarpetaPrograma() + QStringLiteral("/backups/VELDOMod_bak.mdb");
+            if (!copiaDeSeguridad(true).Restaurar(copia).hecha)
+                throw std::runtime_error("no restaurada");
+        }));
+        contribuyente.datos[C::NOMBREC] = QStringLiteral("EDITADO");
+        QCOMPARE(contribuyentes().GuardarContribuyente(contribuyente.datos, nullptr,
+                                                       &contribuyente.version),
+                 0);
+        QCOMPARE(nombreContribuyente(csco), QStringLiteral("EDITADO"));
+    }
+
+    // A backup made before rows had versions: the restored store has them, and the copies
+    // of the program go on saving into it under the same rule.
+    void restauracionDeUnaCopiaSinVersiones()
+    {
+        const QString copia = CarpetaPrograma() + QStringLiteral("/backups/antigua.mdb");
+        QVERIFY(QDir().mkpath(CarpetaPrograma() + QStringLiteral("/backups")));
+        CrearLayout0(copia, QStringLiteral("C"), 0);
+        {
+            ConexionCruda c(copia);
+            Esquema::Pasos().first().aplicar(c.db(), QStringLiteral("prueba"));
+            c.ejecutar(QStringLiteral("PRAGMA user_version = 1"));
+            for (int n : {50, 51})
+                c.ejecutar(QStringLiteral("INSERT INTO CONTRIBUYENTES (DNIC, NOMBREC, CODPROVC, "
+                                          "CODPOSC, CODMUNC) VALUES ('%1', 'ANTIGUO %2', '77', "
+                                          "'77001', '001')")
+                               .arg(Dni(n))
+                               .arg(n));
+        }
+        QVERIFY(!ColumnasDe(copia, QStringLiteral("CONTRIBUYENTES")).contains(VersionFila::kColumna));
+        const int32_t abierto = NuevoContribuyente(Dni(43), QStringLiteral("ABIERTO"));
+        Cargado esta = cargarContribuyente(abierto);
+
+        QVERIFY(copiaDeSeguridad(true).Restaurar(copia).hecha);
+        QCOMPARE(VersionDeArchivo(mdbmod), Esquema::VersionActual());
+        QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT COUNT(DISTINCT VERSION) FROM CONTRIBUYENTES "
+                                                "WHERE VERSION > 0")).toInt(),
+                 2);
+        const int32_t restaurado =
+            ValorAlmacenado(QStringLiteral("SELECT MIN(CSCO) FROM CONTRIBUYENTES")).toInt();
+        Cargado otra = cargarContribuyente(restaurado);
+        QVERIFY(otra.version > 0);
+        otra.datos[C::NOMBREC] = QStringLiteral("TRAS RESTAURAR");
+        QCOMPARE(contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version), 0);
+        QCOMPARE(nombreContribuyente(restaurado), QStringLiteral("TRAS RESTAURAR"));
+        // What this copy had open before the restore is not in the restored store as it was.
+        QVERIFY(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version) != 0);
+        QCOMPARE(m_almacen->Filas(QStringLiteral("CONTRIBUYENTES")), 2);
+    }
+
+    // The import's batches: a contributor that another copy saves between the look-up and the
+    // replacement is not replaced.
+    void loteNoSustituyeLoCambiado()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(30), QStringLiteral("LEIDO"));
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        int64_t version = 0;
+        QCOMPARE(lote.ExisteContribuyente(Dni(30), &version), csco);
+        QVERIFY(version > 0);
+        lote.Confirmar();
+        QVERIFY(EnOtraConexion([csco] {
+            Cargado otra = cargarContribuyente(csco);
+            otra.datos[C::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
+            if (contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version) != 0)
+                throw std::runtime_error("no guardado");
+        }));
+        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco),
+                                           true, nullptr, &version),
+                 int16_t(VeredictoGuardarContribuyente::Cambiado));
+        lote.Confirmar();
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
+                 QStringLiteral("DE LA OTRA COPIA"));
+        // With the version as it is now, the replacement goes through.
+        QCOMPARE(lote.ExisteContribuyente(Dni(30), &version), csco);
+        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco),
+                                           true, nullptr, &version),
+                 0);
+        lote.Confirmar();
+        QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
+                 QStringLiteral("DEL FICHERO"));
+    }
+
+    void loteNoDevuelveLoBorrado()
+    {
+        const int32_t csco = NuevoContribuyente(Dni(31), QStringLiteral("LEIDO"));
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        int64_t version = 0;
+        QCOMPARE(lote.ExisteContribuyente(Dni(31), &version), csco);
+        lote.Confirmar();
+        QVERIFY(EnOtraConexion([csco] { contribuyentes().BorrarContribuyente(csco); }));
+        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(31), QStringLiteral("DEL FICHERO"), csco),
+                                           true, nullptr, &version),
+                 int16_t(VeredictoGuardarContribuyente::Borrado));
+        lote.Confirmar();
+        QVERIFY(!ExisteContribuyente(csco));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestVigencia)
+#include "test_vigencia.moc"
