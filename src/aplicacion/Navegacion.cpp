@@ -23,6 +23,8 @@
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
 
+#include <memory>
+
 namespace {
 
 // The panel the way back from printing leads to: the presenter's returns take every letter
@@ -288,25 +290,30 @@ Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*vo
     alAbrir();
     auto* panel = new Panel;
     AbrirPanel(panel);
-    QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [&estado, volver] {
+    // Whether the panel was left for a side trip: then the form or the print brings it back,
+    // and not the party's list. ENTRADA alone does not tell it, since a click on a heading, a
+    // search or Todos empty it before the trip adds its letter.
+    auto deViaje = std::make_shared<bool>(false);
+    QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [deViaje, volver] {
         alCerrar();
-        // With a side trip under way, the form or the print brings the panel back.
-        if (estado.ENTRADA.size() < 2)
+        if (!*deViaje)
             volver();
     });
     QObject::connect(panel, &PanelDeclaraciones::pideDeclaracion, panel,
-                     [panel, &estado, letra](const QString& modo) {
+                     [panel, &estado, letra, deViaje](const QString& modo) {
                          Proceso::Protegido([&] {
                              prepararDeclaracion(modo, letra, estado.CSDE);
                              estado.ENTRADA += QStringLiteral("D");
+                             *deViaje = true;
                              panel->Cerrar();
                              AbrirDeclaracion();
                          });
                      });
     QObject::connect(panel, &PanelDeclaraciones::pideImpresion, panel,
-                     [panel, &estado, letra](int32_t csde) {
+                     [panel, &estado, letra, deViaje](int32_t csde) {
                          Proceso::Protegido([&] {
                              estado.ENTRADA += QStringLiteral("I");
+                             *deViaje = true;
                              cDecDatos& d = DecDatos();
                              d.CSDE = csde;
                              d.CargarDeclaracion();

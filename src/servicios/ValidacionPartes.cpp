@@ -46,6 +46,29 @@ int16_t reglaCodigoPostal(const QString& cp, const QString& provincia)
     return Valido;
 }
 
+// The rules of a postal code that an import line breaks, each judged apart: blanks alone
+// stand for 0, as in every number field of the line.
+struct ReglasCodigoPostal {
+    bool cero = false;
+    bool noDeCincoCifras = false;
+    bool terminaEnCeros = false;
+};
+
+ReglasCodigoPostal ReglasRotasCodigoPostal(const QString& cp)
+{
+    const QStringView t = QStringView(cp).trimmed();
+    ReglasCodigoPostal r;
+    if (t.isEmpty()) {
+        r.cero = r.terminaEnCeros = true;
+        return r;
+    }
+    const bool numero = numerico(t);
+    r.cero = numero && t.count(QLatin1Char('0')) == t.size();
+    r.noDeCincoCifras = !(numero && t.size() == 5);
+    r.terminaEnCeros = numero && t.endsWith(QLatin1String("000"));
+    return r;
+}
+
 // The postal code of a presenter is shown in five digits, so fewer digits stand for the same
 // code with leading zeros.
 QString cincoCifras(const QString& cp)
@@ -135,14 +158,18 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     const QString sigla = texto(I::VIAC).trimmed();
 
     // A domicile of neither kind is reported as such; the rules that depend on the kind are
-    // then left out, since it is not known which of them apply.
+    // then left out, since it is not known which of them apply. Every other rule is judged on
+    // its own: a code that is not a number is also not 00, not admissible and, for a postal
+    // code, not of five digits, so the line gets every message that applies to it.
     const bool nacional = tipoDomi == QLatin1String("N");
     const bool extranjero = tipoDomi == QLatin1String("E");
     const bool provNumerica = numerico(codProv);
-    const bool cpNumerico = numerico(cp);
     const bool munNumerico = numerico(codMun);
     const QString provincia = provNumerica ? CodigoProvincia::Normalizado(codProv) : QString();
     const QString municipio = munNumerico ? CodigoMunicipio::Normalizado(codMun) : QString();
+    // A code is "none" when it is blank or zero; a code that is not a number is something.
+    const bool sinProvincia = provNumerica && provincia.isEmpty();
+    const bool sinMunicipio = munNumerico && municipio.isEmpty();
     const bool enTesoreria = nacional && provincia == kProvinciaTesoreria;
     const bool enOtraProvincia = nacional && provNumerica && !provincia.isEmpty()
         && provincia != kProvinciaTesoreria;
@@ -158,32 +185,36 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     si(vacio(nombre), NombreVacio);
     si(vacio(domicilio), DomicilioVacio);
     si(extranjero && vacio(pais), PaisVacio);
-    if (nacional && cpNumerico) {
-        const int16_t r = reglaCodigoPostal(cp, provincia);
-        si(r != Valido, r);
+    if (nacional) {
+        const ReglasCodigoPostal cpRotas = ReglasRotasCodigoPostal(cp);
+        si(!sinProvincia && !CodigoPostal::EsDeProvincia(cp, codProv), CodigoPostalDeOtraProvincia);
+        si(cpRotas.noDeCincoCifras, CodigoPostalNoDeCincoCifras);
+        si(cpRotas.terminaEnCeros, CodigoPostalTerminaEnCeros);
+        si(cpRotas.cero, CodigoPostalCero);
     }
     si(extranjero && vacio(nomProvincia), ProvinciaVacia);
     si((extranjero || enOtraProvincia) && vacio(nomMunicipio), MunicipioVacio);
-    si(nacional && provNumerica && provincia.isEmpty(), CodigoProvinciaVacio);
-    si(enTesoreria && munNumerico && municipio.isEmpty(), CodigoMunicipioVacio);
+    si(nacional && sinProvincia, CodigoProvinciaVacio);
+    si(enTesoreria && sinMunicipio, CodigoMunicipioVacio);
     si(!numerico(numero) || QStringView(numero).trimmed().size() > 5, NumeroNoNumerico);
     si(!provNumerica, CodigoProvinciaNoNumerico);
-    si(!cpNumerico, CodigoPostalNoNumerico);
+    si(!numerico(cp), CodigoPostalNoNumerico);
     si(!munNumerico, CodigoMunicipioNoNumerico);
     si(!numerico(numSp), ContadorSujetosNoNumerico);
     si(!numerico(numTr), ContadorTransmitentesNoNumerico);
     si(tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"), TipoDniInvalido);
     si(!nacional && !extranjero, TipoDomicilioInvalido);
     si(sigla.isEmpty() || !referencia.existeVia(sigla), SiglaInadmisible);
-    si(extranjero && provNumerica && !provincia.isEmpty(), ProvinciaExtranjeraNoCero);
-    si(extranjero && munNumerico && !municipio.isEmpty(), MunicipioExtranjeroNoCero);
+    si(extranjero && !sinProvincia, ProvinciaExtranjeraNoCero);
+    si(extranjero && !sinMunicipio, MunicipioExtranjeroNoCero);
     si(nacional && !vacio(nomProvincia), NombreProvinciaEnNacional);
-    si(enTesoreria && !municipio.isEmpty() && !referencia.existeMunicipio(municipio),
+    si(enTesoreria && !sinMunicipio
+           && (!munNumerico || !referencia.existeMunicipio(municipio)),
        MunicipioInadmisible);
     si(enTesoreria && !vacio(nomMunicipio), NombreMunicipioEnTesoreria);
-    si(nacional && !provincia.isEmpty() && !referencia.existeProvincia(provincia),
+    si(nacional && !sinProvincia && (!provNumerica || !referencia.existeProvincia(provincia)),
        ProvinciaInadmisible);
-    si(enOtraProvincia && !municipio.isEmpty(), MunicipioFueraDeTesoreria);
+    si(enOtraProvincia && !sinMunicipio, MunicipioFueraDeTesoreria);
     si(nacional && !vacio(pais), PaisEnNacional);
     std::sort(errores.begin(), errores.end());
     return errores;

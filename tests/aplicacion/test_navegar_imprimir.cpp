@@ -7,6 +7,7 @@
 
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/controles/cFlexGrid.h"
+#include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/imprimir/ImpresoraSistema.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -15,7 +16,12 @@
 #include "registros/partes/cConDeclaraciones.h"
 
 #include <QAction>
+#include <QFile>
+#include <QHeaderView>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
+#include <QTemporaryDir>
 #include <QPushButton>
 #include <QTest>
 
@@ -109,6 +115,94 @@ private slots:
         QVERIFY(m_prog->paneles().isEmpty());
         QVERIFY(comandosActivos());
         QCOMPARE(MensajeSeam::registro().size(), 0);
+    }
+
+    // Every way out of the print panel leaves the caller's frame alone on the main window, no
+    // empty "Imprimir declaración" frame behind it: after the preview and the PDF, Cancelar;
+    // the frame's own closing; Aceptar; and then Atrás leaves no frame at all.
+    void ningunMarcoQuedaAtras()
+    {
+        QMdiArea* area = m_prog->ventana()->area();
+        ImpresoraSistemaSeam::vista([](QPrintPreviewDialog&) {});
+        QTemporaryDir carpeta;
+        m_prog->ventana()->ActualizarMenus();
+        Comando(*m_prog, "mnuAbrirDeclaracion");
+        irA("FrmDecLista");
+        alImprimir(QStringLiteral("L"));
+        Clic(b("cmdVistaPrevia"));
+        const QString pdf = carpeta.filePath(QStringLiteral("copias.pdf"));
+        DialogoFicheroSeam::setNextFileName(pdf);
+        Clic(b("cmdPdf"));
+        QVERIFY(QFile::exists(pdf));
+        Clic(b("cmdCancelar"));
+        irA("FrmDecLista");
+        QCOMPARE(area->subWindowList().size(), 1);
+        // The frame closed by its own button.
+        alImprimir(QStringLiteral("L"));
+        qobject_cast<QMdiSubWindow*>(m_panel->parentWidget())->close();
+        Procesar();
+        irA("FrmDecLista");
+        QCOMPARE(area->subWindowList().size(), 1);
+        alImprimir(QStringLiteral("L"));
+        Clic(b("cmdAceptar"));
+        irA("FrmDecLista");
+        QCOMPARE(area->subWindowList().size(), 1);
+        Clic(b("cmdCancelar"));
+        QCOMPARE(m_prog->paneles(), QStringList());
+        QCOMPARE(area->subWindowList().size(), 0);
+        QCOMPARE(MensajeSeam::registro().size(), 0);
+    }
+
+    // After a click on a heading, ENTRADA is empty when Imprimir or Datos leaves for its side
+    // trip: the way back is the contributor's returns alone, and Atrás then opens one list.
+    void vueltaTrasOrdenar()
+    {
+        declaracionesDeParte("mnuAbrirContribuyente", "FrmConLista", "flxContribuyentes",
+                             "FrmConDeclaraciones");
+        const auto ordenar = [this](int columna) {
+            QHeaderView* h = c<cFlexGrid>("flxDeclaraciones")->horizontalHeader();
+            QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              QPoint(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2,
+                                     h->height() / 2));
+            Procesar();
+        };
+        ordenar(1);
+        QCOMPARE(ConDeclaraciones().ENTRADA, QString());
+        ClicEnCelda(c<cFlexGrid>("flxDeclaraciones"), 1, 1);
+        alImprimir(QStringLiteral("C"));
+        Clic(b("cmdCancelar"));
+        irA("FrmConDeclaraciones");
+        ordenar(2);
+        ClicEnCelda(c<cFlexGrid>("flxDeclaraciones"), 1, 1);
+        Clic(b("cmdAceptar"));
+        irA("FrmDeclaracion");
+        Clic(b("cmdCancelar"));
+        irA("FrmConDeclaraciones");
+        Clic(b("cmdTodos"));
+        Clic(b("cmdNuevo"));
+        irA("FrmDeclaracion");
+        Clic(b("cmdCancelar"));
+        irA("FrmConDeclaraciones");
+        Clic(b("cmdCancelar"));
+        irA("FrmConLista");
+        Clic(b("cmdCancelar"));
+        QCOMPARE(m_prog->paneles(), QStringList());
+    }
+
+    void vueltaTrasBuscarEnUnPresentador()
+    {
+        declaracionesDeParte("mnuAbrirPresentador", "FrmPreLista", "flxPresentadores",
+                             "FrmPreDeclaraciones");
+        Clic(b("cmdBuscar"));
+        Clic(b("cmdBuscar"));
+        QCOMPARE(PreDeclaraciones().ENTRADA, QString());
+        ClicEnCelda(c<cFlexGrid>("flxDeclaraciones"), 1, 1);
+        Clic(b("cmdCopiar"));
+        irA("FrmDeclaracion");
+        Clic(b("cmdCancelar"));
+        irA("FrmPreDeclaraciones");
+        Clic(b("cmdCancelar"));
+        irA("FrmPreLista");
     }
 
     void desdeUnContribuyente()

@@ -3,6 +3,7 @@
 // non-zero with the program's message on stderr and writes nothing.
 #include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
+#include "SalidaOrdenes.h"
 
 #include "aplicacion/OrdenesImprimir.h"
 #include "registros/declaracion/cDecDatos.h"
@@ -14,37 +15,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <cstdio>
-#include <unistd.h>
-
-namespace {
-struct Resultado {
-    std::optional<int> estado;
-    QString error;
-};
-
-// Runs the command line with stderr caught in a file.
-Resultado ejecutar(const QStringList& argumentos, const QString& carpeta,
-                   QPrinter* impresora = nullptr)
-{
-    const QString fichero = carpeta + QStringLiteral("/stderr.txt");
-    std::fflush(stderr);
-    const int antes = dup(fileno(stderr));
-    FILE* f = std::fopen(QFile::encodeName(fichero).constData(), "w");
-    dup2(fileno(f), fileno(stderr));
-    Resultado r;
-    r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos, impresora);
-    std::fflush(stderr);
-    dup2(antes, fileno(stderr));
-    close(antes);
-    std::fclose(f);
-    QFile leido(fichero);
-    leido.open(QIODevice::ReadOnly);
-    r.error = QString::fromUtf8(leido.readAll()).trimmed();
-    return r;
-}
-}
 
 class TestOrdenesImprimir : public QObject {
     Q_OBJECT

@@ -6,6 +6,7 @@
 // the store.
 #include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
+#include "SalidaOrdenes.h"
 
 #include "aplicacion/LineaDeOrdenes.h"
 #include "aplicacion/OrdenesImprimir.h"
@@ -26,36 +27,7 @@
 #include <QTest>
 #include <QTextStream>
 
-#include <cstdio>
-#include <unistd.h>
-
 namespace {
-struct Resultado {
-    std::optional<int> estado;
-    QString error;
-};
-
-// Runs the printing of the command line with stderr caught in a file.
-Resultado ejecutar(const QStringList& argumentos, const QString& carpeta,
-                   QPrinter* impresora = nullptr)
-{
-    const QString fichero = carpeta + QStringLiteral("/stderr.txt");
-    std::fflush(stderr);
-    const int antes = dup(fileno(stderr));
-    FILE* f = std::fopen(QFile::encodeName(fichero).constData(), "w");
-    dup2(fileno(f), fileno(stderr));
-    Resultado r;
-    r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos, impresora);
-    std::fflush(stderr);
-    dup2(antes, fileno(stderr));
-    close(antes);
-    std::fclose(f);
-    QFile leido(fichero);
-    leido.open(QIODevice::ReadOnly);
-    r.error = QString::fromUtf8(leido.readAll()).trimmed();
-    return r;
-}
-
 QString nombreSujeto(int i) { return QStringLiteral("SUJETO %1").arg(i, 3, 10, QLatin1Char('0')); }
 }  // namespace
 

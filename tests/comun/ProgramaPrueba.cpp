@@ -52,10 +52,17 @@ QWidget* ProgramaDePrueba::panel(const QString& nombre) const
 
 QStringList ProgramaDePrueba::paneles() const
 {
+    // Frames already closed go first; any frame left after that counts, shown or not, so that
+    // a panel closing only itself and leaving its empty frame behind shows in the list.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QStringList nombres;
-    for (QMdiSubWindow* sub : m_ventana->area()->subWindowList())
+    for (QMdiSubWindow* sub : m_ventana->area()->subWindowList()) {
         if (sub->widget() && sub->isVisible())
             nombres << sub->widget()->objectName();
+        else
+            nombres << QStringLiteral("%1 (%2)").arg(
+                sub->objectName(), sub->widget() ? QStringLiteral("oculto") : QStringLiteral("vacío"));
+    }
     return nombres;
 }
 

@@ -32,7 +32,8 @@ public:
     bool activa() const { return m_activa; }
     // The open panel of the main window with this objectName, or null.
     QWidget* panel(const QString& nombre) const;
-    // The objectNames of the panels open in the main window.
+    // The objectNames of the panels open in the main window; a frame of the main window that
+    // is hidden or has lost its panel is listed too, as "sub_<panel> (oculto)" or "(vacío)".
     QStringList paneles() const;
 
 private:

@@ -7,6 +7,7 @@ ModeloFlexGrid::ModeloFlexGrid(QObject* parent) : QAbstractTableModel(parent)
 {
     m_celdas.resize(size_t(m_filas) * m_columnas);
     m_alineaciones.assign(m_columnas, Qt::AlignLeft | Qt::AlignVCenter);
+    m_alineacionesFijas.assign(m_columnas, Qt::Alignment());
 }
 
 int ModeloFlexGrid::rowCount(const QModelIndex& padre) const
@@ -48,7 +49,7 @@ QVariant ModeloFlexGrid::headerData(int seccion, Qt::Orientation orientacion, in
         if (rol == Qt::DisplayRole)
             return At(0, seccion).texto;
         if (rol == Qt::TextAlignmentRole)
-            return QVariant::fromValue(m_alineaciones[seccion]);
+            return QVariant::fromValue(AlineacionFija(seccion));
     }
     if (orientacion == Qt::Vertical && rol == Qt::DisplayRole)
         return seccion + 1;
@@ -92,6 +93,7 @@ void ModeloFlexGrid::setColumnas(int columnas)
     m_celdas = std::move(nuevas);
     m_columnas = columnas;
     m_alineaciones.resize(columnas, Qt::AlignLeft | Qt::AlignVCenter);
+    m_alineacionesFijas.resize(columnas, Qt::Alignment());
     endResetModel();
 }
 
@@ -185,6 +187,22 @@ void ModeloFlexGrid::setAlineacion(int columna, Qt::Alignment alineacion)
         return;
     m_alineaciones[columna] = alineacion;
     Avisar(-1, -1, {Qt::TextAlignmentRole});
+}
+
+Qt::Alignment ModeloFlexGrid::AlineacionFija(int columna) const
+{
+    if (columna < 0 || columna >= m_columnas)
+        return Qt::Alignment();
+    const Qt::Alignment propia = m_alineacionesFijas[columna];
+    return propia ? propia : m_alineaciones[columna];
+}
+
+void ModeloFlexGrid::setAlineacionFija(int columna, Qt::Alignment alineacion)
+{
+    if (columna < 0 || columna >= m_columnas)
+        return;
+    m_alineacionesFijas[columna] = alineacion;
+    emit headerDataChanged(Qt::Horizontal, columna, columna);
 }
 
 void ModeloFlexGrid::setCongelado(bool congelado)

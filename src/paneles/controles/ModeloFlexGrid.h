@@ -39,6 +39,9 @@ public:
     void setTintaNormal(const QColor& color);
     Qt::Alignment Alineacion(int columna) const;
     void setAlineacion(int columna, Qt::Alignment alineacion);
+    // The heading's alignment: the column's until one of its own is given.
+    Qt::Alignment AlineacionFija(int columna) const;
+    void setAlineacionFija(int columna, Qt::Alignment alineacion);
 
     bool Congelado() const { return m_congelado; }
     void setCongelado(bool congelado);
@@ -64,6 +67,7 @@ private:
     int m_columnas = 2;
     std::vector<Celda> m_celdas;
     std::vector<Qt::Alignment> m_alineaciones;
+    std::vector<Qt::Alignment> m_alineacionesFijas;  // none: as the column
     QColor m_fondoNormal = QColor::fromRgb(0xFFFFFF);
     QColor m_tintaNormal = QColor::fromRgb(0x000000);
     bool m_congelado = false;

@@ -232,6 +232,16 @@ void cFlexGrid::setColAlignment(int columna, Qt::Alignment alineacion)
     m_modelo->setAlineacion(columna, alineacion);
 }
 
+Qt::Alignment cFlexGrid::FixedAlignment(int columna) const
+{
+    return m_modelo->AlineacionFija(columna);
+}
+
+void cFlexGrid::setFixedAlignment(int columna, Qt::Alignment alineacion)
+{
+    m_modelo->setAlineacionFija(columna, alineacion);
+}
+
 int cFlexGrid::RowHeight(int fila) const
 {
     if (fila == 0)

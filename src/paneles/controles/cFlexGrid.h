@@ -67,6 +67,9 @@ public:
     void setColWidth(int columna, int ancho);
     Qt::Alignment ColAlignment(int columna) const;
     void setColAlignment(int columna, Qt::Alignment alineacion);
+    // The alignment of the heading row's cell, the column's until set.
+    Qt::Alignment FixedAlignment(int columna) const;
+    void setFixedAlignment(int columna, Qt::Alignment alineacion);
     int RowHeight(int fila) const;
 
     // Where the last mouse press fell: row (0 the heading, -1 below the rows) and column.

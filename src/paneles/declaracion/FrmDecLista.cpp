@@ -77,6 +77,15 @@ void FrmDecLista::PresentaCabecera()
                                                        QStringLiteral("Aitorpenaren datuak")));
 }
 
+// Nothing found: the count of none without conditions, the conditions' texts alone with them.
+QString FrmDecLista::ResultadoVacio() const
+{
+    if (!DecLista().HayCriterios())
+        return QStringLiteral("0") + TextoSegunIdioma(QStringLiteral(" declaración(es) seleccionada(s) "),
+                                                      QStringLiteral(" hautatutako aitorpena(k) "));
+    return TextoCriterios();
+}
+
 QString FrmDecLista::TextoCriterio(int campo, const QString& valor) const
 {
     switch (campo) {

@@ -17,6 +17,7 @@ protected:
     void IniciarEstado() override;
     int32_t CargarDatos(Arreglo2D& datos) override;
     QString TextoCriterio(int campo, const QString& valor) const override;
+    QString ResultadoVacio() const override;
     int idAyudaResultado() const override { return 320; }
     int idAyudaBusqueda() const override { return 321; }
     bool ModoEliminar() const override;

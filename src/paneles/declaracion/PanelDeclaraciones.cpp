@@ -3,6 +3,7 @@
 #include "paneles/dialogos/Ventanas.h"
 
 #include "catalogo/Catalogo.h"
+#include "paneles/controles/AnchoColumna.h"
 #include "paneles/controles/FilaDeGrid.h"
 #include "paneles/controles/FiltroCampo.h"
 #include "paneles/controles/MostrarAyuda.h"
@@ -82,11 +83,21 @@ void PanelDeclaraciones::Construir(const QList<ColumnaDeclaraciones>& columnas)
     int ancho = 0;
     for (int c = 0; c < columnas.size(); ++c) {
         const ColumnaDeclaraciones& col = columnas[c];
-        flxDeclaraciones->setTextMatrix(0, c, TextoSegunIdioma(QString::fromUtf8(col.es),
-                                                               QString::fromUtf8(col.eu)));
-        flxDeclaraciones->setColWidth(c, TwipsAPixeles(col.anchoTwips));
+        const QString titulo = TextoSegunIdioma(QString::fromUtf8(col.es), QString::fromUtf8(col.eu));
+        flxDeclaraciones->setTextMatrix(0, c, titulo);
+        // A heading that orders stands on the left, clear of the arrow at its right edge; the
+        // column is as wide as its heading, its arrow and its widest date or amount need.
+        const bool ordena = c < kDescripcion;
+        const QString muestra = c == kFecha ? QStringLiteral("88/88/8888")
+            : c == kImporte                 ? QStringLiteral("99.999.999,99")
+                                            : QString();
+        const int anchoColumna = AnchoColumnaQueCabe(flxDeclaraciones, TwipsAPixeles(col.anchoTwips),
+                                                     titulo, ordena, kFlechaDerecha, muestra);
+        flxDeclaraciones->setColWidth(c, anchoColumna);
         flxDeclaraciones->setColAlignment(c, col.alineacion | Qt::AlignVCenter);
-        ancho += TwipsAPixeles(col.anchoTwips);
+        if (ordena)
+            flxDeclaraciones->setFixedAlignment(c, Qt::AlignLeft | Qt::AlignVCenter);
+        ancho += anchoColumna;
     }
     flxDeclaraciones->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     flxDeclaraciones->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -133,6 +144,7 @@ void PanelDeclaraciones::Construir(const QList<ColumnaDeclaraciones>& columnas)
     todo->addLayout(m_cabecera);
     todo->addWidget(flxDeclaraciones);
     auto* busqueda = new QHBoxLayout;
+    m_busqueda = busqueda;
     busqueda->addWidget(lblayuda, 1);
     busqueda->addWidget(cmdBuscar);
     busqueda->addWidget(cmdTodos);
@@ -234,8 +246,10 @@ void PanelDeclaraciones::RellenarGrid(const Arreglo2D& datos)
     const int n = int(estado().NUMDECLASEL);
     cFlexGrid* g = flxDeclaraciones;
     g->setRedraw(false);
+    // The rows of the count and the heading, no more: a blank row would be one more to click,
+    // and a click on it would unmark the return.
     g->setRows(1);
-    g->setRows((n - 1) / kFilasPorPagina * kFilasPorPagina + kFilasPorPagina + 1);
+    g->setRows(n + 1);
     const int columnas = std::min(g->Cols(), int(datos.size()));
     for (int j = 0; j < columnas; ++j) {
         const QVariantList& columna = datos.at(j);
@@ -281,19 +295,17 @@ void PanelDeclaraciones::PresentaResultado()
     } else {
         e.CSDE = 0;
     }
-    MostrarAyuda(lblayuda, Texto(idAyudaResultado()));
+    MostrarAyudaAlPie(Texto(idAyudaResultado()));
     const QString cuantos = QString::number(e.NUMDECLASEL);
-    if (!e.HayCriterios() && e.NUMDECLASEL == 0) {
-        lblResultado->setText(Texto(63));
+    if (e.NUMDECLASEL == 0) {
+        lblResultado->setText(ResultadoVacio());
     } else if (!e.HayCriterios()) {
         lblResultado->setText(cuantos + TextoSegunIdioma(QStringLiteral(" declaración(es) seleccionada(s) "),
                                                          QStringLiteral(" hautatutako aitorpena(k) ")));
-    } else if (e.NUMDECLASEL > 0) {
+    } else {
         lblResultado->setText(TextoCriterios() + cuantos
                               + TextoSegunIdioma(QStringLiteral(" declaración(es) seleccionada(s). "),
                                                  QStringLiteral(" hautatutako aitorpena(k). ")));
-    } else {
-        lblResultado->setText(TextoCriterios() + Texto(63));
     }
     txtBusqueda->setEnabled(false);
     txtBusqueda->hide();
@@ -309,7 +321,7 @@ void PanelDeclaraciones::PresentaBusqueda()
     if (e.TABLASELECCION)
         for (const cCriterio& c : *e.TABLASELECCION)
             flxDeclaraciones->setTextMatrix(1, c.CAMPOSELECCION.toInt() - 1, c.VALORSELECCION);
-    MostrarAyuda(lblayuda, Texto(idAyudaBusqueda()));
+    MostrarAyudaAlPie(Texto(idAyudaBusqueda()));
     lblResultado->clear();
     const int campo = e.SELECCIONACTUAL.toInt();
     if (campo == 0) {
@@ -327,6 +339,21 @@ void PanelDeclaraciones::PresentaBusqueda()
     txtBusqueda->setText(flxDeclaraciones->TextMatrix(1, campo - 1));
     SeleccionarTexto(txtBusqueda);
     txtBusqueda->setFocus(Qt::OtherFocusReason);
+}
+
+// The help line takes the width of the grid beside the search buttons, in as many lines as
+// its text needs, so that no word of it is cut.
+void PanelDeclaraciones::MostrarAyudaAlPie(const QString& texto)
+{
+    const int separacion = std::max(0, m_busqueda->spacing());
+    const int ancho = flxDeclaraciones->width() - cmdBuscar->sizeHint().width()
+        - cmdTodos->sizeHint().width() - 2 * separacion;
+    MostrarAyuda(lblayuda, texto, ancho);
+}
+
+QString PanelDeclaraciones::ResultadoVacio() const
+{
+    return TextoCriterios() + Texto(63);
 }
 
 QString PanelDeclaraciones::TextoCriterios() const
@@ -364,7 +391,8 @@ void PanelDeclaraciones::PresentaBotones()
     cmdImprimir->setEnabled(conFila);
     if (cmdEliminar)
         cmdEliminar->setEnabled(conFila);
-    cmdNuevo->setEnabled(resultado);
+    // A new return needs no row: it stays at hand in the search state too.
+    cmdNuevo->setEnabled(true);
     for (QWidget* w : QList<QWidget*>{cmdNuevo, cmdCopiar, cmdImprimir, PicNuevo, PicCopiar,
                                       PicImprimir, PicDatos, PicAtras})
         w->setVisible(!eliminar);
@@ -493,6 +521,8 @@ void PanelDeclaraciones::EliminarSeleccionada(int idEntre)
     e.CSDE = 0;
     PresentaDatos();
     PresentaBotones();
+    if (e.NUMDECLASEL == 0)
+        lblResultado->setText(Texto(63));
     flxDeclaraciones->setFocus();
 }
 

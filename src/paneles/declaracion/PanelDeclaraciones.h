@@ -1,10 +1,11 @@
 #pragma once
 // The lists of returns: all returns (FrmDecLista), a contributor's (FrmConDeclaraciones) and a
-// presenter's (FrmPreDeclaraciones). One design: a grid of the returns found by the store, in
-// pages of 15 rows; a search typed in a box laid over a cell, one condition per column; the
-// order by a click on a heading, with an arrow that shows its direction; and the doorway to a
-// return (open, copy, new, print, delete). What differs (state object, columns, texts, the
-// store's call, the header of a party's lists) is each panel's; the behaviour lives here.
+// presenter's (FrmPreDeclaraciones). One design: a grid of the returns found by the store, one
+// row each under the heading, 15 rows in sight; a search typed in a box laid over a cell, one
+// condition per column; the order by a click on a heading, with an arrow that shows its
+// direction; and the doorway to a return (open, copy, new, print, delete). What differs (state
+// object, columns, texts, the store's call, the header of a party's lists) is each panel's; the
+// behaviour lives here.
 //
 // The state object of each list outlives the panel: a list that comes back from the form
 // finds its order, conditions and selection again.
@@ -17,6 +18,7 @@
 #include <QWidget>
 #include <cstdint>
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
@@ -67,12 +69,16 @@ protected:
     // Help lines of the result and the search states.
     virtual int idAyudaResultado() const = 0;
     virtual int idAyudaBusqueda() const = 0;
+    // The result line when the store found nothing: the conditions' texts and id 63.
+    virtual QString ResultadoVacio() const;
     // The delete mode (cmdAceptar deletes, the other doorways hide).
     virtual bool ModoEliminar() const { return false; }
     // After the header of the party's lists has to be drawn again.
     virtual void PresentaCabecera() {}
     // The deletion of the selected return; the list reloads after it.
     void EliminarSeleccionada(int idEntre);
+    // The texts of the conditions in force, joined by ", ".
+    QString TextoCriterios() const;
 
     void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
@@ -114,8 +120,8 @@ private:
     void RellenarGrid(const Arreglo2D& datos);
     void PresentaResultado();
     void PresentaBusqueda();
-    QString TextoCriterios() const;
     void SituarFlecha();
+    void MostrarAyudaAlPie(const QString& texto);
     void LeerFila();
 
     void Pulsado(int fila);
@@ -127,6 +133,7 @@ private:
     void Todos();
 
     cUtilidadesGrid Utilidades;
+    QHBoxLayout* m_busqueda = nullptr;
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;
     bool m_cerrando = false;

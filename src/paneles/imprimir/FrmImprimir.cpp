@@ -6,6 +6,7 @@
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "paneles/imprimir/ImpresoraSistema.h"
+#include "paneles/partes/CamposDatos.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
 #include "paneles/imprimir/cSuperficieVista.h"
 #include "plataforma/General.h"
@@ -126,12 +127,25 @@ void FrmImprimir::crearControles()
     fecha->addWidget(lblFechaPresentacion);
     fecha->addWidget(txtFechaPresentacion);
     fecha->addStretch();
+    // The pictures beside their buttons act as the buttons.
+    constexpr int kLadoIcono = 16;
+    PicImp = IconoDeBoton(this, "PicImp", QStyle::SP_FileDialogListView, btnOpcionesImpresora, kLadoIcono);
+    PicAce = IconoDeBoton(this, "PicAce", QStyle::SP_DialogApplyButton, cmdAceptar, kLadoIcono);
+    PicCan = IconoDeBoton(this, "PicCan", QStyle::SP_DialogCancelButton, cmdCancelar, kLadoIcono);
+    // A square of 16 pixels each, whatever the proportions of the style's picture.
+    for (QLabel* dibujo : {PicImp, PicAce, PicCan}) {
+        dibujo->setFixedSize(kLadoIcono, kLadoIcono);
+        dibujo->setAlignment(Qt::AlignCenter);
+    }
     auto* botones = new QHBoxLayout;
+    botones->addWidget(PicImp);
     botones->addWidget(btnOpcionesImpresora);
     botones->addWidget(cmdVistaPrevia);
     botones->addWidget(cmdPdf);
     botones->addStretch();
+    botones->addWidget(PicAce);
     botones->addWidget(cmdAceptar);
+    botones->addWidget(PicCan);
     botones->addWidget(cmdCancelar);
     auto* todo = new QVBoxLayout(this);
     todo->addLayout(opciones);
@@ -166,7 +180,7 @@ void FrmImprimir::conectar()
         });
     }
     connect(cmdAceptar, &QPushButton::clicked, this, protegido(&FrmImprimir::Aceptar));
-    connect(cmdCancelar, &QPushButton::clicked, this, &QWidget::close);
+    connect(cmdCancelar, &QPushButton::clicked, this, [this] { CerrarPanel(this); });
     connect(btnOpcionesImpresora, &QPushButton::clicked, this,
             protegido(&FrmImprimir::OpcionesImpresora));
     connect(cmdVistaPrevia, &QPushButton::clicked, this, protegido(&FrmImprimir::VistaPrevia));
@@ -208,8 +222,9 @@ void FrmImprimir::ValoresIniciales()
     o.COPIAINF = o.COPIAINT = o.COPIAADM = o.COPIABAN = QStringLiteral("X");
     // The date box follows the language: day first in Spanish, year first in Basque.
     const bool castellano = esCastellano();
-    txtFechaPresentacion->setInputMask(castellano ? QStringLiteral("99/99/9999")
-                                                  : QStringLiteral("9999/99/99"));
+    // "_" for each empty place: a blank box reads as the language's empty date.
+    txtFechaPresentacion->setInputMask(castellano ? QStringLiteral("99/99/9999;_")
+                                                  : QStringLiteral("9999/99/99;_"));
     txtFechaPresentacion->setText(QDate::currentDate().toString(
         castellano ? QStringLiteral("dd/MM/yyyy") : QStringLiteral("yyyy/MM/dd")));
     RefrescarOpciones();
@@ -280,7 +295,7 @@ void FrmImprimir::alMarcarCopia(QCheckBox* caja, QString& propiedad)
 bool FrmImprimir::ValidarFechaPresentacion()
 {
     // A good date is kept in ImOf().FECHAPRE for the drawing.
-    const Veredicto v = FijarFechaPresentacion(txtFechaPresentacion->text());
+    const Veredicto v = FijarFechaPresentacion(txtFechaPresentacion->displayText());
     MostrarVeredicto(v, this);
     return !v.vacio();
 }
@@ -301,7 +316,7 @@ void FrmImprimir::Aceptar()
         ImpresoraSistema::Imprimir(
             [this](cSuperficiePagina& p) { ImprimirCopias(p, conPresentador()); });
     }
-    close();
+    CerrarPanel(this);
 }
 
 void FrmImprimir::VistaPrevia()

@@ -66,4 +66,7 @@ private:
     QPushButton* btnOpcionesImpresora = nullptr;
     QPushButton* cmdVistaPrevia = nullptr;
     QPushButton* cmdPdf = nullptr;
+    QLabel* PicImp = nullptr;
+    QLabel* PicAce = nullptr;
+    QLabel* PicCan = nullptr;
 };

@@ -128,11 +128,11 @@ bool CampoAbierto(const QWidget* campo)
 }
 
 QLabel* IconoDeBoton(QWidget* padre, const char* nombre, QStyle::StandardPixmap imagen,
-                     QAbstractButton* boton)
+                     QAbstractButton* boton, int lado)
 {
     auto* icono = new QLabel(padre);
     icono->setObjectName(QString::fromLatin1(nombre));
-    icono->setPixmap(padre->style()->standardIcon(imagen).pixmap(24, 24));
+    icono->setPixmap(padre->style()->standardIcon(imagen).pixmap(lado, lado));
     icono->setCursor(Qt::PointingHandCursor);
     icono->installEventFilter(new ClicEnIcono(icono, boton));
     return icono;

@@ -33,9 +33,10 @@ void AbrirCampo(QWidget* campo, bool abierto);
 // Whether a field is open (not locked).
 bool CampoAbierto(const QWidget* campo);
 
-// The icon beside a button: a click on it acts as the click on the (enabled) button.
+// The icon beside a button, `lado` pixels square: a click on it acts as the click on the
+// (enabled) button.
 QLabel* IconoDeBoton(QWidget* padre, const char* nombre, QStyle::StandardPixmap imagen,
-                     QAbstractButton* boton);
+                     QAbstractButton* boton, int lado = 24);
 
 // A field takes a text from the record only when it differs, so that a field the user is
 // entering keeps its selection.

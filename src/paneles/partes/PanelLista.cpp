@@ -8,6 +8,7 @@
 #include "paneles/controles/FiltroCampo.h"
 #include "valores/Filtros.h"
 #include "paneles/controles/SeleccionarTexto.h"
+#include "paneles/controles/AnchoColumna.h"
 #include "paneles/controles/MostrarAyuda.h"
 #include "valores/Twips.h"
 #include "valores/Val.h"
@@ -143,9 +144,10 @@ PanelLista::PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent)
     setObjectName(m_diseno.nombrePanel);
     setAttribute(Qt::WA_DeleteOnClose);
     ConstruirControles();
+    // The columns first: their widths, fitted to their headings, give the grid's.
+    DefinirColumnas();
     Situar();
     Anadir_captions();
-    DefinirColumnas();
     Utilidades.Flex(m_grid);
     Utilidades.txtBusqueda(txtBusqueda);
 }
@@ -202,8 +204,12 @@ void PanelLista::ConstruirIconos()
     PicCancelar = icono(cmdCancelar, QStyle::SP_DialogCancelButton, "PicCancelar");
     PicNuevo = icono(cmdNuevo, QStyle::SP_FileIcon, "PicNuevo");
     PicDeclaraciones = icono(CmdDeclaraciones, QStyle::SP_FileDialogContentsView, "PicDeclaraciones");
+    PicAce = icono(cmdAceptar, QStyle::SP_DialogApplyButton, "PicAce");
+    PicCan = icono(cmdCancelar, QStyle::SP_DialogCancelButton, "PicCan");
     PicEliminar->hide();
     PicCancelar->hide();
+    PicAce->hide();
+    PicCan->hide();
 }
 
 // Every handler that may reach the store runs protected: a failure ends the program with its
@@ -234,8 +240,8 @@ void PanelLista::Situar()
 {
     const int margen = TwipsAPixeles(kMargen);
     int anchoColumnas = 0;
-    for (const ColumnaLista& c : m_diseno.columnas)
-        anchoColumnas += TwipsAPixeles(c.anchoTwips);
+    for (int c = 0; c < m_grid->Cols(); ++c)
+        anchoColumnas += m_grid->ColWidth(c);
     const int marco = 2 * m_grid->frameWidth();
     const int anchoGrid = anchoColumnas + m_grid->verticalScrollBar()->sizeHint().width() + marco;
     const int altoGrid = m_grid->horizontalHeader()->sizeHint().height()
@@ -259,8 +265,10 @@ void PanelLista::Situar()
     for (int i = 0; i < botones.size(); ++i)
         botones[i]->setGeometry(TwipsAPixeles(kIzquierdaBotones[i]), arribaBotones,
                                 TwipsAPixeles(kAnchoBoton), altoBoton);
-    const QList<QList<QLabel*>> iconos = {{PicDatos, PicEliminar}, {PicAtras, PicCancelar},
-                                          {PicNuevo}, {PicDeclaraciones}};
+    const QList<QList<QLabel*>> iconos = {{PicDatos, PicEliminar, PicAce},
+                                          {PicAtras, PicCancelar, PicCan},
+                                          {PicNuevo},
+                                          {PicDeclaraciones}};
     for (int i = 0; i < iconos.size(); ++i)
         for (QLabel* icono : iconos[i]) {
             icono->setGeometry(TwipsAPixeles(kIzquierdaIconos[i]),
@@ -296,8 +304,15 @@ void PanelLista::DefinirColumnas()
     m_grid->setCols(int(m_diseno.columnas.size()));
     for (int c = 0; c < m_diseno.columnas.size(); ++c) {
         const ColumnaLista& columna = m_diseno.columnas[c];
-        m_grid->setTextMatrix(0, c, columna.cabecera.texto());
-        m_grid->setColWidth(c, TwipsAPixeles(columna.anchoTwips));
+        const QString cabecera = columna.cabecera.texto();
+        m_grid->setTextMatrix(0, c, cabecera);
+        // A column shown is as wide as its heading needs, with the order's arrow on the name
+        // and the number.
+        const bool ordena = c == kColumnaNombre || c == kColumnaDni;
+        m_grid->setColWidth(c, columna.anchoTwips == 0
+                                   ? 0
+                                   : AnchoColumnaQueCabe(m_grid, TwipsAPixeles(columna.anchoTwips),
+                                                         cabecera, ordena, kFlechaDerecha));
         m_grid->setColAlignment(c, columna.alineacion | Qt::AlignVCenter);
     }
     // The current cell starts in the first column shown: the hidden code column cannot be
@@ -350,6 +365,7 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
         cmdAceptar->setEnabled(false);
         Pintar(PicDatos);
         Pintar(PicEliminar);
+        Pintar(PicAce);
         return;
     }
     const int columnas = std::min(m_grid->Cols(), int(datos.size()));
@@ -522,11 +538,16 @@ void PanelLista::PresentaBotones()
     CmdDeclaraciones->setVisible(puertas);
     PicNuevo->setVisible(puertas);
     PicDeclaraciones->setVisible(puertas);
-    PicDatos->setVisible(abrir);
-    PicAtras->setVisible(abrir);
+    // A selection panel has pictures of its own: accepting a choice, going back without one.
+    const bool seleccion = m_diseno.seleccion;
+    PicDatos->setVisible(abrir && !seleccion);
+    PicAtras->setVisible(abrir && !seleccion);
     PicEliminar->setVisible(!abrir);
     PicCancelar->setVisible(!abrir);
-    for (QLabel* icono : {PicDatos, PicEliminar, PicAtras, PicCancelar, PicNuevo, PicDeclaraciones})
+    PicAce->setVisible(abrir && seleccion);
+    PicCan->setVisible(abrir && seleccion);
+    for (QLabel* icono : {PicDatos, PicEliminar, PicAtras, PicCancelar, PicAce, PicCan, PicNuevo,
+                          PicDeclaraciones})
         Pintar(icono);
 }
 

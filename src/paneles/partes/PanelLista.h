@@ -188,6 +188,9 @@ private:
     QLabel* PicEliminar = nullptr;
     QLabel* PicAtras = nullptr;
     QLabel* PicCancelar = nullptr;
+    // The selection panels' own pictures beside cmdAceptar and cmdCancelar.
+    QLabel* PicAce = nullptr;
+    QLabel* PicCan = nullptr;
     QLabel* PicNuevo = nullptr;
     QLabel* PicDeclaraciones = nullptr;
 };

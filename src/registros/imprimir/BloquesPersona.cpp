@@ -31,12 +31,14 @@ const std::array<ParEtiquetas, 4> kTransmitente{{
     {147, 9.7f, "Herrialdea/", 155.5f, 9.7f, "Pais"},
 }};
 
-// The NIF pair opens each block in size 6; the rest of the labels are size 5.
+// The NIF pair opens each block: its Basque half "I.F.Z./" in italic size 6, its Spanish half
+// upright in size 5, as the rest of the labels.
 void etiquetaNif(cSuperficiePagina& p, float y, float xEs)
 {
-    FuenteTimes(p, 6);
-    Etiquetas(p, y, {12, 1.3f, "I.F.Z./", xEs, 1.3f, "N.I.F."});
-    p.FontSize = 5;
+    FuenteTimes(p, 6, false, true);
+    TextoIzquierda(p, 12, y + 1.3f, QStringLiteral("I.F.Z./"));
+    FuenteTimes(p, 5);
+    TextoIzquierda(p, xEs, y + 1.3f, QStringLiteral("N.I.F."));
 }
 
 void reglasPersona(cSuperficiePagina& p, float y)

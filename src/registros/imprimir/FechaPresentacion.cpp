@@ -11,7 +11,9 @@ Veredicto VeredictoFechaPresentacion(const QString& texto)
     v.titulo = Texto(131);
     v.control = QStringLiteral("txtFechaPresentacion");
     cFecha& fecha = Fecha();
-    if (!fecha.EsFecha(texto) || fecha.StringToLong(texto) <= 0) {
+    // An empty date is a date (0) for the date check: it is refused by the limit below, with
+    // the limit's message.
+    if (!fecha.EsFecha(texto)) {
         v.id = 327;
         v.mensaje = Texto(327);
         return v;

@@ -12,7 +12,9 @@
 #include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreLista.h"
+#include "valores/Twips.h"
 
+#include <QHeaderView>
 #include <QLabel>
 
 class TestConDeclaraciones : public QObject, ControlesDePanel {
@@ -23,6 +25,14 @@ class TestConDeclaraciones : public QObject, ControlesDePanel {
 
     QLabel* lbl(const char* nombre) const { return c<QLabel>(nombre); }
     cFlexGrid* grid() const { return c<cFlexGrid>("flxDeclaraciones"); }
+    void clicCabecera(int columna)
+    {
+        QHeaderView* h = grid()->horizontalHeader();
+        QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2,
+                                 h->height() / 2));
+        Procesar();
+    }
     void clicFila(QWidget* panel, const char* nombreGrid, int fila)
     {
         ClicEnCelda(Control<cFlexGrid>(panel, nombreGrid), fila, 1);
@@ -108,6 +118,100 @@ private slots:
         QCOMPARE(ConLista().CSCO, m_csco);
     }
 
+    // The order of a contributor's returns: a first click on the number, the date or the
+    // amount orders descending, on the reference or the operation ascending; the description
+    // and "S-T" do not order. The order and its direction survive a side trip.
+    void ordenDeLasDeUnContribuyente()
+    {
+        DeclaracionGuardada(QStringLiteral("BBB"), 20100315, QStringLiteral("T2"), m_csco);
+        DeclaracionGuardada(QStringLiteral("AAA"), 20090101, QStringLiteral("T4"), 0, m_csco);
+        DeclaracionGuardada(QStringLiteral("CCC"), 20110101, QStringLiteral("T3"), m_csco);
+        abrirDesdeLaLista("mnuAbrirContribuyente", "FrmConLista", "flxContribuyentes",
+                          "FrmConDeclaraciones");
+        QVERIFY(m_panel);
+        QCOMPARE(int(ConDeclaraciones().ORDEN), 1);
+        QCOMPARE(ConDeclaraciones().TIPOORDEN, QStringLiteral("DESC"));
+        const auto referencias = [this] {
+            QStringList r;
+            for (int f = 1; f < grid()->Rows(); ++f)
+                r << grid()->TextMatrix(f, 1);
+            return r;
+        };
+        QCOMPARE(grid()->Rows(), 4);
+        const struct {
+            int columna;
+            int orden;
+            const char* tipo;
+            QStringList filas;
+        } casos[] = {{1, 2, "ASC", {"AAA", "BBB", "CCC"}},
+                     {2, 3, "DESC", {"CCC", "BBB", "AAA"}},
+                     {4, 5, "ASC", {"BBB", "CCC", "AAA"}},
+                     {5, 5, "ASC", {"BBB", "CCC", "AAA"}},   // the description: nothing changes
+                     {6, 5, "ASC", {"BBB", "CCC", "AAA"}},   // "S-T": nothing changes
+                     {3, 4, "DESC", {}},
+                     {0, 1, "DESC", {"CCC", "AAA", "BBB"}}};
+        for (const auto& caso : casos) {
+            clicCabecera(caso.columna);
+            QCOMPARE(int(ConDeclaraciones().ORDEN), caso.orden);
+            QCOMPARE(ConDeclaraciones().TIPOORDEN, QString::fromLatin1(caso.tipo));
+            if (!caso.filas.isEmpty())
+                QCOMPARE(referencias(), caso.filas);
+        }
+        clicCabecera(1);
+        ClicEnCelda(grid(), 2, 1);
+        QCOMPARE(grid()->TextMatrix(2, 1), QStringLiteral("BBB"));
+        Clic(b("cmdAceptar"));
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QVERIFY(m_panel);
+        Clic(b("cmdCancelar"));
+        m_panel = m_prog->panel(QStringLiteral("FrmConDeclaraciones"));
+        QVERIFY(m_panel);
+        QCOMPARE(int(ConDeclaraciones().ORDEN), 2);
+        QCOMPARE(referencias(), (QStringList{"AAA", "BBB", "CCC"}));
+        QCOMPARE(grid()->TextMatrix(grid()->Row(), 1), QStringLiteral("BBB"));
+    }
+
+    // The criteria of a party's returns in their own words, in both lists.
+    void criteriosDeLasDeUnaParte()
+    {
+        const int32_t primera = DeclaracionGuardada(QStringLiteral("ABC"), 20100315, QStringLiteral("T2"), m_csco);
+        DeclaracionGuardada(QStringLiteral("XYZ"), 20090101, QStringLiteral("T2"), m_csco);
+        abrirDesdeLaLista("mnuAbrirContribuyente", "FrmConLista", "flxContribuyentes",
+                          "FrmConDeclaraciones");
+        QVERIFY(m_panel);
+        Clic(b("cmdBuscar"));
+        QCOMPARE(lbl("lblayuda")->text(), Texto(319));
+        const auto condicion = [this](int col, const QString& valor) {
+            ClicEnCelda(grid(), 1, col);
+            Escribir(t("txtBusqueda"), valor);
+            Tabular();
+        };
+        condicion(0, QString::number(primera));
+        condicion(1, QStringLiteral("AB"));
+        condicion(2, QStringLiteral("01/01/2010"));
+        condicion(3, QStringLiteral("1"));
+        condicion(4, QStringLiteral("T"));
+        Clic(b("cmdBuscar"));
+        QCOMPARE(ConDeclaraciones().NUMDECLASEL, 1);
+        QCOMPARE(lbl("lblResultado")->text(),
+                 QStringLiteral("Código Declaración >= %1 , Referencia empieza por 'AB' , "
+                                "Fecha >= 01/01/2010' , Importe >= 1, Operación empieza por 'T' "
+                                "1 declaración(es) seleccionada(s). ")
+                     .arg(primera));
+        QCOMPARE(lbl("lblayuda")->text(), Texto(64));
+        // Nothing found: the criteria and id 63.
+        Clic(b("cmdBuscar"));
+        condicion(1, QStringLiteral("QQ"));
+        Clic(b("cmdBuscar"));
+        QCOMPARE(ConDeclaraciones().NUMDECLASEL, 0);
+        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("Referencia empieza por 'QQ' ") + Texto(63));
+        // Todos: all again, by number, newest first.
+        Clic(b("cmdTodos"));
+        QCOMPARE(ConDeclaraciones().NUMDECLASEL, 2);
+        QCOMPARE(int(ConDeclaraciones().ORDEN), 1);
+        QVERIFY(!ConDeclaraciones().HayCriterios());
+    }
+
     void borrarLaUltimaCierra()
     {
         const int32_t csde = DeclaracionGuardada(QStringLiteral("UNICA"), 20100315, QStringLiteral("T2"), m_csco);
@@ -133,7 +237,10 @@ private slots:
         QVERIFY(m_panel);
         QCOMPARE(m_panel->windowTitle(), Texto(200));
         QCOMPARE(grid()->Cols(), 6);
-        QCOMPARE(grid()->ColWidth(4), grid()->ColWidth(0) * 800 / 900);
+        // The operation's column keeps its width; the number's grows to hold "NºDecl." and
+        // the order's arrow.
+        QCOMPARE(grid()->ColWidth(4), TwipsAPixeles(800));
+        QVERIFY(grid()->ColWidth(0) >= TwipsAPixeles(900));
         QCOMPARE(lbl("lblnumdecla")->text(), QStringLiteral("1"));
         QCOMPARE(grid()->TextMatrix(1, 1), QStringLiteral("P1"));
         Clic(b("cmdCancelar"));

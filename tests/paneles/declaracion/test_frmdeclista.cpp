@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QTabBar>
 
+#include <algorithm>
+
 class TestFrmDecLista : public QObject, ControlesDePanel {
     Q_OBJECT
 
@@ -135,6 +137,122 @@ private slots:
         QCOMPARE(DecLista().ORDEN, 1);
         QCOMPARE(columna(1), (QStringList{"CCC", "ABB", "AAA"}));
         QCOMPARE(grid()->Row(), 1);
+    }
+
+    // The grid has a row for each return and the heading, no blank rows: a click below the
+    // last row leaves the return marked and its commands on.
+    void filasDeLaCuenta()
+    {
+        DeclaracionGuardada(QStringLiteral("AAA"), 20100315);
+        DeclaracionGuardada(QStringLiteral("BBB"), 20090101);
+        abrir();
+        QCOMPARE(grid()->Rows(), 3);
+        const int32_t marcada = DecLista().CSDE;
+        QVERIFY(marcada != 0);
+        const QRect ultima = grid()->visualRect(grid()->model()->index(1, 1));
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, ultima.center() + QPoint(0, 3 * ultima.height()));
+        Procesar();
+        QCOMPARE(DecLista().CSDE, marcada);
+        for (const char* boton : {"cmdAceptar", "cmdCopiar", "cmdImprimir"})
+            QVERIFY2(b(boton)->isEnabled(), boton);
+        // Twenty returns: twenty rows and the heading.
+        for (int i = 0; i < 18; ++i)
+            DeclaracionGuardada(QStringLiteral("R%1").arg(i), 20100315);
+        Clic(b("cmdTodos"));
+        Clic(b("cmdBuscar"));
+        Clic(b("cmdBuscar"));
+        QCOMPARE(DecLista().NUMDECLASEL, 20);
+        QCOMPARE(grid()->Rows(), 21);
+    }
+
+    // Nuevo needs no row: it stays on in the search state. Nothing found: the count of none
+    // without conditions, the texts of the conditions alone with them.
+    void nuevoYNadaEncontrado()
+    {
+        abrir();
+        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("0 declaración(es) seleccionada(s) "));
+        QCOMPARE(grid()->Rows(), 2);
+        QVERIFY(b("cmdNuevo")->isEnabled());
+        QVERIFY(!b("cmdAceptar")->isEnabled());
+        Clic(b("cmdBuscar"));
+        QCOMPARE(DecLista().BUSQUEDA, QStringLiteral("B"));
+        QVERIFY(b("cmdNuevo")->isEnabled());
+        clicCelda(1, 1);
+        Escribir(t("txtBusqueda"), QStringLiteral("ZZ"));
+        Tabular();
+        QVERIFY(b("cmdNuevo")->isEnabled());
+        Clic(b("cmdBuscar"));
+        QCOMPARE(DecLista().NUMDECLASEL, 0);
+        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("Refererencia empieza por 'ZZ' "));
+        // Nuevo from the search state opens a new return.
+        Clic(b("cmdBuscar"));
+        Clic(b("cmdNuevo"));
+        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+        QVERIFY(m_panel);
+        QCOMPARE(DecDatos().MODO(), QStringLiteral("A"));
+        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+    }
+
+    // The first click on the code, the date or the amount orders descending, on the reference
+    // or the operation ascending; the arrow shows which.
+    void direccionesDelOrden()
+    {
+        DeclaracionGuardada(QStringLiteral("BBB"), 20100315, QStringLiteral("T2"));
+        DeclaracionGuardada(QStringLiteral("AAA"), 20090101, QStringLiteral("T4"));
+        DeclaracionGuardada(QStringLiteral("CCC"), 20110101, QStringLiteral("T3"));
+        abrir();
+        const struct {
+            int columna;
+            const char* tipo;
+            QStringList referencias;
+        } casos[] = {{1, "ASC", {"AAA", "BBB", "CCC"}},
+                     {0, "DESC", {"CCC", "AAA", "BBB"}},
+                     {2, "DESC", {"CCC", "BBB", "AAA"}},
+                     {4, "ASC", {"BBB", "CCC", "AAA"}},
+                     {3, "DESC", {}}};
+        for (const auto& caso : casos) {
+            clicCabecera(caso.columna);
+            QCOMPARE(int(DecLista().ORDEN), caso.columna + 1);
+            QCOMPARE(DecLista().TIPOORDEN, QString::fromLatin1(caso.tipo));
+            const bool asc = DecLista().TIPOORDEN == QLatin1String("ASC");
+            QCOMPARE(c<QWidget>("picasc")->isVisible(), asc);
+            QCOMPARE(c<QWidget>("picdesc")->isVisible(), !asc);
+            if (!caso.referencias.isEmpty())
+                QCOMPARE(columna(1), caso.referencias);
+        }
+        // The amounts, descending.
+        QList<double> importes;
+        for (const QString& i : columna(3))
+            importes << QString(i).remove(QLatin1Char('.')).replace(QLatin1Char(','), QLatin1Char('.')).toDouble();
+        QVERIFY(std::is_sorted(importes.crbegin(), importes.crend()));
+        QCOMPARE(DecLista().CSDE, grid()->TextMatrix(1, 0).toInt());
+    }
+
+    // Each column's condition in its words, joined in the order the columns were searched.
+    void textosDeLasCondiciones()
+    {
+        const int32_t primera = DeclaracionGuardada(QStringLiteral("ABC"), 20100315, QStringLiteral("T2"));
+        DeclaracionGuardada(QStringLiteral("XYZ"), 20090101, QStringLiteral("T2"));
+        abrir();
+        Clic(b("cmdBuscar"));
+        const auto condicion = [this](int col, const QString& valor) {
+            clicCelda(1, col);
+            Escribir(t("txtBusqueda"), valor);
+            Tabular();
+        };
+        condicion(0, QString::number(primera));
+        condicion(1, QStringLiteral("AB"));
+        condicion(2, QStringLiteral("01/01/2010"));
+        condicion(3, QStringLiteral("1"));
+        condicion(4, QStringLiteral("T"));
+        Clic(b("cmdBuscar"));
+        QCOMPARE(DecLista().NUMDECLASEL, 1);
+        QCOMPARE(lbl("lblResultado")->text(),
+                 QStringLiteral("Código de Declaración >= %1 , Refererencia empieza por 'AB' , "
+                                "Fecha devengo >= '01/01/2010' , Total a ingresar >= 1 , "
+                                "Operación empieza por 'T' 1 declaración(es) seleccionada(s). ")
+                     .arg(primera));
+        QCOMPARE(columna(1), QStringList{QStringLiteral("ABC")});
     }
 
     void eliminarHastaLaUltima()

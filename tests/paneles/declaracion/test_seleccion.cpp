@@ -9,8 +9,13 @@
 #include "paneles/dialogos/Mensaje.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/partes/cConSeleccion.h"
+#include "servicios/Almacen.h"
+#include "servicios/cContribSvr.h"
+#include "servicios/cPresenSvr.h"
 
 #include <QCheckBox>
+#include <QLabel>
+#include <tuple>
 #include <QTabBar>
 
 class TestSeleccion : public QObject, ControlesDePanel {
@@ -73,6 +78,31 @@ private slots:
     {
         m_prog.reset();
         Procesar();
+    }
+
+    // The selection panels show their own pictures beside Aceptar and Cancelar, not those of
+    // the lists; a click on PicCan goes back to the form as Cancelar does.
+    void dibujosPropios()
+    {
+        NuevoPresentador(QStringLiteral("87654321X"), QStringLiteral("GESTORIA ARBELIA"));
+        nueva();
+        for (const auto& [boton, lista] : {std::pair{"cmdSujetoPasivo", "FrmConSeleccion"},
+                                           std::pair{"CmdPresentador", "FrmPreSeleccion"}}) {
+            ir(boton, lista);
+            QVERIFY2(m_panel, lista);
+            for (const char* propio : {"PicAce", "PicCan"})
+                QVERIFY2(c<QLabel>(propio)->isVisible(), propio);
+            for (const char* ajeno : {"PicDatos", "PicAtras", "PicEliminar", "PicCancelar"})
+                QVERIFY2(!c<QLabel>(ajeno)->isVisible(), ajeno);
+            // Each stands on the left part of its button, as the lists' pictures do.
+            QVERIFY(c<QLabel>("PicAce")->geometry().intersects(b("cmdAceptar")->geometry()));
+            QVERIFY(c<QLabel>("PicCan")->geometry().intersects(b("cmdCancelar")->geometry()));
+            QTest::mouseClick(c<QLabel>("PicCan"), Qt::LeftButton);
+            Procesar();
+            volver();
+            QVERIFY(m_panel);
+            QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmDeclaracion")});
+        }
     }
 
     void sujetoElegido()
@@ -181,6 +211,90 @@ private slots:
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
         QCOMPARE(grid("flxContribuyentes")->TextMatrix(1, 1), QStringLiteral("AGIRRE ZUBIA MIREN"));
         Clic(b("cmdCancelar"));
+    }
+
+    // Cancelar carries CRITERIO back; Todos clears it, and so does a new return: the next
+    // trip then finds every contributor.
+    void criterioHastaQueElFormularioLoBorra()
+    {
+        const auto buscarAG = [this] {
+            Clic(b("cmdBuscar"));
+            clicFila(grid("flxContribuyentes"), 1);
+            Escribir(t("txtBusqueda"), QStringLiteral("AG"));
+            Tabular();
+            Clic(b("cmdBuscar"));
+            QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
+        };
+        nueva();
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
+        buscarAG();
+        Clic(b("cmdCancelar"));
+        volver();
+        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
+        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        ir("cmdTransmitente", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
+        Clic(b("cmdTodos"));
+        QCOMPARE(ConSeleccion().CRITERIO, QString());
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
+        Clic(b("cmdCancelar"));
+        volver();
+        QCOMPARE(DecDatos().CRITERIO, QString());
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
+        buscarAG();
+        Clic(b("cmdCancelar"));
+        volver();
+        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
+        // The form closed and a new return: no criteria on the next trip.
+        Clic(b("cmdCancelar"));
+        QVERIFY(m_prog->paneles().isEmpty());
+        nueva();
+        QCOMPARE(DecDatos().CRITERIO, QString());
+        ir("cmdSujetoPasivo", "FrmConSeleccion");
+        QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
+        Clic(b("cmdCancelar"));
+        QVERIFY(MensajeSeam::registro().isEmpty());
+    }
+
+    // An empty store: both selection panels list nothing, Aceptar stays off (its picture and
+    // the Enter key with it), and only Cancelar leaves. The form opens while the store still
+    // has its parties; another seat then deletes them all.
+    void almacenVacio()
+    {
+        m_prog.reset();
+        Procesar();
+        m_prog = std::make_unique<ProgramaDePrueba>();
+        const int32_t csco = NuevoContribuyente(Dni(44444444), QStringLiteral("URIARTE ANE"));
+        const int32_t cspr = NuevoPresentador(QStringLiteral("87654321X"), QStringLiteral("GESTORIA ARBELIA"));
+        nueva();
+        QVERIFY(Almacen<cContribSvr>().BorrarContribuyente(csco));
+        for (const auto& [boton, lista, rejilla] :
+             {std::tuple{"cmdSujetoPasivo", "FrmConSeleccion", "flxContribuyentes"},
+              std::tuple{"CmdPresentador", "FrmPreSeleccion", "flxPresentadores"}}) {
+            const QString antes = DecDatos().LISTA;
+            // The form back from the first trip counts the presenter still there.
+            if (QByteArrayView(lista) == "FrmPreSeleccion")
+                QVERIFY(Almacen<cPresenSvr>().BorrarPresentador(cspr));
+            ir(boton, lista);
+            QVERIFY2(m_panel, lista);
+            QVERIFY(!b("cmdAceptar")->isEnabled());
+            QVERIFY(b("cmdCancelar")->isEnabled());
+            QTest::mouseClick(c<QLabel>("PicAce"), Qt::LeftButton);
+            ClicEnCelda(grid(rejilla), 1, 1);
+            QTest::keyClick(grid(rejilla), Qt::Key_Return);
+            Procesar();
+            QCOMPARE(m_prog->paneles(), QStringList{QString::fromLatin1(lista)});
+            Clic(b("cmdCancelar"));
+            volver();
+            QVERIFY(m_panel);
+            QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+            QCOMPARE(DecDatos().LISTA, antes);
+            QCOMPARE(DecDatos().CSSU, 0);
+            QCOMPARE(DecDatos().CSPR, 0);
+        }
+        QVERIFY(MensajeSeam::registro().isEmpty());
     }
 
     void presentador()

@@ -6,6 +6,7 @@
 #include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
+#include "catalogo/Catalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/imprimir/FrmImprimir.h"
@@ -19,6 +20,7 @@
 #include <QCheckBox>
 #include <QDate>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPrintPreviewDialog>
@@ -81,11 +83,6 @@ private:
     void fecha(const QString& t) { hijo<QLineEdit>(m_panel, "txtFechaPresentacion")->setText(t); }
 
 private slots:
-    void initTestCase()
-    {
-        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
-            QSKIP("pdftotext (poppler-utils) is not installed: scripts/instalar.sh installs it");
-    }
     void init()
     {
         m_almacen = std::make_unique<AlmacenDePrueba>();
@@ -285,6 +282,64 @@ private slots:
         QCOMPARE(FinesDeDocumento(m_hojas), 4);
     }
 
+    // A box left empty is an empty date, refused by the date check with the limit's message.
+    void fechaVacia_data()
+    {
+        QTest::addColumn<bool>("vasco");
+        QTest::addColumn<QString>("mensaje");
+        QTest::newRow("castellano") << false
+                                    << QStringLiteral("La Fecha de presentación no puede ser anterior al 01/12/2003");
+        QTest::newRow("euskera") << true
+                                 << QStringLiteral("Aurkezpen data ezin da 2003/12/01 baino lehenagokoa izan");
+    }
+    void fechaVacia()
+    {
+        QFETCH(bool, vasco);
+        QFETCH(QString, mensaje);
+        euskera(vasco);
+        abrir();
+        auto* caja = hijo<QLineEdit>(m_panel, "txtFechaPresentacion");
+        caja->selectAll();
+        QTest::keyClick(caja, Qt::Key_Delete);
+        QCOMPARE(caja->displayText(), Fecha().FecVacia());
+        pulsar("cmdAceptar");
+        QCOMPARE(MensajeSeam::registro().size(), 1);
+        QCOMPARE(MensajeSeam::registro().first().texto, mensaje);
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(m_hojas.Llamadas.size(), 0);
+        QVERIFY(m_panel->isVisible());
+    }
+
+    // The pictures beside the printer's options, Aceptar and Cancelar: 16 pixels square, just
+    // left of their buttons, and a click on one is a click on its button.
+    void dibujosDeLosBotones()
+    {
+        abrir();
+        QVERIFY(QTest::qWaitForWindowExposed(m_panel));
+        const std::pair<const char*, const char*> pares[] = {
+            {"PicImp", "btnOpcionesImpresora"}, {"PicAce", "cmdAceptar"}, {"PicCan", "cmdCancelar"}};
+        for (const auto& [dibujo, boton] : pares) {
+            auto* d = hijo<QLabel>(m_panel, dibujo);
+            auto* b = hijo<QPushButton>(m_panel, boton);
+            QVERIFY2(d->isVisible(), dibujo);
+            QCOMPARE(d->size(), QSize(16, 16));
+            QVERIFY2(QRect(QPoint(), QSize(16, 16)).contains(QRect(QPoint(), d->pixmap().size())), dibujo);
+            QVERIFY2(d->geometry().right() < b->x() && b->x() - d->geometry().right() < 20, dibujo);
+            QVERIFY2(d->geometry().bottom() >= b->y() && d->y() <= b->geometry().bottom(), dibujo);
+        }
+        QTest::mouseClick(hijo<QLabel>(m_panel, "PicImp"), Qt::LeftButton);
+        QCOMPARE(m_dialogos, 1);
+        QTest::mouseClick(hijo<QLabel>(m_panel, "PicAce"), Qt::LeftButton);
+        QCOMPARE(FinesDeDocumento(m_hojas), 4);
+        QTRY_VERIFY(!m_panel);
+        m_hojas.Llamadas.clear();
+        abrir();
+        QSignalSpy cerrado(m_panel.data(), &FrmImprimir::cerrado);
+        QTest::mouseClick(hijo<QLabel>(m_panel, "PicCan"), Qt::LeftButton);
+        QCOMPARE(cerrado.count(), 1);
+        QCOMPARE(m_hojas.Llamadas.size(), 0);
+    }
+
     void fechaMala()
     {
         abrir();
@@ -324,6 +379,9 @@ private slots:
 
     void pdfConLasMismasCopias()
     {
+        // The PDF is read back with pdftotext; only this test needs it.
+        if (QStandardPaths::findExecutable(QStringLiteral("pdftotext")).isEmpty())
+            QSKIP("pdftotext (poppler-utils) is not installed: scripts/instalar.sh installs it");
         abrir();
         caja("chkCopiaBanco")->click();
         fecha(QStringLiteral("11/03/2004"));

@@ -255,6 +255,31 @@ private slots:
         QCOMPARE(s.Llamadas.last().tipo, LlamadaPagina::Tipo::FinDoc);
     }
 
+    // The NIF label of each party block: "I.F.Z./" italic size 6, then "N.I.F." upright size
+    // 5, at 17.8 in the obligor's and the representative's blocks and at 17 in the transmitter's.
+    void etiquetaNifDeCadaBloque()
+    {
+        cSuperficieGrabadora s;
+        hoja(s, true);
+        QCOMPARE(Textos(s, QStringLiteral("N.I.F.")).size(), 3);
+        const struct {
+            float y;
+            float x;
+        } bloques[] = {{58, 17.8f}, {84, 17}, {103.4f, 17.8f}};
+        for (const auto& b : bloques) {
+            const LlamadaPagina nif = enLinea(s, QStringLiteral("N.I.F."), b.y + 1.3f);
+            QCOMPARE(nif.tamano, 5.0f);
+            QVERIFY(!nif.cursiva);
+            QVERIFY(!nif.negrita);
+            QCOMPARE(nif.fuente, QStringLiteral("Times New Roman"));
+            izquierda(s, QStringLiteral("N.I.F."), b.x, b.y + 1.3f);
+            const LlamadaPagina ifz = enLinea(s, QStringLiteral("I.F.Z./"), b.y + 1.3f);
+            QCOMPARE(ifz.tamano, 6.0f);
+            QVERIFY(ifz.cursiva);
+            izquierda(s, QStringLiteral("I.F.Z./"), 12, b.y + 1.3f);
+        }
+    }
+
     void sinPresentadorSoloEtiquetas()
     {
         cSuperficieGrabadora s;

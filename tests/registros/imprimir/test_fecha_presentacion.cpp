@@ -81,6 +81,13 @@ private slots:
         QTest::newRow("euskera, fecha castellana")
             << true << false << QStringLiteral("01/01/1999")
             << QStringLiteral("Aurkezpen data ezin da 01/12/2003 baino lehenagokoa izan");
+        // An empty date is a date for the check, and lies before the limit.
+        QTest::newRow("vacía")
+            << false << false << QStringLiteral("__/__/____")
+            << QStringLiteral("La Fecha de presentación no puede ser anterior al 01/12/2003");
+        QTest::newRow("vacía en euskera")
+            << true << true << QStringLiteral("____/__/__")
+            << QStringLiteral("Aurkezpen data ezin da 2003/12/01 baino lehenagokoa izan");
     }
     void antesDelLimite()
     {

@@ -158,6 +158,41 @@ private slots:
         QCOMPARE(Contribuyentes(), 2);
     }
 
+    // Every rule a line breaks gets its line, in ascending order of code, even where one
+    // rule follows from another.
+    void cadaReglaRotaEnOrden()
+    {
+        QList<QByteArray> cpMalo = CamposValidos(1);
+        cpMalo[14] = "7A01 ";  // not a number, not of five digits, of no province
+        QList<QByteArray> cero = CamposValidos(2);
+        cero[14] = "00000";
+        QList<QByteArray> extranjero = CamposValidos(3);
+        extranjero[10] = "E";
+        extranjero[11] = "FRANCIA";
+        extranjero[12] = "AB";  // not a number, and so not 00 either
+        extranjero[13] = "PARIS";
+        extranjero[14] = "75001";
+        extranjero[15] = "000";
+        extranjero[16] = "PARIS";
+        Importa(Linea(cpMalo) + "\r\n" + Linea(cero) + "\r\n" + Linea(extranjero) + "\r\n", true);
+        Contadores(3, 0, 3, 0, 0);
+        const QByteArray errores = Leer(Importar().FICHEROERRORES);
+        const auto linea = [](int n, quint32 dni, const QByteArray& texto) {
+            return "Linea " + QByteArray::number(n) + " - DNI-CIF " + DniDe(dni) + ": " + texto
+                + "\r\n";
+        };
+        const QByteArray otraProvincia = "El C\xF3" "digo de Provincia y el C\xF3" "digo Postal no coinciden";
+        const QByteArray esperado = linea(1, 1, otraProvincia)
+            + linea(1, 1, "El C\xF3" "digo Postal debe ser un n\xFA" "mero de 5 cifras")
+            + linea(1, 1, "El c\xF3" "digo postal debe ser un n\xFA" "mero")
+            + linea(2, 2, otraProvincia)
+            + linea(2, 2, "Los tres \xFA" "ltimos d\xED" "gitos del C\xF3" "digo Postal deben ser distintos de cero")
+            + linea(2, 2, "El C\xF3" "digo Postal debe ser distinto de cero")
+            + linea(3, 3, "El c\xF3" "digo de provincia debe ser un n\xFA" "mero")
+            + linea(3, 3, "Al ser domicilio extranjero, el c\xF3" "digo de provincia debe ser 00");
+        QVERIFY2(errores.startsWith(esperado), errores.constData());
+    }
+
     void unoMaloDeDiez()
     {
         QByteArray f;

@@ -274,17 +274,17 @@ private slots:
         QTest::newRow("4") << Con(n, {{I::DOMICILIOC, ""}}) << L{4};
         QTest::newRow("5") << Con(ext, {{I::PAIS, "   "}}) << L{5};
         QTest::newRow("6") << Con(n, {{I::CODPOSC, "48001"}}) << L{6};
-        QTest::newRow("7") << Con(n, {{I::CODPOSC, " 7701"}}) << L{7};
+        QTest::newRow("7") << Con(n, {{I::CODPOSC, " 7701"}}) << L{6, 7};
         QTest::newRow("8") << Con(n, {{I::CODPOSC, "77000"}}) << L{8};
-        QTest::newRow("9") << Con(n, {{I::CODPOSC, "00000"}}) << L{9};
+        QTest::newRow("9") << Con(n, {{I::CODPOSC, "00000"}}) << L{6, 8, 9};
         QTest::newRow("10") << Con(ext, {{I::NOMPROVC, ""}}) << L{10};
         QTest::newRow("11") << Con(otra, {{I::NOMMUNC, ""}}) << L{11};
-        QTest::newRow("12") << Con(otra, {{I::CODPROVC, "00"}, {I::CODPOSC, "00000"}}) << L{9, 12};
+        QTest::newRow("12") << Con(otra, {{I::CODPROVC, "00"}, {I::CODPOSC, "00000"}}) << L{8, 9, 12};
         QTest::newRow("13") << Con(n, {{I::CODMUNC, "000"}}) << L{13};
         QTest::newRow("14") << Con(n, {{I::NUMEROC, "12A  "}}) << L{14};
-        QTest::newRow("15") << Con(n, {{I::CODPROVC, "7X"}}) << L{15};
-        QTest::newRow("16") << Con(n, {{I::CODPOSC, "77O01"}}) << L{16};
-        QTest::newRow("17") << Con(n, {{I::CODMUNC, "0O1"}}) << L{17};
+        QTest::newRow("15") << Con(n, {{I::CODPROVC, "7X"}}) << L{6, 15, 28};
+        QTest::newRow("16") << Con(n, {{I::CODPOSC, "77O01"}}) << L{6, 7, 16};
+        QTest::newRow("17") << Con(n, {{I::CODMUNC, "0O1"}}) << L{17, 26};
         QTest::newRow("18") << Con(n, {{I::NUMSP, "00000-1"}}) << L{18};
         QTest::newRow("19") << Con(n, {{I::NUMTR, "ABC    "}}) << L{19};
         QTest::newRow("20") << Con(n, {{I::TIPODNI, "X"}}) << L{20};
@@ -302,6 +302,14 @@ private slots:
                             << L{28};
         QTest::newRow("29") << Con(otra, {{I::CODMUNC, "005"}}) << L{29};
         QTest::newRow("30") << Con(n, {{I::PAIS, "ESPAÑA"}}) << L{30};
+        // Each rule is judged apart: a code that is not a number breaks the rules of its
+        // value as well.
+        QTest::newRow("9 en blanco") << Con(n, {{I::CODPOSC, "     "}}) << L{6, 8, 9};
+        QTest::newRow("15 extranjera") << Con(ext, {{I::CODPROVC, "AB"}}) << L{15, 23};
+        QTest::newRow("17 extranjero") << Con(ext, {{I::CODMUNC, "X01"}}) << L{17, 24};
+        QTest::newRow("17 otra provincia") << Con(otra, {{I::CODMUNC, "0X5"}}) << L{17, 29};
+        QTest::newRow("16 de cuatro") << Con(n, {{I::CODPOSC, "7A01 "}}) << L{6, 7, 16};
+        QTest::newRow("6 y 8") << Con(n, {{I::CODPOSC, "48000"}}) << L{6, 8};
         // Blanks in a number field stand for 0.
         QTest::newRow("número en blanco") << Con(n, {{I::NUMEROC, "     "}, {I::NUMSP, "       "}}) << L{};
     }
