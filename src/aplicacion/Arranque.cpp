@@ -13,11 +13,13 @@
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
+#include "servicios/RevisionAlmacen.h"
 #include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
 
 #include <QApplication>
 #include <QSystemSemaphore>
+#include <cstdio>
 #include <new>
 #include <system_error>
 #include <memory>
@@ -36,6 +38,53 @@ void CrearMutex()
                                                                  QSystemSemaphore::Open);
     Q_UNUSED(marca);
 }
+
+// The program cannot work on its stores: the user is told why and what to do, on the screen
+// and on the standard error (read where no window can be seen), and the program ends with a
+// status that says it did not run.
+void terminarSinAlmacen(const QString& aviso)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(aviso));
+    std::fflush(stderr);
+    Mensaje(aviso, vb::Critical, QStringLiteral("Veldoria"));
+    Proceso::Terminar(kSinAlmacen);
+}
+
+std::unique_ptr<RevisionAlmacen::Sesion>& sesion()
+{
+    static std::unique_ptr<RevisionAlmacen::Sesion> abierta;
+    return abierta;
+}
+
+QString& rutaDeSesion()
+{
+    static QString ruta;
+    return ruta;
+}
+}
+
+QString PrepararAlmacenes()
+{
+    if (!RevisionAlmacen::ReferenciaLegible(mdblec))
+        return TextoReferencia(mdblec);
+    const auto traspaso = Almacen<cTraspaso>();
+    if (traspaso.Traspaso())
+        return TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta());
+    return {};
+}
+
+void AbrirSesionAlmacen()
+{
+    if (sesion() && rutaDeSesion() == mdbmod)
+        return;
+    static const bool registrada = [] {
+        Proceso::AlTerminarBien([] { sesion().reset(); });
+        return true;
+    }();
+    Q_UNUSED(registrada);
+    sesion().reset();
+    sesion() = std::make_unique<RevisionAlmacen::Sesion>(mdbmod);
+    rutaDeSesion() = mdbmod;
 }
 
 void ConfigurarRutas(const QString& carpetaPrograma)
@@ -80,13 +129,10 @@ bool Traspaso()
     }
     QApplication::restoreOverrideCursor();
     if (parar) {
-        // The program cannot work on this file: the user is told why and what to do, and the
-        // program ends with a status that says it did not run.
-        Mensaje(TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta()), vb::Critical,
-                QStringLiteral("Veldoria"));
-        Proceso::Terminar(kSinAlmacen);
+        terminarSinAlmacen(TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta()));
         return false;
     }
+    AbrirSesionAlmacen();
     return true;
 }
 
@@ -110,6 +156,11 @@ bool Main()
     // a restore (those of a copy still running are kept).
     cSaveAsRestore::LimpiarTemporales(mdbPath);
     cSaveAsRestore::LimpiarTemporales(CarpetaDatos() + QStringLiteral("/backups/"));
+    // The reference database is read all along; without it nothing can be shown.
+    if (!RevisionAlmacen::ReferenciaLegible(mdblec)) {
+        terminarSinAlmacen(TextoReferencia(mdblec));
+        return false;
+    }
     if (!Traspaso())
         return false;
     InicializarAplicacion();

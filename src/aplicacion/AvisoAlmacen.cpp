@@ -56,6 +56,11 @@ Aviso problema(Impedimento impedimento, const QString& ruta, const QString& carp
                                "en ella la base de datos y sus archivos de trabajo.").arg(carpeta),
                 QStringLiteral("%1 karpeta irakurtzeko soilik da, eta programak bertan idatzi "
                                "behar ditu datu basea eta bere lan fitxategiak.").arg(carpeta)};
+    case Impedimento::EnlaceRoto:
+        return {QStringLiteral("En el lugar de la base de datos %1 hay un enlace a un archivo que "
+                               "no existe.").arg(ruta),
+                QStringLiteral("%1 datu basearen lekuan existitzen ez den fitxategi baterako "
+                               "esteka bat dago.").arg(ruta)};
     case Impedimento::Ajena:
         return {QStringLiteral("El archivo %1 no es una base de datos de este programa.").arg(ruta),
                 QStringLiteral("%1 fitxategia ez da programa honen datu base bat.").arg(ruta)};
@@ -75,6 +80,15 @@ Aviso remedio(Impedimento impedimento)
                 QStringLiteral("Instalatu programaren bertsiorik berriena.")};
     case Impedimento::Carpeta:
         return apartarYRestaurar(QStringLiteral("esa carpeta"), QStringLiteral("karpeta horren"));
+    case Impedimento::EnlaceRoto:
+        return {QStringLiteral("Devuelva a su sitio el archivo al que apunta el enlace, o borre el "
+                               "enlace para que el programa cree una base de datos nueva, vacía, "
+                               "en la que podrá restaurar su copia de seguridad desde el menú %1.")
+                    .arg(menuUtilidades(false)),
+                QStringLiteral("Itzuli estekak seinalatzen duen fitxategia bere lekura, edo ezabatu "
+                               "esteka programak datu base berri bat sor dezan, hutsik, eta bertan "
+                               "zure segurtasun kopia leheneratu ahal izango duzu %1 menutik.")
+                    .arg(menuUtilidades(true))};
     case Impedimento::SoloLectura:
         return {QStringLiteral("Dé permiso de escritura sobre ese archivo al usuario con el que "
                                "abre el programa y vuelva a abrirlo."),
@@ -102,4 +116,17 @@ QString TextoImpedimento(Impedimento impedimento, const QString& ruta)
     const Aviso hacer = remedio(impedimento);
     return que.es + QLatin1Char(' ') + hacer.es + QStringLiteral(" El programa se cerrará.\n\n")
         + que.eu + QLatin1Char(' ') + hacer.eu + QStringLiteral(" Programa itxi egingo da.");
+}
+
+QString TextoReferencia(const QString& ruta)
+{
+    const QString fichero = QDir::toNativeSeparators(QFileInfo(ruta).absoluteFilePath());
+    return QStringLiteral("No se puede leer la base de datos de referencia %1: falta, no tiene "
+                          "permiso de lectura o está dañada. Vuelva a instalar el programa. El "
+                          "programa se cerrará.\n\n")
+               .arg(fichero)
+        + QStringLiteral("Ezin da %1 erreferentziako datu basea irakurri: falta da, ez du "
+                         "irakurtzeko baimenik edo hondatuta dago. Instalatu berriro programa. "
+                         "Programa itxi egingo da.")
+              .arg(fichero);
 }

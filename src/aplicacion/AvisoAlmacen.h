@@ -7,3 +7,5 @@
 #include <QString>
 
 QString TextoImpedimento(cTraspaso::Impedimento impedimento, const QString& ruta);
+// The same when the reference database (VELDOLEC.mdb) is missing or cannot be read.
+QString TextoReferencia(const QString& ruta);

@@ -8,13 +8,15 @@
 //
 // CrearRestore: the backup at RutaOrigen+ArchivoOrigen, or, when there is none, a file the user
 // chooses; a file that is not a usable backup is refused with its reason before any question;
-// then the confirmation of id 340 (title 341), the restore, and its outcome. Answers true only
-// when the live database has been replaced.
+// then the confirmation of id 340 (title 341), the restore, and its outcome (a file whose rows
+// break the program's rules is refused then, with the same message as a file that is not a
+// backup). Answers true only when the live database has been replaced.
+#include "servicios/cSaveAsRestore.h"
+
 #include <QString>
 #include <cstdint>
 
 class QWidget;
-class cSaveAsRestore;
 
 class CopiaSeguridad {
 public:
@@ -29,11 +31,36 @@ public:
     QString BDTabla;
     QString BDCampo;
 
+    // The objects of the main window's commands: the program's own backup file in the
+    // backups/ of its data folder, and the live database; in the current language.
+    static CopiaSeguridad ParaBackup();
+    static CopiaSeguridad ParaRestore();
+
     bool CrearBackup() const;
     bool CrearRestore() const;
 
+    // The same work and checks without a window and without questions (the command line): an
+    // existing backup is replaced; the file to restore is given (the dated safety copy goes
+    // to RutaOrigen, the folder of the backups, as in the dialogue). The message for the user comes back, with the file written (the backup, or the dated safety
+    // copy of the live database).
+    struct Resultado {
+        bool hecho = false;
+        QString mensaje;
+        QString fichero;
+    };
+    Resultado HacerBackup() const;
+    Resultado HacerRestore(const QString& archivo) const;
+
+    // Why a file offered for a restore is refused.
+    QString TextoRechazo(cSaveAsRestore::Examen examen) const;
+
 private:
     cSaveAsRestore almacen() const;
+    // Tells why a file is refused (nothing for a usable one); answers whether it is usable.
+    bool avisarRechazo(cSaveAsRestore::Examen examen) const;
     QString texto(int id) const;
     QString segunIdioma(const QString& es, const QString& eu) const;
+    QString textoBackupHecho() const;
+    QString textoRestoreFallido() const;
+    QString textoRestoreHecho() const;
 };

@@ -1,5 +1,6 @@
 #include "aplicacion/LineaDeOrdenes.h"
 
+#include "aplicacion/OrdenesCopia.h"
 #include "aplicacion/OrdenesImprimir.h"
 #include "aplicacion/OrdenesIntercambio.h"
 #include "aplicacion/OrdenesListar.h"
@@ -59,6 +60,16 @@ const std::vector<Opcion>& Opciones()
          {"Muestra la versión del programa.", "Programaren bertsioa erakusten du."},
          {},
          MostrarVersion},
+        {{QStringLiteral("copia-seguridad")},
+         {"Hace una copia de seguridad de la base de datos en FICHERO (en backups/VELDOMod_bak.mdb, si no).",
+          "Datu basearen segurtasun kopia egiten du FITXATEGIAn (backups/VELDOMod_bak.mdb-n, bestela)."},
+         {"[FICHERO]", "[FITXATEGIA]"},
+         OrdenesCopia::CopiaSeguridad},
+        {{QStringLiteral("restaurar")},
+         {"Restaura la base de datos desde la copia de seguridad FICHERO.",
+          "Datu basea FITXATEGIA segurtasun kopiatik leheneratzen du."},
+         {"FICHERO", "FITXATEGIA"},
+         OrdenesCopia::Restauracion},
         {{QStringLiteral("pdf")},
          {"Guarda en FICHERO el impreso de la declaración CODIGO, en PDF. Con varios códigos "
           "(12,15-40) o con --desde, --hasta o --dni (y entonces sin códigos), guarda en la "
@@ -244,7 +255,9 @@ std::vector<QCommandLineOption> Declarar(QCommandLineParser& linea)
     std::vector<QCommandLineOption> propias;
     for (const Opcion& o : Opciones()) {
         QCommandLineOption opcion(o.nombres);
-        if (o.valor.es)
+        // A value between brackets ("[FICHERO]") may be left out: the work reads it from the
+        // line's loose arguments, and the option itself takes none.
+        if (o.valor.es && o.valor.es[0] != '[')
             opcion.setValueName(QString::fromUtf8(o.valor.es));
         linea.addOption(opcion);
         propias.push_back(opcion);

@@ -350,33 +350,15 @@ void MDIVeldo::closeEvent(QCloseEvent* e)
 
 void MDIVeldo::copiaDeSeguridad()
 {
-    CopiaSeguridad copia;
-    copia.ArchivoOrigen = QStringLiteral("VELDOMOD.mdb");
-    copia.ArchivoDestino = QStringLiteral("VELDOMod_bak.mdb");
-    copia.RutaDestino = CarpetaDatos() + QStringLiteral("/backups/");
-    copia.RutaOrigen = mdbPath;
-    copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
-    copia.Idioma = OffsetIdioma;
+    CopiaSeguridad copia = CopiaSeguridad::ParaBackup();
     copia.Parent = this;
-    copia.BDLectura = mdblec;
-    copia.BDTabla = QStringLiteral("T10_GENERAL");
-    copia.BDCampo = QStringLiteral("T10_BACKUP_TVC");
     copia.CrearBackup();
 }
 
 void MDIVeldo::restaurarCopia()
 {
-    CopiaSeguridad copia;
-    copia.ArchivoOrigen = QStringLiteral("VELDOMod_bak.mdb");
-    copia.ArchivoDestino = QStringLiteral("VELDOMOD.mdb");
-    copia.RutaDestino = mdbPath;
-    copia.RutaOrigen = CarpetaDatos() + QStringLiteral("/backups/");
-    copia.Filtro = QStringLiteral("archivos mdb (*.mdb;*.mdb)|*.mdb;mdb");
-    copia.Idioma = OffsetIdioma;
+    CopiaSeguridad copia = CopiaSeguridad::ParaRestore();
     copia.Parent = this;
-    copia.BDLectura = mdblec;
-    copia.BDTabla = QStringLiteral("T10_GENERAL");
-    copia.BDCampo = QStringLiteral("T10_BACKUP_TVC");
     if (copia.CrearRestore()) {
         // The file may be of an older layout, and its language may differ.
         if (!Traspaso())

@@ -247,6 +247,9 @@ void prepararComun(const PeticionPdf& p)
     if (!QFile::exists(mdbmod) || !QFile::exists(mdblec))
         throw Rechazo{TextoSegunIdioma(QStringLiteral("No se encuentra la base de datos: ") + mdbmod,
                                        QStringLiteral("Ez da datu-basea aurkitu: ") + mdbmod)};
+    // A damaged store is refused as start-up refuses it, before anything is read from it.
+    if (const QString aviso = PrepararAlmacenes(); !aviso.isEmpty())
+        throw Rechazo{aviso};
     InicializarAplicacion();
     ImOf().FECHAPRE = fechaPresentacion(p.fecha);
     fijarCopias(p);

@@ -44,9 +44,8 @@ bool Preparar(QTextStream& errores)
     const int16_t idioma = OffsetIdioma;
     ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     try {
-        const auto traspaso = Almacen<cTraspaso>();
-        if (traspaso.Traspaso()) {
-            errores << TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta()) << Qt::endl;
+        if (const QString aviso = PrepararAlmacenes(); !aviso.isEmpty()) {
+            errores << aviso << Qt::endl;
             return false;
         }
         InicializarAplicacion();

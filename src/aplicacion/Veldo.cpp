@@ -3,11 +3,17 @@
 #include "aplicacion/Arranque.h"
 #include "aplicacion/LineaDeOrdenes.h"
 #include "paneles/dialogos/AvisoFallo.h"
+#include "plataforma/Fallo.h"
+#include "plataforma/General.h"
 #include "plataforma/Proceso.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFont>
 #include <QFontDatabase>
+#include <cstdio>
+#include <cstring>
+#include <optional>
 
 namespace {
 // Failures that escape an event handler reach the runtime failure notice, which ends the
@@ -22,12 +28,47 @@ public:
         return hecho;
     }
 };
+
+// Whether no window can be seen: Qt's platforms without a screen, or none asked for and no
+// display to open one on.
+bool sinPantalla(int argc, char** argv)
+{
+    QByteArray plataforma = qgetenv("QT_QPA_PLATFORM");
+    for (int i = 1; i + 1 < argc; ++i)
+        if (std::strcmp(argv[i], "-platform") == 0 || std::strcmp(argv[i], "--platform") == 0)
+            plataforma = argv[i + 1];
+    if (!plataforma.isEmpty())
+        return plataforma.startsWith("offscreen") || plataforma.startsWith("minimal");
+    return qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+// Where no window can be seen, stores the program cannot work on are told on the standard
+// error before any window is asked for, and the program ends with status 2. Answers nothing
+// when start-up may go on.
+std::optional<int> almacenesSinPantalla(int argc, char** argv)
+{
+    QCoreApplication nucleo(argc, argv);
+    ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
+    QString aviso;
+    try {
+        aviso = PrepararAlmacenes();
+    } catch (const cFallo& f) {
+        aviso = f.origen() + QLatin1Char('\n') + f.descripcion();
+    }
+    if (aviso.isEmpty())
+        return std::nullopt;
+    std::fprintf(stderr, "%s\n", qPrintable(aviso));
+    return 2;
+}
 }
 
 int EjecutarVeldo(int argc, char** argv)
 {
     if (const std::optional<int> estado = LineaDeOrdenes::Atender(argc, argv))
         return *estado;
+    if (sinPantalla(argc, argv))
+        if (const std::optional<int> estado = almacenesSinPantalla(argc, argv))
+            return *estado;
     cAplicacion app(argc, argv);
     app.setApplicationName(QStringLiteral("Veldoria"));
     app.setDesktopFileName(QStringLiteral("org.veldoria.Veldoria"));

@@ -12,6 +12,7 @@ QList<ProcesoSeam::Aviso> g_avisos;
 int g_finales = 0;
 int g_ultimoCodigo = 0;
 std::function<void(const QString&, const QString&)> g_avisoVisible;
+QList<std::function<void()>> g_alTerminarBien;
 
 void mostrarAviso(const QString& origen, const QString& descripcion)
 {
@@ -33,6 +34,9 @@ void Terminar(int codigo)
         g_ultimoCodigo = codigo;
         return;
     }
+    if (codigo == 0)
+        for (const auto& accion : std::as_const(g_alTerminarBien))
+            accion();
     std::fflush(nullptr);
     // Every write of the stores is a committed transaction, so nothing is lost by ending here.
     std::_Exit(codigo);
@@ -52,6 +56,11 @@ void AvisoFalloEjecucion(const std::exception& fallo)
     }
     mostrarAviso(QStringLiteral("Veldoria"), QString::fromLocal8Bit(fallo.what()));
     Terminar(1);
+}
+
+void AlTerminarBien(std::function<void()> accion)
+{
+    g_alTerminarBien.append(std::move(accion));
 }
 
 void EstablecerAvisoVisible(std::function<void(const QString&, const QString&)> aviso)

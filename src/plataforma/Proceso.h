@@ -20,6 +20,10 @@ void AvisoFalloEjecucion(const std::exception& fallo);
 // the notice goes to the standard error only (a run without windows).
 void EstablecerAvisoVisible(std::function<void(const QString& origen, const QString& descripcion)> aviso);
 
+// Registers work to do when the process ends cleanly (status 0), before it ends: a mark of
+// this run taken off, for instance. Not run while a test records.
+void AlTerminarBien(std::function<void()> accion);
+
 // Runs `accion`, turning any failure that escapes it into the runtime failure notice.
 void Protegido(const std::function<void()>& accion);
 }

@@ -2,7 +2,9 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
+#include "servicios/CopiaSaneada.h"
 #include "servicios/Esquema.h"
+#include "servicios/EstructuraAlmacen.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -130,16 +132,12 @@ bool esIdentificador(const QString& nombre)
     return patron.match(nombre).hasMatch();
 }
 
-QString entreComillas(const QString& nombre)
-{
-    return QLatin1Char('"') + QString(nombre).replace(QLatin1Char('"'), QStringLiteral("\"\""))
-        + QLatin1Char('"');
-}
-
+using EstructuraAlmacen::Citado;
 using Examen = cSaveAsRestore::Examen;
 
-// The file by itself: its mark and layout number, then every page (integrity) and the tables
-// and columns of the layout it claims. A file that cannot be read is not a usable backup.
+// The file by itself, read-only: its mark and layout number, then its shape (the program's
+// objects of that layout and nothing else) and every page (integrity). A file that cannot be
+// read is not a usable backup. Its rows are judged when they are carried over (CopiaSaneada).
 Examen examinar(const QString& ruta, qint32 marca)
 {
     try {
@@ -149,18 +147,21 @@ Examen examinar(const QString& ruta, qint32 marca)
         if (r.version > Esquema::VersionActual())
             return Examen::Posterior;
         Propia lectura(ruta, true);
+        if (EstructuraAlmacen::De(lectura.db(), QStringLiteral("main"), kOrigen)
+            != EstructuraAlmacen::DeReferencia(r.version, kOrigen))
+            return Examen::Ajena;
         QSqlQuery q = Ejecutar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen);
         if (!q.next() || q.value(0).toString() != QLatin1String("ok") || q.next())
             return Examen::Ajena;
-        q.finish();
-        return Esquema::TieneDisposicion(lectura.db(), r.version, kOrigen) ? Examen::Valida
-                                                                           : Examen::Ajena;
+        return Examen::Valida;
     } catch (const cFallo&) {
         return Examen::Ajena;
     }
 }
 
-// The live database as it is now, kept under `carpeta` with the date and time in its name.
+// The live database as it is now, kept under `carpeta` with the date and time in its name. The
+// caller holds the live file's write lock: the copy is read through a connection of its own,
+// which sees every save committed before the lock was taken and none can come after.
 QString guardarCopiaPrevia(const QString& viva, const QString& carpeta)
 {
     if (!QDir().mkpath(carpeta))
@@ -187,45 +188,50 @@ QStringList nombres(const QSqlDatabase& db, const QString& sql)
     return lista;
 }
 
-// Inside the caller's transaction: the live file's tables and views go, the copy's are made
-// again from their own statements, the rows are carried over, then the indexes, triggers and
-// the header numbers follow.
+// Inside the caller's transaction: the live file's objects go, the clean copy's tables are
+// made again from its statements (the program's own: CopiaSaneada wrote them), the rows are
+// carried over, then the indexes and the header numbers follow.
 void sustituirContenido(const QSqlDatabase& db)
 {
     const QString propias = QStringLiteral(" AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
     for (const QString& v : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
                                                        "WHERE type = 'view'") + propias))
-        Ejecutar(db, QStringLiteral("DROP VIEW main.") + entreComillas(v), {}, kOrigen);
+        Ejecutar(db, QStringLiteral("DROP VIEW main.") + Citado(v), {}, kOrigen);
     for (const QString& t : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
                                                        "WHERE type = 'table'") + propias))
-        Ejecutar(db, QStringLiteral("DROP TABLE main.") + entreComillas(t), {}, kOrigen);
+        Ejecutar(db, QStringLiteral("DROP TABLE main.") + Citado(t), {}, kOrigen);
 
-    const QStringList tablas = nombres(
-        db, QStringLiteral("SELECT name FROM copia.sqlite_master WHERE type = 'table'") + propias);
+    const QStringList tablas = EstructuraAlmacen::Tablas(db, QStringLiteral("copia"), kOrigen);
     for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
-                                                         "WHERE type = 'table'") + propias))
+                                                         "WHERE type = 'table'") + propias
+                                              + QStringLiteral(" ORDER BY rowid")))
         Ejecutar(db, sql, {}, kOrigen);
     for (const QString& t : tablas)
-        Ejecutar(db, QStringLiteral("INSERT INTO main.%1 SELECT * FROM copia.%1").arg(entreComillas(t)),
+        Ejecutar(db, QStringLiteral("INSERT INTO main.%1 SELECT * FROM copia.%1").arg(Citado(t)),
                  {}, kOrigen);
-    if (Escalar(db, QStringLiteral("SELECT COUNT(*) FROM copia.sqlite_master "
-                                   "WHERE name = 'sqlite_sequence'"), {}, kOrigen).toInt() > 0
-        && Escalar(db, QStringLiteral("SELECT COUNT(*) FROM main.sqlite_master "
-                                      "WHERE name = 'sqlite_sequence'"), {}, kOrigen).toInt() > 0) {
+    // The live file keeps its table of counters even when the copy (of the first layout, which
+    // has no AUTOINCREMENT key) has none: its rows go, the copy's come in when it has some.
+    const auto tieneContadores = [&db](const char* esquema) {
+        return Escalar(db, QStringLiteral("SELECT COUNT(*) FROM %1.sqlite_master "
+                                          "WHERE name = 'sqlite_sequence'").arg(QLatin1String(esquema)),
+                       {}, kOrigen).toInt() > 0;
+    };
+    if (tieneContadores("main")) {
         Ejecutar(db, QStringLiteral("DELETE FROM main.sqlite_sequence"), {}, kOrigen);
-        Ejecutar(db, QStringLiteral("INSERT INTO main.sqlite_sequence SELECT * FROM copia.sqlite_sequence"),
-                 {}, kOrigen);
+        if (tieneContadores("copia"))
+            Ejecutar(db, QStringLiteral("INSERT INTO main.sqlite_sequence SELECT * FROM copia.sqlite_sequence"),
+                     {}, kOrigen);
     }
     for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
-                                                         "WHERE type IN ('index', 'trigger', 'view') "
+                                                         "WHERE type = 'index' "
                                                          "AND sql IS NOT NULL") + propias
-                                              + QStringLiteral(" ORDER BY type = 'view'")))
+                                              + QStringLiteral(" ORDER BY rowid")))
         Ejecutar(db, sql, {}, kOrigen);
-    // PRAGMA takes no bound parameters; both values are integers read from the copy's header.
+    // PRAGMA takes no bound parameters; both values are integers the clean copy carries.
     const int version = Escalar(db, QStringLiteral("PRAGMA copia.user_version"), {}, kOrigen).toInt();
-    const qint64 marca = Escalar(db, QStringLiteral("PRAGMA copia.application_id"), {}, kOrigen).toLongLong();
     Ejecutar(db, QStringLiteral("PRAGMA main.user_version = %1").arg(version), {}, kOrigen);
-    Ejecutar(db, QStringLiteral("PRAGMA main.application_id = %1").arg(marca), {}, kOrigen);
+    Ejecutar(db, QStringLiteral("PRAGMA main.application_id = %1").arg(Esquema::MarcaAplicacion),
+             {}, kOrigen);
 }
 
 // A backup of an older layout is brought to the current one in its checked copy, before that
@@ -243,25 +249,36 @@ void alLayoutActual(const QString& ruta)
     transaccion.confirmar();
 }
 
-// The checked copy replaces the live content in one transaction of the live file.
-void restaurarEnVivo(const QString& viva, const QString& copia)
+// Under one write lock of the live file: the dated safety copy of what it holds, then its
+// content replaced by the clean copy's. A second running copy of the program that saves
+// meanwhile waits for the lock: what it saved before is in the safety copy, what it saves
+// after is in the restored data. Answers the safety copy's name ("" when there was no live
+// file); a failure leaves the live data as they were and no safety copy.
+QString restaurarEnVivo(const QString& viva, const QString& copia, const QString& carpetaCopias,
+                        bool conPrevia)
 {
     Propia conexion(viva, false);
     const QSqlDatabase db = conexion.db();
-    // Foreign keys are checked by the copy's integrity; the switch is ignored inside a
-    // transaction, so it goes off before.
+    // The switch is ignored inside a transaction, so it goes off before; the clean copy's
+    // references have been checked.
     Ejecutar(db, QStringLiteral("PRAGMA foreign_keys = OFF"), {}, kOrigen);
     Ejecutar(db, QStringLiteral("ATTACH DATABASE ? AS copia"), {copia}, kOrigen);
+    QString previa;
     try {
         Transaccion transaccion(db, kOrigen);
+        if (conPrevia)
+            previa = guardarCopiaPrevia(viva, carpetaCopias);
         sustituirContenido(db);
         transaccion.confirmar();
     } catch (const cFallo&) {
+        if (!previa.isEmpty())
+            QFile::remove(previa);
         QSqlQuery q(db);
         q.exec(QStringLiteral("DETACH DATABASE copia"));
         throw;
     }
     Ejecutar(db, QStringLiteral("DETACH DATABASE copia"), {}, kOrigen);
+    return previa;
 }
 }  // namespace
 
@@ -328,10 +345,16 @@ cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) c
 {
     const QString destino = Destino();
     Restauracion resultado;
-    // The chosen file by itself first: its copy could be whole where the file is not.
-    if (Examinar(archivo) != Examen::Valida)
-        return resultado;
     try {
+        const Esquema::Reconocimiento r = Esquema::Reconocer(archivo, kOrigen, marca());
+        if (r.clase != Esquema::Clase::Propia)
+            return resultado;
+        if (r.version > Esquema::VersionActual()) {
+            resultado.examen = Examen::Posterior;
+            return resultado;
+        }
+        // From here on a refusal is the work's, not the file's, unless the rows refuse it.
+        resultado.examen = Examen::Valida;
         if (!QDir().mkpath(QFileInfo(destino).absolutePath()))
             throw cFallo(76, kOrigen, QStringLiteral("No se puede crear la carpeta de ") + destino);
         LimpiarTemporales(QFileInfo(destino).absolutePath());
@@ -339,18 +362,16 @@ cSaveAsRestore::Restauracion cSaveAsRestore::Restaurar(const QString& archivo) c
         const QFileInfo viva(destino);
         if (viva.exists() && !viva.isFile())
             return resultado;
-        // The very bytes that are checked are the ones that go into the live file.
+        // The file's rows in the program's own tables, checked: these very bytes go into the
+        // live file. The long work is done here, before the live file is locked.
         Temporal temporal(destino);
-        {
-            Propia lectura(archivo, true);
-            copiar(lectura.db(), temporal.ruta());
-        }
-        if (examinar(temporal.ruta(), marca()) != Examen::Valida)
+        if (!CopiaSaneada::Construir(archivo, temporal.ruta(), r.version, kOrigen)) {
+            resultado.examen = Examen::Ajena;
             return resultado;
+        }
+        // An older layout is brought to the current one in the clean copy, before the lock.
         alLayoutActual(temporal.ruta());
-        if (viva.exists())
-            resultado.copiaPrevia = guardarCopiaPrevia(destino, RutaOrigen);
-        restaurarEnVivo(destino, temporal.ruta());
+        resultado.copiaPrevia = restaurarEnVivo(destino, temporal.ruta(), RutaOrigen, viva.exists());
         resultado.hecha = true;
     } catch (const cFallo&) {
         resultado.hecha = false;

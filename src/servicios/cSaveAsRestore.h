@@ -7,18 +7,22 @@
 // to a temporary file beside the destination, which is then renamed over the former backup.
 // A failure leaves the database and the former backup as they were.
 //
-// Examinar judges a file offered for a restore by itself: a database of this program, of a
-// layout it can migrate, whole (PRAGMA integrity_check), holding exactly the tables and
-// columns of the layout its header claims.
+// Examinar judges a file offered for a restore by itself, read-only: a database of this
+// program, of a layout it can migrate, whole (PRAGMA integrity_check), made of exactly the
+// objects of the layout its header claims (EstructuraAlmacen: no trigger, view, extra table or
+// index, the same keys and column types).
 //
 // Restaurar replaces the content of the live database (RutaDestino+ArchivoDestino) with that
-// of a file: it copies the file beside the live database, checks the copy as Examinar does,
-// keeps the live database as a dated safety copy in RutaOrigen (the folder of the backups),
-// and then, in one write transaction of SQLite on the live file, drops its tables and builds
-// them again from the attached copy. The live file itself is never removed nor renamed, so a
-// second running copy of the program, with the file open, sees the restored data at once and
-// goes on writing into it. Any failure rolls the transaction back and leaves the live data as
-// they were.
+// of a file. Nothing the file defines is run or kept: its rows are carried into the program's
+// own tables in a clean copy beside the live database, and checked there against the
+// program's own constraints and references (CopiaSaneada). Then, under one write lock of the
+// live file (one SQLite transaction), the live database is kept as a dated safety copy in
+// RutaOrigen (the folder of the backups) and its content is replaced by the clean copy's. A
+// second running copy of the program that saves meanwhile waits for the lock, so each of its
+// saves is either in the safety copy or in the restored data. The live file itself is never
+// removed nor renamed: that second copy, with the file open, sees the restored data at once
+// and goes on writing into it. A refused file or any failure leaves the live data as they
+// were, byte for byte.
 //
 // Temporary copies are hidden files ".<name>.<12 hex>.tmp" beside their destination, each
 // held by a lock file while its maker runs; LimpiarTemporales removes those whose maker is
@@ -43,6 +47,9 @@ public:
     struct Restauracion {
         bool hecha = false;
         QString copiaPrevia;  // the dated safety copy of the live database, when one was made
+        // Why it was not done: Ajena or Posterior when the file was refused, Valida when the
+        // file was good and the work failed.
+        Examen examen = Examen::Ajena;
     };
 
     QString Origen() const;   // RutaOrigen + ArchivoOrigen

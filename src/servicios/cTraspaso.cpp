@@ -2,6 +2,7 @@
 
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
+#include "servicios/RevisionAlmacen.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -62,6 +63,9 @@ cTraspaso::Impedimento cTraspaso::Comprobar() const
     const QFileInfo info(ruta);
     if (info.isDir())
         return Impedimento::Carpeta;
+    // SQLite would create the file the link points to, wherever that is, or fail half-way.
+    if (info.isSymLink() && !info.exists())
+        return Impedimento::EnlaceRoto;
     // The folder holds the file's journal too: a file that can be written in a folder that
     // cannot is not enough.
     // A folder that cannot be made is left to the migration, which fails with its cause.
@@ -87,6 +91,10 @@ cTraspaso::Impedimento cTraspaso::Comprobar() const
     }
     if (info.exists() && !info.isWritable())
         return Impedimento::SoloLectura;
+    // A damaged page is found now, before anything is saved into the file around it.
+    if (r.clase == Esquema::Clase::Propia
+        && !RevisionAlmacen::Sana(ruta, RevisionAlmacen::FinSucio(ruta)))
+        return Impedimento::Danada;
     return Impedimento::Ninguno;
 }
 

@@ -12,10 +12,12 @@ public:
     QString mdbPath;  // the folder of the databases, created when missing
 
     // Why the program cannot work on the file, judged without writing to it (its folder is
-    // made when missing).
+    // made when missing). A file of this program has its pages checked (RevisionAlmacen): the
+    // quick check, or the full one after a copy of the program ended without closing it.
     enum class Impedimento {
         Ninguno,
-        Danada,              // not an SQLite database, or one whose header or schema is damaged
+        Danada,              // not an SQLite database, or one with a damaged header, schema or page
+        EnlaceRoto,          // a symbolic link to a file that does not exist stands in its place
         Ajena,               // an SQLite database of another program
         Posterior,           // a database of this program of a newer layout
         Carpeta,             // a folder stands where the file should be

@@ -6,6 +6,7 @@
 #include "plataforma/General.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
+#include "comun/BaseCruda.h"
 
 #include "aplicacion/Arranque.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -17,6 +18,7 @@
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
 #include "servicios/cGeneralSvr.h"
+#include "servicios/cTraspaso.h"
 
 #include <QApplication>
 #include <QDir>
@@ -71,6 +73,34 @@ class TestArranque : public QObject {
     std::unique_ptr<CapturaModal> m_captura;
     // Every box of a test has its answer queued; the closing after the test is no part of it.
     std::optional<MensajesEstrictos> m_estrictos;
+
+    // A store of the program with rows enough for several pages, closed, and one leaf page of
+    // `objeto` (a table or an index) written over, as a failing disk or an interrupted copy
+    // leaves it; the header and the schema stay whole, so the file still opens.
+    static void danarPagina(const QString& ruta, const QString& objeto)
+    {
+        cTraspaso t;
+        t.mdbmod = ruta;
+        t.mdbPath = QFileInfo(ruta).absolutePath() + QLatin1Char('/');
+        QCOMPARE(t.Traspaso(), false);
+        Conexion::Cerrar(ruta);
+        InsertarContribuyentes(ruta, 3000);
+        qint64 pagina = 0;
+        qint64 tamanno = 0;
+        {
+            ConexionCruda c(ruta);
+            c.ejecutar(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+            tamanno = c.escalar(QStringLiteral("PRAGMA page_size")).toLongLong();
+            pagina = c.escalar(QStringLiteral("SELECT MAX(pageno) FROM dbstat WHERE name = '%1' "
+                                              "AND pagetype = 'leaf'").arg(objeto))
+                         .toLongLong();
+        }
+        QVERIFY(pagina > 1 && tamanno > 0);
+        QFile f(ruta);
+        QVERIFY(f.open(QIODevice::ReadWrite));
+        QVERIFY(f.seek((pagina - 1) * tamanno + 8));
+        f.write(QByteArray(int(tamanno) - 8, '\x5A'));
+    }
 
 private slots:
     void init()
@@ -210,6 +240,13 @@ private slots:
         QTest::newRow("otro programa") << 3 << "no es una base de datos de este programa"
                                        << "ez da programa honen datu base bat" << "Cambie el nombre de ese archivo";
         QTest::newRow("carpeta") << 4 << "hay una carpeta" << "karpeta bat dago" << "Cambie el nombre de esa carpeta";
+        QTest::newRow("pagina de indice danada") << 5 << "está dañada y el programa no puede abrirla"
+                                                 << "hondatuta dago" << "Cambie el nombre de ese archivo";
+        QTest::newRow("pagina de tabla danada") << 6 << "está dañada y el programa no puede abrirla"
+                                                << "hondatuta dago" << "Cambie el nombre de ese archivo";
+        QTest::newRow("enlace roto") << 7 << "hay un enlace a un archivo que no existe"
+                                     << "existitzen ez den fitxategi baterako esteka bat dago"
+                                     << "Devuelva a su sitio el archivo al que apunta el enlace";
     }
     void baseInservibleAvisaYTermina()
     {
@@ -255,8 +292,16 @@ private slots:
             break;
         }
         case 4: QVERIFY(QDir().mkpath(ruta)); break;
+        case 5: danarPagina(ruta, QStringLiteral("CONTRIBUYENTES_NOMBREC")); break;
+        case 6: danarPagina(ruta, QStringLiteral("CONTRIBUYENTES")); break;
+        case 7: QVERIFY(QFile::link(carpeta.ruta() + "/no-existe.mdb", ruta)); break;
         }
+        const QStringList antes = Contenido(carpeta.ruta());
+        const QByteArray bytes = Bytes(ruta);
         QVERIFY(!arrancar());
+        // Nothing written: no file made, none changed.
+        QCOMPARE(Contenido(carpeta.ruta()), antes);
+        QCOMPARE(Bytes(ruta), bytes);
         QString aviso;
         for (const auto& m : MensajeSeam::registro())
             if (m.texto.contains(QDir::toNativeSeparators(ruta)) || m.texto.contains(QDir::toNativeSeparators(carpeta.tablas())))
@@ -267,7 +312,7 @@ private slots:
         QVERIFY2(aviso.contains(remedio), qPrintable(aviso));
         QVERIFY(aviso.contains("El programa se cerrará.") && aviso.contains("Programa itxi egingo da."));
         QCOMPARE(ProcesoSeam::finales(), 1);
-        QVERIFY(ProcesoSeam::ultimoCodigo() != 0);
+        QCOMPARE(ProcesoSeam::ultimoCodigo(), 2);
         QVERIFY(ProcesoSeam::avisos().isEmpty());
         QVERIFY(!VentanaMDI());
         if (caso == 4)
@@ -276,16 +321,59 @@ private slots:
 
     void unFalloDelTraspasoLlevaSuOrigen()
     {
-        // A program folder whose "Tablas" is a plain file: the database cannot be created.
-        QTemporaryDir otra;
-        QFile tablas(otra.path() + "/Tablas");
-        QVERIFY(tablas.open(QIODevice::WriteOnly));
-        tablas.close();
-        EstablecerCarpetaPrograma(otra.path());
-        QVERIFY(!arrancar());
+        // A later layout whose step fails with the program's own failure: the notice carries
+        // the source "MDIVeldo.Traspaso" + CRLF + the component's.
+        CarpetaDePrueba carpeta;
+        EsquemaSeam::agregarPaso({Esquema::VersionActual() + 1, [](const QSqlDatabase&, const QString& origen) {
+                                      throw cFallo(75, origen, QStringLiteral("paso roto"));
+                                  }});
+        const bool sigue = arrancar();
+        EsquemaSeam::limpiar();
+        QApplication::restoreOverrideCursor();
+        QVERIFY(!sigue);
         QCOMPARE(ProcesoSeam::avisos().size(), 1);
         QVERIFY(ProcesoSeam::avisos()[0].origen.startsWith("MDIVeldo.Traspaso\r\n"));
         QCOMPARE(ProcesoSeam::finales(), 1);
+        QVERIFY(!VentanaMDI());
+    }
+
+    // The reference database missing, or not a database: a message that names it, in both
+    // languages, status 2, no window, no failure notice, and nothing written (the read/write
+    // database is not made).
+    void sinBaseDeReferenciaAvisaYTermina_data()
+    {
+        QTest::addColumn<int>("caso");
+        QTest::newRow("falta") << 0;
+        QTest::newRow("no es una base de datos") << 1;
+        QTest::newRow("tabla de menos") << 2;
+    }
+    void sinBaseDeReferenciaAvisaYTermina()
+    {
+        QFETCH(int, caso);
+        MensajeSeam::setNextAnswer(vb::OK);  // the notice of the missing reference
+        CarpetaDePrueba carpeta;
+        QVERIFY(QFile::remove(mdblec));
+        if (caso == 1) {
+            QFile f(mdblec);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write("VELDOLEC\r\nno es una base de datos\r\n");
+        } else if (caso == 2) {
+            ConexionCruda c(mdblec);
+            c.ejecutar(QStringLiteral("CREATE TABLE OTRA (A)"));
+        }
+        const QStringList antes = Contenido(carpeta.ruta());
+        QVERIFY(!arrancar());
+        QCOMPARE(Contenido(carpeta.ruta()), antes);
+        QString aviso;
+        for (const auto& m : MensajeSeam::registro())
+            if (m.texto.contains(QDir::toNativeSeparators(mdblec)))
+                aviso = m.texto;
+        QVERIFY2(aviso.contains(QDir::toNativeSeparators(mdblec)), qPrintable(aviso));
+        QVERIFY2(aviso.contains("No se puede leer la base de datos de referencia"), qPrintable(aviso));
+        QVERIFY2(aviso.contains("erreferentziako datu basea irakurri"), qPrintable(aviso));
+        QCOMPARE(ProcesoSeam::finales(), 1);
+        QCOMPARE(ProcesoSeam::ultimoCodigo(), 2);
+        QVERIFY(ProcesoSeam::avisos().isEmpty());
         QVERIFY(!VentanaMDI());
     }
 

@@ -135,7 +135,7 @@ private slots:
     {
         general().CambiarIdioma(QStringLiteral("E"));
         general().GuardarActOnline(1);
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 5);
+        InsertarContribuyentes(mdbmod, 5);
         QVERIFY(QFileInfo(mdbmod + QStringLiteral("-wal")).size() > 0);
         ConexionCruda lector(mdbmod, true);
         lector.ejecutar(QStringLiteral("BEGIN"));
@@ -270,11 +270,11 @@ private slots:
     void restaurarUnaCopiaBuena()
     {
         general().CambiarIdioma(QStringLiteral("E"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 2);
+        InsertarContribuyentes(mdbmod, 2);
         QVERIFY(paraCopia().CrearBackup());
         const QString enLaCopia = Volcado(copia());
         general().CambiarIdioma(QStringLiteral("C"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 4);
+        InsertarContribuyentes(mdbmod, 4);
         QCOMPARE(contribuyentes(), 6);
 
         MensajeSeam::limpiar();
@@ -303,7 +303,7 @@ private slots:
     {
         QVERIFY(paraCopia().CrearBackup());
         general().CambiarIdioma(QStringLiteral("E"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 3);
+        InsertarContribuyentes(mdbmod, 3);
         const QString antes = Volcado(mdbmod);
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::No);
@@ -314,6 +314,34 @@ private slots:
         QCOMPARE(contribuyentes(), 3);
         QCOMPARE(restos(m_carpeta->tablas(), {QStringLiteral("VELDOMOD.mdb"), QStringLiteral("VELDOLEC.mdb")}),
                  QStringList());
+    }
+
+    // A backup whose shape is the program's but whose rows break its rules is found out only
+    // while they are carried over, after the question: it is refused then with the message
+    // for a file that is not a backup, and the live database is left byte for byte.
+    void restaurarUnaCopiaConFilasFueraDeLasReglas()
+    {
+        InsertarContribuyentes(mdbmod, 2);
+        QVERIFY(paraCopia().CrearBackup());
+        {
+            ConexionCruda c(copia());
+            c.ejecutar(QStringLiteral("PRAGMA ignore_check_constraints = ON"));
+            c.ejecutar(QStringLiteral("UPDATE CONTRIBUYENTES SET NUMEROC = -1"));
+        }
+        InsertarContribuyentes(mdbmod, 3);
+        Conexion::Cerrar(mdbmod);
+        const QByteArray antes = Bytes(mdbmod);
+        MensajeSeam::limpiar();
+        MensajeSeam::setNextAnswer(vb::Yes);
+        MensajeSeam::setNextAnswer(vb::OK);
+        QCOMPARE(paraRestaurar().CrearRestore(), false);
+        QCOMPARE(MensajeSeam::registro().size(), 2);
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(341));
+        QVERIFY2(MensajeSeam::registro()[1].texto.contains(
+                     QStringLiteral("no es una copia de seguridad de la base de datos de este programa")),
+                 qPrintable(MensajeSeam::registro()[1].texto));
+        QCOMPARE(Bytes(mdbmod), antes);
+        QCOMPARE(contribuyentes(), 5);
     }
 
     // A file that is not a backup of this program is refused before any question, and the
@@ -339,7 +367,7 @@ private slots:
         case 3: escribir(copia(), QByteArray("SQLite format 3", 16) + QByteArray(8192, '\x5A')); break;
         case 4: escribir(copia(), QByteArray()); break;
         case 5: {
-            InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 200);
+            InsertarContribuyentes(mdbmod, 200);
             QVERIFY(paraCopia().CrearBackup());
             MensajeSeam::limpiar();
             QByteArray danada = Bytes(copia());

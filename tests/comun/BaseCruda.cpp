@@ -189,3 +189,22 @@ void InsertarFilas(const QString& ruta, const QString& tabla, int n)
     }
     c.ejecutar(QStringLiteral("COMMIT"));
 }
+
+void InsertarContribuyentes(const QString& ruta, int n)
+{
+    ConexionCruda c(ruta);
+    c.ejecutar(QStringLiteral("BEGIN IMMEDIATE"));
+    const qint64 base =
+        c.escalar(QStringLiteral("SELECT COALESCE(MAX(CSCO), 0) FROM CONTRIBUYENTES")).toLongLong();
+    QSqlQuery q(c.db());
+    q.prepare(QStringLiteral("INSERT INTO CONTRIBUYENTES (TIPODNI, DNIC, NOMBREC, TIPODOMI, "
+                             "CODPROVC) VALUES ('O', ?, ?, 'N', '77')"));
+    for (qint64 i = base + 1; i <= base + n; ++i) {
+        q.addBindValue(QStringLiteral("R%1").arg(i, 8, 10, QLatin1Char('0')));
+        q.addBindValue(QStringLiteral("CONTRIBUYENTE %1").arg(i));
+        if (!q.exec())
+            qFatal("InsertarContribuyentes: %s", qPrintable(q.lastError().text()));
+    }
+    q = QSqlQuery();
+    c.ejecutar(QStringLiteral("COMMIT"));
+}

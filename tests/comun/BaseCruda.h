@@ -43,3 +43,6 @@ void CrearLayoutPosterior(const QString& ruta, int version);
 // without a default gets a value of its type, distinct per row. Foreign keys and checks are
 // off on this connection, so the rows stand only for counting.
 void InsertarFilas(const QString& ruta, const QString& tabla, int n);
+// Adds `n` contributors that keep every rule of the program's own table (a restore checks
+// them), with numbers that follow the last row's code; in one transaction.
+void InsertarContribuyentes(const QString& ruta, int n);

@@ -3,10 +3,19 @@
 // backups that must be refused for what they are by themselves (damaged, another layout); the
 // dated safety copy kept before every restore; the temporary copies a killed program leaves.
 //
+// A second copy saving in a loop on a store of 100 000 rows while this one restores it: each
+// save it was told was made is in the restored store or in the safety copy. Backups built to
+// change the program (a trigger, a view, an extra index, another key or column type) or
+// holding rows that break its rules are refused, and the live store stays as it was, byte for
+// byte.
+//
 // The other copies of the program are this very executable started again with "--ayudante".
+#include "comun/AlmacenPrueba.h"
 #include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
+#include "comun/PartesPrueba.h"
 
+#include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
@@ -23,6 +32,7 @@
 #include <QSqlQuery>
 #include <QRegularExpression>
 #include <QTest>
+#include <QSqlError>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -89,6 +99,30 @@ int ayudanteMuerto(const QString& temporal)
     std::_Exit(0);
 }
 
+// Saves contributors in a loop, through the store of contributors, until the file "parar"
+// appears in the program folder `carpeta`; writes the number of each save that was made, once
+// it was made.
+int ayudanteGuardador(const QString& carpeta)
+{
+    EstablecerCarpetaPrograma(carpeta);
+    mdbPath = carpeta + QStringLiteral("/Tablas/");
+    mdbmod = mdbPath + QStringLiteral("VELDOMOD.mdb");
+    mdblec = mdbPath + QStringLiteral("VELDOLEC.mdb");
+    const QString parar = carpeta + QStringLiteral("/parar");
+    for (quint32 i = 0; !QFile::exists(parar); ++i) {
+        const QString dni = Dni(60000000 + i);
+        try {
+            if (NuevoContribuyente(dni, QStringLiteral("GUARDADO %1").arg(i)) > 0)
+                std::printf("%s\n", qPrintable(dni));
+        } catch (const cFallo&) {
+            // Not made (the store stayed locked too long): not told.
+        }
+        std::fflush(stdout);
+    }
+    decir("fin");
+    return 0;
+}
+
 int ayudante(const QStringList& argumentos)
 {
     const QString modo = argumentos.value(2);
@@ -99,6 +133,8 @@ int ayudante(const QStringList& argumentos)
         return ayudanteLector(ruta);
     if (modo == QLatin1String("muerto"))
         return ayudanteMuerto(ruta);
+    if (modo == QLatin1String("guardador"))
+        return ayudanteGuardador(ruta);
     return 3;
 }
 
@@ -128,6 +164,7 @@ public:
         return QString::fromLocal8Bit(m_proceso.readLine()).trimmed();
     }
     void escribir(const QByteArray& datos) { m_proceso.write(datos); }
+
     bool terminar() { return m_proceso.waitForFinished(30000) && m_proceso.exitCode() == 0; }
     QString todo()
     {
@@ -177,6 +214,39 @@ cSaveAsRestore paraRestaurar()
 
 QString copia() { return carpetaCopias() + QStringLiteral("VELDOMod_bak.mdb"); }
 
+bool tieneDni(const QString& ruta, const QString& dni)
+{
+    ConexionCruda c(ruta, true);
+    QSqlQuery q(c.db());
+    q.prepare(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES WHERE DNIC = ?"));
+    q.addBindValue(dni);
+    return q.exec() && q.next() && q.value(0).toInt() == 1;
+}
+
+// A backup with two contributors, a presenter and a return naming them all, as the program
+// writes it.
+void copiaConDatos()
+{
+    const int32_t uno = NuevoContribuyente(Dni(11111111), QStringLiteral("PRIMERO"));
+    const int32_t dos = NuevoContribuyente(Dni(22222222), QStringLiteral("SEGUNDO"));
+    const int32_t presentador = NuevoPresentador(Dni(33333333), QStringLiteral("GESTORIA"));
+    NuevaDeclaracion(uno, dos, presentador);
+    Conexion::Cerrar(mdbmod);
+    QVERIFY(paraCopia().Copiar());
+}
+
+// Runs statements on a backup as another program would: references, checks and the schema's
+// own protection off.
+void cambiarCopia(const QStringList& sentencias)
+{
+    ConexionCruda c(copia());
+    c.ejecutar(QStringLiteral("PRAGMA foreign_keys = OFF"));
+    c.ejecutar(QStringLiteral("PRAGMA ignore_check_constraints = ON"));
+    c.ejecutar(QStringLiteral("PRAGMA writable_schema = ON"));
+    for (const QString& sql : sentencias)
+        c.ejecutar(sql);
+}
+
 QStringList ocultos(const QString& carpeta)
 {
     return QDir(carpeta).entryList({QStringLiteral(".*")}, QDir::Files | QDir::Hidden);
@@ -204,9 +274,9 @@ private slots:
     // save lands in the restored store, where a third copy reads it back.
     void otraCopiaAbiertaGuardaEnLaBaseRestaurada()
     {
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 2);
+        InsertarContribuyentes(mdbmod, 2);
         QVERIFY(paraCopia().Copiar());
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 5);
+        InsertarContribuyentes(mdbmod, 5);
         QCOMPARE(contribuyentes(mdbmod), 7);
 
         Ayudante ocioso(QStringLiteral("ocioso"), mdbmod);
@@ -233,7 +303,7 @@ private slots:
     // would be whole (SQLite rebuilds the indexes while copying).
     void copiaConIndiceDanadoSeRechaza()
     {
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 20);
+        InsertarContribuyentes(mdbmod, 20);
         QVERIFY(paraCopia().Copiar());
         {
             ConexionCruda c(copia());
@@ -278,13 +348,173 @@ private slots:
         QCOMPARE(Volcado(mdbmod), antes);
     }
 
+    // A second copy of the program saves contributors in a loop while this one restores a
+    // store of 100 000 rows: every save it was told was made is in the restored store or in
+    // the dated safety copy, none lost in between. Smaller stores too, where the safety copy is
+    // quick and the second copy is not held up by it.
+    void ningunGuardadoSePierdeAlRestaurar_data()
+    {
+        QTest::addColumn<int>("filas");
+        QTest::newRow("100 000 filas") << 100000;
+        QTest::newRow("5 000 filas") << 5000;
+        QTest::newRow("200 filas") << 200;
+    }
+    void ningunGuardadoSePierdeAlRestaurar()
+    {
+        QFETCH(int, filas);
+        InsertarContribuyentes(mdbmod, filas);
+        QVERIFY(paraCopia().Copiar());
+        Conexion::Cerrar(mdbmod);
+
+        Ayudante guardador(QStringLiteral("guardador"), m_carpeta->ruta());
+        QStringList hechos;
+        while (hechos.size() < 20) {
+            const QString l = guardador.linea();
+            QVERIFY2(!l.isEmpty(), "el guardador no guarda");
+            hechos << l;
+        }
+        const cSaveAsRestore::Restauracion r = paraRestaurar().Restaurar(copia());
+        QVERIFY(r.hecha);
+        QVERIFY(QFile::exists(r.copiaPrevia));
+        // Saves after the restore too.
+        QTRY_VERIFY_WITH_TIMEOUT(contribuyentes(mdbmod) >= filas + 20, 60000);
+        QFile(m_carpeta->ruta() + QStringLiteral("/parar")).open(QIODevice::WriteOnly);
+        for (QString l = guardador.linea(); l != QLatin1String("fin"); l = guardador.linea()) {
+            QVERIFY2(!l.isEmpty(), "el guardador no termina");
+            hechos << l;
+        }
+        QVERIFY(guardador.terminar());
+
+        QStringList perdidos;
+        int enRestaurada = 0;
+        int enPrevia = 0;
+        for (const QString& dni : std::as_const(hechos)) {
+            if (tieneDni(mdbmod, dni))
+                ++enRestaurada;
+            else if (tieneDni(r.copiaPrevia, dni))
+                ++enPrevia;
+            else
+                perdidos << dni;
+        }
+        QVERIFY2(perdidos.isEmpty(),
+                 qPrintable(QStringLiteral("%1 de %2 guardados perdidos (%3 en la restaurada, %4 "
+                                           "en la copia previa)")
+                                .arg(perdidos.size()).arg(hechos.size()).arg(enRestaurada)
+                                .arg(enPrevia)));
+        QVERIFY(enPrevia >= 20);
+        QVERIFY(enRestaurada >= 20);
+        QCOMPARE(contribuyentes(mdbmod), filas + enRestaurada);
+    }
+
+    // Backups built to change the program, or holding rows that break its rules: each is
+    // refused and the live store stays as it was, byte for byte.
+    void copiaHostilSeRechaza_data()
+    {
+        QTest::addColumn<QStringList>("cambio");
+        auto caso = [](const char* nombre, const QStringList& sql) { QTest::newRow(nombre) << sql; };
+        caso("disparador", {"CREATE TRIGGER BORRAR AFTER INSERT ON DECLARACIONES "
+                            "BEGIN DELETE FROM DECLARACIONES; END"});
+        caso("vista", {"CREATE VIEW VISTA AS SELECT * FROM CONTRIBUYENTES"});
+        caso("indice de mas", {"CREATE UNIQUE INDEX OTRO ON CONTRIBUYENTES (NOMBREC)"});
+        caso("tabla sin clave", {"UPDATE sqlite_master SET sql = replace(sql, "
+                                 "'CSCO INTEGER PRIMARY KEY', 'CSCO INTEGER') "
+                                 "WHERE name = 'CONTRIBUYENTES'"});
+        caso("tipo de columna", {"UPDATE sqlite_master SET sql = replace(sql, "
+                                 "'NUMEROP INTEGER', 'NUMEROP TEXT') WHERE name = 'PRESENTADORES'"});
+        caso("dni repetido", {"DROP INDEX CONTRIBUYENTES_DNIC",
+                              "UPDATE CONTRIBUYENTES SET DNIC = (SELECT MIN(DNIC) FROM CONTRIBUYENTES)",
+                              "CREATE INDEX CONTRIBUYENTES_DNIC ON CONTRIBUYENTES (DNIC)",
+                              "UPDATE sqlite_master SET sql = replace(sql, 'CREATE INDEX', "
+                              "'CREATE UNIQUE INDEX') WHERE name = 'CONTRIBUYENTES_DNIC'"});
+        caso("contribuyente inexistente", {"UPDATE DECLARACIONES SET CSSU = 999"});
+        caso("presentador inexistente", {"DELETE FROM PRESENTADORES"});
+        // Every CHECK of the program's tables, broken once.
+        const QList<std::pair<const char*, const char*>> roturas = {
+            {"CONTRIBUYENTES", "TIPODNI = 'Q'"},
+            {"CONTRIBUYENTES", "DNIC = ''"},
+            {"CONTRIBUYENTES", "DNIC = '1234567890'"},
+            {"CONTRIBUYENTES", "NOMBREC = ''"},
+            {"CONTRIBUYENTES", "NOMBREC = printf('%.300c', 'A')"},
+            {"CONTRIBUYENTES", "VIAC = 'CLL'"},
+            {"CONTRIBUYENTES", "DOMICILIOC = printf('%.21c', 'A')"},
+            {"CONTRIBUYENTES", "NUMEROC = -1"},
+            {"CONTRIBUYENTES", "NUMEROC = 100000"},
+            {"CONTRIBUYENTES", "LETRAC = 'ABC'"},
+            {"CONTRIBUYENTES", "ESCALERAC = 'ABC'"},
+            {"CONTRIBUYENTES", "PISOC = 'ABC'"},
+            {"CONTRIBUYENTES", "MANOC = 'ABCD'"},
+            {"CONTRIBUYENTES", "TIPODOMI = 'X'"},
+            {"CONTRIBUYENTES", "PAIS = printf('%.21c', 'A')"},
+            {"CONTRIBUYENTES", "CODPROVC = '777'"},
+            {"CONTRIBUYENTES", "NOMPROVC = printf('%.21c', 'A')"},
+            {"CONTRIBUYENTES", "CODPOSC = '770011'"},
+            {"CONTRIBUYENTES", "CODMUNC = '0011'"},
+            {"CONTRIBUYENTES", "NOMMUNC = printf('%.26c', 'A')"},
+            {"PRESENTADORES", "DNIP = ''"},
+            {"PRESENTADORES", "DNIP = '1234567890'"},
+            {"PRESENTADORES", "NOMBREP = ''"},
+            {"PRESENTADORES", "NOMBREP = printf('%.41c', 'A')"},
+            {"PRESENTADORES", "VIAP = 'CLL'"},
+            {"PRESENTADORES", "DOMICILIOP = printf('%.21c', 'A')"},
+            {"PRESENTADORES", "NUMEROP = -1"},
+            {"PRESENTADORES", "NUMEROP = 100000"},
+            {"PRESENTADORES", "LETRAP = 'ABC'"},
+            {"PRESENTADORES", "ESCALERAP = 'ABC'"},
+            {"PRESENTADORES", "PISOP = 'ABC'"},
+            {"PRESENTADORES", "MANOP = 'ABCD'"},
+            {"PRESENTADORES", "CODPROVP = '777'"},
+            {"PRESENTADORES", "CODPOSP = '770011'"},
+            {"PRESENTADORES", "CODMUNP = '0011'"},
+            {"PRESENTADORES", "NOMMUNP = printf('%.26c', 'A')"},
+            {"PRESENTADORES", "TELEFONOP = '1234567890'"},
+            {"CONFIGURACION", "ID = 2"},
+            {"CONFIGURACION", "ACTONLINE = 7"},
+        };
+        for (const auto& [tabla, valor] : roturas)
+            QTest::newRow(qPrintable(QStringLiteral("check %1 %2").arg(QLatin1String(tabla),
+                                                                       QLatin1String(valor))))
+                << QStringList{QStringLiteral("UPDATE %1 SET %2 WHERE rowid = (SELECT MIN(rowid) "
+                                              "FROM %1)")
+                                   .arg(QLatin1String(tabla), QLatin1String(valor))};
+    }
+    void copiaHostilSeRechaza()
+    {
+        QFETCH(QStringList, cambio);
+        copiaConDatos();
+        cambiarCopia(cambio);
+        QCOMPARE(MarcaDeArchivo(copia()), Esquema::MarcaAplicacion);
+        QCOMPARE(VersionDeArchivo(copia()), Esquema::VersionActual());
+        Conexion::Cerrar(mdbmod);
+        const QByteArray antes = Bytes(mdbmod);
+        const QStringList carpetaAntes = Contenido(m_carpeta->ruta());
+
+        const cSaveAsRestore::Restauracion r = paraRestaurar().Restaurar(copia());
+        QVERIFY(!r.hecha);
+        QCOMPARE(r.examen, cSaveAsRestore::Examen::Ajena);
+        QVERIFY(r.copiaPrevia.isEmpty());
+        QCOMPARE(Bytes(mdbmod), antes);
+        QCOMPARE(Contenido(m_carpeta->ruta()), carpetaAntes);
+    }
+
+    // The same backup untouched goes in whole: the rows, the references, the codes.
+    void copiaIntactaSeRestaura()
+    {
+        copiaConDatos();
+        const QString antes = Volcado(mdbmod);
+        EjecutarEnAlmacen(QStringLiteral("DELETE FROM DECLARACIONES"));
+        EjecutarEnAlmacen(QStringLiteral("DELETE FROM CONTRIBUYENTES"));
+        Conexion::Cerrar(mdbmod);
+        QVERIFY(paraRestaurar().Restaurar(copia()).hecha);
+        QCOMPARE(Volcado(mdbmod), antes);
+    }
+
     // Before any restore the live store is kept, dated, in the folder of the backups; restoring
     // that copy undoes the restore.
     void copiaPreviaFechadaDeshaceLaRestauracion()
     {
         QVERIFY(paraCopia().Copiar());
         general(mdbmod).CambiarIdioma(QStringLiteral("E"));
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 3);
+        InsertarContribuyentes(mdbmod, 3);
         const QString vivaAntes = Volcado(mdbmod);
 
         const cSaveAsRestore::Restauracion r = paraRestaurar().Restaurar(copia());

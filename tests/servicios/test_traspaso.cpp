@@ -15,7 +15,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTest>
+#include <QSqlQuery>
+#include <QSysInfo>
 #include <QThread>
 #include <atomic>
 #include <thread>
@@ -53,6 +56,50 @@ void soltarConexionesDelHilo()
             QSqlDatabase::removeDatabase(nombre);
         }
     }
+}
+
+// One contributor's name changed in its table page only, to a text of the same length that
+// sorts in the same place: every page stays well formed (the quick check finds nothing), but
+// the index of names no longer matches the table (the full check finds it).
+void desacordarIndice(const QString& ruta)
+{
+    QList<qint64> paginas;
+    qint64 tamanno = 0;
+    {
+        ConexionCruda c(ruta);
+        c.ejecutar(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+        tamanno = c.escalar(QStringLiteral("PRAGMA page_size")).toLongLong();
+        QSqlQuery q(c.db());
+        QVERIFY(q.exec(QStringLiteral("SELECT pageno FROM dbstat WHERE name = 'CONTRIBUYENTES' "
+                                      "AND pagetype = 'leaf'")));
+        while (q.next())
+            paginas << q.value(0).toLongLong();
+    }
+    QFile f(ruta);
+    QVERIFY(f.open(QIODevice::ReadWrite));
+    QByteArray bytes = f.readAll();
+    const QByteArray nombre("CONTRIBUYENTE 1500");
+    for (const qint64 pagina : std::as_const(paginas)) {
+        const qint64 desde = (pagina - 1) * tamanno;
+        const qsizetype donde = bytes.indexOf(nombre, desde);
+        if (donde >= 0 && donde < desde + tamanno) {
+            QVERIFY(f.seek(donde + nombre.size() - 1));
+            f.write("/");
+            return;
+        }
+    }
+    QFAIL("nombre no encontrado en las paginas de la tabla");
+}
+
+// A mark of a copy of the program that had the store open and ended without closing it: its
+// process does not exist.
+void marcaAbandonada(const QString& ruta)
+{
+    const QFileInfo info(ruta);
+    QFile f(info.absolutePath() + QStringLiteral("/.") + info.fileName()
+            + QStringLiteral(".0123456789ab.abierta"));
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write("2147483646\nVeldo\n" + QSysInfo::machineHostName().toUtf8() + "\n");
 }
 
 Esquema::Paso pasoConSentencias(int version, QStringList sentencias)
@@ -135,7 +182,7 @@ private slots:
         QCOMPARE(traspaso(), false);
         general().CambiarIdioma(QStringLiteral("E"));
         general().GuardarActOnline(0);
-        InsertarFilas(mdbmod, QStringLiteral("CONTRIBUYENTES"), 3);
+        InsertarContribuyentes(mdbmod, 3);
         const QString antes = Volcado(mdbmod);
         QCOMPARE(traspaso(), false);
         QCOMPARE(traspaso(), false);
@@ -364,6 +411,40 @@ private slots:
         QCOMPARE(paradas.load(), 0);
         comprobarLayoutActual();
         QCOMPARE(general().ObtenerActOnline(), int16_t(0));
+    }
+    // The quick check at every start; the full one, which compares every index with its
+    // table, after a copy of the program ended without closing the store.
+    void unFinSucioRevisaLaBaseEntera()
+    {
+        QCOMPARE(traspaso(), false);
+        Conexion::Cerrar(mdbmod);
+        InsertarContribuyentes(mdbmod, 3000);
+        desacordarIndice(mdbmod);
+        cTraspaso t;
+        t.mdbmod = mdbmod;
+        t.mdbPath = mdbPath;
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
+        marcaAbandonada(mdbmod);
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Danada);
+    }
+    // Rows written by another tool that break a CHECK or a NOT NULL are not damage of the
+    // file: the store opens, after the full check too.
+    void filasFueraDeLasReglasNoSonDanno()
+    {
+        QCOMPARE(traspaso(), false);
+        Conexion::Cerrar(mdbmod);
+        {
+            ConexionCruda c(mdbmod);
+            c.ejecutar(QStringLiteral("PRAGMA ignore_check_constraints = ON"));
+            c.ejecutar(QStringLiteral("INSERT INTO CONTRIBUYENTES (TIPODNI, DNIC, NOMBREC, TIPODOMI, "
+                                      "CODPROVC) VALUES ('Q', 'X1', 'OTRA HERRAMIENTA', 'N', '77')"));
+        }
+        cTraspaso t;
+        t.mdbmod = mdbmod;
+        t.mdbPath = mdbPath;
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
+        marcaAbandonada(mdbmod);
+        QCOMPARE(t.Comprobar(), cTraspaso::Impedimento::Ninguno);
     }
 };
 

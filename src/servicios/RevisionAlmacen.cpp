@@ -1,0 +1,173 @@
+#include "servicios/RevisionAlmacen.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QRegularExpression>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QSysInfo>
+#include <QUuid>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#endif
+
+namespace {
+
+// A connection of its own, closed and removed on leaving the scope. It is opened for writing
+// although nothing is written: on closing, the last connection of a WAL store removes the
+// journal files it found or made, where a read-only one would leave them behind.
+class Propia {
+public:
+    Propia(const QString& ruta, bool lectura)
+        : m_nombre(QStringLiteral("revision-") + QUuid::createUuid().toString(QUuid::Id128))
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
+        db.setDatabaseName(ruta);
+        db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
+                                     : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
+        m_abierta = db.open();
+    }
+    ~Propia()
+    {
+        {
+            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
+            db.close();
+        }
+        QSqlDatabase::removeDatabase(m_nombre);
+    }
+    Propia(const Propia&) = delete;
+    Propia& operator=(const Propia&) = delete;
+
+    bool abierta() const { return m_abierta; }
+    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
+
+private:
+    QString m_nombre;
+    bool m_abierta = false;
+};
+
+// The marks of running copies beside the store at `ruta`.
+QStringList marcas(const QString& ruta)
+{
+    const QFileInfo info(ruta);
+    const QRegularExpression patron(QStringLiteral("^\\.") + QRegularExpression::escape(info.fileName())
+                                    + QStringLiteral("\\.[0-9a-f]{12}\\.abierta$"));
+    QStringList lista;
+    const QDir dir = info.absoluteDir();
+    for (const QString& f : dir.entryList(QDir::Files | QDir::Hidden | QDir::System))
+        if (patron.match(f).hasMatch())
+            lista << dir.filePath(f);
+    return lista;
+}
+
+// Whether the copy that made a mark has ended, judged without touching the mark: its process
+// is gone from this machine, or the mark says nothing of it.
+bool abandonada(const QString& marca)
+{
+    qint64 pid = 0;
+    QString maquina;
+    QString aplicacion;
+    QLockFile cerrojo(marca);
+    if (!cerrojo.getLockInfo(&pid, &maquina, &aplicacion) || pid <= 0)
+        return true;
+    if (!maquina.isEmpty() && maquina != QSysInfo::machineHostName())
+        return false;  // a copy running on another machine over a shared folder
+#ifdef Q_OS_UNIX
+    return ::kill(static_cast<pid_t>(pid), 0) != 0 && errno == ESRCH;
+#else
+    return false;
+#endif
+}
+
+// How many findings the check reports at most: enough to see past rows written by another
+// tool to the damage of a page, if there is one.
+constexpr int kHallazgos = 100;
+
+// A finding about one row's values, not about the file: a row that breaks a CHECK or a NOT
+// NULL, written by a tool other than this program. The file is whole, and the program reads
+// such a row as it reads any other; the check is there to find damaged pages.
+bool esDeFila(const QString& hallazgo)
+{
+    return hallazgo.startsWith(QLatin1String("CHECK constraint failed in "))
+        || hallazgo.startsWith(QLatin1String("NULL value in "));
+}
+
+}  // namespace
+
+namespace RevisionAlmacen {
+
+bool Sana(const QString& ruta, bool completa)
+{
+    Propia conexion(ruta, !QFileInfo(ruta).isWritable());
+    if (!conexion.abierta())
+        return false;
+    QSqlQuery q(conexion.db());
+    q.setForwardOnly(true);
+    // Every page is read: mapped into memory they are read in place instead of being copied
+    // one by one into the page cache, which on a store of 50 MB is a good part of the time.
+    q.exec(QStringLiteral("PRAGMA mmap_size = 1073741824"));
+    if (!q.exec(completa ? QStringLiteral("PRAGMA integrity_check(%1)").arg(kHallazgos)
+                         : QStringLiteral("PRAGMA quick_check(%1)").arg(kHallazgos)))
+        return false;
+    if (!q.next())
+        return false;
+    if (q.value(0).toString() == QLatin1String("ok"))
+        return true;
+    do {
+        if (!esDeFila(q.value(0).toString()))
+            return false;
+    } while (q.next());
+    return true;
+}
+
+bool ReferenciaLegible(const QString& ruta)
+{
+    const QFileInfo info(ruta);
+    if (!info.isFile() || !info.isReadable())
+        return false;
+    Propia conexion(ruta, true);
+    if (!conexion.abierta())
+        return false;
+    QSqlQuery q(conexion.db());
+    return q.exec(QStringLiteral("SELECT COUNT(*) FROM T10_GENERAL")) && q.next();
+}
+
+bool FinSucio(const QString& ruta)
+{
+    for (const QString& m : marcas(ruta))
+        if (abandonada(m))
+            return true;
+    return false;
+}
+
+Sesion::Sesion(const QString& ruta)
+{
+    for (const QString& m : marcas(ruta)) {
+        if (!abandonada(m))
+            continue;
+        QLockFile vieja(m);
+        vieja.setStaleLockTime(0);
+        if (vieja.tryLock(0))
+            vieja.unlock();
+    }
+    const QFileInfo info(ruta);
+    const QString nombre = info.absolutePath() + QStringLiteral("/.") + info.fileName()
+        + QLatin1Char('.') + QUuid::createUuid().toString(QUuid::Id128).left(12)
+        + QStringLiteral(".abierta");
+    m_marca = std::make_unique<QLockFile>(nombre);
+    m_marca->setStaleLockTime(0);
+    // A folder that cannot be written keeps no mark: the next start then makes the quick check.
+    if (!m_marca->tryLock(0))
+        m_marca.reset();
+}
+
+Sesion::~Sesion()
+{
+    if (m_marca)
+        m_marca->unlock();
+}
+
+}  // namespace RevisionAlmacen
