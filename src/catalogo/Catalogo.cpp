@@ -14,13 +14,6 @@ QString TextoFila(int fila)
 {
     const bool euskera = fila > 10000;
     const int base = euskera ? fila - 10000 : fila;
-    if (base > Catalogo::kUltimoId) {
-        for (int i = 0; i < Catalogo::kNumeroFilasAnadidas; ++i) {
-            const Catalogo::FilaAnadida& a = Catalogo::kFilasAnadidas[i];
-            if (a.id == base)
-                return QString::fromUtf8(euskera ? a.fila.euskera : a.fila.castellano);
-        }
-    }
     if (base < 1 || base > Catalogo::kUltimoId)
         throw cFallo(326, QStringLiteral("Veldo"),
                      QStringLiteral("No se encontró el recurso %1").arg(fila));

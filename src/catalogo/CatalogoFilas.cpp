@@ -2,8 +2,6 @@
 // Texts are kept exactly as the program shows them, blanks and spellings included.
 #include "catalogo/CatalogoFilas.h"
 
-#include <iterator>
-
 namespace Catalogo {
 const FilaCatalogo kFilas[kUltimoId] = {
     /*   1 */ {"Error en Clase Fecha",
@@ -746,24 +744,19 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "Datuak ez daude gordeta: ireki zirenetik ezabatu egin dira. Ez da ezer gorde."},
     /* 370 */ {"El contribuyente ha cambiado en la base de datos durante la importación; no se ha sustituido",
               "Zergaduna datu-basean aldatu da inportazioan zehar; ez da ordeztu"},
+    /* 371 */ {"La fila tiene más campos que la primera fila del fichero",
+              "Errenkadak fitxategiaren lehen errenkadak baino eremu gehiago ditu"},
+    /* 372 */ {"La fila tiene menos campos que la primera fila del fichero",
+              "Errenkadak fitxategiaren lehen errenkadak baino eremu gutxiago ditu"},
+    /* 373 */ {"La fila tiene unas comillas sin cerrar",
+              "Errenkadak itxi gabeko komatxoak ditu"},
+    /* 374 */ {"La fila tiene texto detrás de unas comillas de cierre",
+              "Errenkadak testua du komatxoak itxi ondoren"},
+    /* 375 */ {"La primera fila del fichero CSV nombra una columna desconocida: ",
+              "CSV fitxategiaren lehen errenkadak zutabe ezezagun bat aipatzen du: "},
+    /* 376 */ {"Falta en la primera fila del fichero CSV la columna ",
+              "CSV fitxategiaren lehen errenkadan zutabe hau falta da: "},
+    /* 377 */ {"La primera fila del fichero CSV repite la columna ",
+              "CSV fitxategiaren lehen errenkadak zutabe hau errepikatzen du: "},
 };
-
-const FilaAnadida kFilasAnadidas[] = {
-    // 380 to 389: the reading of a CSV file of contributors.
-    {380, {"La fila tiene más campos que la primera fila del fichero",
-           "Errenkadak fitxategiaren lehen errenkadak baino eremu gehiago ditu"}},
-    {381, {"La fila tiene menos campos que la primera fila del fichero",
-           "Errenkadak fitxategiaren lehen errenkadak baino eremu gutxiago ditu"}},
-    {382, {"La fila tiene unas comillas sin cerrar",
-           "Errenkadak itxi gabeko komatxoak ditu"}},
-    {383, {"La fila tiene texto detrás de unas comillas de cierre",
-           "Errenkadak testua du komatxoak itxi ondoren"}},
-    {384, {"La primera fila del fichero CSV nombra una columna desconocida: ",
-           "CSV fitxategiaren lehen errenkadak zutabe ezezagun bat aipatzen du: "}},
-    {385, {"Falta en la primera fila del fichero CSV la columna ",
-           "CSV fitxategiaren lehen errenkadan zutabe hau falta da: "}},
-    {386, {"La primera fila del fichero CSV repite la columna ",
-           "CSV fitxategiaren lehen errenkadak zutabe hau errepikatzen du: "}},
-};
-const int kNumeroFilasAnadidas = int(std::size(kFilasAnadidas));
 }

@@ -23,13 +23,13 @@ constexpr std::array<const char*, kCamposIntercambio> kNombres = {
 };
 
 // Texts of the catalogue for a file the reader refuses.
-constexpr int kIdMasCampos = 380;
-constexpr int kIdMenosCampos = 381;
-constexpr int kIdComillas = 382;
-constexpr int kIdTrasComillas = 383;
-constexpr int kIdColumnaDesconocida = 384;
-constexpr int kIdFaltaColumna = 385;
-constexpr int kIdColumnaRepetida = 386;
+constexpr int kIdMasCampos = 371;
+constexpr int kIdMenosCampos = 372;
+constexpr int kIdComillas = 373;
+constexpr int kIdTrasComillas = 374;
+constexpr int kIdColumnaDesconocida = 375;
+constexpr int kIdFaltaColumna = 376;
+constexpr int kIdColumnaRepetida = 377;
 
 constexpr C kObligatorias[] = {C::TIPODNI, C::DNI, C::NOMBRE};
 
