@@ -13,6 +13,7 @@
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
+#include "servicios/BibliotecaSqlite.h"
 #include "servicios/RevisionAlmacen.h"
 #include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
@@ -65,6 +66,8 @@ QString& rutaDeSesion()
 
 QString PrepararAlmacenes()
 {
+    if (const QString aviso = AvisoBibliotecaSqlite(LeerFuentesSqlite()); !aviso.isEmpty())
+        return aviso;
     if (!RevisionAlmacen::ReferenciaLegible(mdblec))
         return TextoReferencia(mdblec);
     const auto traspaso = Almacen<cTraspaso>();
@@ -156,6 +159,11 @@ bool Main()
     // a restore (those of a copy still running are kept).
     cSaveAsRestore::LimpiarTemporales(mdbPath);
     cSaveAsRestore::LimpiarTemporales(CarpetaDatos() + QStringLiteral("/backups/"));
+    // The stores call SQLite directly and through Qt's driver: both must be one library.
+    if (const QString aviso = AvisoBibliotecaSqlite(LeerFuentesSqlite()); !aviso.isEmpty()) {
+        terminarSinAlmacen(aviso);
+        return false;
+    }
     // The reference database is read all along; without it nothing can be shown.
     if (!RevisionAlmacen::ReferenciaLegible(mdblec)) {
         terminarSinAlmacen(TextoReferencia(mdblec));

@@ -15,8 +15,9 @@ void ConfigurarRutas(const QString& carpetaPrograma, const QString& carpetaDatos
 // Brings the read/write database to the current layout; answers false when the program ended
 // because the database cannot be brought to it.
 bool Traspaso();
-// Without any window: checks the reference database and brings the read/write one to the
-// current layout (its pages checked first). Answers the message that tells why the program
+// Without any window: checks that the SQLite library is the one of Qt's driver, checks the
+// reference database and brings the read/write one to the current layout (its pages checked
+// first). Answers the message that tells why the program
 // cannot work on them, or an empty text when it can. Failures of the migration are raised.
 QString PrepararAlmacenes();
 // Marks this run as having the read/write database open until it ends cleanly: a start after

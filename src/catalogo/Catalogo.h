@@ -1,6 +1,6 @@
 #pragma once
-// Every text the program shows comes from this numbered catalogue, in Spanish (rows 1 to 377)
-// and in Basque (rows 10001 to 10377). Texts are fetched when they are shown.
+// Every text the program shows comes from this numbered catalogue, in Spanish (rows 1 to 378)
+// and in Basque (rows 10001 to 10378). Texts are fetched when they are shown.
 #include <QString>
 
 // The text of base id `id` in the current language: row id + OffsetIdioma.

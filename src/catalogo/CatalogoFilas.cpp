@@ -758,5 +758,7 @@ const FilaCatalogo kFilas[kUltimoId] = {
               "CSV fitxategiaren lehen errenkadan zutabe hau falta da: "},
     /* 377 */ {"La primera fila del fichero CSV repite la columna ",
               "CSV fitxategiaren lehen errenkadak zutabe hau errepikatzen du: "},
+    /* 378 */ {"El programa no puede usar su base de datos: la biblioteca SQLite que llama (%1) no es la que usa Qt (%2). Vuelva a instalar el programa.",
+              "Programak ezin du bere datu-basea erabili: deitzen duen SQLite liburutegia (%1) ez da Qt-k erabiltzen duena (%2). Instalatu berriro programa."},
 };
 }

@@ -5,6 +5,6 @@ struct FilaCatalogo {
     const char* castellano;
     const char* euskera;
 };
-inline constexpr int kUltimoId = 377;
+inline constexpr int kUltimoId = 378;
 extern const FilaCatalogo kFilas[kUltimoId];  // kFilas[n - 1] is base id n
 }

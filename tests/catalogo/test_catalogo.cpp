@@ -25,7 +25,7 @@ private slots:
             const int tab = linea.indexOf(QLatin1Char('\t'));
             m_filas.append({linea.left(tab).toInt(), linea.mid(tab + 1)});
         }
-        QCOMPARE(m_filas.size(), 754);
+        QCOMPARE(m_filas.size(), 756);
     }
 
     void cadaFilaTalCual()
