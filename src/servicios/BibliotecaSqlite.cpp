@@ -1,10 +1,9 @@
 #include "servicios/BibliotecaSqlite.h"
 
 #include "catalogo/Catalogo.h"
+#include "servicios/ConexionPropia.h"
 
-#include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QUuid>
 #include <sqlite3.h>
 
 namespace {
@@ -12,21 +11,12 @@ constexpr int kIdBibliotecaDistinta = 378;
 
 QString fuenteDelControlador()
 {
-    const QString nombre = QStringLiteral("fuente-sqlite-") + QUuid::createUuid().toString(QUuid::Id128);
-    QString fuente;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
-        db.setDatabaseName(QStringLiteral(":memory:"));
-        if (db.open()) {
-            QSqlQuery q(db);
-            if (q.exec(QStringLiteral("SELECT sqlite_source_id()")) && q.next())
-                fuente = q.value(0).toString();
-            q.finish();
-            db.close();
-        }
-    }
-    QSqlDatabase::removeDatabase(nombre);
-    return fuente;
+    ConexionPropia conexion(QStringLiteral(":memory:"), ConexionPropia::Modo::Escritura);
+    if (!conexion.abierta())
+        return {};
+    QSqlQuery q(conexion.db());
+    return q.exec(QStringLiteral("SELECT sqlite_source_id()")) && q.next() ? q.value(0).toString()
+                                                                           : QString();
 }
 }
 

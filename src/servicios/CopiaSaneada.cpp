@@ -2,13 +2,13 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
+#include "servicios/ConexionPropia.h"
 #include "servicios/Esquema.h"
 #include "servicios/EstructuraAlmacen.h"
 
 #include <QFileInfo>
 #include <QSqlError>
 #include <QUrl>
-#include <QUuid>
 
 namespace {
 
@@ -30,35 +30,6 @@ bool esRechazo(const cFallo& f)
         return false;
     }
 }
-
-// The destination's own connection, with URIs allowed so that the file is attached read-only.
-class Destino {
-public:
-    Destino(const QString& ruta, const QString& origen)
-        : m_nombre(QStringLiteral("saneada-") + QUuid::createUuid().toString(QUuid::Id128))
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
-        db.setDatabaseName(ruta);
-        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=10000"));
-        if (!db.open())
-            throw cFallo(3049, origen, ruta + QStringLiteral(": ") + db.lastError().text());
-    }
-    ~Destino()
-    {
-        {
-            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(m_nombre);
-    }
-    Destino(const Destino&) = delete;
-    Destino& operator=(const Destino&) = delete;
-
-    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
-
-private:
-    QString m_nombre;
-};
 
 // The file attached read-only for as long as this object lives.
 class Adjunto {
@@ -192,7 +163,9 @@ bool Construir(const QString& archivo, const QString& destino, int version, cons
 {
     if (QFileInfo::exists(destino))
         throw cFallo(58, origen, QStringLiteral("Ya existe ") + destino);
-    Destino conexion(destino, origen);
+    // URIs allowed, so that the backup is attached read-only.
+    ConexionPropia conexion(destino, ConexionPropia::Modo::EscrituraConAdjuntos);
+    conexion.ExigirAbierta(origen);
     try {
         return construir(conexion.db(), archivo, version, origen);
     } catch (const cFallo& f) {

@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
+#include "servicios/ConexionPropia.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -74,39 +75,6 @@ bool esNoBaseDeDatos(const QSqlError& error)
     const int codigo = error.nativeErrorCode().toInt();
     return codigo == 26 /*SQLITE_NOTADB*/ || codigo == 11 /*SQLITE_CORRUPT*/;
 }
-
-// A read-only connection of its own, removed on leaving the scope.
-class ConexionPrivada {
-public:
-    explicit ConexionPrivada(const QString& ruta)
-        : m_nombre(QStringLiteral("reconocer-") + QUuid::createUuid().toString(QUuid::Id128))
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
-        db.setDatabaseName(ruta);
-        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000"));
-        m_abierta = db.open();
-        m_error = db.lastError();
-    }
-    ~ConexionPrivada()
-    {
-        {
-            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(m_nombre);
-    }
-    ConexionPrivada(const ConexionPrivada&) = delete;
-    ConexionPrivada& operator=(const ConexionPrivada&) = delete;
-
-    bool abierta() const { return m_abierta; }
-    const QSqlError& error() const { return m_error; }
-    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
-
-private:
-    QString m_nombre;
-    bool m_abierta = false;
-    QSqlError m_error;
-};
 
 // Table -> its column names, both in capitals, of the open database (SQLite's own left out).
 QMap<QString, QStringList> disposicionDe(const QSqlDatabase& db, const QString& origen)
@@ -230,7 +198,7 @@ Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marc
     if (!esCabeceraSqlite(ruta))
         return {Clase::NoEsBaseDeDatos, 0};
 
-    ConexionPrivada conexion(ruta);
+    ConexionPropia conexion(ruta, ConexionPropia::Modo::Lectura);
     if (!conexion.abierta()) {
         if (esNoBaseDeDatos(conexion.error()))
             return {Clase::NoEsBaseDeDatos, 0};

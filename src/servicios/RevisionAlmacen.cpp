@@ -1,5 +1,7 @@
 #include "servicios/RevisionAlmacen.h"
 
+#include "servicios/ConexionPropia.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -15,39 +17,6 @@
 #endif
 
 namespace {
-
-// A connection of its own, closed and removed on leaving the scope. It is opened for writing
-// although nothing is written: on closing, the last connection of a WAL store removes the
-// journal files it found or made, where a read-only one would leave them behind.
-class Propia {
-public:
-    Propia(const QString& ruta, bool lectura)
-        : m_nombre(QStringLiteral("revision-") + QUuid::createUuid().toString(QUuid::Id128))
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
-        db.setDatabaseName(ruta);
-        db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
-                                     : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
-        m_abierta = db.open();
-    }
-    ~Propia()
-    {
-        {
-            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(m_nombre);
-    }
-    Propia(const Propia&) = delete;
-    Propia& operator=(const Propia&) = delete;
-
-    bool abierta() const { return m_abierta; }
-    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
-
-private:
-    QString m_nombre;
-    bool m_abierta = false;
-};
 
 // The marks of running copies beside the store at `ruta`.
 QStringList marcas(const QString& ruta)
@@ -101,7 +70,10 @@ namespace RevisionAlmacen {
 
 bool Sana(const QString& ruta, bool completa)
 {
-    Propia conexion(ruta, !QFileInfo(ruta).isWritable());
+    // Opened for writing although nothing is written: on closing, the last connection of a WAL
+    // store removes the journal files it found or made, where a read-only one would leave them.
+    ConexionPropia conexion(ruta, QFileInfo(ruta).isWritable() ? ConexionPropia::Modo::Escritura
+                                                               : ConexionPropia::Modo::Lectura);
     if (!conexion.abierta())
         return false;
     QSqlQuery q(conexion.db());
@@ -128,7 +100,7 @@ bool ReferenciaLegible(const QString& ruta)
     const QFileInfo info(ruta);
     if (!info.isFile() || !info.isReadable())
         return false;
-    Propia conexion(ruta, true);
+    ConexionPropia conexion(ruta, ConexionPropia::Modo::Lectura);
     if (!conexion.abierta())
         return false;
     QSqlQuery q(conexion.db());

@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
+#include "servicios/ConexionPropia.h"
 #include "servicios/CopiaSaneada.h"
 #include "servicios/Esquema.h"
 #include "servicios/EstructuraAlmacen.h"
@@ -88,37 +89,6 @@ private:
     bool m_colocado = false;
 };
 
-// A connection of its own, removed on leaving the scope, so that neither the chosen backup nor
-// the restore's transaction ever joins the stores' cache.
-class Propia {
-public:
-    Propia(const QString& ruta, bool lectura)
-        : m_nombre(QStringLiteral("copia-") + QUuid::createUuid().toString(QUuid::Id128))
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
-        db.setDatabaseName(ruta);
-        db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
-                                     : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
-        if (!db.open())
-            throw cFallo(3049, kOrigen, ruta + QStringLiteral(": ") + db.lastError().text());
-    }
-    ~Propia()
-    {
-        {
-            QSqlDatabase db = QSqlDatabase::database(m_nombre, false);
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(m_nombre);
-    }
-    Propia(const Propia&) = delete;
-    Propia& operator=(const Propia&) = delete;
-
-    QSqlDatabase db() const { return QSqlDatabase::database(m_nombre, false); }
-
-private:
-    QString m_nombre;
-};
-
 // SQLite writes a consistent copy of the database, WAL included, even while other
 // connections use it. The target must not exist.
 void copiar(const QSqlDatabase& db, const QString& destino)
@@ -146,7 +116,8 @@ Examen examinar(const QString& ruta, qint32 marca)
             return Examen::Ajena;
         if (r.version > Esquema::VersionActual())
             return Examen::Posterior;
-        Propia lectura(ruta, true);
+        ConexionPropia lectura(ruta, ConexionPropia::Modo::Lectura);
+        lectura.ExigirAbierta(kOrigen);
         if (EstructuraAlmacen::De(lectura.db(), QStringLiteral("main"), kOrigen)
             != EstructuraAlmacen::DeReferencia(r.version, kOrigen))
             return Examen::Ajena;
@@ -172,7 +143,8 @@ QString guardarCopiaPrevia(const QString& viva, const QString& carpeta)
     QString nombre = base + QStringLiteral(".mdb");
     for (int n = 2; QFileInfo::exists(nombre); ++n)
         nombre = base + QStringLiteral("_%1.mdb").arg(n);
-    Propia lectura(viva, true);
+    ConexionPropia lectura(viva, ConexionPropia::Modo::Lectura);
+    lectura.ExigirAbierta(kOrigen);
     Temporal temporal(nombre);
     copiar(lectura.db(), temporal.ruta());
     temporal.colocar(nombre);
@@ -239,7 +211,8 @@ void sustituirContenido(const QSqlDatabase& db)
 // layout (the rows' versions among it) into the restored store.
 void alLayoutActual(const QString& ruta)
 {
-    Propia conexion(ruta, false);
+    ConexionPropia conexion(ruta, ConexionPropia::Modo::Escritura);
+    conexion.ExigirAbierta(kOrigen);
     const QSqlDatabase db = conexion.db();
     const int version = Esquema::VersionDe(db, kOrigen);
     if (version >= Esquema::VersionActual())
@@ -257,7 +230,8 @@ void alLayoutActual(const QString& ruta)
 QString restaurarEnVivo(const QString& viva, const QString& copia, const QString& carpetaCopias,
                         bool conPrevia)
 {
-    Propia conexion(viva, false);
+    ConexionPropia conexion(viva, ConexionPropia::Modo::Escritura);
+    conexion.ExigirAbierta(kOrigen);
     const QSqlDatabase db = conexion.db();
     // The switch is ignored inside a transaction, so it goes off before; the clean copy's
     // references have been checked.
