@@ -6,6 +6,7 @@
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "plataforma/Proceso.h"
+#include "servicios/Conexion.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -64,8 +65,10 @@ std::optional<int> almacenesSinPantalla(int argc, char** argv)
 
 int EjecutarVeldo(int argc, char** argv)
 {
-    if (const std::optional<int> estado = LineaDeOrdenes::Atender(argc, argv))
+    if (const std::optional<int> estado = LineaDeOrdenes::Atender(argc, argv)) {
+        Conexion::CerrarTodas();
         return *estado;
+    }
     if (sinPantalla(argc, argv))
         if (const std::optional<int> estado = almacenesSinPantalla(argc, argv))
             return *estado;
@@ -78,5 +81,7 @@ int EjecutarVeldo(int argc, char** argv)
     Proceso::Protegido([&] { sigue = Main(); });
     if (!sigue)
         return 0;
-    return app.exec();
+    const int estado = app.exec();
+    Conexion::CerrarTodas();
+    return estado;
 }

@@ -1,6 +1,7 @@
 #include "servicios/Conexion.h"
 
 #include "plataforma/Fallo.h"
+#include "plataforma/Proceso.h"
 #include "servicios/BusquedaTexto.h"
 
 #include <QFileInfo>
@@ -21,6 +22,14 @@ QString nombreConexion(const QString& ruta, bool lectura)
     const int numero = error.nativeErrorCode().toInt();
     throw cFallo(numero ? numero : 3001, origen,
                  contexto.isEmpty() ? error.text() : contexto + QStringLiteral(": ") + error.text());
+}
+
+// The stores' own connections, read/write (`mod`) or reference (`lec`).
+bool esDeLosAlmacenes(const QString& nombre)
+{
+    const QString clase = nombre.section(QLatin1Char('|'), 0, 0);
+    return nombre.count(QLatin1Char('|')) == 2
+           && (clase == QLatin1String("mod") || clase == QLatin1String("lec"));
 }
 
 void pragma(QSqlDatabase& db, const QString& sql, const QString& origen)
@@ -49,6 +58,12 @@ QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, boo
                                  : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
     if (!db.open())
         fallar(origen, db.lastError(), ruta);
+    // The program ends without unwinding; its journal is folded back into the file first.
+    static const bool alTerminar = [] {
+        Proceso::AlTerminarBien(&Conexion::CerrarTodas);
+        return true;
+    }();
+    Q_UNUSED(alTerminar);
     // The searches compare texts folded beyond ASCII (BusquedaTexto.h).
     RegistrarPlegado(db, origen);
     if (!lectura) {
@@ -73,6 +88,24 @@ QSqlDatabase Modificable(const QString& ruta, const QString& origen, bool crear)
 QSqlDatabase Lectura(const QString& ruta, const QString& origen)
 {
     return abrir(ruta, true, origen, false);
+}
+
+void CerrarTodas()
+{
+    for (const QString& nombre : QSqlDatabase::connectionNames()) {
+        if (!esDeLosAlmacenes(nombre))
+            continue;
+        QSqlDatabase db = QSqlDatabase::database(nombre, false);
+        if (!db.isOpen())
+            continue;
+        if (nombre.startsWith(QLatin1String("mod|"))) {
+            QSqlQuery q(db);
+            q.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+        }
+        // Closing finalizes the statements the stores still hold; the last connection to a
+        // file removes its journal.
+        db.close();
+    }
 }
 
 void Cerrar(const QString& ruta)

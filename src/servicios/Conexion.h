@@ -16,6 +16,11 @@ namespace Conexion {
 QSqlDatabase Modificable(const QString& ruta, const QString& origen, bool crear = false);
 // The read-only reference database.
 QSqlDatabase Lectura(const QString& ruta, const QString& origen);
+// Closes every connection of the stores, the read/write files' journals written back into
+// them first: after a clean end a store is one file, whole, that can be copied as it is. Run
+// at every clean end of the program (Proceso::AlTerminarBien), which ends without unwinding;
+// only then, for the stores' prepared statements end with their connections.
+void CerrarTodas();
 // Closes and forgets the connections to `ruta` (before the file is replaced or removed).
 void Cerrar(const QString& ruta);
 }

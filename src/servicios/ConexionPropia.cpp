@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 
+#include <QFileInfo>
 #include <QUuid>
 
 namespace {
@@ -9,6 +10,7 @@ QString opciones(ConexionPropia::Modo modo)
 {
     // A busy store waits for the other copy's lock, as the stores' own connections do.
     switch (modo) {
+    case ConexionPropia::Modo::Examen:
     case ConexionPropia::Modo::Lectura:
         return QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000");
     case ConexionPropia::Modo::Escritura:
@@ -24,6 +26,8 @@ ConexionPropia::ConexionPropia(const QString& ruta, Modo modo)
     : m_nombre(QStringLiteral("propia-") + QUuid::createUuid().toString(QUuid::Id128)),
       m_ruta(ruta)
 {
+    if (modo == Modo::Examen)
+        modo = QFileInfo(ruta).isWritable() ? Modo::Escritura : Modo::Lectura;
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_nombre);
     db.setDatabaseName(ruta);
     db.setConnectOptions(opciones(modo));

@@ -10,6 +10,11 @@ class ConexionPropia {
 public:
     enum class Modo {
         Lectura,             // read only
+        // To read a file the program may find in WAL mode (its own store, a backup of it):
+        // opened for writing, although nothing is written, when the file can be written. On
+        // closing, the last connection of a WAL file removes the journal files it found or
+        // made, where a read-only one would leave them behind.
+        Examen,
         Escritura,           // read and write
         EscrituraConAdjuntos // read and write; files attached by URI (read-only attachments)
     };

@@ -198,7 +198,7 @@ Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marc
     if (!esCabeceraSqlite(ruta))
         return {Clase::NoEsBaseDeDatos, 0};
 
-    ConexionPropia conexion(ruta, ConexionPropia::Modo::Lectura);
+    ConexionPropia conexion(ruta, ConexionPropia::Modo::Examen);
     if (!conexion.abierta()) {
         if (esNoBaseDeDatos(conexion.error()))
             return {Clase::NoEsBaseDeDatos, 0};

@@ -70,10 +70,7 @@ namespace RevisionAlmacen {
 
 bool Sana(const QString& ruta, bool completa)
 {
-    // Opened for writing although nothing is written: on closing, the last connection of a WAL
-    // store removes the journal files it found or made, where a read-only one would leave them.
-    ConexionPropia conexion(ruta, QFileInfo(ruta).isWritable() ? ConexionPropia::Modo::Escritura
-                                                               : ConexionPropia::Modo::Lectura);
+    ConexionPropia conexion(ruta, ConexionPropia::Modo::Examen);
     if (!conexion.abierta())
         return false;
     QSqlQuery q(conexion.db());
