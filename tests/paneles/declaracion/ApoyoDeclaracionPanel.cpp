@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QTabBar>
 
 int32_t DeclaracionGuardada(const QString& referencia, int32_t fecha, const QString& operacion,
@@ -80,6 +81,30 @@ void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna)
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, punto);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, punto);
     Procesar();
+}
+
+void ClicEnCabecera(cFlexGrid* grid, int columna)
+{
+    QHeaderView* h = grid->horizontalHeader();
+    const QPoint p(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2, h->height() / 2);
+    QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier, p);
+    Procesar();
+}
+
+void CondicionDeBusqueda(cFlexGrid* grid, QLineEdit* busqueda, int columna, const QString& valor)
+{
+    ClicEnCelda(grid, 1, columna);
+    Escribir(busqueda, valor);
+    Tabular();
+}
+
+void CondicionesEnCincoColumnas(cFlexGrid* grid, QLineEdit* busqueda, int32_t desde)
+{
+    CondicionDeBusqueda(grid, busqueda, 0, QString::number(desde));
+    CondicionDeBusqueda(grid, busqueda, 1, QStringLiteral("AB"));
+    CondicionDeBusqueda(grid, busqueda, 2, QStringLiteral("01/01/2010"));
+    CondicionDeBusqueda(grid, busqueda, 3, QStringLiteral("1"));
+    CondicionDeBusqueda(grid, busqueda, 4, QStringLiteral("T"));
 }
 
 void ControlesDeDeclaracion::arrancar()

@@ -67,3 +67,12 @@ void EscribirFecha(QLineEdit* campo, const QString& cifras);
 // A click and a double click on a data cell of a grid (row from 1), as the mouse gives them.
 void ClicEnCelda(cFlexGrid* grid, int fila, int columna);
 void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna);
+// A click on the heading of a grid's column, as the mouse gives it.
+void ClicEnCabecera(cFlexGrid* grid, int columna);
+
+// One condition of a list's search: a click on the column's first row, the value typed in
+// the search field and the field left.
+void CondicionDeBusqueda(cFlexGrid* grid, QLineEdit* busqueda, int columna, const QString& valor);
+// A condition on each of the five first columns of a list of returns, in order: the code
+// from `desde`, the reference "AB", the date 01/01/2010, the amount 1 and the operation "T".
+void CondicionesEnCincoColumnas(cFlexGrid* grid, QLineEdit* busqueda, int32_t desde);
