@@ -1,13 +1,21 @@
 #include "ApoyoDeclaracionPanel.h"
 
 #include "aplicacion/MDIVeldo.h"
+#include "aplicacion/Navegacion.h"
+#include "paneles/declaracion/FrmDeclaracion.h"
+#include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "registros/declaracion/cDecDatos.h"
 #include "servicios/Almacen.h"
 #include "servicios/cDeclaSvr.h"
 
 #include "paneles/controles/cFlexGrid.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QTabBar>
 
 int32_t DeclaracionGuardada(const QString& referencia, int32_t fecha, const QString& operacion,
                             int32_t cssu, int32_t cstra, int32_t cspr)
@@ -73,4 +81,107 @@ void DobleClicEnCelda(cFlexGrid* grid, int fila, int columna)
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, punto);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, punto);
     Procesar();
+}
+
+void ClicEnCabecera(cFlexGrid* grid, int columna)
+{
+    QHeaderView* h = grid->horizontalHeader();
+    const QPoint p(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2, h->height() / 2);
+    QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier, p);
+    Procesar();
+}
+
+void CondicionDeBusqueda(cFlexGrid* grid, QLineEdit* busqueda, int columna, const QString& valor)
+{
+    ClicEnCelda(grid, 1, columna);
+    Escribir(busqueda, valor);
+    Tabular();
+}
+
+void CondicionesEnCincoColumnas(cFlexGrid* grid, QLineEdit* busqueda, int32_t desde)
+{
+    CondicionDeBusqueda(grid, busqueda, 0, QString::number(desde));
+    CondicionDeBusqueda(grid, busqueda, 1, QStringLiteral("AB"));
+    CondicionDeBusqueda(grid, busqueda, 2, QStringLiteral("01/01/2010"));
+    CondicionDeBusqueda(grid, busqueda, 3, QStringLiteral("1"));
+    CondicionDeBusqueda(grid, busqueda, 4, QStringLiteral("T"));
+}
+
+void ControlesDeDeclaracion::arrancar()
+{
+    m_prog = std::make_unique<ProgramaDePrueba>();
+    MensajeSeam::limpiar();
+}
+
+void ControlesDeDeclaracion::cerrar()
+{
+    m_prog.reset();
+    Procesar();
+}
+
+FrmDeclaracion* ControlesDeDeclaracion::frm() const
+{
+    return qobject_cast<FrmDeclaracion*>(m_panel.data());
+}
+
+QCheckBox* ControlesDeDeclaracion::k(const char* nombre) const
+{
+    return c<QCheckBox>(nombre);
+}
+
+QComboBox* ControlesDeDeclaracion::cmb() const
+{
+    return c<QComboBox>("cmbOperacion");
+}
+
+void ControlesDeDeclaracion::nueva()
+{
+    Comando(*m_prog, "mnuNuevaDeclaracion");
+    m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+}
+
+void ControlesDeDeclaracion::abrirGuardada(int32_t csde, const QString& modo)
+{
+    cDecDatos& d = DecDatos();
+    d.ENTRADA = QStringLiteral("A");
+    d.setMODO(modo);
+    d.LISTA.clear();
+    d.CSDE = csde;
+    Navegacion::AbrirDeclaracion();
+    Procesar();
+    m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
+}
+
+void ControlesDeDeclaracion::clicCasilla(QAbstractButton* casilla)
+{
+    QTest::mouseClick(casilla, Qt::LeftButton, Qt::NoModifier, QPoint(6, casilla->height() / 2));
+    Procesar();
+}
+
+void ControlesDeDeclaracion::pestana(int i)
+{
+    QTabBar* tab = c<QTabBar>("tabTerceros");
+    QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, tab->tabRect(i).center());
+    Procesar();
+}
+
+void ControlesDeDeclaracion::teclaDeAcceso(Qt::Key letra)
+{
+    QTest::keyClick(Foco(), letra, Qt::AltModifier);
+    QTest::qWait(150);
+    Procesar();
+}
+
+QStringList ControlesDeDeclaracion::mensajes() const
+{
+    QStringList textos;
+    for (const auto& r : MensajeSeam::registro())
+        textos << r.texto;
+    return textos;
+}
+
+QString ControlesDeDeclaracion::almacenado(const char* columna) const
+{
+    return ValorAlmacenado(QStringLiteral("SELECT %1 FROM DECLARACIONES").arg(QLatin1String(columna)))
+        .toString();
 }

@@ -14,7 +14,6 @@
 #include "registros/partes/cPreLista.h"
 #include "valores/Twips.h"
 
-#include <QHeaderView>
 #include <QLabel>
 
 class TestConDeclaraciones : public QObject, ControlesDePanel {
@@ -25,14 +24,7 @@ class TestConDeclaraciones : public QObject, ControlesDePanel {
 
     QLabel* lbl(const char* nombre) const { return c<QLabel>(nombre); }
     cFlexGrid* grid() const { return c<cFlexGrid>("flxDeclaraciones"); }
-    void clicCabecera(int columna)
-    {
-        QHeaderView* h = grid()->horizontalHeader();
-        QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier,
-                          QPoint(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2,
-                                 h->height() / 2));
-        Procesar();
-    }
+    void clicCabecera(int columna) { ClicEnCabecera(grid(), columna); }
     void clicFila(QWidget* panel, const char* nombreGrid, int fila)
     {
         ClicEnCelda(Control<cFlexGrid>(panel, nombreGrid), fila, 1);
@@ -181,16 +173,7 @@ private slots:
         QVERIFY(m_panel);
         Clic(b("cmdBuscar"));
         QCOMPARE(lbl("lblayuda")->text(), Texto(319));
-        const auto condicion = [this](int col, const QString& valor) {
-            ClicEnCelda(grid(), 1, col);
-            Escribir(t("txtBusqueda"), valor);
-            Tabular();
-        };
-        condicion(0, QString::number(primera));
-        condicion(1, QStringLiteral("AB"));
-        condicion(2, QStringLiteral("01/01/2010"));
-        condicion(3, QStringLiteral("1"));
-        condicion(4, QStringLiteral("T"));
+        CondicionesEnCincoColumnas(grid(), t("txtBusqueda"), primera);
         Clic(b("cmdBuscar"));
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 1);
         QCOMPARE(lbl("lblResultado")->text(),
@@ -201,7 +184,7 @@ private slots:
         QCOMPARE(lbl("lblayuda")->text(), Texto(64));
         // Nothing found: the criteria and id 63.
         Clic(b("cmdBuscar"));
-        condicion(1, QStringLiteral("QQ"));
+        CondicionDeBusqueda(grid(), t("txtBusqueda"), 1, QStringLiteral("QQ"));
         Clic(b("cmdBuscar"));
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 0);
         QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("Referencia empieza por 'QQ' ") + Texto(63));

@@ -25,50 +25,9 @@
 #include <QTabBar>
 #include <stdexcept>
 
-class TestFrmDeclaracion : public QObject, ControlesDePanel {
+class TestFrmDeclaracion : public QObject, ControlesDeDeclaracion {
     Q_OBJECT
 
-    std::unique_ptr<ProgramaDePrueba> m_prog;
-
-    FrmDeclaracion* frm() const { return qobject_cast<FrmDeclaracion*>(m_panel.data()); }
-    QCheckBox* k(const char* nombre) const { return c<QCheckBox>(nombre); }
-    QComboBox* cmb() const { return c<QComboBox>("cmbOperacion"); }
-
-    void nueva()
-    {
-        Comando(*m_prog, "mnuNuevaDeclaracion");
-        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
-    }
-    void abrirGuardada(int32_t csde, const QString& modo = QStringLiteral("C"))
-    {
-        cDecDatos& d = DecDatos();
-        d.ENTRADA = QStringLiteral("A");
-        d.setMODO(modo);
-        d.LISTA.clear();
-        d.CSDE = csde;
-        Navegacion::AbrirDeclaracion();
-        Procesar();
-        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
-    }
-    void clicCasilla(QAbstractButton* casilla)
-    {
-        QTest::mouseClick(casilla, Qt::LeftButton, Qt::NoModifier, QPoint(6, casilla->height() / 2));
-        Procesar();
-    }
-    QStringList mensajes() const
-    {
-        QStringList textos;
-        for (const auto& r : MensajeSeam::registro())
-            textos << r.texto;
-        return textos;
-    }
-    // A click on a tab of tabTerceros.
-    void pestana(int i)
-    {
-        QTabBar* tab = c<QTabBar>("tabTerceros");
-        QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, tab->tabRect(i).center());
-        Procesar();
-    }
     // The vehicle of a valid return, typed.
     void vehiculo()
     {
@@ -81,16 +40,8 @@ class TestFrmDeclaracion : public QObject, ControlesDePanel {
     }
 
 private slots:
-    void init()
-    {
-        m_prog = std::make_unique<ProgramaDePrueba>();
-        MensajeSeam::limpiar();
-    }
-    void cleanup()
-    {
-        m_prog.reset();
-        Procesar();
-    }
+    void init() { arrancar(); }
+    void cleanup() { cerrar(); }
 
     void nuevaDesdeElMenu()
     {

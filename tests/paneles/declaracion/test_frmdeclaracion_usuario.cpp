@@ -23,62 +23,9 @@
 #include <QSqlQuery>
 #include <QTabBar>
 
-class TestFrmDeclaracionUsuario : public QObject, ControlesDePanel {
+class TestFrmDeclaracionUsuario : public QObject, ControlesDeDeclaracion {
     Q_OBJECT
 
-    std::unique_ptr<ProgramaDePrueba> m_prog;
-
-    FrmDeclaracion* frm() const { return qobject_cast<FrmDeclaracion*>(m_panel.data()); }
-    QCheckBox* k(const char* nombre) const { return c<QCheckBox>(nombre); }
-    QComboBox* cmb() const { return c<QComboBox>("cmbOperacion"); }
-
-    void nueva()
-    {
-        Comando(*m_prog, "mnuNuevaDeclaracion");
-        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
-    }
-    void abrirGuardada(int32_t csde, const QString& modo = QStringLiteral("C"))
-    {
-        cDecDatos& d = DecDatos();
-        d.ENTRADA = QStringLiteral("A");
-        d.setMODO(modo);
-        d.LISTA.clear();
-        d.CSDE = csde;
-        Navegacion::AbrirDeclaracion();
-        Procesar();
-        m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
-    }
-    void clicCasilla(QAbstractButton* casilla)
-    {
-        QTest::mouseClick(casilla, Qt::LeftButton, Qt::NoModifier, QPoint(6, casilla->height() / 2));
-        Procesar();
-    }
-    void pestana(int i)
-    {
-        QTabBar* tab = c<QTabBar>("tabTerceros");
-        QTest::mouseClick(tab, Qt::LeftButton, Qt::NoModifier, tab->tabRect(i).center());
-        Procesar();
-    }
-    // The access key Alt + `letra` pressed in the widget that has the focus; the button it
-    // reaches acts a moment later, as on screen.
-    void teclaDeAcceso(Qt::Key letra)
-    {
-        QTest::keyClick(Foco(), letra, Qt::AltModifier);
-        QTest::qWait(150);
-        Procesar();
-    }
-    QStringList mensajes() const
-    {
-        QStringList textos;
-        for (const auto& r : MensajeSeam::registro())
-            textos << r.texto;
-        return textos;
-    }
-    QString almacenado(const char* columna) const
-    {
-        return ValorAlmacenado(QStringLiteral("SELECT %1 FROM DECLARACIONES").arg(QLatin1String(columna)))
-            .toString();
-    }
     // A stored return of 2010 (operation T2, base 15.000,00) with a reduction of its base.
     int32_t guardadaConReduccion(const QString& reduccion)
     {
@@ -103,16 +50,8 @@ class TestFrmDeclaracionUsuario : public QObject, ControlesDePanel {
     }
 
 private slots:
-    void init()
-    {
-        m_prog = std::make_unique<ProgramaDePrueba>();
-        MensajeSeam::limpiar();
-    }
-    void cleanup()
-    {
-        m_prog.reset();
-        Procesar();
-    }
+    void init() { arrancar(); }
+    void cleanup() { cerrar(); }
 
     // ----- The buttons' access keys leave the field first -----
 

@@ -11,7 +11,6 @@
 #include "registros/declaracion/cDecLista.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QLabel>
 #include <QTabBar>
 
@@ -31,13 +30,7 @@ class TestFrmDecLista : public QObject, ControlesDePanel {
         m_panel = m_prog->panel(QStringLiteral("FrmDecLista"));
     }
     // A click on a heading or on a cell, as the mouse gives it.
-    void clicCabecera(int columna)
-    {
-        QHeaderView* h = grid()->horizontalHeader();
-        const QPoint p(h->sectionViewportPosition(columna) + h->sectionSize(columna) / 2, h->height() / 2);
-        QTest::mouseClick(h->viewport(), Qt::LeftButton, Qt::NoModifier, p);
-        Procesar();
-    }
+    void clicCabecera(int columna) { ClicEnCabecera(grid(), columna); }
     void clicCelda(int fila, int columna) { ClicEnCelda(grid(), fila, columna); }
     QStringList columna(int col) const
     {
@@ -235,16 +228,7 @@ private slots:
         DeclaracionGuardada(QStringLiteral("XYZ"), 20090101, QStringLiteral("T2"));
         abrir();
         Clic(b("cmdBuscar"));
-        const auto condicion = [this](int col, const QString& valor) {
-            clicCelda(1, col);
-            Escribir(t("txtBusqueda"), valor);
-            Tabular();
-        };
-        condicion(0, QString::number(primera));
-        condicion(1, QStringLiteral("AB"));
-        condicion(2, QStringLiteral("01/01/2010"));
-        condicion(3, QStringLiteral("1"));
-        condicion(4, QStringLiteral("T"));
+        CondicionesEnCincoColumnas(grid(), t("txtBusqueda"), primera);
         Clic(b("cmdBuscar"));
         QCOMPARE(DecLista().NUMDECLASEL, 1);
         QCOMPARE(lbl("lblResultado")->text(),

@@ -1,6 +1,9 @@
 #include "ApoyoIntercambio.h"
 
+#include "plataforma/General.h"
+
 #include <QFile>
+#include <QTest>
 #include <QtGlobal>
 
 namespace {
@@ -58,6 +61,46 @@ QByteArray Leer(const QString& ruta)
 {
     QFile f(ruta);
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+cContribSvr Svr()
+{
+    cContribSvr s;
+    s.mdbmod = mdbmod;
+    s.mdblec = mdblec;
+    return s;
+}
+
+int Contribuyentes()
+{
+    Arreglo2D datos;
+    return Svr().dameResultadoBusqueda({0, 0, 0}, datos, 1);
+}
+
+void PrepararImportacion(const QByteArray& bytes, bool automatico)
+{
+    Escribir(Importar().FICHEROAIMPORTAR, bytes);
+    Importar().AUTOMATICO = automatico ? QStringLiteral("X") : QStringLiteral(" ");
+}
+
+cImportar::Interlocutor Respondiendo(QStringList& preguntas, QList<bool>& respuestas)
+{
+    cImportar::Interlocutor i;
+    i.sustituir = [&preguntas, &respuestas](const QString& dni) {
+        preguntas << dni;
+        return respuestas.isEmpty() ? false : respuestas.takeFirst();
+    };
+    return i;
+}
+
+void ComprobarContadores(int total, int imp, int inc, int sus, int ign)
+{
+    const cImportar& i = Importar();
+    QCOMPARE(int(i.LineasLeidas), total);
+    QCOMPARE(int(i.NUMEROIMP), imp);
+    QCOMPARE(int(i.NUMEROINC), inc);
+    QCOMPARE(int(i.NUMEROSUS), sus);
+    QCOMPARE(int(i.NUMEROIGN), ign);
 }
 
 }  // namespace ApoyoIntercambio

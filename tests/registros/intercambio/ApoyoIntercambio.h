@@ -1,9 +1,14 @@
 #pragma once
 // What the tests of the exchange file share: lines built byte by byte, files written and read
-// back whole.
+// back whole, the contributors' store service, and an import run with its questions answered
+// and its counters checked.
+#include "registros/intercambio/cImportar.h"
+#include "servicios/cContribSvr.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace ApoyoIntercambio {
 
@@ -21,5 +26,18 @@ QByteArray DniDe(quint32 n);
 
 void Escribir(const QString& ruta, const QByteArray& bytes);
 QByteArray Leer(const QString& ruta);
+
+// The contributors' store service on the program's databases.
+cContribSvr Svr();
+// The number of stored contributors.
+int Contribuyentes();
+
+// The file to import written with `bytes`, and the mode set (automatic "X", manual " ").
+void PrepararImportacion(const QByteArray& bytes, bool automatico);
+// The answer to the import's question of replacing a contributor: each number asked is noted
+// in `preguntas`, and answered from `respuestas` in turn (No when none is left).
+cImportar::Interlocutor Respondiendo(QStringList& preguntas, QList<bool>& respuestas);
+// The counters of the last import: lines read, imported, wrong, replaced and ignored.
+void ComprobarContadores(int total, int imp, int inc, int sus, int ign);
 
 }  // namespace ApoyoIntercambio

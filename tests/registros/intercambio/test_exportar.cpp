@@ -17,14 +17,6 @@ using namespace ApoyoIntercambio;
 
 namespace {
 
-cContribSvr Svr()
-{
-    cContribSvr s;
-    s.mdbmod = mdbmod;
-    s.mdblec = mdblec;
-    return s;
-}
-
 // A contributor stored through the store's own save; answers its code.
 int32_t Guardar(const QList<QVariant>& campos19)
 {

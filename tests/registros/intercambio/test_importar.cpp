@@ -20,14 +20,6 @@ using namespace ApoyoIntercambio;
 
 namespace {
 
-cContribSvr Svr()
-{
-    cContribSvr s;
-    s.mdbmod = mdbmod;
-    s.mdblec = mdblec;
-    return s;
-}
-
 int32_t Codigo(quint32 n)
 {
     return Svr().ExisteContribuyente(QString::fromLatin1(DniDe(n)));
@@ -38,12 +30,6 @@ QString NombreGuardado(quint32 n)
     Arreglo a;
     Svr().CargarContribuyente(Codigo(n), a);
     return a.value(3).toString();
-}
-
-int Contribuyentes()
-{
-    Arreglo2D datos;
-    return Svr().dameResultadoBusqueda({0, 0, 0}, datos, 1);
 }
 
 }  // namespace
@@ -63,13 +49,8 @@ class TestImportar : public QObject {
     // m_respuestas (No when none is left).
     AvisoIntercambio Importa(const QByteArray& bytes, bool automatico)
     {
-        Escribir(Importar().FICHEROAIMPORTAR, bytes);
-        Importar().AUTOMATICO = automatico ? QStringLiteral("X") : QStringLiteral(" ");
-        cImportar::Interlocutor i;
-        i.sustituir = [this](const QString& dni) {
-            m_preguntas << dni;
-            return m_respuestas.isEmpty() ? false : m_respuestas.takeFirst();
-        };
+        PrepararImportacion(bytes, automatico);
+        cImportar::Interlocutor i = Respondiendo(m_preguntas, m_respuestas);
         i.avance = [this](int, double estimado, bool fin) {
             m_estimados << estimado;
             m_finales += fin ? 1 : 0;
@@ -77,15 +58,12 @@ class TestImportar : public QObject {
         return Importar().Ejecutar(i);
     }
 
+    // The counters, and every line read counted once.
     void Contadores(int total, int imp, int inc, int sus, int ign)
     {
-        const cImportar& i = Importar();
-        QCOMPARE(int(i.LineasLeidas), total);
-        QCOMPARE(int(i.NUMEROIMP), imp);
-        QCOMPARE(int(i.NUMEROINC), inc);
-        QCOMPARE(int(i.NUMEROSUS), sus);
-        QCOMPARE(int(i.NUMEROIGN), ign);
-        QCOMPARE(total, imp + inc + ign);
+        ComprobarContadores(total, imp, inc, sus, ign);
+        if (!QTest::currentTestFailed())
+            QCOMPARE(total, imp + inc + ign);
     }
 
 private slots:

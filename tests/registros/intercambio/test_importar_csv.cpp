@@ -26,25 +26,11 @@ const QStringList kNombres = {
     "CODIGO PROVINCIA", "NOMBRE PROVINCIA", "CODIGO POSTAL", "CODIGO MUNICIPIO",
     "NOMBRE MUNICIPIO", "NUMERO SUJETO PASIVO", "NUMERO TRANSMITENTE"};
 
-cContribSvr Svr()
-{
-    cContribSvr s;
-    s.mdbmod = mdbmod;
-    s.mdblec = mdblec;
-    return s;
-}
-
 Arreglo Guardado(const QString& dni)
 {
     Arreglo a;
     Svr().CargarContribuyente(Svr().ExisteContribuyente(dni), a);
     return a;
-}
-
-int Contribuyentes()
-{
-    Arreglo2D datos;
-    return Svr().dameResultadoBusqueda({0, 0, 0}, datos, 1);
 }
 
 QString Dni(quint32 n) { return QString::fromLatin1(DniDe(n)); }
@@ -107,24 +93,8 @@ class TestImportarCsv : public QObject {
                              const QString& nombre = QStringLiteral("clientes.csv"))
     {
         Importar().FICHEROAIMPORTAR = Ruta(nombre);
-        Escribir(Importar().FICHEROAIMPORTAR, bytes);
-        Importar().AUTOMATICO = automatico ? QStringLiteral("X") : QStringLiteral(" ");
-        cImportar::Interlocutor i;
-        i.sustituir = [this](const QString& dni) {
-            m_preguntas << dni;
-            return m_respuestas.isEmpty() ? false : m_respuestas.takeFirst();
-        };
-        return Importar().Ejecutar(i);
-    }
-
-    void Contadores(int total, int imp, int inc, int sus, int ign)
-    {
-        const cImportar& i = Importar();
-        QCOMPARE(int(i.LineasLeidas), total);
-        QCOMPARE(int(i.NUMEROIMP), imp);
-        QCOMPARE(int(i.NUMEROINC), inc);
-        QCOMPARE(int(i.NUMEROSUS), sus);
-        QCOMPARE(int(i.NUMEROIGN), ign);
+        PrepararImportacion(bytes, automatico);
+        return Importar().Ejecutar(Respondiendo(m_preguntas, m_respuestas));
     }
 
     // The error file's lines before its format.
@@ -186,7 +156,7 @@ private slots:
             bytes.prepend("\xEF\xBB\xBF");
         const AvisoIntercambio a = Importa(bytes);
         QCOMPARE(a.motivo, MotivoAviso::Importados);
-        Contadores(3, 3, 0, 0, 0);
+        ComprobarContadores(3, 3, 0, 0, 0);
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
         QCOMPARE(Guardado(Dni(1)).value(3).toString(), QStringLiteral("GARCÍA ÑOÑO"));
         QCOMPARE(Guardado(Dni(2)).value(3).toString(), QStringLiteral("LOPEZ; \"EL CHICO\", JUAN"));
@@ -195,7 +165,7 @@ private slots:
         Importar().Iniciar();
         Importar().FICHEROAIMPORTAR = Ruta(QStringLiteral("CONTRI.txt"));
         Importa(LineaValida(3), true, QStringLiteral("CONTRI.txt"));
-        Contadores(1, 1, 0, 1, 0);
+        ComprobarContadores(1, 1, 0, 1, 0);
         const Arreglo desdeLinea = Guardado(Dni(3));
         QCOMPARE(desdeCsv.size(), desdeLinea.size());
         for (int i = 0; i < desdeCsv.size(); ++i)
@@ -235,7 +205,7 @@ private slots:
         texto += abierta.join(QLatin1Char(';')) + QStringLiteral("\r\n");         // row 10
         const AvisoIntercambio a = Importa(texto.toUtf8());
         QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
-        Contadores(8, 3, 5, 0, 0);
+        ComprobarContadores(8, 3, 5, 0, 0);
         QVERIFY(Svr().ExisteContribuyente(Dni(1)) != 0);
         QVERIFY(Svr().ExisteContribuyente(Dni(2)) == 0);
         QVERIFY(Svr().ExisteContribuyente(Dni(3)) != 0);
@@ -265,7 +235,7 @@ private slots:
         h.Anadir(4);
         const AvisoIntercambio a = Importa(h.Texto().toUtf8());
         QCOMPARE(a.motivo, MotivoAviso::UnErroneo);
-        Contadores(3, 2, 1, 0, 0);
+        ComprobarContadores(3, 2, 1, 0, 0);
         const QString cabeza = QStringLiteral("Linea 3 - DNI-CIF ") + Dni(3) + QStringLiteral(": ");
         const QStringList errores = LineasDeErrores();
         QCOMPARE(errores, (QStringList{cabeza + "El número de portal debe ser un número",
@@ -290,7 +260,7 @@ private slots:
         QCOMPARE(a.motivo, MotivoAviso::Importados);
         QCOMPARE(m_preguntas.size(), 1);
         QCOMPARE(m_preguntas.first().trimmed(), Dni(1));
-        Contadores(2, 2, 0, 1, 0);
+        ComprobarContadores(2, 2, 0, 1, 0);
         QCOMPARE(Guardado(Dni(1)).value(3).toString(), QStringLiteral("NUEVO NOMBRE"));
     }
 
@@ -298,13 +268,13 @@ private slots:
     {
         AvisoIntercambio a = Importa(QByteArray());
         QVERIFY(!a);
-        Contadores(0, 0, 0, 0, 0);
+        ComprobarContadores(0, 0, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
         Importar().Iniciar();
         a = Importa(kNombres.join(QLatin1Char(';')).toUtf8() + "\r\n");
         QVERIFY(!a);
-        Contadores(0, 0, 0, 0, 0);
+        ComprobarContadores(0, 0, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
     }
 
@@ -346,7 +316,7 @@ private slots:
         for (quint32 n = 1; n <= 30; ++n)
             linea += LineaValida(n, "NOMBRE " + QByteArray::number(n)) + "\r\n";
         Importa(linea, true, QStringLiteral("CONTRI.txt"));
-        Contadores(31, 31, 0, 0, 0);
+        ComprobarContadores(31, 31, 0, 0, 0);
         QList<Arreglo> antes;
         for (quint32 n = 1; n <= 31; ++n)
             antes << Guardado(Dni(n == 31 ? 99 : n));
@@ -371,7 +341,7 @@ private slots:
         QCOMPARE(Contribuyentes(), 0);
         const AvisoIntercambio a = Importa(copia, true, QStringLiteral("vuelta.csv"));
         QCOMPARE(a.motivo, MotivoAviso::Importados);
-        Contadores(31, 31, 0, 0, 0);
+        ComprobarContadores(31, 31, 0, 0, 0);
         for (quint32 n = 1; n <= 31; ++n) {
             const Arreglo despues = Guardado(Dni(n == 31 ? 99 : n));
             const Arreglo& a0 = antes.at(int(n - 1));
