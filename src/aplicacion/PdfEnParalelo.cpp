@@ -46,7 +46,14 @@ void PdfEnParalelo::Encargar(int32_t csde, const QString& fichero, QList<Llamada
     auto promesa = std::make_shared<std::promise<bool>>();
     Encargo e{csde, fichero, promesa->get_future()};
     m_hilos.start([promesa, fichero, hojas = std::move(hojas)] {
-        promesa->set_value(escribir(fichero, hojas));
+        // Nothing may leave a pool's thread: a file that could not be made (memory) is one
+        // that was not written.
+        bool escrito = false;
+        try {
+            escrito = escribir(fichero, hojas);
+        } catch (...) {
+        }
+        promesa->set_value(escrito);
     });
     m_encargos.push_back(std::move(e));
 }
