@@ -1,6 +1,7 @@
 #include "aplicacion/OrdenesImprimir.h"
 
 #include "aplicacion/Arranque.h"
+#include "aplicacion/FechaSeleccion.h"
 #include "aplicacion/PdfEnParalelo.h"
 #include "catalogo/Catalogo.h"
 #include "paneles/imprimir/cSuperficieGrabadora.h"
@@ -113,15 +114,13 @@ std::optional<std::vector<int32_t>> leerCodigos(const QString& texto)
     return codigos;
 }
 
-// A date of the selection, DD/MM/YYYY, as yyyymmdd.
+// A date of the selection as yyyymmdd.
 int32_t fechaSeleccion(const QString& texto)
 {
-    const QDate d = QDate::fromString(texto.trimmed(), QStringLiteral("dd/MM/yyyy"));
-    if (!d.isValid())
-        throw Rechazo{TextoSegunIdioma(QStringLiteral("La fecha de la selección no es correcta: "),
-                                       QStringLiteral("Hautapenaren data ez da zuzena: "))
-                      + texto};
-    return d.year() * 10000 + d.month() * 100 + d.day();
+    const std::optional<int32_t> fecha = FechaSeleccion(texto);
+    if (!fecha)
+        throw Rechazo{FechaSeleccionNoValida(texto)};
+    return *fecha;
 }
 
 PeticionPdf leer(const QStringList& a)

@@ -1,5 +1,6 @@
 #include "aplicacion/OrdenesListar.h"
 
+#include "aplicacion/FechaSeleccion.h"
 #include "aplicacion/LineaDeOrdenes.h"
 #include "aplicacion/OrdenesIntercambio.h"
 #include "catalogo/Catalogo.h"
@@ -7,7 +8,6 @@
 #include "registros/declaracion/TablaDeclaraciones.h"
 
 #include <QCommandLineParser>
-#include <QDate>
 #include <QSaveFile>
 #include <QTextStream>
 #include <optional>
@@ -17,20 +17,16 @@ namespace {
 constexpr int kHecho = 0;
 constexpr int kImposible = 2;
 
-// A date of the selection, DD/MM/YYYY, as yyyymmdd; 0 when the option is not given.
+// A date of the selection as yyyymmdd; 0 when the option is not given.
 std::optional<int32_t> Fecha(const LineaDeOrdenes::Llamada& llamada, const QString& opcion)
 {
     if (!llamada.linea.isSet(opcion))
         return 0;
-    const QDate d = QDate::fromString(llamada.linea.value(opcion).trimmed(),
-                                      QStringLiteral("dd/MM/yyyy"));
-    if (!d.isValid()) {
-        llamada.errores << TextoSegunIdioma(QStringLiteral("La fecha de la selección no es correcta: "),
-                                            QStringLiteral("Hautapenaren data ez da zuzena: "))
-                        << llamada.linea.value(opcion) << Qt::endl;
-        return std::nullopt;
-    }
-    return d.year() * 10000 + d.month() * 100 + d.day();
+    const QString texto = llamada.linea.value(opcion);
+    const std::optional<int32_t> fecha = FechaSeleccion(texto);
+    if (!fecha)
+        llamada.errores << FechaSeleccionNoValida(texto) << Qt::endl;
+    return fecha;
 }
 
 int Listar(const LineaDeOrdenes::Llamada& llamada)
