@@ -98,12 +98,14 @@ void CerrarTodas()
         QSqlDatabase db = QSqlDatabase::database(nombre, false);
         if (!db.isOpen())
             continue;
+        // What the journal holds goes into the file as far as other running copies allow,
+        // without waiting for them: the program's end is never held up by another copy.
         if (nombre.startsWith(QLatin1String("mod|"))) {
             QSqlQuery q(db);
-            q.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+            q.exec(QStringLiteral("PRAGMA wal_checkpoint(PASSIVE)"));
         }
-        // Closing finalizes the statements the stores still hold; the last connection to a
-        // file removes its journal.
+        // Closing finalizes the statements the stores still hold; the last connection of all
+        // the running copies to a file writes back the rest of its journal and removes it.
         db.close();
     }
 }

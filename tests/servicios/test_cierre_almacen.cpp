@@ -38,6 +38,29 @@ private slots:
         QVERIFY(q.exec(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")) && q.next());
         QCOMPARE(q.value(0).toInt(), 20);
     }
+
+    void otraCopiaAbiertaSigueIgual()
+    {
+        // Another running copy keeps the store open: the end of this one neither waits for it
+        // nor takes anything from it; the journal stays for the other copy to use and close.
+        AlmacenDePrueba almacen;
+        for (quint32 n = 1; n <= 5; ++n)
+            QVERIFY(NuevoContribuyente(Dni(n), QStringLiteral("CONTRIBUYENTE %1").arg(n)) > 0);
+        ConexionPropia otra(mdbmod, ConexionPropia::Modo::Escritura);
+        QVERIFY(otra.abierta());
+        QSqlQuery lectura(otra.db());
+        QVERIFY(lectura.exec(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")) && lectura.next());
+        QCOMPARE(lectura.value(0).toInt(), 5);
+        lectura.finish();
+
+        Conexion::CerrarTodas();
+        QSqlQuery q(otra.db());
+        QVERIFY(q.exec(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")) && q.next());
+        QCOMPARE(q.value(0).toInt(), 5);
+        q.finish();
+        QVERIFY(q.exec(QStringLiteral("PRAGMA integrity_check")) && q.next());
+        QCOMPARE(q.value(0).toString(), QStringLiteral("ok"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestCierreAlmacen)
