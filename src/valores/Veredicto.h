@@ -4,6 +4,7 @@
 // box itself; the panel hands it to MostrarVeredicto (paneles/dialogos). A verdict without a
 // message means there is nothing to say.
 #include "valores/BotonesMensaje.h"
+#include "valores/Vigencia.h"
 
 #include <QString>
 
@@ -17,6 +18,8 @@ struct Veredicto {
     QString titulo;          // empty: the program's name
     QString control;         // objectName of the control that takes the focus, if any
     int pestana = kSinPestana;  // the tab to select first, on the tab widget holding the control
+    // A save refused because the stored record is no longer the one loaded says which way.
+    Vigencia vigencia = Vigencia::Vigente;
 
     bool vacio() const { return mensaje.isEmpty(); }
 };
