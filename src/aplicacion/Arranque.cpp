@@ -10,6 +10,7 @@
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
@@ -146,8 +147,6 @@ void InicializarAplicacion()
     ActOnline().ObtenerURLAct();
     Entrada().LeerIdioma();
     ActOnline().LeerActOnline();
-    OffsetIdioma = Entrada().IDI() == QLatin1String("E") ? 10000 : 0;
-    Fecha().fecidioma = Entrada().IDI();
 }
 
 bool Main()

@@ -1,6 +1,7 @@
 #include "aplicacion/Ayuda.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 
 #include <QDialog>
@@ -10,9 +11,8 @@
 
 QString RutaAyuda(const QString& tema)
 {
-    return CarpetaPrograma() + TextoSegunIdioma(QStringLiteral("/Ayuda/Ayuda/"),
-                                                QStringLiteral("/Ayuda/Laguntza/"))
-        + tema;
+    return CarpetaPrograma() + QStringLiteral("/Ayuda/") + IdiomaPrograma().carpetaAyuda()
+        + QLatin1Char('/') + tema;
 }
 
 void MostrarAyudaHtml(const QString& tema, QWidget* propietario)

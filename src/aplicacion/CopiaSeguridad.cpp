@@ -4,6 +4,7 @@
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/cSaveAsRestore.h"
 
 #include <QFileInfo>
@@ -22,7 +23,7 @@ CopiaSeguridad comun()
 {
     CopiaSeguridad c;
     c.Filtro = kFiltro;
-    c.Idioma = OffsetIdioma;
+    c.Idioma = OffsetIdioma();
     c.BDLectura = mdblec;
     c.BDTabla = QStringLiteral("T10_GENERAL");
     c.BDCampo = QStringLiteral("T10_BACKUP_TVC");

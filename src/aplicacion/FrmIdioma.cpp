@@ -52,9 +52,9 @@ FrmIdioma::FrmIdioma(QWidget* parent) : QDialog(parent)
         Proceso::Protegido([this, marcado] { alCambiarActOnline(marcado); });
     });
     connect(cmdcastellano, &QPushButton::clicked, this,
-            [this] { Proceso::Protegido([this] { elegir(QStringLiteral("C")); }); });
+            [this] { Proceso::Protegido([this] { elegir(Idioma::Castellano); }); });
     connect(cmdeuskera, &QPushButton::clicked, this,
-            [this] { Proceso::Protegido([this] { elegir(QStringLiteral("E")); }); });
+            [this] { Proceso::Protegido([this] { elegir(Idioma::Euskera); }); });
 
     // When it opens: captions, commands off, the update box from the setting.
     Anadir_captions();
@@ -83,7 +83,7 @@ void FrmIdioma::showEvent(QShowEvent* e)
             move(parentWidget()->geometry().center() - rect().center());
         }
     }
-    if (Entrada().IDI() == QLatin1String("C"))
+    if (IdiomaPrograma().esCastellano())
         cmdcastellano->setFocus();
     else
         cmdeuskera->setFocus();
@@ -105,9 +105,9 @@ void FrmIdioma::alCambiarActOnline(bool marcado)
     ActOnline().GuardarActOnline();
 }
 
-void FrmIdioma::elegir(const QString& idioma)
+void FrmIdioma::elegir(Idioma idioma)
 {
-    Entrada().setIDI(idioma);
+    Entrada().CambiarIdioma(idioma);
     if (MDIVeldo* principal = VentanaMDI())
         principal->Anadir_captions();
     if (ActOnline().ActOnline == -1) {

@@ -1,6 +1,8 @@
 #pragma once
 // The first-run chooser of language (and of the update check at start-up). Its captions show
 // both languages at once.
+#include "plataforma/Idioma.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -21,7 +23,7 @@ protected:
 
 private:
     void alCambiarActOnline(bool marcado);
-    void elegir(const QString& idioma);
+    void elegir(Idioma idioma);
 
     QGroupBox* Frame1 = nullptr;
     QPushButton* cmdcastellano = nullptr;

@@ -6,6 +6,7 @@
 #include "aplicacion/OrdenesListar.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 
 #include <QApplication>
@@ -236,14 +237,14 @@ int ImprimirDeclaracion(const Llamada& llamada)
 // The language of the user's locale for messages: the first of LC_ALL, LC_MESSAGES and LANG
 // that is set decides, Basque for "eu" and Spanish for anything else. The language stored in
 // the user's database is not used: the line does its work without opening it.
-int16_t OffsetDelEntorno()
+Idioma IdiomaDelEntorno()
 {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         const QString valor = qEnvironmentVariable(variable);
         if (!valor.isEmpty())
-            return valor.startsWith(QLatin1String("eu")) ? 10000 : 0;
+            return valor.startsWith(QLatin1String("eu")) ? Idioma::Euskera : Idioma::Castellano;
     }
-    return 0;
+    return Idioma::Castellano;
 }
 
 // Declares every option of the table and of Qt to the parser; answers the table's options in
@@ -309,7 +310,7 @@ public:
     // object left it.
     int atender(const QStringList& argumentos, QTextStream& salida, QTextStream& errores) const
     {
-        OffsetIdioma = OffsetDelEntorno();
+        EstablecerIdiomaPrograma(IdiomaDelEntorno());
         if (m_valida)
             return m_opcion->trabajo(Llamada{m_programa, argumentos, m_linea, salida, errores});
         errores << Rechazo(m_linea) << '\n' << Pista(m_programa) << Qt::endl;

@@ -5,7 +5,7 @@
 // table in LineaDeOrdenes.cpp, which --help lists.
 //
 // What the line writes is in the language of the user's locale (LC_ALL, LC_MESSAGES, LANG):
-// Basque for "eu", Spanish otherwise. OffsetIdioma is set to it before any work runs, so the
+// Basque for "eu", Spanish otherwise. The program's language is set to it before any work runs, so the
 // work's own texts (Texto, TextoSegunIdioma) come in that language too.
 #include <QString>
 #include <QStringList>

@@ -11,6 +11,7 @@
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "plataforma/Proceso.h"
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Navegador.h"
@@ -372,14 +373,14 @@ void MDIVeldo::restaurarCopia()
 void MDIVeldo::asistenciaOnline()
 {
     cMiscelaneos misc;
-    misc.Idioma = OffsetIdioma;
+    misc.Idioma = OffsetIdioma();
     MostrarVeredicto(misc.AccesoAyuOnline(AbrirEnNavegador), this);
 }
 
 void MDIVeldo::descripcionAsistencia()
 {
     cMiscelaneos misc;
-    misc.Idioma = OffsetIdioma;
+    misc.Idioma = OffsetIdioma();
     MostrarVeredicto(misc.MostrarOnlineInfo(), this);
 }
 

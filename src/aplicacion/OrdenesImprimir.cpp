@@ -205,15 +205,11 @@ PeticionPdf leer(const QStringList& a)
 // today's date when none is given.
 int32_t fechaPresentacion(const QString& texto)
 {
-    cFecha& fecha = Fecha();
-    const QString antes = fecha.fecidioma;
-    fecha.fecidioma = QStringLiteral("C");
     const QString dada = texto.isEmpty()
                              ? QDate::currentDate().toString(QStringLiteral("dd/MM/yyyy"))
                              : texto;
-    const Veredicto v = VeredictoFechaPresentacion(dada);
-    const int32_t numero = v.vacio() ? fecha.StringToLong(dada) : 0;
-    fecha.fecidioma = antes;
+    const Veredicto v = VeredictoFechaPresentacion(dada, Idioma::Castellano);
+    const int32_t numero = v.vacio() ? cFecha::StringToLong(dada, Idioma::Castellano) : 0;
     if (!v.vacio())
         throw Rechazo{v.mensaje};
     return numero;

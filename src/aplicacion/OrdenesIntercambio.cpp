@@ -5,6 +5,7 @@
 #include "aplicacion/LineaDeOrdenes.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "registros/intercambio/cExportar.h"
@@ -41,7 +42,7 @@ int Uso(const LineaDeOrdenes::Llamada& llamada, const QString& forma)
 // window. The messages stay in the language the line chose.
 bool Preparar(QTextStream& errores)
 {
-    const int16_t idioma = OffsetIdioma;
+    const Idioma idioma = IdiomaPrograma();
     ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     try {
         if (const QString aviso = PrepararAlmacenes(); !aviso.isEmpty()) {
@@ -53,8 +54,7 @@ bool Preparar(QTextStream& errores)
         errores << f.origen() << ": " << f.descripcion() << Qt::endl;
         return false;
     }
-    OffsetIdioma = idioma;
-    Fecha().fecidioma = idioma ? QStringLiteral("E") : QStringLiteral("C");
+    EstablecerIdiomaPrograma(idioma);
     return true;
 }
 

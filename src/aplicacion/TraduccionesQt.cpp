@@ -1,6 +1,7 @@
 #include "aplicacion/TraduccionesQt.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -23,7 +24,7 @@ QString CargarTraduccionesQt()
         instalada().reset();
     }
     const QString carpeta = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    const QStringList candidatas = OffsetIdioma != 0
+    const QStringList candidatas = IdiomaPrograma().esEuskera()
         ? QStringList{QStringLiteral("qtbase_eu"), QStringLiteral("qtbase_es")}
         : QStringList{QStringLiteral("qtbase_es")};
     for (const QString& nombre : candidatas) {

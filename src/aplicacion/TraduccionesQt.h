@@ -5,6 +5,6 @@
 // Spanish ones, which a user of this bilingual program reads better than English.
 #include <QString>
 
-// Installs the translations that fit OffsetIdioma, replacing those of an earlier call.
+// Installs the translations of the program's language, replacing those of an earlier call.
 // Answers the name of the file loaded ("qtbase_es"), or an empty text when none was found.
 QString CargarTraduccionesQt();

@@ -79,9 +79,12 @@ int EjecutarVeldo(int argc, char** argv)
     app.setFont(QFont(QStringLiteral("Liberation Sans"), 9));
     bool sigue = false;
     Proceso::Protegido([&] { sigue = Main(); });
+    // An end asked for during start-up (no store to work on) has its own status; without one,
+    // a start-up that went no further ends quietly.
+    if (const std::optional<int> fin = Proceso::FinPedido())
+        return Proceso::Salida(*fin);
     if (!sigue)
         return 0;
     const int estado = app.exec();
-    Conexion::CerrarTodas();
-    return estado;
+    return Proceso::Salida(Proceso::FinPedido().value_or(estado));
 }

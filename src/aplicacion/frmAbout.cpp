@@ -1,6 +1,7 @@
 #include "aplicacion/frmAbout.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -53,7 +54,7 @@ void frmAbout::showEvent(QShowEvent* e)
     }
     m_abierto = true;
     setWindowTitle(QStringLiteral("Acerca de ") + windowTitle());
-    if (OffsetIdioma == 10000) {
+    if (IdiomaPrograma().esEuskera()) {
         lblTitle->setText(QStringLiteral("Veldoriak. Zenbait Garraiobideren gaineko Zerga Berezia."));
         lblVersion->setText(VersionPrograma + QStringLiteral(" bertsioa"));
         lblDescription->setText(QStringLiteral(

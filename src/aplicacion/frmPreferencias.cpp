@@ -50,9 +50,9 @@ frmPreferencias::frmPreferencias(QWidget* parent) : QDialog(parent)
     rejilla->addLayout(botones, 5, 0, 1, 2);
 
     connect(optCast, &QRadioButton::toggled, this,
-            [this](bool on) { m_idioma = on ? QStringLiteral("C") : QStringLiteral("E"); });
+            [this](bool on) { m_idioma = on ? Idioma::Castellano : Idioma::Euskera; });
     connect(optEusk, &QRadioButton::toggled, this,
-            [this](bool on) { m_idioma = on ? QStringLiteral("E") : QStringLiteral("C"); });
+            [this](bool on) { m_idioma = on ? Idioma::Euskera : Idioma::Castellano; });
     connect(cmdAceptar, &QPushButton::clicked, this,
             [this] { Proceso::Protegido([this] { aceptar(); }); });
     connect(cmdCancelar, &QPushButton::clicked, this, &QDialog::reject);
@@ -75,10 +75,10 @@ void frmPreferencias::Anadir_captions()
 void frmPreferencias::reflejarAjustes()
 {
     chkActOnline->setChecked(ActOnline().ActOnline == 1);
-    const bool castellano = Entrada().IDI() == QLatin1String("C");
+    const bool castellano = IdiomaPrograma().esCastellano();
     optCast->setChecked(castellano);
     optEusk->setChecked(!castellano);
-    m_idioma = castellano ? QStringLiteral("C") : QStringLiteral("E");
+    m_idioma = IdiomaPrograma();
 }
 
 bool frmPreferencias::event(QEvent* e)
@@ -113,7 +113,7 @@ void frmPreferencias::aceptar()
 {
     ActOnline().ActOnline = chkActOnline->isChecked() ? 1 : 0;
     ActOnline().GuardarActOnline();
-    Entrada().setIDI(m_idioma);
+    Entrada().CambiarIdioma(m_idioma);
     if (MDIVeldo* principal = VentanaMDI())
         principal->Anadir_captions();
     accept();

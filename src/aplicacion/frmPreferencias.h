@@ -1,5 +1,7 @@
 #pragma once
 // Preferences: the language and the update check at start-up.
+#include "plataforma/Idioma.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -13,7 +15,7 @@ public:
     explicit frmPreferencias(QWidget* parent = nullptr);
 
     void Anadir_captions();
-    const QString& idiomaElegido() const { return m_idioma; }
+    Idioma idiomaElegido() const { return m_idioma; }
 
 protected:
     bool event(QEvent* e) override;
@@ -32,5 +34,5 @@ private:
     QRadioButton* optEusk = nullptr;
     QPushButton* cmdAceptar = nullptr;
     QPushButton* cmdCancelar = nullptr;
-    QString m_idioma;  // the letter chosen, stored only on acceptance
+    Idioma m_idioma;  // the language chosen, stored only on acceptance
 };

@@ -2,12 +2,13 @@
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/CatalogoFilas.h"
 
 QString Texto(int id)
 {
     // The sum is a 16-bit addition, as the offset is.
-    return TextoFila(static_cast<int16_t>(id + OffsetIdioma));
+    return TextoFila(static_cast<int16_t>(id + OffsetIdioma()));
 }
 
 QString TextoFila(int fila)
@@ -23,5 +24,5 @@ QString TextoFila(int fila)
 
 QString TextoSegunIdioma(const QString& es, const QString& eu)
 {
-    return OffsetIdioma == 0 ? es : eu;
+    return IdiomaPrograma().segun(es, eu);
 }

@@ -6,6 +6,7 @@
 //
 // Each record's module keeps its own accessor (`cDecDatos& DecDatos()`), a thin function over
 // Estado().de<cDecDatos>(), so this layer knows none of the record types.
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <typeindex>
@@ -27,8 +28,14 @@ public:
         return *registro;
     }
 
-    // Every record as new, and the application-wide values of General.h as at start.
+    // Every record as new, the program's language and the application-wide values of
+    // General.h as at start, and every cache of derived data (fonts, pictures) to be made again.
     void Reiniciar();
+
+    // Caches kept per thread (the printed sheet's fonts and pictures, made on the threads that
+    // paint in parallel) cannot be reached from here: each compares the generation it was made
+    // in with this one, and starts again when Reiniciar has moved it on.
+    static uint64_t Generacion();
 
 private:
     using Propio = std::unique_ptr<void, void (*)(void*)>;

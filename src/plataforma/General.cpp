@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <unistd.h>
 
-int16_t OffsetIdioma = 0;
 QString mdbmod;
 QString mdblec;
 QString mdbPath;

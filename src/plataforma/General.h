@@ -1,10 +1,9 @@
 #pragma once
-// Application-wide state that every module reads: the language offset of the catalogue, the
-// paths of the two databases and the running program's version.
+// Application-wide state that every module reads: the paths of the two databases and the
+// running program's version. The language is Idioma.h's.
 #include <QString>
 #include <cstdint>
 
-extern int16_t OffsetIdioma;   // 0 Spanish, 10000 Basque
 extern QString mdbmod;         // full path of the read/write database
 extern QString mdblec;         // full path of the read-only reference database
 extern QString mdbPath;        // the read/write database's folder, with its closing "/"

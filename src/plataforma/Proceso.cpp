@@ -2,6 +2,7 @@
 
 #include "plataforma/Fallo.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +12,7 @@ bool g_grabando = false;
 QList<ProcesoSeam::Aviso> g_avisos;
 int g_finales = 0;
 int g_ultimoCodigo = 0;
+std::optional<int> g_finPedido;
 std::function<void(const QString&, const QString&)> g_avisoVisible;
 QList<std::function<void()>> g_alTerminarBien;
 
@@ -24,7 +26,14 @@ void mostrarAviso(const QString& origen, const QString& descripcion)
     if (g_avisoVisible)
         g_avisoVisible(origen, descripcion);
 }
+
+// Every write of the stores is a committed transaction, so nothing is lost by ending here.
+[[noreturn]] void terminarYa(int codigo)
+{
+    std::fflush(nullptr);
+    std::_Exit(codigo);
 }
+}  // namespace
 
 namespace Proceso {
 void Terminar(int codigo)
@@ -34,18 +43,37 @@ void Terminar(int codigo)
         g_ultimoCodigo = codigo;
         return;
     }
+    if (!QCoreApplication::instance())
+        terminarYa(Salida(codigo));
+    // The first end asked for decides the status; the event loops running now return, and a
+    // loop not yet started is not started (the entry looks at FinPedido first).
+    if (!g_finPedido)
+        g_finPedido = codigo;
+    QCoreApplication::exit(*g_finPedido);
+}
+
+std::optional<int> FinPedido()
+{
+    return g_finPedido;
+}
+
+int Salida(int codigo)
+{
     if (codigo == 0)
         for (const auto& accion : std::as_const(g_alTerminarBien))
             accion();
     std::fflush(nullptr);
-    // Every write of the stores is a committed transaction, so nothing is lost by ending here.
-    std::_Exit(codigo);
+    return codigo;
 }
 
 void AvisoFalloEjecucion(const cFallo& fallo)
 {
     mostrarAviso(fallo.origen(), fallo.descripcion());
-    Terminar(1);
+    if (g_grabando) {
+        Terminar(1);
+        return;
+    }
+    terminarYa(1);
 }
 
 void AvisoFalloEjecucion(const std::exception& fallo)
@@ -55,7 +83,11 @@ void AvisoFalloEjecucion(const std::exception& fallo)
         return;
     }
     mostrarAviso(QStringLiteral("Veldoria"), QString::fromLocal8Bit(fallo.what()));
-    Terminar(1);
+    if (g_grabando) {
+        Terminar(1);
+        return;
+    }
+    terminarYa(1);
 }
 
 void AlTerminarBien(std::function<void()> accion)

@@ -5,14 +5,24 @@
 #include <QString>
 #include <functional>
 #include <exception>
+#include <optional>
 
 class cFallo;
 
 namespace Proceso {
-// Ends the process at once: no question, no closing step of any panel.
+// Ends the program with status `codigo` through its own exit path: every event loop stops,
+// the program's entry returns the status (Salida), and the work registered for a clean end is
+// done there. No question is asked and no closing step of any panel runs. Before the program
+// has an application object the process ends here, as it would on that path.
 void Terminar(int codigo = 0);
+// The status an end was asked for with, if Terminar was called.
+std::optional<int> FinPedido();
+// The program's last step on its way out: for status 0, the work registered with AlTerminarBien.
+// Answers the status, for the program's entry to return.
+int Salida(int codigo);
 
-// The runtime failure notice: shows the failure's source and description, then ends.
+// The runtime failure notice: shows the failure's source and description, then ends the
+// process at once, without its exit path (the program's state is not to be trusted).
 void AvisoFalloEjecucion(const cFallo& fallo);
 void AvisoFalloEjecucion(const std::exception& fallo);
 

@@ -1,5 +1,6 @@
 #include "valores/CriteriosDeclaracion.h"
 
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
 namespace CriteriosDeclaracion {
@@ -23,7 +24,7 @@ QVariantList Arreglo5(const std::optional<TablaCriterios>& tabla)
         if (campo < kCodigo || campo > kOperacion)
             continue;
         if (campo == kFecha)
-            criterios[campo - 1] = Fecha().StringToLong(c.VALORSELECCION);
+            criterios[campo - 1] = cFecha::StringToLong(c.VALORSELECCION, IdiomaPrograma());
         else
             criterios[campo - 1] = c.VALORSELECCION;
     }

@@ -1,19 +1,16 @@
 #include "valores/cFecha.h"
 
-#include "plataforma/Estado.h"
-
 #include "plataforma/Fallo.h"
-#include "catalogo/Catalogo.h"
 #include "valores/Val.h"
 
 #include <QDate>
 #include <QStringList>
 #include <cmath>
 
-const QString cFecha::kVaciaCastellano = QStringLiteral("__/__/____");
-const QString cFecha::kVaciaEuskera = QStringLiteral("____/__/__");
-
 namespace {
+
+const QString kVaciaCastellano = QStringLiteral("__/__/____");
+const QString kVaciaEuskera = QStringLiteral("____/__/__");
 
 // A two-character part of a date, read with a "0" in front as a 16-bit whole number; a part
 // that is not a number is a failure.
@@ -48,14 +45,14 @@ bool EsBisiesto(int anio)
 
 }  // namespace
 
-QString cFecha::FecVacia() const
+QString cFecha::FecVacia(Idioma idioma)
 {
-    return fecidioma == QLatin1String("E") ? kVaciaEuskera : kVaciaCastellano;
+    return idioma.segun(kVaciaCastellano, kVaciaEuskera);
 }
 
-int32_t cFecha::miYear(const QString& fecha) const
+int32_t cFecha::miYear(const QString& fecha, Idioma idioma)
 {
-    if (fecidioma == QLatin1String("E")) {
+    if (idioma.esEuskera()) {
         QString anio = fecha.left(4);
         while (anio.startsWith(QLatin1Char(' ')))
             anio.remove(0, 1);
@@ -79,13 +76,13 @@ int32_t cFecha::miYear(const QString& fecha) const
     return fechaLeida.year();
 }
 
-bool cFecha::EsFecha(const QString& fecha, std::optional<int16_t> minimo) const
+bool cFecha::EsFecha(const QString& fecha, Idioma idioma, std::optional<int16_t> minimo)
 {
-    if (fecha == FecVacia())
+    if (fecha == FecVacia(idioma))
         return true;
 
     std::optional<int> dia, mes, anio;
-    if (EsCastellano()) {
+    if (idioma.esCastellano()) {
         dia = ParteFija(fecha.mid(0, 2));
         mes = ParteFija(fecha.mid(3, 2));
         anio = ParteLibre(fecha.mid(6));
@@ -115,25 +112,25 @@ bool cFecha::EsFecha(const QString& fecha, std::optional<int16_t> minimo) const
     return true;
 }
 
-int32_t cFecha::StringToLong(const QString& fecha, std::optional<int16_t> minimo) const
+int32_t cFecha::StringToLong(const QString& fecha, Idioma idioma, std::optional<int16_t> minimo)
 {
-    if (fecha == FecVacia())
+    if (fecha == FecVacia(idioma))
         return 0;
-    if (!EsFecha(fecha, minimo))
+    if (!EsFecha(fecha, idioma, minimo))
         return -1;
     // The pieces are taken as they stand from the ends of the text: four characters of year,
     // two of month, two of day.
-    const QString numero = EsCastellano()
+    const QString numero = idioma.esCastellano()
         ? fecha.right(4) + fecha.mid(3, 2) + fecha.left(2)
         : fecha.left(4) + fecha.mid(5, 2) + fecha.right(2);
     const auto v = EnteroEstricto(numero, INT32_MIN, INT32_MAX);
     return v ? static_cast<int32_t>(*v) : 0;
 }
 
-QString cFecha::LongToString(int32_t numero, std::optional<QString> marcador)
+QString cFecha::LongToString(int32_t numero, Idioma idioma, std::optional<QString> marcador)
 {
     if (numero < 1)
-        return FecVacia();
+        return FecVacia(idioma);
 
     const QString cifras = QString::number(numero);
     QString dia, mes, anio;
@@ -147,15 +144,7 @@ QString cFecha::LongToString(int32_t numero, std::optional<QString> marcador)
         dia = cifras.right(2);
     }
     const QChar barra(QLatin1Char('/'));
-    const QString texto = EsCastellano() ? dia + barra + mes + barra + anio
-                                         : anio + barra + mes + barra + dia;
-    if (EsFecha(texto, 0))
-        return texto;
-    MensajeError = Texto(2);
-    return FecVacia();
-}
-
-cFecha& Fecha()
-{
-    return Estado().de<cFecha>();
+    const QString texto = idioma.esCastellano() ? dia + barra + mes + barra + anio
+                                                : anio + barra + mes + barra + dia;
+    return EsFecha(texto, idioma, 0) ? texto : FecVacia(idioma);
 }

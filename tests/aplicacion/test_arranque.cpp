@@ -4,6 +4,7 @@
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 #include "comun/BaseCruda.h"
@@ -158,8 +159,8 @@ private slots:
         VentanaMDI()->activateWindow();
         QTRY_COMPARE(captura.vistos(), QStringList{"FrmIdioma"});
         QCOMPARE(Entrada().IDI(), QStringLiteral("E"));
-        QCOMPARE(OffsetIdioma, int16_t(10000));
-        QCOMPARE(Fecha().fecidioma, QStringLiteral("E"));
+        QCOMPARE(OffsetIdioma(), int16_t(10000));
+        QCOMPARE(IdiomaPrograma(), Idioma(Idioma::Euskera));
         QCOMPARE(VentanaMDI()->windowTitle(), QStringLiteral("Veldoriak"));
         QCOMPARE(ajustes().ObtenerIdioma(), QStringLiteral("E"));
         // Opening the chooser ended the undecided state: the next run does not ask.
@@ -182,7 +183,7 @@ private slots:
         QVERIFY(activada());
         QVERIFY(!captura.vistos().contains("FrmIdioma"));
         QCOMPARE(Entrada().IDI(), QStringLiteral("E"));
-        QCOMPARE(OffsetIdioma, int16_t(10000));
+        QCOMPARE(OffsetIdioma(), int16_t(10000));
         QCOMPARE(VentanaMDI()->findChild<QMenu*>("mnuDeclaracion")->title(),
                  QStringLiteral("&Aitorpena"));
         QVERIFY(EsperaDe(RelojSeam::esperas().last(), 3000));
@@ -196,7 +197,7 @@ private slots:
         ajustes().CambiarIdioma("X");
         ajustes().GuardarActOnline(0);
         QVERIFY(arrancar());
-        QCOMPARE(OffsetIdioma, int16_t(0));
+        QCOMPARE(OffsetIdioma(), int16_t(0));
         QCOMPARE(VentanaMDI()->windowTitle(), QStringLiteral("Veldoria"));
     }
 

@@ -8,6 +8,7 @@
 
 #include "paneles/dialogos/DialogoFichero.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 #include "servicios/Conexion.h"
@@ -40,7 +41,7 @@ CopiaSeguridad paraCopia()
     c.RutaDestino = carpetaCopias();
     c.RutaOrigen = mdbPath;
     c.Filtro = kFiltro;
-    c.Idioma = OffsetIdioma;
+    c.Idioma = OffsetIdioma();
     c.BDLectura = mdblec;
     c.BDTabla = QStringLiteral("T10_GENERAL");
     c.BDCampo = QStringLiteral("T10_BACKUP_TVC");
@@ -55,7 +56,7 @@ CopiaSeguridad paraRestaurar()
     c.RutaDestino = mdbPath;
     c.RutaOrigen = carpetaCopias();
     c.Filtro = kFiltro;
-    c.Idioma = OffsetIdioma;
+    c.Idioma = OffsetIdioma();
     c.BDLectura = mdblec;
     c.BDTabla = QStringLiteral("T10_GENERAL");
     c.BDCampo = QStringLiteral("T10_BACKUP_TVC");
@@ -113,13 +114,13 @@ private slots:
     {
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(traspaso(), false);
     }
     void cleanup()
     {
         m_carpeta.reset();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void filtroDelDialogo()

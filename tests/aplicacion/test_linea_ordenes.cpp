@@ -3,6 +3,7 @@
 #include "registros/actualizacion/FormatoRegistroVersion.h"
 #include "aplicacion/LineaDeOrdenes.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 #include "comun/Entorno.h"
 
@@ -67,7 +68,7 @@ private slots:
         EstablecerCarpetaPrograma(m_carpeta.path());
         qputenv("LC_ALL", "C.UTF-8");
     }
-    void cleanup() { OffsetIdioma = 0; }
+    void cleanup() { EstablecerIdiomaPrograma(Idioma::Castellano); }
 
     void sinOpcionesConTrabajoArranca_data()
     {

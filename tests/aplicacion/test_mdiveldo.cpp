@@ -4,6 +4,7 @@
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 #include "comun/DeclaracionPrueba.h"
@@ -266,7 +267,7 @@ private slots:
         auto* pagina = m_ventana->findChild<QTextBrowser*>("txtAyuda");
         QVERIFY(pagina);
         QVERIFY(pagina->source().toLocalFile().endsWith("/Ayuda/Ayuda/cap.html"));
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         boton(4)->trigger();
         QVERIFY(pagina->source().toLocalFile().endsWith("/Ayuda/Laguntza/kap.html"));
         // The pages ship with the program.
@@ -276,7 +277,7 @@ private slots:
 
     void rotulosEnEuskeraYMarcadores()
     {
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         m_ventana->Anadir_captions();
         QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
         QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Aitorpena"));
@@ -299,7 +300,7 @@ private slots:
         QTRY_VERIFY(!m_ventana->findChild<QWidget*>("FrmConDatos"));
         QVERIFY(menu("mnuDeclaracion")->menuAction()->isEnabled());
         // The language changes while no panel is open; the next panel is a new one, in Basque.
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         m_ventana->Anadir_captions();
         accion("mnuNuevoContribuyente")->trigger();
         panel = m_ventana->findChild<QWidget*>("FrmConDatos");
@@ -321,7 +322,7 @@ private slots:
         QCOMPARE(captura.vistos().last(), QStringLiteral("frmAbout"));
         QCOMPARE(titulo, QStringLiteral("Acerca de Veldoria"));
         QCOMPARE(version, QStringLiteral("Versión 1.0.0"));
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         m_ventana->Anadir_captions();
         accion("mnuacerca")->trigger();
         QCOMPARE(titulo, QStringLiteral("Acerca de Veldoriak"));
@@ -394,10 +395,10 @@ private slots:
     {
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancelar"));
         // Qt has no Basque of its own on this system: the Spanish stands in, not English.
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         m_ventana->Anadir_captions();
         QVERIFY(QCoreApplication::translate("QPlatformTheme", "Cancel") != QLatin1String("Cancel"));
-        Entrada().setIDI("C");
+        Entrada().CambiarIdioma(Idioma::Castellano);
         m_ventana->Anadir_captions();
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancelar"));
     }
@@ -406,7 +407,7 @@ private slots:
     {
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         m_ventana->Anadir_captions();
         QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
         // Answered No: nothing changes.
@@ -422,7 +423,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that the store was restored
         accion("mnuRestore")->trigger();
         QCOMPARE(Entrada().IDI(), QStringLiteral("C"));
-        QCOMPARE(OffsetIdioma, int16_t(0));
+        QCOMPARE(OffsetIdioma(), int16_t(0));
         QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoria"));
         QCOMPARE(menu("mnuDeclaracion")->title(), QStringLiteral("&Declaración"));
     }

@@ -3,6 +3,7 @@
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "comun/CapturaModal.h"
 #include "comun/Entorno.h"
 
@@ -79,7 +80,7 @@ private slots:
                  QStringLiteral("&Castellano\n\n") + TextoFila(317));
         QCOMPARE(idioma.findChild<QPushButton*>("cmdeuskera")->text(),
                  QStringLiteral("&Euskera\n\n") + TextoFila(318));
-        Entrada().setIDI("E");
+        Entrada().CambiarIdioma(Idioma::Euskera);
         FrmIdioma vasco(VentanaMDI());
         QCOMPARE(vasco.windowTitle(), QStringLiteral("Hizkuntzaren hautapena/Selección de idioma"));
     }
@@ -145,7 +146,7 @@ private slots:
         prefs.show();
         prefs.findChild<QRadioButton*>("optEusk")->click();
         prefs.findChild<QCheckBox*>("chkActOnline")->click();
-        QCOMPARE(prefs.idiomaElegido(), QStringLiteral("E"));
+        QCOMPARE(prefs.idiomaElegido(), Idioma(Idioma::Euskera));
         prefs.findChild<QPushButton*>("cmdAceptar")->click();
         QCOMPARE(Entrada().IDI(), QStringLiteral("E"));
         QCOMPARE(ajusteGuardado(), int16_t(1));
@@ -197,7 +198,7 @@ private slots:
         QVERIFY(EsperaDe(RelojSeam::esperas()[0], 3000));
         apuntarActualizacionA("http://127.0.0.1:1/version");
         ActOnline().ActOnline = 1;
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         CapturaModal captura;
         {
             frmVeldoInicio inicio;

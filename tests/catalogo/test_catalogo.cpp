@@ -2,6 +2,7 @@
 // rules: offset by language, rows read in a fixed language, literal pairs.
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 
 #include <QFile>
@@ -38,27 +39,27 @@ private slots:
     void cadaIdSegunIdioma()
     {
         for (const auto& [fila, texto] : m_filas) {
-            OffsetIdioma = fila > 10000 ? 10000 : 0;
-            QCOMPARE(Texto(fila - OffsetIdioma), texto);
+            EstablecerIdiomaPrograma(fila > 10000 ? Idioma::Euskera : Idioma::Castellano);
+            QCOMPARE(Texto(fila - OffsetIdioma()), texto);
         }
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void cancelarEnLosDosIdiomas()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QCOMPARE(Texto(4), QStringLiteral("&Utzi"));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(Texto(4), QStringLiteral("&Cancelar"));
     }
 
     void filasInvertidas315a318()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         const QString vasco = Texto(315);
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         const QString castellano = Texto(315);
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QVERIFY(vasco != castellano);
         QCOMPARE(TextoFila(10315), castellano);
         // The Spanish base row of 215 and the Basque row of 315 say the same in the other tongue.
@@ -86,11 +87,11 @@ private slots:
 
     void textoSegunIdioma()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(TextoSegunIdioma("cap.html", "kap.html"), QStringLiteral("cap.html"));
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QCOMPARE(TextoSegunIdioma("cap.html", "kap.html"), QStringLiteral("kap.html"));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void filaInexistenteEsUnFallo()

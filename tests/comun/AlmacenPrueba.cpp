@@ -2,9 +2,9 @@
 
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/Conexion.h"
 #include "servicios/cTraspaso.h"
-#include "valores/cFecha.h"
 
 namespace {
 const QString kOrigen = QStringLiteral("prueba");
@@ -24,8 +24,7 @@ AlmacenDePrueba::AlmacenDePrueba() : m_carpeta(std::make_unique<CarpetaDePrueba>
 {
     GrabarSeams();
     MensajeSeam::limpiar();
-    OffsetIdioma = 0;
-    Fecha().fecidioma = QStringLiteral("C");
+    EstablecerIdiomaPrograma(Idioma::Castellano);
     cTraspaso traspaso;
     traspaso.mdbmod = mdbmod;
     traspaso.mdbPath = mdbPath;

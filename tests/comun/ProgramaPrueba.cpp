@@ -19,7 +19,7 @@ std::unique_ptr<CarpetaDePrueba> ProgramaConAlmacenNuevo()
 
 ProgramaDePrueba::ProgramaDePrueba(const QString& idioma) : m_carpeta(AlmacenNuevo())
 {
-    Entrada().setIDI(idioma);
+    Entrada().CambiarIdioma(Idioma::DeLetra(idioma));
     ActOnline().ActOnline = 0;  // the language is chosen: no chooser at the first activation
     m_ventana = new MDIVeldo;
     m_ventana->resize(1024, 768);

@@ -2,6 +2,7 @@
 // same here, and the message that stops the program when they are not.
 #include "catalogo/Catalogo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/BibliotecaSqlite.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,8 @@ class TestBibliotecaSqlite : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { OffsetIdioma = 0; }
-    void cleanup() { OffsetIdioma = 0; }
+    void init() { EstablecerIdiomaPrograma(Idioma::Castellano); }
+    void cleanup() { EstablecerIdiomaPrograma(Idioma::Castellano); }
 
     void unaSolaBiblioteca()
     {
@@ -30,7 +31,7 @@ private slots:
                  QStringLiteral("El programa no puede usar su base de datos: la biblioteca SQLite "
                                 "que llama (2022-12-28 14:03:47 df5c253c) no es la que usa Qt "
                                 "(2023-05-16 12:36:15 831d0fb2). Vuelva a instalar el programa."));
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QVERIFY(AvisoBibliotecaSqlite(f).startsWith(QStringLiteral("Programak ezin du")));
     }
 

@@ -7,6 +7,7 @@
 #include "comun/PartesPrueba.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/BusquedaTexto.h"
 #include "servicios/PosicionesContribuyente.h"
 #include "servicios/PosicionesPresentador.h"
@@ -122,7 +123,7 @@ class TestTextoGuardable : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { OffsetIdioma = 0; }
+    void init() { EstablecerIdiomaPrograma(Idioma::Castellano); }
 
     // --- The check itself ------------------------------------------------------------------
 
@@ -186,7 +187,7 @@ private slots:
 
     void mensajeEnEuskera()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         const ColumnaTexto c[] = {{P::NOMBREC, 40, 27, "txtnombrec"}};
         Arreglo datos(P::Tamano);
         datos[P::NOMBREC] = QString(41, QLatin1Char('N'));

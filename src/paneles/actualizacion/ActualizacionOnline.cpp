@@ -6,6 +6,7 @@
 #include "registros/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 
+#include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "plataforma/Reloj.h"
 
@@ -18,7 +19,9 @@
 namespace {
 
 // A check started while another one waits (a second click during the wait) does nothing.
-bool g_comprobando = false;
+struct ComprobacionEnCurso {
+    bool activa = false;
+};
 
 // Gives a freshly shown window a second to paint before the download blocks.
 void esperarUnSegundo()
@@ -53,12 +56,14 @@ void ObtenerVersionPrograma()
 
 void ComprobarActualizacion()
 {
-    if (g_comprobando)
+    bool& comprobando = Estado().de<ComprobacionEnCurso>().activa;
+    if (comprobando)
         return;
-    g_comprobando = true;
+    comprobando = true;
     struct Fin {
-        ~Fin() { g_comprobando = false; }
-    } fin;
+        bool& marca;
+        ~Fin() { marca = false; }
+    } fin{comprobando};
 
     cActOnline& act = ActOnline();
     esperarUnSegundo();

@@ -1,6 +1,7 @@
 #include "paneles/controles/CajaNum.h"
 
 #include "paneles/controles/Colores.h"
+#include "plataforma/Estado.h"
 #include "valores/Filtros.h"
 #include "paneles/controles/SeleccionarTexto.h"
 #include "valores/Formato.h"
@@ -27,7 +28,9 @@ private:
 namespace {
 // How many locked boxes may hand the focus on in a row before giving up: a panel whose
 // every field is locked must not spin.
-int g_pasesDeFoco = 0;
+struct PasesDeFoco {
+    int enCurso = 0;
+};
 constexpr int kMaximoPases = 64;
 }
 
@@ -197,9 +200,10 @@ void CajaNum::focusOutEvent(QFocusEvent* evento)
 
 void CajaNum::PasarFoco(bool adelante)
 {
-    if (g_pasesDeFoco >= kMaximoPases)
+    int& pases = Estado().de<PasesDeFoco>().enCurso;
+    if (pases >= kMaximoPases)
         return;
-    ++g_pasesDeFoco;
+    ++pases;
     focusNextPrevChild(adelante);
-    --g_pasesDeFoco;
+    --pases;
 }

@@ -12,6 +12,7 @@
 #include "registros/declaracion/FechaDevengo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
 #include <QApplication>
@@ -112,7 +113,7 @@ void FrmDeclaracion::SalirFecha()
         return;
     const QString texto = txtfechad->displayText();
     // An empty date keeps the stored one and asks nothing.
-    if (texto == Fecha().FecVacia() || Fecha().StringToLong(texto) == DecDatos().FECHAD)
+    if (texto == cFecha::FecVacia(IdiomaPrograma()) || cFecha::StringToLong(texto, IdiomaPrograma()) == DecDatos().FECHAD)
         return;
     if (ComprobarFecha()) {
         Modificado();
@@ -121,7 +122,7 @@ void FrmDeclaracion::SalirFecha()
     }
     // The old date comes back; leaving the field meanwhile is no leaving.
     m_saltarValidacion = true;
-    txtfechad->setText(Fecha().LongToString(DecDatos().FECHAD));
+    txtfechad->setText(cFecha::LongToString(DecDatos().FECHAD, IdiomaPrograma()));
     QApplication::processEvents();
     txtfechad->setFocus(Qt::OtherFocusReason);
     m_saltarValidacion = false;

@@ -13,6 +13,7 @@
 #include "paneles/partes/CamposDatos.h"
 #include "paneles/partes/SalidaCampos.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
@@ -355,7 +356,7 @@ void FrmDeclaracion::Anadir_captions()
 void FrmDeclaracion::FormatosFecha()
 {
     // The empty mask is the empty date of cFecha ("__/__/____" or "____/__/__").
-    const bool euskera = OffsetIdioma != 0;
+    const bool euskera = IdiomaPrograma().esEuskera();
     txtfechad->setInputMask(euskera ? QStringLiteral("9999/99/99;_") : QStringLiteral("99/99/9999;_"));
 }
 

@@ -17,6 +17,7 @@
 #include "valores/Formato.h"
 #include "valores/Twips.h"
 #include "valores/Val.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 #include "valores/cListaDeclaraciones.h"
 
@@ -258,7 +259,7 @@ void PanelDeclaraciones::RellenarGrid(const Arreglo2D& datos)
             const QVariant& v = columna.at(i);
             QString texto;
             if (j == kFecha)
-                texto = Fecha().LongToString(v.toInt());
+                texto = cFecha::LongToString(v.toInt(), IdiomaPrograma());
             else if (j == kImporte)
                 texto = Formato(Val(v.toString()) / 100, kFormatoImporte);
             else
@@ -476,7 +477,7 @@ void PanelDeclaraciones::BusquedaAbandonada()
         return;
     const QString texto = txtBusqueda->text();
     if (e.SELECCIONACTUAL.toInt() == CriteriosDeclaracion::kFecha && !texto.isEmpty()
-        && !Fecha().EsFecha(texto)) {
+        && !cFecha::EsFecha(texto, IdiomaPrograma())) {
         Mensaje(Texto(70), vb::Exclamation, Texto(71));
         return;
     }

@@ -10,6 +10,7 @@
 #include "registros/declaracion/cOperacion.h"
 #include "registros/nucleo/CEntrada.h"
 #include "valores/Val.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
 #include <QCheckBox>
@@ -63,7 +64,7 @@ void FrmDeclaracion::PresentarVehiculo()
 {
     const cDecDatos& d = DecDatos();
     // The date is written only when it differs, so that a field being entered keeps its mask.
-    const QString fecha = Fecha().LongToString(d.FECHAD);
+    const QString fecha = cFecha::LongToString(d.FECHAD, IdiomaPrograma());
     if (txtfechad->displayText() != fecha)
         txtfechad->setText(fecha);
     PonerTexto(txtreferencia, d.REFERENCIA);

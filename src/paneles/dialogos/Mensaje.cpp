@@ -1,6 +1,7 @@
 #include "paneles/dialogos/Mensaje.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -38,7 +39,7 @@ QList<int> botonesDe(int botones)
 // The buttons speak the language in use, as the texts of the box do.
 QString rotulo(int respuesta)
 {
-    if (OffsetIdioma != 0) {
+    if (IdiomaPrograma().esEuskera()) {
         switch (respuesta) {
         case vb::OK: return QStringLiteral("Ados");
         case vb::Cancel: return QStringLiteral("Utzi");

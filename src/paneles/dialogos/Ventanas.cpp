@@ -1,25 +1,32 @@
 #include "paneles/dialogos/Ventanas.h"
 
+#include "plataforma/Estado.h"
+
 #include <QMdiSubWindow>
 #include <QWidget>
 
 namespace {
-Ventanas::Ganchos g_ganchos;
+// Installed by the main window; a reset of the program's state drops them with it.
+Ventanas::Ganchos& ganchos()
+{
+    return Estado().de<Ventanas::Ganchos>();
 }
+}  // namespace
 
-void Ventanas::instalar(Ganchos ganchos) { g_ganchos = std::move(ganchos); }
+void Ventanas::instalar(Ganchos nuevos) { ganchos() = std::move(nuevos); }
 
 void AbrirPanel(QWidget* panel)
 {
-    if (g_ganchos.abrirPanel)
-        g_ganchos.abrirPanel(panel);
+    if (const Ventanas::Ganchos& g = ganchos(); g.abrirPanel)
+        g.abrirPanel(panel);
     else
         panel->show();
 }
 
 QWidget* VentanaPrincipal()
 {
-    return g_ganchos.ventanaPrincipal ? g_ganchos.ventanaPrincipal() : nullptr;
+    const Ventanas::Ganchos& g = ganchos();
+    return g.ventanaPrincipal ? g.ventanaPrincipal() : nullptr;
 }
 
 void CerrarPanel(QWidget* panel)

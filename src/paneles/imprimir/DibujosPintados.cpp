@@ -1,5 +1,7 @@
 #include "paneles/imprimir/DibujosPintados.h"
 
+#include "plataforma/Estado.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
@@ -90,6 +92,11 @@ const QImage& ImagenDibujo(Dibujo dibujo)
 {
     // Made once per thread: a batch paints its PDF files on several threads at once.
     thread_local QHash<int, QImage> hechas;
+    thread_local uint64_t generacion = cEstado::Generacion();
+    if (generacion != cEstado::Generacion()) {
+        hechas.clear();
+        generacion = cEstado::Generacion();
+    }
     const int clave = static_cast<int>(dibujo);
     auto it = hechas.find(clave);
     if (it == hechas.end())

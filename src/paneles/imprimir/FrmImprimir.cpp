@@ -10,6 +10,7 @@
 #include "paneles/imprimir/cSuperficiePdf.h"
 #include "paneles/imprimir/cSuperficieVista.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/CopiasImpresas.h"
@@ -45,7 +46,7 @@ public:
     CursorEspera& operator=(const CursorEspera&) = delete;
 };
 
-bool esCastellano() { return OffsetIdioma == 0; }
+bool esCastellano() { return IdiomaPrograma().esCastellano(); }
 
 QRadioButton* opcion(QButtonGroup* grupo, int elemento)
 {

@@ -1,5 +1,7 @@
 #include "paneles/imprimir/FuentesImpreso.h"
 
+#include "plataforma/Estado.h"
+
 #include <map>
 #include <memory>
 #include <tuple>
@@ -67,6 +69,11 @@ const FuenteMedida& FuenteDeImpreso(const QString& familia, double puntos, bool 
     // One set per thread: a batch writes its PDF files on several threads at once, and a
     // font and its metrics are not to be shared between threads.
     thread_local std::map<Clave, std::unique_ptr<FuenteMedida>> hechas;
+    thread_local uint64_t generacion = cEstado::Generacion();
+    if (generacion != cEstado::Generacion()) {
+        hechas.clear();
+        generacion = cEstado::Generacion();
+    }
     const Clave clave{familia, puntos, negrita, cursiva, subrayado};
     auto it = hechas.find(clave);
     if (it == hechas.end())

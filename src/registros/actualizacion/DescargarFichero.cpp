@@ -4,6 +4,7 @@
 #include "registros/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 
+#include "plataforma/Estado.h"
 #include "plataforma/General.h"
 
 #include <QEventLoop>
@@ -21,7 +22,15 @@
 
 namespace {
 
-std::chrono::milliseconds g_esperaMaxima{15000};
+// How long a download may take before it counts as no connection.
+struct EsperaDescarga {
+    std::chrono::milliseconds maxima{15000};
+};
+
+std::chrono::milliseconds& esperaMaxima()
+{
+    return Estado().de<EsperaDescarga>().maxima;
+}
 
 // A version file is a few hundred bytes. A reply above this size is not one: the download
 // stops reading there and the check goes on as if there were no connection, so an endless or
@@ -57,7 +66,7 @@ std::optional<QByteArray> traer(const QUrl& url)
                           QNetworkRequest::NoLessSafeRedirectPolicy);
     peticion.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                           QNetworkRequest::AlwaysNetwork);
-    peticion.setTransferTimeout(static_cast<int>(g_esperaMaxima.count()));
+    peticion.setTransferTimeout(static_cast<int>(esperaMaxima().count()));
 
     std::unique_ptr<QNetworkReply> respuesta(red.get(peticion));
     // Qt keeps no more than this unread; the body is taken as it comes and counted.
@@ -90,7 +99,7 @@ std::optional<QByteArray> traer(const QUrl& url)
     QObject::connect(respuesta.get(), &QNetworkReply::readyRead, &bucle, leer);
     QObject::connect(respuesta.get(), &QNetworkReply::errorOccurred, &bucle, &QEventLoop::quit);
     QObject::connect(respuesta.get(), &QNetworkReply::finished, &bucle, &QEventLoop::quit);
-    limite.start(g_esperaMaxima);
+    limite.start(esperaMaxima());
     if (!respuesta->isFinished() && respuesta->error() == QNetworkReply::NoError)
         bucle.exec(QEventLoop::ExcludeUserInputEvents);
     limite.stop();
@@ -130,10 +139,10 @@ int DescargarFichero(const QString& url, const QString& fichero)
 
 void EstablecerEsperaMaximaDescarga(std::chrono::milliseconds espera)
 {
-    g_esperaMaxima = espera;
+    esperaMaxima() = espera;
 }
 
 std::chrono::milliseconds EsperaMaximaDescarga()
 {
-    return g_esperaMaxima;
+    return esperaMaxima();
 }

@@ -3,6 +3,7 @@
 #include "registros/actualizacion/cActOnline.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -42,7 +43,7 @@ int DescargarVersionIni()
             return SitActualizacion::FicheroErroneo;
         const QString url = ActOnline().URLAct + QStringLiteral("?Programa=") + TituloPrograma()
                             + QStringLiteral("&idioma=")
-                            + (OffsetIdioma == 10000 ? QStringLiteral("e") : QStringLiteral("c"));
+                            + (IdiomaPrograma().esEuskera() ? QStringLiteral("e") : QStringLiteral("c"));
         return DescargarFichero(url, ruta);
     } catch (...) {
         return SitActualizacion::FicheroErroneo;

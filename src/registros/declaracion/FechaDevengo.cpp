@@ -5,6 +5,7 @@
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
 namespace {
@@ -28,14 +29,14 @@ Veredicto VeredictoFecha(const QString& texto)
     v.botones = vb::Exclamation;
     v.titulo = Texto(131);
     v.control = QStringLiteral("txtfechad");
-    if (!Fecha().EsFecha(texto)) {
+    if (!cFecha::EsFecha(texto, IdiomaPrograma())) {
         v.id = 169;
         v.mensaje = Texto(169);
         return v;
     }
     const int32_t minima = Entrada().FECMIN;
     const int32_t maxima = Entrada().FECMAX;
-    const int32_t d = Fecha().StringToLong(texto);
+    const int32_t d = cFecha::StringToLong(texto, IdiomaPrograma());
     if (minima <= d && d <= maxima)
         return {};
     v.id = 170;
@@ -48,7 +49,7 @@ Veredicto CambiarFecha(const QString& texto)
 {
     Veredicto v = VeredictoFecha(texto);
     if (v.vacio())
-        DecDatos().FECHAD = Fecha().StringToLong(texto);
+        DecDatos().FECHAD = cFecha::StringToLong(texto, IdiomaPrograma());
     return v;
 }
 

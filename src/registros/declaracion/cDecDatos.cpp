@@ -3,6 +3,7 @@
 #include "plataforma/Estado.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/declaracion/cOperacion.h"
 #include "valores/Formato.h"
 #include "valores/Val.h"
@@ -345,7 +346,7 @@ void cDecDatos::ValidarDniOficial(const QString& dni, bool& resultado) const
 QStringList cDecDatos::CargarListaOperaciones() const
 {
     Arreglo lista;
-    Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, lista, OffsetIdioma);
+    Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, lista, OffsetIdioma());
     QStringList descripciones;
     for (const QVariant& v : lista)
         descripciones << v.toString();
@@ -354,13 +355,13 @@ QStringList cDecDatos::CargarListaOperaciones() const
 
 QString cDecDatos::DameOperacionporDescripcion(const QString& descripcion) const
 {
-    return Almacen<cDeclaSvr>().DameOperacionporDescripcion(descripcion, FECHAD, OffsetIdioma);
+    return Almacen<cDeclaSvr>().DameOperacionporDescripcion(descripcion, FECHAD, OffsetIdioma());
 }
 
 void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 {
     Arreglo datos;
-    if (Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD, datos, OffsetIdioma))
+    if (Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD, datos, OffsetIdioma()))
         Operacion().ActualizaOperacion(datos, sinReduccion);
     else
         Operacion().Inicializa();

@@ -2,6 +2,7 @@
 
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/Almacen.h"
 #include "servicios/cDeclaSvr.h"
 
@@ -19,7 +20,7 @@ void cDecLista::IniciarLista()
 int32_t cDecLista::CargarDeclaraciones(Arreglo2D& datos)
 {
     NUMDECLASEL = Almacen<cDeclaSvr>().dameResultadoBusqueda(datos, Criterios(), ORDEN,
-                                                             TIPOORDEN, OffsetIdioma);
+                                                             TIPOORDEN, OffsetIdioma());
     return NUMDECLASEL;
 }
 

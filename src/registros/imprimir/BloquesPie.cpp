@@ -21,12 +21,8 @@ const std::array<ParEtiquetas, 5> kIngreso{{
 // Basque first, whatever the language in use; the date form in force is put back.
 QString fechaPresentacion()
 {
-    cFecha& fecha = Fecha();
-    const QString antes = fecha.fecidioma;
     const QString vasca = FechaConSufijo();
-    fecha.fecidioma = QStringLiteral("C");
-    const QString castellana = fecha.LongToString(ImOf().FECHAPRE);
-    fecha.fecidioma = antes;
+    const QString castellana = cFecha::LongToString(ImOf().FECHAPRE, Idioma::Castellano);
     return vasca + QStringLiteral(" /// ") + castellana;
 }
 }

@@ -5,6 +5,7 @@
 #include "registros/imprimir/Primitivas.h"
 #include "registros/partes/cPreDatos.h"
 #include "valores/Formato.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
 namespace {
@@ -81,7 +82,7 @@ void DatosPeriodo(cSuperficiePagina& p, float y)
     p.FontSize = 11;
     const int32_t fechad = DecDatos().FECHAD;
     // A date that gives no text (0 or a bad number) leaves both cells empty.
-    if (Fecha().LongToString(fechad) != Fecha().FecVacia()) {
+    if (cFecha::LongToString(fechad, IdiomaPrograma()) != cFecha::FecVacia(IdiomaPrograma())) {
         TextoCentrado(p, 65, y + 20.5f, 30, QString::number(fechad / 10000));
         TextoCentrado(p, 125, y + 20.5f, 30, NombreMes(fechad / 100 % 100));
     }

@@ -34,11 +34,7 @@ QString SufijoDia(const QString& dia)
 
 QString FechaConSufijo()
 {
-    cFecha& fecha = Fecha();
-    const QString antes = fecha.fecidioma;
-    fecha.fecidioma = QStringLiteral("E");
-    const QString vasca = fecha.LongToString(ImOf().FECHAPRE);
-    fecha.fecidioma = antes;
+    const QString vasca = cFecha::LongToString(ImOf().FECHAPRE, Idioma::Euskera);
     return vasca + SufijoDia(vasca.right(2));
 }
 

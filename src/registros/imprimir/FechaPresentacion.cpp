@@ -2,26 +2,26 @@
 
 #include "catalogo/Catalogo.h"
 #include "registros/imprimir/cImOf.h"
+#include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
-Veredicto VeredictoFechaPresentacion(const QString& texto)
+Veredicto VeredictoFechaPresentacion(const QString& texto, Idioma formato)
 {
     Veredicto v;
     v.botones = vb::OKOnly | vb::Exclamation;
     v.titulo = Texto(131);
     v.control = QStringLiteral("txtFechaPresentacion");
-    cFecha& fecha = Fecha();
     // An empty date is a date (0) for the date check: it is refused by the limit below, with
     // the limit's message.
-    if (!fecha.EsFecha(texto)) {
+    if (!cFecha::EsFecha(texto, formato)) {
         v.id = 327;
         v.mensaje = Texto(327);
         return v;
     }
-    if (fecha.StringToLong(texto) >= kFechaPresentacionMinima)
+    if (cFecha::StringToLong(texto, formato) >= kFechaPresentacionMinima)
         return {};
     // The one message of the form that is not in the catalogue.
-    const QString limite = fecha.LongToString(kFechaPresentacionMinima);
+    const QString limite = cFecha::LongToString(kFechaPresentacionMinima, formato);
     v.mensaje = TextoSegunIdioma(
         QStringLiteral("La Fecha de presentación no puede ser anterior al ") + limite,
         QStringLiteral("Aurkezpen data ezin da ") + limite + QStringLiteral(" baino lehenagokoa izan"));
@@ -30,8 +30,8 @@ Veredicto VeredictoFechaPresentacion(const QString& texto)
 
 Veredicto FijarFechaPresentacion(const QString& texto)
 {
-    Veredicto v = VeredictoFechaPresentacion(texto);
+    Veredicto v = VeredictoFechaPresentacion(texto, IdiomaPrograma());
     if (v.vacio())
-        ImOf().FECHAPRE = Fecha().StringToLong(texto);
+        ImOf().FECHAPRE = cFecha::StringToLong(texto, IdiomaPrograma());
     return v;
 }

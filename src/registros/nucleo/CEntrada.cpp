@@ -3,7 +3,7 @@
 #include "plataforma/Estado.h"
 
 #include "plataforma/General.h"
-#include "valores/cFecha.h"
+#include "plataforma/Idioma.h"
 #include "servicios/Almacen.h"
 #include "servicios/cDatosGeneral.h"
 #include "servicios/cGeneralSvr.h"
@@ -16,16 +16,16 @@ void CEntrada::InicializarContadores()
     NUMPRESEN = datos.NumeroPresentadores();
 }
 
-void CEntrada::ModificarIdioma(const QString& idi)
+void CEntrada::ModificarIdioma(Idioma idioma)
 {
     auto general = Almacen<cGeneralSvr>();
-    general.CambiarIdioma(idi);
+    general.CambiarIdioma(idioma.letra());
 }
 
 void CEntrada::LeerIdioma()
 {
     auto general = Almacen<cGeneralSvr>();
-    m_idi = general.ObtenerIdioma();
+    EstablecerIdiomaPrograma(Idioma::DeLetra(general.ObtenerIdioma()));
 }
 
 void CEntrada::LeerFechaMinimaMaxima()
@@ -37,12 +37,10 @@ void CEntrada::LeerFechaMinimaMaxima()
     FECMAX = fechas.value(1).toInt();
 }
 
-void CEntrada::setIDI(const QString& idi)
+void CEntrada::CambiarIdioma(Idioma idioma)
 {
-    m_idi = idi;
-    ModificarIdioma(idi);
-    OffsetIdioma = idi == QLatin1String("E") ? 10000 : 0;
-    Fecha().fecidioma = idi;
+    ModificarIdioma(idioma);
+    EstablecerIdiomaPrograma(idioma);
 }
 
 CEntrada& Entrada()

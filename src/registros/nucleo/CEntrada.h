@@ -1,5 +1,9 @@
 #pragma once
-// Counters of the user's records, the language and the date limits: one shared instance.
+// Counters of the user's records, the stored language and the date limits: one shared
+// instance. The language itself is the program's one state (plataforma/Idioma.h); this record
+// reads and writes its stored copy.
+#include "plataforma/Idioma.h"
+
 #include <QString>
 #include <cstdint>
 
@@ -8,15 +12,16 @@ public:
     // Reloads the three counters from the read/write database.
     void InicializarContadores();
     // Stores the language in the read/write database.
-    void ModificarIdioma(const QString& idi);
-    // Reads the stored language into IDI, without any side effect.
+    void ModificarIdioma(Idioma idioma);
+    // Makes the stored language the program's.
     void LeerIdioma();
     // Loads FECMIN and FECMAX from the read-only database.
     void LeerFechaMinimaMaxima();
 
-    const QString& IDI() const { return m_idi; }
-    // Keeps the value, stores it, derives OffsetIdioma and passes it to Fecha.
-    void setIDI(const QString& idi);
+    // The program's language as the store writes it: "C" Spanish, "E" Basque.
+    QString IDI() const { return IdiomaPrograma().letra(); }
+    // The user's choice: stored, and made the program's language.
+    void CambiarIdioma(Idioma idioma);
 
     int32_t FECMIN = 0;
     int32_t FECMAX = 0;
@@ -24,9 +29,6 @@ public:
     int32_t NUMCONTRI = 0;
     int16_t NUMPRESEN = 0;  // deliberately narrower than the other two counters
     QString MODELO;         // kept although nothing reads or writes it
-
-private:
-    QString m_idi;
 };
 
 CEntrada& Entrada();

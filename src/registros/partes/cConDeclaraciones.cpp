@@ -4,6 +4,7 @@
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreLista.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
@@ -36,7 +37,7 @@ int32_t cConDeclaraciones::CargarDeclaraciones(Arreglo2D& datos)
 {
     NUMDECLASEL = Almacen<cDeclaSvr>().dameDeclaracionesContribuyente(
         Criterios(), datos, CSCO, ORDEN, TIPOORDEN,
-        OffsetIdioma);
+        OffsetIdioma());
     return NUMDECLASEL;
 }
 
@@ -49,7 +50,7 @@ int32_t cPreDeclaraciones::CargarDeclaraciones(Arreglo2D& datos)
 {
     NUMDECLASEL = Almacen<cDeclaSvr>().dameDeclaracionesPresentador(
         Criterios(), datos, CSPR, ORDEN, TIPOORDEN,
-        OffsetIdioma);
+        OffsetIdioma());
     return NUMDECLASEL;
 }
 

@@ -11,6 +11,7 @@
 #include "paneles/actualizacion/LanzarExplorador.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/dialogos/Navegador.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/Reloj.h"
@@ -122,7 +123,7 @@ private slots:
         GrabarSeams();
         RelojSeam::grabar(true);
         NavegadorSeam::grabar(true);
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         ActOnline() = cActOnline{};
         ActOnline().ActFile = m_carpeta->ruta() + QStringLiteral("/Veldo");
         programaEnVersion(QStringLiteral("1"), QStringLiteral("28"), QStringLiteral("1"));
@@ -137,7 +138,7 @@ private slots:
         m_estrictos.reset();
         m_servidor.reset();
         m_carpeta.reset();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void mismaVersionEsSilenciosaAlArrancar()
@@ -302,7 +303,7 @@ private slots:
 
     void consultaEnEuskera()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         m_servidor->responder(200, ficheroVersion("1.28.1"));
         comprobar();
         QCOMPARE(m_servidor->peticiones().size(), 1);
@@ -315,7 +316,7 @@ private slots:
 
     void panelSinConexionEnEuskeraSigueBilingue()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         m_servidor->responder(404, "");
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
         QCOMPARE(m_vistas.at(0).titulo, TextoFila(354) + QStringLiteral(" / ") + TextoFila(10354));

@@ -9,6 +9,7 @@
 #include "registros/actualizacion/cActOnline.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/dialogos/Navegador.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/Proceso.h"
@@ -116,7 +117,7 @@ private slots:
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
         NavegadorSeam::grabar(true);
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         versionesDePrueba(0);
         m_estrictos.emplace();
     }
@@ -125,7 +126,7 @@ private slots:
     {
         m_estrictos.reset();
         m_carpeta.reset();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     // FrmVersionCheck
@@ -150,7 +151,7 @@ private slots:
 
     void versionCheckTextosFijosEnEuskera()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         FrmVersionCheck panel;
         QCOMPARE(panel.windowTitle(), QStringLiteral("Actualizar versión"));
         QCOMPARE(hijo<QLabel>(&panel, "LblAct")->text(), QStringLiteral("Oraingoa / Actual"));
@@ -284,7 +285,7 @@ private slots:
 
     void sinNavegadorAvisaEnEuskera()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         NavegadorSeam::setNextResult(false);
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
@@ -334,7 +335,7 @@ private slots:
     void datosErroneosTextos()
     {
         ActOnline().SitAct = 4;
-        OffsetIdioma = 10000;  // the rows do not follow the language
+        EstablecerIdiomaPrograma(Idioma::Euskera);  // the rows do not follow the language
         FrmSinConexion panel;
         QCOMPARE(panel.windowTitle(), TextoFila(355) + QStringLiteral(" / ") + TextoFila(10355));
         QCOMPARE(hijo<QLabel>(&panel, "lblTituloC")->text(), TextoFila(353));

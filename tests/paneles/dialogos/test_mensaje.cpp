@@ -2,6 +2,7 @@
 // language in use, the default one, and the keys that answer it.
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -43,11 +44,11 @@ class TestMensaje : public QObject {
 
 private slots:
     void init() { MensajeSeam::grabar(false); }
-    void cleanup() { OffsetIdioma = 0; }
+    void cleanup() { EstablecerIdiomaPrograma(Idioma::Castellano); }
 
     void botonesEnCastellano()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         int r = 0;
         const Visto v = mirarCaja([&] { r = Mensaje(QStringLiteral("¿Seguro?"), vb::Question | vb::YesNo | vb::DefaultButton2); });
         QCOMPARE(v.botones, (QStringList{QStringLiteral("Sí"), QStringLiteral("No")}));
@@ -72,7 +73,7 @@ private slots:
     {
         QFETCH(int, botones);
         QFETCH(QStringList, rotulos);
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         const Visto v = mirarCaja([&] { Mensaje(QStringLiteral("Ziur?"), botones); });
         QCOMPARE(v.botones, rotulos);
     }

@@ -12,6 +12,7 @@
 #include "paneles/imprimir/FrmImprimir.h"
 #include "paneles/imprimir/ImpresoraSistema.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/cImOf.h"
 #include "registros/partes/cPreDatos.h"
@@ -35,8 +36,7 @@
 namespace {
 void euskera(bool si)
 {
-    OffsetIdioma = si ? 10000 : 0;
-    Fecha().fecidioma = si ? QStringLiteral("E") : QStringLiteral("C");
+    EstablecerIdiomaPrograma(si ? Idioma::Euskera : Idioma::Castellano);
 }
 
 template <typename T>
@@ -301,7 +301,7 @@ private slots:
         auto* caja = hijo<QLineEdit>(m_panel, "txtFechaPresentacion");
         caja->selectAll();
         QTest::keyClick(caja, Qt::Key_Delete);
-        QCOMPARE(caja->displayText(), Fecha().FecVacia());
+        QCOMPARE(caja->displayText(), cFecha::FecVacia(IdiomaPrograma()));
         pulsar("cmdAceptar");
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro().first().texto, mensaje);

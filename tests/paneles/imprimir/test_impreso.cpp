@@ -430,12 +430,13 @@ private slots:
                                                    {20040301, "2004/03/01ean"},
                                                    {20040331, "2004/03/31n"},
                                                    {20040302, "2004/03/02an"}};
-        Fecha().fecidioma = QStringLiteral("C");
+        // The Basque date whatever the program speaks, and the program's language untouched.
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         for (const auto& [fecha, texto] : casos) {
             ImOf().FECHAPRE = fecha;
             QCOMPARE(FechaConSufijo(), texto);
         }
-        QCOMPARE(Fecha().fecidioma, QStringLiteral("C"));
+        QCOMPARE(IdiomaPrograma(), Idioma(Idioma::Castellano));
         QCOMPARE(NombreMes(9), QStringLiteral("Septiembre / Iraila"));
         QCOMPARE(NombreMes(13), QString());
     }

@@ -8,6 +8,7 @@
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
 
@@ -66,7 +67,7 @@ private slots:
     {
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         ActOnline() = cActOnline{};
         VersionPrograma.clear();
         VersionProducto.clear();

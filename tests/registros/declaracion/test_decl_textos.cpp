@@ -5,6 +5,7 @@
 #include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/declaracion/Validacion.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "servicios/ImporteGuardable.h"
@@ -43,7 +44,7 @@ class TestDeclTextos : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() { OffsetIdioma = 0; }
+    void init() { EstablecerIdiomaPrograma(Idioma::Castellano); }
 
     void textoImposible_data()
     {

@@ -5,6 +5,7 @@
 
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
@@ -22,8 +23,7 @@ const QString kTitulo = QStringLiteral("Declaración");
 
 void euskera(bool si)
 {
-    OffsetIdioma = si ? 10000 : 0;
-    Fecha().fecidioma = si ? QStringLiteral("E") : QStringLiteral("C");
+    EstablecerIdiomaPrograma(si ? Idioma::Euskera : Idioma::Castellano);
 }
 }  // namespace
 

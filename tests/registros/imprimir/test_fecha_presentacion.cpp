@@ -5,6 +5,7 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/imprimir/FechaPresentacion.h"
 #include "registros/imprimir/cImOf.h"
 #include "valores/cFecha.h"
@@ -12,10 +13,11 @@
 #include <QTest>
 
 namespace {
-void idioma(bool euskera, bool fechasEnEuskera)
+// The program speaks `euskera`; the answer is the layout the date texts are written in.
+Idioma idioma(bool euskera, bool fechasEnEuskera)
 {
-    OffsetIdioma = euskera ? 10000 : 0;
-    Fecha().fecidioma = fechasEnEuskera ? QStringLiteral("E") : QStringLiteral("C");
+    EstablecerIdiomaPrograma(euskera ? Idioma::Euskera : Idioma::Castellano);
+    return fechasEnEuskera ? Idioma::Euskera : Idioma::Castellano;
 }
 
 void comprobarAviso(const Veredicto& v)
@@ -58,8 +60,8 @@ private slots:
         QFETCH(bool, euskera);
         QFETCH(QString, texto);
         QFETCH(int, numero);
-        idioma(euskera, euskera);
-        QVERIFY(VeredictoFechaPresentacion(texto).vacio());
+        const Idioma formato = idioma(euskera, euskera);
+        QVERIFY(VeredictoFechaPresentacion(texto, formato).vacio());
         QCOMPARE(ImOf().FECHAPRE, 20100101);
         QVERIFY(FijarFechaPresentacion(texto).vacio());
         QCOMPARE(ImOf().FECHAPRE, numero);
@@ -95,10 +97,15 @@ private slots:
         QFETCH(bool, fechasEnEuskera);
         QFETCH(QString, texto);
         QFETCH(QString, mensaje);
-        idioma(euskera, fechasEnEuskera);
-        const Veredicto v = FijarFechaPresentacion(texto);
+        const Idioma formato = idioma(euskera, fechasEnEuskera);
+        const Veredicto v = VeredictoFechaPresentacion(texto, formato);
         QCOMPARE(v.mensaje, mensaje);
         comprobarAviso(v);
+        if (euskera == fechasEnEuskera) {
+            const Veredicto fijado = FijarFechaPresentacion(texto);
+            QCOMPARE(fijado.mensaje, mensaje);
+            comprobarAviso(fijado);
+        }
         QCOMPARE(ImOf().FECHAPRE, 20100101);
     }
 

@@ -6,6 +6,7 @@
 #include "comun/AlmacenNuevo.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/intercambio/cExportar.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cContribSvr.h"
@@ -137,11 +138,11 @@ private slots:
         QCOMPARE(aviso.texto(),
                  QStringLiteral("El/Los Interviniente/s con NIF: 000000000, 12345678 tiene/n un "
                                 "NIF erróneo o necesita/n llevar el dígito de control"));
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QCOMPARE(aviso.texto(),
                  QStringLiteral("000000000, 12345678 IFZ duten esku hartzailea(e)k IFZ okerra "
                                 "du(te) edo kontrol digitua eraman behar du(te)."));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void caracterQueElFicheroNoAdmite()

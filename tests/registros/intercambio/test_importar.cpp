@@ -7,6 +7,7 @@
 #include "comun/OtraConexion.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 #include "registros/intercambio/cImportar.h"
 #include "servicios/PosicionesContribuyente.h"
@@ -426,7 +427,7 @@ private slots:
 
     void enEuskera()
     {
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         const AvisoIntercambio a = Importa(LineaValida(1) + "\r\ncorta\r\n", true);
         QCOMPARE(a.texto(), TextoFila(10272) + QStringLiteral("1") + TextoFila(10273));
         const QByteArray corta = (TextoFila(10265) + QStringLiteral("2") + TextoFila(10266)).toLatin1()
@@ -435,7 +436,7 @@ private slots:
         QVERIFY(Leer(Importar().FICHEROERRORES).startsWith(corta));
         QVERIFY(cImportar::TextoPreguntaSustituir(QStringLiteral("1Z"))
                     .startsWith(QStringLiteral("1Z zk.ko NA duen zergaduna lehenagotik dago.\n")));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "ApoyoIntercambio.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LectorLineas.h"
@@ -194,7 +195,7 @@ private slots:
 
     void lineasDelFicheroDeErrores()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(FicheroErrores::LineaCorta(7),
                  QByteArray("Linea 7No se han importado todos los datos\r\n"));
         const Arreglo2D errores{{1, 22, 99, 0}};
@@ -216,10 +217,10 @@ private slots:
             formato += QByteArray("         ") + campo + "\r\n";
         QCOMPARE(FicheroErrores::Formato(), formato);
         // In Basque the words change; the format stays in Spanish.
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QVERIFY(!FicheroErrores::LineaCorta(7).startsWith("Linea 7No"));
         QVERIFY(FicheroErrores::Formato().endsWith("         NUMERO TRANSMITENTE(7)\r\n"));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "ApoyoDatos.h"
 
 #include "plataforma/General.h"
+#include "plataforma/Idioma.h"
 #include "paneles/controles/cListaClaves.h"
 #include "paneles/partes/Selectores.h"
 
@@ -22,11 +23,11 @@ private slots:
     {
         GrabarSeams();
         m_carpeta = std::make_unique<CarpetaDePrueba>();
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
     void cleanup()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         m_carpeta.reset();
     }
 
@@ -38,7 +39,7 @@ private slots:
                  QStringLiteral("Select T07_PRO_ID, T07_PRO_CAS From T07_PROVINCIAS ORDER BY T07_PRO_CAS"));
         QCOMPARE(Selectores::Consulta(TipoSelector::Municipio),
                  QStringLiteral("Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS ORDER BY T08_NOMMUN"));
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QCOMPARE(Selectores::Consulta(TipoSelector::Via),
                  QStringLiteral("Select T09_CODIGO, T09_EUS From T09_SIGLASVIA ORDER BY T09_EUS"));
         QCOMPARE(Selectores::Consulta(TipoSelector::Provincia),
