@@ -8,7 +8,6 @@ void cEstado::Reiniciar()
         reiniciar();
     OffsetIdioma = 0;
     VersionPrograma.clear();
-    VersionProducto.clear();
 }
 
 cEstado& Estado()

@@ -10,7 +10,6 @@ QString mdbmod;
 QString mdblec;
 QString mdbPath;
 QString VersionPrograma;
-QString VersionProducto;
 
 namespace {
 QString g_carpeta;

@@ -4,7 +4,7 @@
 // compare (0 empty, -1 bad). cFecha converts between them and decides what a valid date is,
 // with its own rules rather than the platform's calendar.
 //
-// The language tests are not all alike, on purpose: FecVacia and miYear ask "is it Basque?",
+// The language tests are not all alike, on purpose: FecVacia asks "is it Basque?",
 // EsFecha, StringToLong and LongToString ask "is it Spanish?". With only "C" and "E" in use
 // they agree.
 #include <QString>
@@ -20,9 +20,6 @@ public:
 
     // What an empty date field holds in the current language.
     QString FecVacia() const;
-    // The year of a date text. Throws cFallo when the text holds no year (the empty mask
-    // included): callers test for the empty mask first.
-    int32_t miYear(const QString& fecha) const;
     // The number yyyymmdd of a date text: 0 for the empty mask, -1 for a bad date.
     int32_t StringToLong(const QString& fecha, std::optional<int16_t> minimo = std::nullopt) const;
     // True for a valid date of year `minimo` or later, and for the empty mask.

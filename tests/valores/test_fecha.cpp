@@ -1,5 +1,4 @@
 // The date value: validity rules, the two layouts, the numbers and the failures.
-#include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
 #include "valores/cFecha.h"
@@ -197,33 +196,9 @@ private slots:
         QCOMPARE(f.StringToLong(f.LongToString(numero)), numero);
     }
 
-    void anio()
-    {
-        QCOMPARE(f.miYear(QStringLiteral("29/02/2024")), 2024);
-        QCOMPARE(f.miYear(QStringLiteral("1/2/1999")), 1999);
-        euskera();
-        QCOMPARE(f.miYear(QStringLiteral("2024/02/29")), 2024);
-        QCOMPARE(f.miYear(QStringLiteral("  24/02/29")), 24);  // leading blanks are dropped
-    }
-
-    void anioDeMascaraFalla()
-    {
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("__/__/____")));
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("31/02/2024")));
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QString()));
-        euskera();
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("____/__/__")));
-        try {
-            f.miYear(QStringLiteral("____/__/__"));
-        } catch (const cFallo& e) {
-            QCOMPARE(e.numero(), 13);
-            QVERIFY(e.origen().contains(QStringLiteral("miYear")));
-        }
-    }
-
     void asimetriaDeIdioma()
     {
-        // A letter that is neither: FecVacia and miYear read it as Spanish, the other three as
+        // A letter that is neither: FecVacia reads it as Spanish, the other three as
         // Basque.
         f.fecidioma = QStringLiteral("X");
         QCOMPARE(f.FecVacia(), QStringLiteral("__/__/____"));
@@ -231,7 +206,6 @@ private slots:
         QVERIFY(!f.EsFecha(QStringLiteral("29/02/2024")));
         QCOMPARE(f.StringToLong(QStringLiteral("2024/02/29")), 20240229);
         QCOMPARE(f.LongToString(20240229), QStringLiteral("2024/02/29"));
-        QCOMPARE(f.miYear(QStringLiteral("29/02/2024")), 2024);
     }
 };
 
