@@ -1,6 +1,5 @@
 #include "comun/AlmacenPrueba.h"
 
-#include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
 #include "servicios/Conexion.h"
 #include "servicios/cTraspaso.h"
@@ -23,7 +22,6 @@ QVariant codigoDeParte(int32_t c)
 AlmacenDePrueba::AlmacenDePrueba() : m_carpeta(std::make_unique<CarpetaDePrueba>())
 {
     GrabarSeams();
-    MensajeSeam::limpiar();
     OffsetIdioma = 0;
     Fecha().fecidioma = QStringLiteral("C");
     cTraspaso traspaso;
