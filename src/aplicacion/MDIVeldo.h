@@ -1,6 +1,7 @@
 #pragma once
 // The one top-level window: an MDI area with the menu tree and the toolbar. It holds no
-// business logic: each command sets a few mode fields on a shared object and opens a panel.
+// business logic: each command hands over to the navigator (Navegacion), which sets up the
+// panel's record and opens the panel here.
 #include <QHash>
 #include <QMainWindow>
 #include <functional>
@@ -16,9 +17,11 @@ public:
     explicit MDIVeldo(QWidget* parent = nullptr);
     ~MDIVeldo() override;
 
-    // Recounts the records and switches the commands on (every panel calls it on closing).
+    // Recounts the records and switches the commands on: at the first activation, after a
+    // restore, and when the navigator is told that a panel closed.
     void ActualizarMenus();
-    // Switches the commands off while a panel is open.
+    // Switches the commands off while a panel is open (the navigator and the language chooser
+    // call it).
     void DeshabilitarMenus();
     // Captions of menus, toolbar tips and title in the current language.
     void Anadir_captions();

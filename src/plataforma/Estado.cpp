@@ -21,7 +21,6 @@ void cEstado::Reiniciar()
         reiniciar();
     EstablecerIdiomaPrograma(Idioma::Castellano);
     VersionPrograma.clear();
-    VersionProducto.clear();
 }
 
 cEstado& Estado()

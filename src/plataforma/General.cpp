@@ -9,7 +9,6 @@ QString mdbmod;
 QString mdblec;
 QString mdbPath;
 QString VersionPrograma;
-QString VersionProducto;
 
 namespace {
 QString g_carpeta;

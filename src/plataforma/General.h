@@ -8,7 +8,6 @@ extern QString mdbmod;         // full path of the read/write database
 extern QString mdblec;         // full path of the read-only reference database
 extern QString mdbPath;        // the read/write database's folder, with its closing "/"
 extern QString VersionPrograma;  // major.minor.revision
-extern QString VersionProducto;  // four parts; written at start-up, read by nobody
 
 // The program's folder, without closing "/": the folder of the executable, unless a test
 // has set another one before start-up. The executable, the reference database and the help

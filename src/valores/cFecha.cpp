@@ -1,10 +1,7 @@
 #include "valores/cFecha.h"
 
-#include "plataforma/Fallo.h"
 #include "valores/Val.h"
 
-#include <QDate>
-#include <QStringList>
 #include <cmath>
 
 namespace {
@@ -37,43 +34,11 @@ bool EsBisiesto(int anio)
     return anio % 4 == 0 && (anio % 100 != 0 || anio % 400 == 0);
 }
 
-[[noreturn]] void FalloDeTipo(const QString& fecha)
-{
-    throw cFallo(13, QStringLiteral("cFecha.miYear"),
-                 QStringLiteral("No coinciden los tipos: \"%1\" no es una fecha").arg(fecha));
-}
-
 }  // namespace
 
 QString cFecha::FecVacia(Idioma idioma)
 {
     return idioma.segun(kVaciaCastellano, kVaciaEuskera);
-}
-
-int32_t cFecha::miYear(const QString& fecha, Idioma idioma)
-{
-    if (idioma.esEuskera()) {
-        QString anio = fecha.left(4);
-        while (anio.startsWith(QLatin1Char(' ')))
-            anio.remove(0, 1);
-        const auto v = EnteroEstricto(anio, INT32_MIN, INT32_MAX);
-        if (!v)
-            FalloDeTipo(fecha);
-        return static_cast<int32_t>(*v);
-    }
-    // A dd/mm/yyyy text as the calendar reads it: one or two digits of day and month.
-    const QStringList partes = fecha.trimmed().split(QLatin1Char('/'));
-    if (partes.size() != 3)
-        FalloDeTipo(fecha);
-    const auto d = EnteroEstricto(partes[0], 1, 31);
-    const auto m = EnteroEstricto(partes[1], 1, 12);
-    const auto y = EnteroEstricto(partes[2], 100, 9999);
-    if (!d || !m || !y || partes[0].trimmed().size() > 2 || partes[1].trimmed().size() > 2)
-        FalloDeTipo(fecha);
-    const QDate fechaLeida(static_cast<int>(*y), static_cast<int>(*m), static_cast<int>(*d));
-    if (!fechaLeida.isValid())
-        FalloDeTipo(fecha);
-    return fechaLeida.year();
 }
 
 bool cFecha::EsFecha(const QString& fecha, Idioma idioma, std::optional<int16_t> minimo)

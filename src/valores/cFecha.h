@@ -15,9 +15,6 @@ class cFecha {
 public:
     // What an empty date field holds in `idioma`.
     static QString FecVacia(Idioma idioma);
-    // The year of a date text. Throws cFallo when the text holds no year (the empty mask
-    // included): callers test for the empty mask first.
-    static int32_t miYear(const QString& fecha, Idioma idioma);
     // The number yyyymmdd of a date text: 0 for the empty mask, -1 for a bad date.
     static int32_t StringToLong(const QString& fecha, Idioma idioma,
                                 std::optional<int16_t> minimo = std::nullopt);

@@ -10,7 +10,7 @@
 
 // One module as src/CMakeLists.txt declares it with veldo_modulo().
 struct Modulo {
-    QString nombre;       // "partes" (the target is veldo_partes)
+    QString nombre;       // "registros_partes" (the target is veldo_registros_partes)
     QString carpeta;      // "registros/partes", relative to src/
     QStringList depende;  // the veldo_ targets of DEPENDE, without the prefix
     QStringList qt;       // the Qt modules of QT

@@ -1,6 +1,5 @@
 #include "comun/AlmacenPrueba.h"
 
-#include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "servicios/Conexion.h"
@@ -23,7 +22,6 @@ QVariant codigoDeParte(int32_t c)
 AlmacenDePrueba::AlmacenDePrueba() : m_carpeta(std::make_unique<CarpetaDePrueba>())
 {
     GrabarSeams();
-    MensajeSeam::limpiar();
     EstablecerIdiomaPrograma(Idioma::Castellano);
     cTraspaso traspaso;
     traspaso.mdbmod = mdbmod;

@@ -1,9 +1,6 @@
 #include "comun/Entorno.h"
 
-#include "paneles/dialogos/DialogoFichero.h"
 #include "plataforma/General.h"
-#include "paneles/dialogos/Mensaje.h"
-#include "paneles/dialogos/Navegador.h"
 #include "plataforma/Proceso.h"
 
 #include <QDir>
@@ -11,6 +8,15 @@
 #include <QFile>
 #include <QSqlDatabase>
 #include <QTest>
+#include <vector>
+
+namespace {
+std::vector<void (*)()>& grabaciones()
+{
+    static std::vector<void (*)()> lista;
+    return lista;
+}
+}  // namespace
 
 CarpetaDePrueba::CarpetaDePrueba() : m_dir(std::make_unique<QTemporaryDir>())
 {
@@ -38,12 +44,16 @@ CarpetaDePrueba::~CarpetaDePrueba()
 QString CarpetaDePrueba::ruta() const { return QDir::cleanPath(m_dir->path()); }
 QString CarpetaDePrueba::tablas() const { return ruta() + QStringLiteral("/Tablas/"); }
 
+void AnadirGrabacionDeSeams(void (*grabar)())
+{
+    grabaciones().push_back(grabar);
+}
+
 void GrabarSeams()
 {
-    MensajeSeam::grabar(true);
-    DialogoFicheroSeam::grabar(true);
     ProcesoSeam::grabar(true);
-    NavegadorSeam::grabar(true);
+    for (const auto grabar : grabaciones())
+        grabar();
 }
 
 QString CarpetaFuentes() { return QStringLiteral(VELDO_FUENTES); }

@@ -1,6 +1,7 @@
 #pragma once
 // What every test needs: a temporary program folder with the generated reference database in
 // Tablas/, the application paths pointed at it, and the seams recording instead of showing.
+// Nothing here needs a widget: the tests of the layers below the panels link it alone.
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -20,9 +21,12 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
 };
 
-// Starts recording every message box, file dialog, browser, failure notice and ending of
-// the process.
+// Starts recording every seam the test links: the failure notice and the ending of the process
+// always; with the panels' support (veldo_testpaneles), every message box, file dialog and
+// browser too.
 void GrabarSeams();
+// How the support of a higher layer adds the recording of its own seams to GrabarSeams().
+void AnadirGrabacionDeSeams(void (*grabar)());
 
 // Whether a wait recorded by the clock seam (the milliseconds left to its deadline when it
 // began) is one of `ms`: not longer, and shorter only by what the work before it may have

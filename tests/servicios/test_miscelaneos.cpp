@@ -1,86 +1,17 @@
-// The online assistance: the address handed to the browser in each language, the message when
-// no browser opens, the description of the service, and the department's name for the form.
-#include "comun/Entorno.h"
-
-#include "paneles/dialogos/Mensaje.h"
-#include "paneles/dialogos/MostrarVeredicto.h"
-#include "paneles/dialogos/Navegador.h"
+// The online assistance as the service answers it: the address it asks to open, the verdict
+// when no browser opens and the description of the service (the panels' side, with the browser
+// and the message box, is tested in tests/paneles/dialogos/test_asistencia_online.cpp), and the
+// department's name for the form.
 #include "catalogo/Catalogo.h"
 #include "servicios/cMiscelaneos.h"
+#include "valores/BotonesMensaje.h"
 
 #include <QTest>
-#include <QUrlQuery>
 
 class TestMiscelaneos : public QObject {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        GrabarSeams();
-        NavegadorSeam::grabar(true);
-    }
-    void cleanup() { NavegadorSeam::grabar(false); }
-
-    void abreLaAsistenciaEnCastellano()
-    {
-        cMiscelaneos m;
-        m.Idioma = 0;
-        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
-        QCOMPARE(NavegadorSeam::registro().size(), 1);
-        const QUrl url = NavegadorSeam::registro()[0];
-        QVERIFY(url.host().endsWith(QLatin1String(".example")));
-        QCOMPARE(url.scheme(), QStringLiteral("http"));
-        QCOMPARE(QUrlQuery(url).queryItemValue(QStringLiteral("idioma")), QStringLiteral("c"));
-        QVERIFY(MensajeSeam::registro().isEmpty());
-    }
-
-    void abreLaAsistenciaEnEuskera()
-    {
-        cMiscelaneos m;
-        m.Idioma = 10000;
-        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
-        QCOMPARE(NavegadorSeam::registro().size(), 1);
-        QCOMPARE(QUrlQuery(NavegadorSeam::registro()[0]).queryItemValue(QStringLiteral("idioma")),
-                 QStringLiteral("e"));
-    }
-
-    void sinNavegador()
-    {
-        NavegadorSeam::setNextResult(false);
-        cMiscelaneos m;
-        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
-        QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
-
-        NavegadorSeam::setNextResult(false);
-        m.Idioma = 10000;
-        MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
-        QCOMPARE(MensajeSeam::registro()[1].texto, TextoFila(10335));
-        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(10336));
-    }
-
-    void descripcionDelServicio()
-    {
-        cMiscelaneos m;
-        MostrarVeredicto(m.MostrarOnlineInfo());
-        QCOMPARE(MensajeSeam::registro().size(), 1);
-        const auto& r = MensajeSeam::registro()[0];
-        QCOMPARE(r.titulo, TextoFila(361));
-        QCOMPARE(r.icono(), int(vb::Information));
-        QVERIFY(r.texto.contains(cMiscelaneos::DireccionAyuOnline(0).toString()));
-        QVERIFY(r.texto.contains(QLatin1String("asistencia on-line")));
-        QVERIFY(NavegadorSeam::registro().isEmpty());
-
-        m.Idioma = 10000;
-        MostrarVeredicto(m.MostrarOnlineInfo());
-        const auto& e = MensajeSeam::registro()[1];
-        QCOMPARE(e.titulo, TextoFila(10361));
-        QVERIFY(e.texto.contains(cMiscelaneos::DireccionAyuOnline(10000).toString()));
-        QVERIFY(e.texto.contains(QLatin1String("laguntza")));
-    }
-
     // The service answers what to show and never shows it: the browser is the caller's.
     void laLogicaNoMuestraNada()
     {
@@ -98,8 +29,6 @@ private slots:
         QCOMPARE(cerrado.botones, int(vb::Exclamation));
         QCOMPARE(cerrado.titulo, TextoFila(336));
         QCOMPARE(m.MostrarOnlineInfo().botones, int(vb::Information));
-        QVERIFY(MensajeSeam::registro().isEmpty());
-        QVERIFY(NavegadorSeam::registro().isEmpty());
     }
 
     // The form asks for the Basque name with Idioma 1000 and for the Spanish one with 0.
@@ -115,5 +44,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMiscelaneos)
+QTEST_GUILESS_MAIN(TestMiscelaneos)
 #include "test_miscelaneos.moc"

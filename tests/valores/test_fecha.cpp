@@ -1,5 +1,4 @@
 // The date value: validity rules, the two layouts, the numbers and the failures.
-#include "plataforma/Fallo.h"
 #include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
 
@@ -10,7 +9,6 @@ namespace {
 struct FechaEn {
     Idioma idioma;
     QString FecVacia() const { return cFecha::FecVacia(idioma); }
-    int32_t miYear(const QString& t) const { return cFecha::miYear(t, idioma); }
     bool EsFecha(const QString& t, std::optional<int16_t> m = std::nullopt) const
     {
         return cFecha::EsFecha(t, idioma, m);
@@ -208,30 +206,6 @@ private slots:
         QCOMPARE(f.StringToLong(f.LongToString(numero)), numero);
         euskera();
         QCOMPARE(f.StringToLong(f.LongToString(numero)), numero);
-    }
-
-    void anio()
-    {
-        QCOMPARE(f.miYear(QStringLiteral("29/02/2024")), 2024);
-        QCOMPARE(f.miYear(QStringLiteral("1/2/1999")), 1999);
-        euskera();
-        QCOMPARE(f.miYear(QStringLiteral("2024/02/29")), 2024);
-        QCOMPARE(f.miYear(QStringLiteral("  24/02/29")), 24);  // leading blanks are dropped
-    }
-
-    void anioDeMascaraFalla()
-    {
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("__/__/____")));
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("31/02/2024")));
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QString()));
-        euskera();
-        QVERIFY_THROWS_EXCEPTION(cFallo, f.miYear(QStringLiteral("____/__/__")));
-        try {
-            f.miYear(QStringLiteral("____/__/__"));
-        } catch (const cFallo& e) {
-            QCOMPARE(e.numero(), 13);
-            QVERIFY(e.origen().contains(QStringLiteral("miYear")));
-        }
     }
 };
 

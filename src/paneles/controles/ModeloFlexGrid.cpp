@@ -115,14 +115,6 @@ void ModeloFlexGrid::setTexto(int fila, int columna, const QString& texto)
     Avisar(fila, columna, {Qt::DisplayRole});
 }
 
-QColor ModeloFlexGrid::Fondo(int fila, int columna) const
-{
-    if (!Valida(fila, columna))
-        return QColor();
-    const Celda& c = At(fila, columna);
-    return c.fondoPropio ? QColor::fromRgb(c.fondo) : m_fondoNormal;
-}
-
 void ModeloFlexGrid::setFondo(int fila, int columna, const QColor& color)
 {
     if (!Valida(fila, columna))
@@ -133,14 +125,6 @@ void ModeloFlexGrid::setFondo(int fila, int columna, const QColor& color)
     Avisar(fila, columna, {Qt::BackgroundRole});
 }
 
-QColor ModeloFlexGrid::Tinta(int fila, int columna) const
-{
-    if (!Valida(fila, columna))
-        return QColor();
-    const Celda& c = At(fila, columna);
-    return c.tintaPropia ? QColor::fromRgb(c.tinta) : m_tintaNormal;
-}
-
 void ModeloFlexGrid::setTinta(int fila, int columna, const QColor& color)
 {
     if (!Valida(fila, columna))
@@ -149,36 +133,6 @@ void ModeloFlexGrid::setTinta(int fila, int columna, const QColor& color)
     c.tinta = color.rgb();
     c.tintaPropia = true;
     Avisar(fila, columna, {Qt::ForegroundRole});
-}
-
-void ModeloFlexGrid::Limpiar()
-{
-    for (Celda& c : m_celdas)
-        c = Celda();
-    if (m_congelado) {
-        m_pendiente = true;
-        return;
-    }
-    emit headerDataChanged(Qt::Horizontal, 0, m_columnas - 1);
-    if (m_filas > 1)
-        emit dataChanged(index(0, 0), index(m_filas - 2, m_columnas - 1));
-}
-
-void ModeloFlexGrid::setFondoNormal(const QColor& color)
-{
-    m_fondoNormal = color;
-    Avisar(-1, -1, {Qt::BackgroundRole});
-}
-
-void ModeloFlexGrid::setTintaNormal(const QColor& color)
-{
-    m_tintaNormal = color;
-    Avisar(-1, -1, {Qt::ForegroundRole});
-}
-
-Qt::Alignment ModeloFlexGrid::Alineacion(int columna) const
-{
-    return columna >= 0 && columna < m_columnas ? m_alineaciones[columna] : Qt::Alignment();
 }
 
 void ModeloFlexGrid::setAlineacion(int columna, Qt::Alignment alineacion)

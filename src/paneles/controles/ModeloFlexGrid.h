@@ -26,24 +26,16 @@ public:
 
     QString Texto(int fila, int columna) const;
     void setTexto(int fila, int columna, const QString& texto);
-    QColor Fondo(int fila, int columna) const;
     void setFondo(int fila, int columna, const QColor& color);
-    QColor Tinta(int fila, int columna) const;
     void setTinta(int fila, int columna, const QColor& color);
-    // Every text emptied and every own colour removed; the size stays.
-    void Limpiar();
 
     QColor FondoNormal() const { return m_fondoNormal; }
-    void setFondoNormal(const QColor& color);
     QColor TintaNormal() const { return m_tintaNormal; }
-    void setTintaNormal(const QColor& color);
-    Qt::Alignment Alineacion(int columna) const;
     void setAlineacion(int columna, Qt::Alignment alineacion);
     // The heading's alignment: the column's until one of its own is given.
     Qt::Alignment AlineacionFija(int columna) const;
     void setAlineacionFija(int columna, Qt::Alignment alineacion);
 
-    bool Congelado() const { return m_congelado; }
     void setCongelado(bool congelado);
 
 private:
@@ -68,8 +60,8 @@ private:
     std::vector<Celda> m_celdas;
     std::vector<Qt::Alignment> m_alineaciones;
     std::vector<Qt::Alignment> m_alineacionesFijas;  // none: as the column
-    QColor m_fondoNormal = QColor::fromRgb(0xFFFFFF);
-    QColor m_tintaNormal = QColor::fromRgb(0x000000);
+    const QColor m_fondoNormal = QColor::fromRgb(0xFFFFFF);
+    const QColor m_tintaNormal = QColor::fromRgb(0x000000);
     bool m_congelado = false;
     bool m_pendiente = false;
 };

@@ -28,11 +28,8 @@ cFlexGrid::cFlexGrid(QWidget* parent) : QTableView(parent), m_modelo(new ModeloF
     // A press on the heading is a click on row 0: it takes the column, not the rows.
     disconnect(horizontalHeader(), SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
     disconnect(horizontalHeader(), SIGNAL(sectionEntered(int)), this, SLOT(_q_selectColumn(int)));
-    connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this](int columna) {
-        m_filaRaton = 0;
-        m_columnaRaton = columna;
-        emit pulsado(0, columna);
-    });
+    connect(horizontalHeader(), &QHeaderView::sectionPressed, this,
+            [this](int columna) { emit pulsado(0, columna); });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int columna) {
         setCol(columna);
         emit clic(0, columna);
@@ -93,11 +90,6 @@ void cFlexGrid::setCols(int columnas)
     SituarVista();
 }
 
-void cFlexGrid::Clear()
-{
-    m_modelo->Limpiar();
-}
-
 void cFlexGrid::setRow(int fila)
 {
     if (fila < 0 || fila >= Rows())
@@ -112,12 +104,6 @@ void cFlexGrid::setCol(int columna)
     if (columna < 0 || columna >= Cols())
         return;
     Mover(m_fila, columna);
-}
-
-void cFlexGrid::setRowSel(int fila)
-{
-    if (fila >= 0 && fila < Rows())
-        m_filaSel = fila;
 }
 
 int cFlexGrid::TopRow() const
@@ -135,19 +121,9 @@ void cFlexGrid::setTopRow(int fila)
     verticalScrollBar()->setValue(fila - 1);
 }
 
-QColor cFlexGrid::CellBackColor(int fila, int columna) const
-{
-    return m_modelo->Fondo(fila, columna);
-}
-
 void cFlexGrid::setCellBackColor(int fila, int columna, const QColor& color)
 {
     m_modelo->setFondo(fila, columna, color);
-}
-
-QColor cFlexGrid::CellForeColor(int fila, int columna) const
-{
-    return m_modelo->Tinta(fila, columna);
 }
 
 void cFlexGrid::setCellForeColor(int fila, int columna, const QColor& color)
@@ -160,19 +136,9 @@ QColor cFlexGrid::BackColor() const
     return m_modelo->FondoNormal();
 }
 
-void cFlexGrid::setBackColor(const QColor& color)
-{
-    m_modelo->setFondoNormal(color);
-}
-
 QColor cFlexGrid::ForeColor() const
 {
     return m_modelo->TintaNormal();
-}
-
-void cFlexGrid::setForeColor(const QColor& color)
-{
-    m_modelo->setTintaNormal(color);
 }
 
 void cFlexGrid::setRedraw(bool dibujar)
@@ -222,31 +188,14 @@ void cFlexGrid::setColWidth(int columna, int ancho)
     setColumnWidth(columna, ancho < 0 ? horizontalHeader()->defaultSectionSize() : ancho);
 }
 
-Qt::Alignment cFlexGrid::ColAlignment(int columna) const
-{
-    return m_modelo->Alineacion(columna);
-}
-
 void cFlexGrid::setColAlignment(int columna, Qt::Alignment alineacion)
 {
     m_modelo->setAlineacion(columna, alineacion);
 }
 
-Qt::Alignment cFlexGrid::FixedAlignment(int columna) const
-{
-    return m_modelo->AlineacionFija(columna);
-}
-
 void cFlexGrid::setFixedAlignment(int columna, Qt::Alignment alineacion)
 {
     m_modelo->setAlineacionFija(columna, alineacion);
-}
-
-int cFlexGrid::RowHeight(int fila) const
-{
-    if (fila == 0)
-        return horizontalHeader()->height();
-    return fila > 0 && fila < Rows() ? rowHeight(fila - 1) : 0;
 }
 
 void cFlexGrid::currentChanged(const QModelIndex& actual, const QModelIndex& anterior)
@@ -269,9 +218,7 @@ void cFlexGrid::mousePressEvent(QMouseEvent* evento)
     QTableView::mousePressEvent(evento);
     const QPoint punto = evento->position().toPoint();
     const int fila = rowAt(punto.y());
-    m_filaRaton = fila < 0 ? -1 : fila + 1;
-    m_columnaRaton = columnAt(punto.x());
-    emit pulsado(m_filaRaton, m_columnaRaton);
+    emit pulsado(fila < 0 ? -1 : fila + 1, columnAt(punto.x()));
 }
 
 void cFlexGrid::keyPressEvent(QKeyEvent* evento)

@@ -3,7 +3,7 @@
 // are 1 to Rows - 1. Cells are read and written by TextMatrix; each cell may have its own
 // background and text colours, which is how the panels mark the selected row (the view's own
 // selection is not drawn). Row and Col are the current cell; setting them from code does not
-// scroll, TopRow does. Redraw(false) freezes drawing while a panel fills many cells.
+// scroll, TopRow does. setRedraw(false) freezes drawing while a panel fills many cells.
 // Geometry is in pixels, relative to the grid's own top left corner.
 #include <QColor>
 #include <QTableView>
@@ -24,35 +24,23 @@ public:
     void setRows(int filas);
     int Cols() const;
     void setCols(int columnas);
-    // Every text emptied and every cell's own colour removed; size and widths stay.
-    void Clear();
 
     int Row() const { return m_fila; }
     void setRow(int fila);
     int Col() const { return m_columna; }
     void setCol(int columna);
     int RowSel() const { return m_filaSel; }
-    void setRowSel(int fila);
     // The first data row in view; setting it scrolls as far as the rows allow.
     int TopRow() const;
     void setTopRow(int fila);
 
-    // Colours of one cell, and of the current cell.
-    QColor CellBackColor(int fila, int columna) const;
+    // Colours of one cell.
     void setCellBackColor(int fila, int columna, const QColor& color);
-    QColor CellForeColor(int fila, int columna) const;
     void setCellForeColor(int fila, int columna, const QColor& color);
-    QColor CellBackColor() const { return CellBackColor(m_fila, m_columna); }
-    void setCellBackColor(const QColor& color) { setCellBackColor(m_fila, m_columna, color); }
-    QColor CellForeColor() const { return CellForeColor(m_fila, m_columna); }
-    void setCellForeColor(const QColor& color) { setCellForeColor(m_fila, m_columna, color); }
     // The colours of a cell that has none of its own.
     QColor BackColor() const;
-    void setBackColor(const QColor& color);
     QColor ForeColor() const;
-    void setForeColor(const QColor& color);
 
-    bool Redraw() const { return m_dibujar; }
     void setRedraw(bool dibujar);
 
     // The current cell's rectangle, or any cell's.
@@ -65,19 +53,13 @@ public:
     // A width of 0 hides the column; a negative one gives the default width.
     int ColWidth(int columna) const;
     void setColWidth(int columna, int ancho);
-    Qt::Alignment ColAlignment(int columna) const;
     void setColAlignment(int columna, Qt::Alignment alineacion);
     // The alignment of the heading row's cell, the column's until set.
-    Qt::Alignment FixedAlignment(int columna) const;
     void setFixedAlignment(int columna, Qt::Alignment alineacion);
-    int RowHeight(int fila) const;
-
-    // Where the last mouse press fell: row (0 the heading, -1 below the rows) and column.
-    int MouseRow() const { return m_filaRaton; }
-    int MouseCol() const { return m_columnaRaton; }
 
 signals:
-    void pulsado(int fila, int columna);    // mouse press, heading included
+    // A mouse press: row (0 the heading, -1 below the rows) and column.
+    void pulsado(int fila, int columna);
     void clic(int fila, int columna);
     void dobleClic(int fila, int columna);
     // A key on the grid, before the grid moves with it; Enter does not leave the grid.
@@ -98,8 +80,6 @@ private:
     int m_fila = 1;
     int m_columna = 0;
     int m_filaSel = 1;
-    int m_filaRaton = -1;
-    int m_columnaRaton = -1;
     bool m_dibujar = true;
     bool m_situando = false;
     bool m_filaPorCorte = false;  // the current row is 0 only because the rows were cut

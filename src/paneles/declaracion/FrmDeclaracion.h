@@ -54,10 +54,6 @@ public:
     // Closes the panel (its sub-window in the main window).
     void Cerrar();
 
-    bool SaltarValidacion() const { return m_saltarValidacion; }
-    bool PresentandoDatos() const { return m_presentandoDatos; }
-    bool CargandoOperaciones() const { return m_cargandoOperaciones; }
-
 signals:
     // A party is to be chosen from a list: LISTA carries its "T" and, for a contributor,
     // ConSeleccion's ENTRADA and CRITERIO are set. The panel is still open.

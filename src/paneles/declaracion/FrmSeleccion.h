@@ -11,7 +11,6 @@ class FrmConSeleccion final : public PanelLista {
     Q_OBJECT
 public:
     explicit FrmConSeleccion(QWidget* parent = nullptr);
-    bool SeleccionHecha() const { return m_seleccionHecha; }
 
 protected:
     void Borrar(int32_t) override {}

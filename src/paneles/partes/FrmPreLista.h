@@ -12,9 +12,6 @@ public:
 
     explicit FrmPreLista(QWidget* parent = nullptr);
 
-    // The rows of the criteria in force, from the store of presenters.
-    void CargarFlxPresentadores() { CargarFlx(); }
-
 protected:
     void Borrar(int32_t codigo) override;
 };

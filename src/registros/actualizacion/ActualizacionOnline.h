@@ -10,9 +10,8 @@
 
 // Reads the version record of the program's file (the program's folder + "/Veldo", whatever
 // name the process runs under) into ActOnline().ActFile and ProgVer1..3, and sets
-// VersionPrograma (major.minor.revision) and VersionProducto (four parts). A file without the
-// record leaves the versions empty and answers the verdict of id 342 (OK only, no icon); a
-// good one answers an empty verdict. The panel side (ObtenerVersionPrograma) shows it.
+// VersionPrograma (major.minor.revision). A file without the record leaves the versions empty
+// and answers the verdict of id 342 (OK only, no icon); a good one answers an empty verdict. The panel side (ObtenerVersionPrograma) shows it.
 Veredicto LeerVersionPrograma();
 
 // Deletes an earlier version.ini and downloads a new one from URLAct with the query keys

@@ -75,8 +75,3 @@ QString VersionDelPrograma(const RegistroVersion::Numeros& fichero)
 {
     return unir(fichero, {0, 1, 3});
 }
-
-QString VersionDelProducto(const RegistroVersion::Numeros& producto)
-{
-    return unir(producto, {0, 1, 2, 3});
-}

@@ -14,5 +14,3 @@ std::optional<RegistroVersion::Version> BuscarRegistroVersion(QByteArrayView dat
 // The program's version as major.minor.revision. The third number of the file version is not
 // part of it, so a file version 1.28.0.1 is the program 1.28.1.
 QString VersionDelPrograma(const RegistroVersion::Numeros& fichero);
-// The product version, its four numbers joined by dots.
-QString VersionDelProducto(const RegistroVersion::Numeros& producto);

@@ -24,6 +24,5 @@ Veredicto LeerVersionPrograma()
     act.ProgVer1 = QString::number(f[0]);
     act.ProgVer2 = QString::number(f[1]);
     act.ProgVer3 = QString::number(f[3]);
-    VersionProducto = VersionDelProducto(version->producto);
     return {};
 }

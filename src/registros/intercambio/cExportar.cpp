@@ -118,21 +118,11 @@ void cExportar::TablaContriExpAÑADIR(const RegistroContri& registro)
     NUMCONTRIEXP = int32_t(m_contriExp.size());
 }
 
-void cExportar::TablaContriBORRAR(int indice)
-{
-    m_contri.erase(m_contri.begin() + (indice - 1));
-}
-
 void cExportar::TablaContriExpBORRAR(int indice)
 {
     m_codigosExp.erase(m_contriExp.at(size_t(indice - 1)).CSCO);
     m_contriExp.erase(m_contriExp.begin() + (indice - 1));
     NUMCONTRIEXP = int32_t(m_contriExp.size());
-}
-
-bool cExportar::TablaContriPERTENECE(int32_t codigo) const
-{
-    return IndiceEnTablaContri(codigo) != 0;
 }
 
 bool cExportar::TablaContriExpPERTENECE(int32_t codigo) const
@@ -244,16 +234,6 @@ void cExportar::SeleccionarTodos()
         if (!TablaContriExpPERTENECE(codigo)) {
             COPIARELEMENTOENTRETABLAS(i);
             CSCOEXP = codigo;
-        }
-    }
-}
-
-void cExportar::DeseleccionarUno()
-{
-    for (int i = 1; i <= TablaContriExpCOUNT(); ++i) {
-        if (m_contriExp[size_t(i - 1)].CSCO == CSCOEXP) {
-            TablaContriExpBORRAR(i);
-            return;
         }
     }
 }

@@ -45,11 +45,9 @@ public:
     // A row of the store's answer (the 20 columns of the save array, a[columna][fila]).
     void TablaContriAÑADIR(const Arreglo2D& datos, int fila);
     void TablaContriExpAÑADIR(const RegistroContri& registro);
-    void TablaContriBORRAR(int indice);
     void TablaContriExpBORRAR(int indice);
     int TablaContriCOUNT() const { return int(m_contri.size()); }
     int TablaContriExpCOUNT() const { return int(m_contriExp.size()); }
-    bool TablaContriPERTENECE(int32_t codigo) const;
     bool TablaContriExpPERTENECE(int32_t codigo) const;
     const RegistroContri& TablaContriELEMENTO(int indice) const;
     const RegistroContri& TablaContriExpELEMENTO(int indice) const;
@@ -71,8 +69,6 @@ public:
     bool SeleccionarUno();
     // CmdSelTodos: every found contributor not selected yet joins, in the order found.
     void SeleccionarTodos();
-    // CmdDeselUno: the contributor CSCOEXP leaves the export table.
-    void DeseleccionarUno();
     // CmdDeselTodos.
     void DeseleccionarTodos();
 

@@ -11,7 +11,6 @@
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/PosicionesImportar.h"
-#include "servicios/cContribSvr.h"
 #include "valores/Veredicto.h"
 
 #include <QDir>
@@ -274,11 +273,6 @@ void cImportar::Iniciar()
     FICHEROAIMPORTAR = CarpetaDatos() + QStringLiteral("/CONTRI.txt");
     FICHEROERRORES = CarpetaDatos() + QStringLiteral("/Erorres.txt");
     TERMINADA.clear();
-}
-
-int16_t cImportar::ValidarDatosContribuyente(const Arreglo& datos) const
-{
-    return cContribSvr().ValidarDatosContribuyentes(datos);
 }
 
 QString cImportar::TextoPreguntaSustituir(const QString& dni)

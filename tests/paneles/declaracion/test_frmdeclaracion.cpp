@@ -313,7 +313,6 @@ private slots:
         QVERIFY(k("chktipodnitr")->isEnabled());
         clicCasilla(k("chktipodnitr"));
         QCOMPARE(DecDatos().TIPODNITR, QStringLiteral("N"));
-        QVERIFY(!frm()->SaltarValidacion());
         // A foreign number is not checked.
         EscribirYSalir(t("txtdnitr"), QStringLiteral("X1234"));
         QVERIFY(MensajeSeam::registro().isEmpty());

@@ -63,7 +63,8 @@ QStringList TextosCortados(QWidget* panel)
                 continue;
             const QRect seccion(h->sectionViewportPosition(c), 0, h->sectionSize(c), h->height());
             const int anchoTitulo = h->fontMetrics().horizontalAdvance(g->TextMatrix(0, c));
-            const Qt::Alignment al = g->FixedAlignment(c);
+            const Qt::Alignment al =
+                g->model()->headerData(c, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>();
             const int izquierda = al & Qt::AlignRight ? seccion.right() - margenCabecera - anchoTitulo
                 : al & Qt::AlignHCenter               ? seccion.center().x() - anchoTitulo / 2
                                                       : seccion.left() + margenCabecera;

@@ -184,7 +184,7 @@ private slots:
     {
         CarpetaDePrueba carpeta;
         ActOnline() = cActOnline{};
-        for (const QByteArray version : {QByteArray("2.0"), QByteArray("7"), QByteArray("")}) {
+        for (const QByteArray& version : {QByteArray("2.0"), QByteArray("7"), QByteArray("")}) {
             QFile f(RutaVersionIni());
             QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
             f.write("[informacion]\ncurrentversion=" + version + "\ndownloadurl=http://d.example/\n");

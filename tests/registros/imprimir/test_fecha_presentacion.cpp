@@ -3,7 +3,6 @@
 // as a verdict (message, icon, title, control) in the language in use, with the limit written
 // as the shared Fecha writes dates, and ImOf() left as it was. Nothing is shown.
 #include "catalogo/Catalogo.h"
-#include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "registros/imprimir/FechaPresentacion.h"
@@ -34,14 +33,11 @@ class TestFechaPresentacion : public QObject {
 private slots:
     void init()
     {
-        MensajeSeam::grabar(true);
         idioma(false, false);
         ImOf().FECHAPRE = 20100101;
     }
     void cleanup()
     {
-        QVERIFY(MensajeSeam::registro().isEmpty());
-        MensajeSeam::grabar(false);
         idioma(false, false);
     }
 

@@ -259,11 +259,11 @@ private slots:
         const ConsultasReferencia enMemoria =
             ReferenciaPartes::ConsultasEnMemoria(mdblec, QStringLiteral("t"));
         const ConsultasReferencia enFichero = ReferenciaPartes::Consultas(mdblec, QStringLiteral("t"));
-        for (const QString& s : {"CL", "AV", "ZZ", "", "cl", "C"})
+        for (const QString& s : QStringList{"CL", "AV", "ZZ", "", "cl", "C"})
             QCOMPARE(enMemoria.existeVia(s), enFichero.existeVia(s));
-        for (const QString& p : {"77", "01", "48", "00", "99", "7", ""})
+        for (const QString& p : QStringList{"77", "01", "48", "00", "99", "7", ""})
             QCOMPARE(enMemoria.existeProvincia(p), enFichero.existeProvincia(p));
-        for (const QString& m : {"001", "002", "999", "1", "000", ""})
+        for (const QString& m : QStringList{"001", "002", "999", "1", "000", ""})
             QCOMPARE(enMemoria.existeMunicipio(m), enFichero.existeMunicipio(m));
         cLoteContribuyentes lote(mdbmod, mdblec);
         Arreglo2D deLote, deSvr;

@@ -67,7 +67,8 @@ QStringList Fila(const cFlexGrid* grid, int fila)
 bool FilaPintada(const cFlexGrid* grid, int fila, QRgb color)
 {
     for (int c = 0; c < grid->Cols(); ++c)
-        if (grid->CellBackColor(fila, c).rgb() != QColor::fromRgb(color).rgb())
+        if (grid->model()->index(fila - 1, c).data(Qt::BackgroundRole).value<QBrush>().color().rgb()
+            != QColor::fromRgb(color).rgb())
             return false;
     return true;
 }

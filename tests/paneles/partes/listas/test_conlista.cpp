@@ -113,8 +113,8 @@ private slots:
         QCOMPARE(g->ColWidth(2), TwipsAPixeles(1000));
         QCOMPARE(g->ColWidth(3), TwipsAPixeles(2000));
         QCOMPARE(g->ColWidth(5), TwipsAPixeles(600));
-        QVERIFY(g->ColAlignment(5) & Qt::AlignRight);
-        QVERIFY(g->ColAlignment(1) & Qt::AlignLeft);
+        QVERIFY(g->model()->index(0, 5).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignRight);
+        QVERIFY(g->model()->index(0, 1).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignLeft);
 
         // Five contributors by name, in one page of 15 rows.
         QCOMPARE(g->Rows(), 16);

@@ -91,7 +91,7 @@ private slots:
         QCOMPARE(g->ColWidth(3), TwipsAPixeles(2165));
         QCOMPARE(g->ColWidth(4), TwipsAPixeles(2200));
         QCOMPARE(g->ColWidth(5), TwipsAPixeles(750));
-        QVERIFY(g->ColAlignment(5) & Qt::AlignRight);
+        QVERIFY(g->model()->index(0, 5).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignRight);
         QCOMPARE(g->Rows(), 16);
         QCOMPARE(Fila(g, 1), (QStringList{QString::number(m_alonso), kAlonso, "20000000C", "MAYOR",
                                           "ARBELGAIN", "0"}));

@@ -55,7 +55,6 @@ class TestVersionPrograma : public QObject {
         QCOMPARE(MensajeSeam::registro().at(0).texto, Texto(342));
         QCOMPARE(MensajeSeam::registro().at(0).botones, int(vb::OKOnly));
         QCOMPARE(VersionPrograma, QString());
-        QCOMPARE(VersionProducto, QString());
         QCOMPARE(ActOnline().ProgVer1, QString());
         QCOMPARE(ActOnline().ProgVer2, QString());
         QCOMPARE(ActOnline().ProgVer3, QString());
@@ -70,7 +69,6 @@ private slots:
         EstablecerIdiomaPrograma(Idioma::Castellano);
         ActOnline() = cActOnline{};
         VersionPrograma.clear();
-        VersionProducto.clear();
     }
 
     void cleanup() { m_carpeta.reset(); }
@@ -84,10 +82,8 @@ private slots:
         QVERIFY(MensajeSeam::registro().isEmpty());
         const QString v1 = QString::number(VERSION_1);
         const QString v2 = QString::number(VERSION_2);
-        const QString v3 = QString::number(VERSION_3);
         const QString v4 = QString::number(VERSION_4);
         QCOMPARE(VersionPrograma, v1 + QLatin1Char('.') + v2 + QLatin1Char('.') + v4);
-        QCOMPARE(VersionProducto, QStringList({v1, v2, v3, v4}).join(QLatin1Char('.')));
         QCOMPARE(ActOnline().ProgVer1, v1);
         QCOMPARE(ActOnline().ProgVer2, v2);
         QCOMPARE(ActOnline().ProgVer3, v4);
@@ -106,7 +102,6 @@ private slots:
         ObtenerVersionPrograma();
         QVERIFY(MensajeSeam::registro().isEmpty());
         QCOMPARE(VersionPrograma, QStringLiteral("1.28.1"));
-        QCOMPARE(VersionProducto, QStringLiteral("2.5.7.9"));
         QCOMPARE(ActOnline().ProgVer1, QStringLiteral("1"));
         QCOMPARE(ActOnline().ProgVer2, QStringLiteral("28"));
         QCOMPARE(ActOnline().ProgVer3, QStringLiteral("1"));
@@ -117,7 +112,6 @@ private slots:
         escribirPrograma(bytesDe(RegistroVersion::Construir({65535, 300, 4, 256}, {0, 0, 0, 0})));
         ObtenerVersionPrograma();
         QCOMPARE(VersionPrograma, QStringLiteral("65535.300.256"));
-        QCOMPARE(VersionProducto, QStringLiteral("0.0.0.0"));
     }
 
     void ficheroSinRegistro()
