@@ -236,7 +236,7 @@ QString restaurarEnVivo(const QString& viva, const QString& copia, const QString
     const QSqlDatabase db = conexion.db();
     // The switch is ignored inside a transaction, so it goes off before; the clean copy's
     // references have been checked.
-    Ejecutar(db, QStringLiteral("PRAGMA foreign_keys = OFF"), {}, kOrigen);
+    MotorDeLosAlmacenes().ExigirReferencias(db, false, kOrigen);
     Ejecutar(db, QStringLiteral("ATTACH DATABASE ? AS copia"), {copia}, kOrigen);
     QString previa;
     try {

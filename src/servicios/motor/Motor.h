@@ -13,6 +13,7 @@
 #include <QVariantList>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 // How a connection uses its store.
 enum class Acceso {
@@ -63,6 +64,26 @@ public:
     // The statement that begins a write transaction holding the write lock from its start, so
     // that two copies never stop each other half-way.
     virtual QString InicioEscritura() const = 0;
+
+    // The two numbers a store of this program carries: the program's mark and the number of
+    // its layout (0 when never set).
+    virtual qint32 MarcaDe(const QSqlDatabase& db, const QString& origen) const = 0;
+    virtual int VersionDe(const QSqlDatabase& db, const QString& origen) const = 0;
+    virtual void Sellar(const QSqlDatabase& db, qint32 marca, int version,
+                        const QString& origen) const = 0;
+
+    // Whether the connection enforces the references between tables as each row is written.
+    // Switched outside a transaction: an engine may ignore the switch inside one.
+    virtual void ExigirReferencias(const QSqlDatabase& db, bool exigir,
+                                   const QString& origen) const = 0;
+    // A reference that leads nowhere, checked over the whole store: the table that holds it
+    // and the table it names; none when every reference leads somewhere.
+    struct ReferenciaRota {
+        QString tabla;
+        QString destino;
+    };
+    virtual std::optional<ReferenciaRota> PrimeraReferenciaRota(const QSqlDatabase& db,
+                                                                const QString& origen) const = 0;
 
     // A statement compiled by the engine on `db` (cFallo(origen) when it does not compile).
     virtual std::unique_ptr<SentenciaMotor> Compilar(const QSqlDatabase& db, const QString& sql,

@@ -24,6 +24,15 @@ void pragma(const QSqlDatabase& db, const QString& sql, const QString& origen)
     if (!q.exec(sql))
         fallar(q, sql, origen);
 }
+
+qint64 entero(const QSqlDatabase& db, const QString& sql, const QString& origen)
+{
+    QSqlQuery q(db);
+    q.setForwardOnly(true);
+    if (!q.exec(sql))
+        fallar(q, sql, origen);
+    return q.next() ? q.value(0).toLongLong() : 0;
+}
 }
 
 QString MotorSqlite::Nombre() const
@@ -71,6 +80,48 @@ QString MotorSqlite::InicioEscritura() const
 {
     // BEGIN IMMEDIATE takes the write lock at once, so two instances never deadlock half-way.
     return QStringLiteral("BEGIN IMMEDIATE");
+}
+
+// SQLite keeps both numbers in the file's header.
+qint32 MotorSqlite::MarcaDe(const QSqlDatabase& db, const QString& origen) const
+{
+    return static_cast<qint32>(entero(db, QStringLiteral("PRAGMA application_id"), origen));
+}
+
+int MotorSqlite::VersionDe(const QSqlDatabase& db, const QString& origen) const
+{
+    return static_cast<int>(entero(db, QStringLiteral("PRAGMA user_version"), origen));
+}
+
+void MotorSqlite::Sellar(const QSqlDatabase& db, qint32 marca, int version,
+                         const QString& origen) const
+{
+    // PRAGMA takes no bound parameters; both values are integers.
+    pragma(db, QStringLiteral("PRAGMA application_id = %1").arg(marca), origen);
+    pragma(db, QStringLiteral("PRAGMA user_version = %1").arg(version), origen);
+}
+
+void MotorSqlite::ExigirReferencias(const QSqlDatabase& db, bool exigir,
+                                    const QString& origen) const
+{
+    // SQLite ignores this switch inside a transaction.
+    pragma(db, exigir ? QStringLiteral("PRAGMA foreign_keys = ON")
+                      : QStringLiteral("PRAGMA foreign_keys = OFF"),
+           origen);
+}
+
+std::optional<Motor::ReferenciaRota> MotorSqlite::PrimeraReferenciaRota(
+    const QSqlDatabase& db, const QString& origen) const
+{
+    const QString sql = QStringLiteral("PRAGMA foreign_key_check");
+    QSqlQuery q(db);
+    q.setForwardOnly(true);
+    if (!q.exec(sql))
+        fallar(q, sql, origen);
+    if (!q.next())
+        return std::nullopt;
+    // A row: the table, the row, the table it refers to, the key.
+    return ReferenciaRota{q.value(0).toString(), q.value(2).toString()};
 }
 
 std::unique_ptr<SentenciaMotor> MotorSqlite::Compilar(const QSqlDatabase& db, const QString& sql,

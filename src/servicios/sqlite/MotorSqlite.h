@@ -13,6 +13,14 @@ public:
     void Preparar(const QSqlDatabase& db, Acceso acceso, const QString& origen) const override;
     void AntesDeCerrar(const QSqlDatabase& db) const override;
     QString InicioEscritura() const override;
+    qint32 MarcaDe(const QSqlDatabase& db, const QString& origen) const override;
+    int VersionDe(const QSqlDatabase& db, const QString& origen) const override;
+    void Sellar(const QSqlDatabase& db, qint32 marca, int version,
+                const QString& origen) const override;
+    void ExigirReferencias(const QSqlDatabase& db, bool exigir,
+                           const QString& origen) const override;
+    std::optional<ReferenciaRota> PrimeraReferenciaRota(const QSqlDatabase& db,
+                                                        const QString& origen) const override;
     std::unique_ptr<SentenciaMotor> Compilar(const QSqlDatabase& db, const QString& sql,
                                              const QString& origen) const override;
     QString CondicionPrefijo(const QString& columna, const QString& prefijo,
