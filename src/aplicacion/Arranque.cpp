@@ -14,7 +14,7 @@
 #include "plataforma/Proceso.h"
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
-#include "servicios/BibliotecaSqlite.h"
+#include "servicios/MotorAlmacenes.h"
 #include "servicios/RevisionAlmacen.h"
 #include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
@@ -67,7 +67,7 @@ QString& rutaDeSesion()
 
 QString PrepararAlmacenes()
 {
-    if (const QString aviso = AvisoBibliotecaSqlite(LeerFuentesSqlite()); !aviso.isEmpty())
+    if (const QString aviso = AvisoMotorAlmacenes(); !aviso.isEmpty())
         return aviso;
     if (!RevisionAlmacen::ReferenciaLegible(mdblec))
         return TextoReferencia(mdblec);
@@ -158,8 +158,9 @@ bool Main()
     // a restore (those of a copy still running are kept).
     cSaveAsRestore::LimpiarTemporales(mdbPath);
     cSaveAsRestore::LimpiarTemporales(CarpetaDatos() + QStringLiteral("/backups/"));
-    // The stores call SQLite directly and through Qt's driver: both must be one library.
-    if (const QString aviso = AvisoBibliotecaSqlite(LeerFuentesSqlite()); !aviso.isEmpty()) {
+    // The stores' engine must be usable (for SQLite: the library the stores call directly is
+    // the one behind Qt's driver).
+    if (const QString aviso = AvisoMotorAlmacenes(); !aviso.isEmpty()) {
         terminarSinAlmacen(aviso);
         return false;
     }

@@ -1,23 +1,13 @@
 #pragma once
-// Searching texts without regard to case, beyond ASCII. SQLite's NOCASE, LIKE and UPPER fold
-// only the letters A to Z, so "muñoz" would not find "MUÑOZ", nor "é" "É"; imported data may be
-// in lower case. Every connection of the stores is given the SQL function PLEGAR(texto), the
-// text folded as PlegarTexto folds it, and the searches compare folded texts.
-#include <QSqlDatabase>
+// Searching texts without regard to case, beyond ASCII: "muñoz" finds "MUÑOZ", "é" finds "É";
+// imported data may be in lower case. The folding is PlegarTexto's; how a search by prefix is
+// written, so that it still uses the column's index, is the engine's (Motor::CondicionPrefijo).
+#include "servicios/motor/Plegado.h"
+
 #include <QString>
 #include <QVariantList>
 
-// The text with every letter in its caseless form ("MUÑOZ" and "muñoz" give the same text);
-// accents are kept ("É" is not "E").
-QString PlegarTexto(const QString& texto);
-
-// Gives the connection the SQL function PLEGAR; cFallo(origen) when SQLite refuses it.
-void RegistrarPlegado(const QSqlDatabase& db, const QString& origen);
-
-// A condition for a WHERE clause: `columna`, a column of NOCASE collation with an index, begins
-// with `prefijo`, without regard to case. The prefix is plain text: quotes, "%" and "_" are
-// characters like any other. Ranges on the column let SQLite use its index: one for the ASCII
-// start of the prefix (which NOCASE folds), narrowed, when a letter beyond ASCII follows, to
-// one range for each case of that letter; the folded comparison decides after them. The bound
-// values are appended to `valores`.
+// A condition for a WHERE clause: `columna`, an indexed column of texts, begins with `prefijo`,
+// without regard to case. The prefix is plain text: quotes, "%" and "_" are characters like any
+// other. The bound values are appended to `valores`.
 QString CondicionPrefijo(const QString& columna, const QString& prefijo, QVariantList& valores);

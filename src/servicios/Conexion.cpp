@@ -2,7 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "plataforma/Proceso.h"
-#include "servicios/BusquedaTexto.h"
+#include "servicios/MotorAlmacenes.h"
 
 #include <QFileInfo>
 #include <QSqlError>
@@ -32,13 +32,6 @@ bool esDeLosAlmacenes(const QString& nombre)
            && (clase == QLatin1String("mod") || clase == QLatin1String("lec"));
 }
 
-void pragma(QSqlDatabase& db, const QString& sql, const QString& origen)
-{
-    QSqlQuery q(db);
-    if (!q.exec(sql))
-        fallar(origen, q.lastError(), sql);
-}
-
 QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, bool crear)
 {
     const QString nombre = nombreConexion(ruta, lectura);
@@ -50,12 +43,9 @@ QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, boo
     }
     if (!crear && !QFileInfo::exists(ruta))
         throw cFallo(3024, origen, QStringLiteral("No se encuentra el archivo '%1'.").arg(ruta));
-    QSqlDatabase db = QSqlDatabase::contains(nombre)
-        ? QSqlDatabase::database(nombre, false)
-        : QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), nombre);
-    db.setDatabaseName(ruta);
-    db.setConnectOptions(lectura ? QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=10000")
-                                 : QStringLiteral("QSQLITE_BUSY_TIMEOUT=10000"));
+    const Motor& motor = MotorDeLosAlmacenes();
+    const Acceso acceso = lectura ? Acceso::Lectura : Acceso::Escritura;
+    QSqlDatabase db = motor.Definir(nombre, ruta, acceso);
     if (!db.open())
         fallar(origen, db.lastError(), ruta);
     // The program ends without unwinding; its journal is folded back into the file first.
@@ -64,17 +54,8 @@ QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, boo
         return true;
     }();
     Q_UNUSED(alTerminar);
-    // The searches compare texts folded beyond ASCII (BusquedaTexto.h).
-    RegistrarPlegado(db, origen);
-    if (!lectura) {
-        pragma(db, QStringLiteral("PRAGMA foreign_keys = ON"), origen);
-        pragma(db, QStringLiteral("PRAGMA journal_mode = WAL"), origen);
-        pragma(db, QStringLiteral("PRAGMA synchronous = NORMAL"), origen);
-        // Each checkpoint waits for the disk twice; with one every 10 000 pages (a journal of
-        // at most some 40 MB) an import of a whole file of contributors, one transaction a
-        // line, waits a tenth as often. A backup checkpoints the journal before copying.
-        pragma(db, QStringLiteral("PRAGMA wal_autocheckpoint = 10000"), origen);
-    }
+    // The searches' folding function, and the engine's settings of a connection that writes.
+    motor.Preparar(db, acceso, origen);
     return db;
 }
 }
@@ -98,14 +79,11 @@ void CerrarTodas()
         QSqlDatabase db = QSqlDatabase::database(nombre, false);
         if (!db.isOpen())
             continue;
-        // What the journal holds goes into the file as far as other running copies allow,
-        // without waiting for them: the program's end is never held up by another copy.
-        if (nombre.startsWith(QLatin1String("mod|"))) {
-            QSqlQuery q(db);
-            q.exec(QStringLiteral("PRAGMA wal_checkpoint(PASSIVE)"));
-        }
-        // Closing finalizes the statements the stores still hold; the last connection of all
-        // the running copies to a file writes back the rest of its journal and removes it.
+        // What the engine keeps aside goes into the store first, without waiting for other
+        // running copies: the program's end is never held up by another copy.
+        if (nombre.startsWith(QLatin1String("mod|")))
+            MotorDeLosAlmacenes().AntesDeCerrar(db);
+        // Closing finalizes the statements the stores still hold.
         db.close();
     }
 }
@@ -146,9 +124,9 @@ QVariant Escalar(const QSqlDatabase& db, const QString& sql, const QVariantList&
 Transaccion::Transaccion(QSqlDatabase db, QString origen)
     : m_db(std::move(db)), m_origen(std::move(origen))
 {
-    // BEGIN IMMEDIATE takes the write lock at once, so two instances never deadlock half-way.
+    // The write lock is taken at once, so two instances never deadlock half-way.
     QSqlQuery q(m_db);
-    if (!q.exec(QStringLiteral("BEGIN IMMEDIATE")))
+    if (!q.exec(MotorDeLosAlmacenes().InicioEscritura()))
         fallar(m_origen, q.lastError(), QStringLiteral("BEGIN"));
     m_abierta = true;
 }

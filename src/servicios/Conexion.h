@@ -1,7 +1,8 @@
 #pragma once
-// The stores' access to their SQLite files. A connection is opened on first use of a file and
-// kept for the rest of the run (one per file and thread); no code outside src/servicios holds
-// one. Every failure becomes a cFallo with the store's name as its source.
+// The stores' access to their databases, through the stores' engine (MotorAlmacenes.h). A
+// connection is opened on first use of a file and kept for the rest of the run (one per file
+// and thread); no code outside src/servicios holds one. Every failure becomes a cFallo with the
+// store's name as its source.
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
@@ -9,10 +10,9 @@
 #include <QVariantList>
 
 namespace Conexion {
-// The read/write database: foreign keys on, WAL journal, and a busy timeout so that a second
-// running instance waits for a lock instead of failing. The file must exist unless `crear`.
-// Every connection, of either file, has the SQL function PLEGAR of the searches
-// (BusquedaTexto.h).
+// The read/write database, set up by the engine (Motor::Preparar): references enforced, and a
+// second running instance waits for a lock instead of failing. The file must exist unless
+// `crear`. Every connection, of either file, has the SQL function PLEGAR of the searches.
 QSqlDatabase Modificable(const QString& ruta, const QString& origen, bool crear = false);
 // The read-only reference database.
 QSqlDatabase Lectura(const QString& ruta, const QString& origen);

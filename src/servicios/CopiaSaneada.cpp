@@ -2,7 +2,7 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
-#include "servicios/ConexionPropia.h"
+#include "servicios/sqlite/ConexionPropia.h"
 #include "servicios/Esquema.h"
 #include "servicios/EstructuraAlmacen.h"
 

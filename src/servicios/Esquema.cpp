@@ -2,7 +2,8 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
-#include "servicios/ConexionPropia.h"
+#include "servicios/MotorAlmacenes.h"
+#include "servicios/sqlite/ConexionPropia.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -160,12 +161,12 @@ int VersionActual()
 
 int VersionDe(const QSqlDatabase& db, const QString& origen)
 {
-    return enteroDe(db, QStringLiteral("PRAGMA user_version"), origen);
+    return MotorDeLosAlmacenes().VersionDe(db, origen);
 }
 
 qint32 MarcaDe(const QSqlDatabase& db, const QString& origen)
 {
-    return static_cast<qint32>(enteroDe(db, QStringLiteral("PRAGMA application_id"), origen));
+    return MotorDeLosAlmacenes().MarcaDe(db, origen);
 }
 
 int ObjetosDe(const QSqlDatabase& db, const QString& origen)
@@ -234,14 +235,12 @@ void Migrar(const QSqlDatabase& db, int desde, const QString& origen)
         if (paso.version > desde)
             paso.aplicar(db, origen);
     }
-    // PRAGMA takes no bound parameters; both values are this program's own integers.
-    Ejecutar(db, QStringLiteral("PRAGMA application_id = %1").arg(MarcaAplicacion), {}, origen);
-    Ejecutar(db, QStringLiteral("PRAGMA user_version = %1").arg(VersionActual()), {}, origen);
-    QSqlQuery rotas = Ejecutar(db, QStringLiteral("PRAGMA foreign_key_check"), {}, origen);
-    if (rotas.next())
+    const Motor& motor = MotorDeLosAlmacenes();
+    motor.Sellar(db, MarcaAplicacion, VersionActual(), origen);
+    if (const auto rota = motor.PrimeraReferenciaRota(db, origen))
         throw cFallo(3201, origen,
                      QStringLiteral("La tabla %1 tiene referencias a filas que no existen en %2.")
-                         .arg(rotas.value(0).toString(), rotas.value(2).toString()));
+                         .arg(rota->tabla, rota->destino));
 }
 
 }  // namespace Esquema

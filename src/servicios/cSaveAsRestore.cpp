@@ -2,10 +2,11 @@
 
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
-#include "servicios/ConexionPropia.h"
 #include "servicios/CopiaSaneada.h"
 #include "servicios/Esquema.h"
 #include "servicios/EstructuraAlmacen.h"
+#include "servicios/MotorAlmacenes.h"
+#include "servicios/sqlite/ConexionPropia.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -89,11 +90,11 @@ private:
     bool m_colocado = false;
 };
 
-// SQLite writes a consistent copy of the database, WAL included, even while other
-// connections use it. The target must not exist.
+// The engine writes a consistent copy of the database, even while other connections use it.
+// The target must not exist.
 void copiar(const QSqlDatabase& db, const QString& destino)
 {
-    Ejecutar(db, QStringLiteral("VACUUM INTO ?"), {destino}, kOrigen);
+    MotorDeLosAlmacenes().CopiarEnArchivo(db, destino, kOrigen);
 }
 
 bool esIdentificador(const QString& nombre)
@@ -235,7 +236,7 @@ QString restaurarEnVivo(const QString& viva, const QString& copia, const QString
     const QSqlDatabase db = conexion.db();
     // The switch is ignored inside a transaction, so it goes off before; the clean copy's
     // references have been checked.
-    Ejecutar(db, QStringLiteral("PRAGMA foreign_keys = OFF"), {}, kOrigen);
+    MotorDeLosAlmacenes().ExigirReferencias(db, false, kOrigen);
     Ejecutar(db, QStringLiteral("ATTACH DATABASE ? AS copia"), {copia}, kOrigen);
     QString previa;
     try {

@@ -1,7 +1,9 @@
 #include "servicios/cTraspaso.h"
 
+#include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
+#include "servicios/MotorAlmacenes.h"
 #include "servicios/RevisionAlmacen.h"
 
 #include <QDir>
@@ -10,18 +12,21 @@
 namespace {
 const QString kOrigen = QStringLiteral("svrVeldoV1.cTraspaso.Traspaso");
 
-// SQLite ignores the foreign-key switch inside a transaction: it is turned off before the
-// migration's transaction begins and on again whatever happens.
+// The engine may ignore the foreign-key switch inside a transaction: it is turned off before
+// the migration's transaction begins and on again whatever happens.
 class SinClavesAjenas {
 public:
     explicit SinClavesAjenas(QSqlDatabase db) : m_db(std::move(db))
     {
-        Ejecutar(m_db, QStringLiteral("PRAGMA foreign_keys = OFF"), {}, kOrigen);
+        MotorDeLosAlmacenes().ExigirReferencias(m_db, false, kOrigen);
     }
     ~SinClavesAjenas()
     {
-        QSqlQuery q(m_db);
-        q.exec(QStringLiteral("PRAGMA foreign_keys = ON"));
+        try {
+            MotorDeLosAlmacenes().ExigirReferencias(m_db, true, kOrigen);
+        } catch (const cFallo&) {
+            // A connection that fails here fails at its next use, with its own message.
+        }
     }
     SinClavesAjenas(const SinClavesAjenas&) = delete;
     SinClavesAjenas& operator=(const SinClavesAjenas&) = delete;

@@ -1,7 +1,9 @@
 // The layers of src/: the real tree passes the include check, and trees written here with an
 // upward include, an undeclared sibling, a widget header in the logic, or a dialog included by
-// a store fail it, naming the file and the line.
+// a store fail it, naming the file and the line. The same for the seam of the stores' engine:
+// an engine's header above the stores, or SQLite's C interface outside its folder.
 #include "ComprobarCapas.h"
+#include "ComprobarMotor.h"
 
 #include <QDir>
 #include <QFile>
@@ -55,6 +57,23 @@ public:
 
     QList<Modulo> modulos() const { return ModulosDeCMake(m_dir.filePath(QStringLiteral("CMakeLists.txt"))); }
     QList<Falta> comprobar() const { return ComprobarCapas(m_dir.path(), modulos(), cabecerasQt()); }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+// Files written under a temporary folder, for the engine's check: a src/ and a tests/.
+class Carpeta {
+public:
+    void escribir(const QString& relativo, const QString& texto)
+    {
+        const QString ruta = m_dir.filePath(relativo);
+        QDir().mkpath(QFileInfo(ruta).path());
+        QFile f(ruta);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(texto.toUtf8());
+    }
+    QString ruta() const { return m_dir.path(); }
 
 private:
     QTemporaryDir m_dir;
@@ -223,6 +242,76 @@ private slots:
         QCOMPARE(faltas[0].fichero, QStringLiteral("servicios/cMiscelaneos.cpp"));
         QCOMPARE(faltas[1].fichero, QStringLiteral("servicios/cSaveAsRestore.cpp"));
         QCOMPARE(faltas[2].fichero, QStringLiteral("servicios/cSaveAsRestore.h"));
+    }
+
+    // --- The seam of the stores' engine ----------------------------------------------------------
+
+    // The program and its tests: only the stores reach the engine, and only through its
+    // interface; SQLite's C interface is called in its own folder alone.
+    void elMotorSoloTrasSuInterfaz()
+    {
+        Recuento recuento;
+        const QList<Falta> faltas =
+            ComprobarMotor(QStringLiteral(VELDO_SRC), QStringLiteral(VELDO_TESTS), &recuento);
+        QVERIFY2(faltas.isEmpty(), qPrintable(listar(faltas)));
+        QVERIFY(recuento.ficheros > 300);
+        QVERIFY(recuento.includes > 1000);
+    }
+
+    void motorPorEncimaDeLosAlmacenesFalla()
+    {
+        Carpeta src;
+        Carpeta pruebas;
+        src.escribir("registros/partes/cConDatos.cpp",
+                     "#include \"servicios/cContribSvr.h\"\n"
+                     "#include \"servicios/sqlite/ConexionPropia.h\"\n");
+        src.escribir("paneles/partes/FrmConDatos.cpp", "#include <QWidget>\n#include <sqlite3.h>\n");
+        src.escribir("aplicacion/Arranque.cpp", "#include \"../servicios/motor/Motor.h\"\n");
+        src.escribir("aplicacion/Veldo.cpp", "#include \"servicios/MotorAlmacenes.h\"\n");
+        pruebas.escribir("registros/partes/test_lista.cpp",
+                         "\n#include \"servicios/sqlite/MotorSqlite.h\"\n");
+        // The stores' own tests and the check's own may.
+        pruebas.escribir("servicios/test_biblioteca.cpp", "#include \"servicios/sqlite/X.h\"\n");
+        pruebas.escribir("arquitectura/test_x.cpp", "#include <sqlite3.h>\n");
+        const QList<Falta> faltas = ComprobarMotor(src.ruta(), pruebas.ruta());
+        QCOMPARE(faltas.size(), 4);
+        QCOMPARE(faltas[0].texto(),
+                 QStringLiteral("aplicacion/Arranque.cpp:1: above the stores, includes "
+                                "../servicios/motor/Motor.h of an engine"));
+        QCOMPARE(faltas[1].fichero, QStringLiteral("paneles/partes/FrmConDatos.cpp"));
+        QCOMPARE(faltas[1].linea, 2);
+        QCOMPARE(faltas[2].fichero, QStringLiteral("registros/partes/cConDatos.cpp"));
+        QCOMPARE(faltas[2].linea, 2);
+        QCOMPARE(faltas[3].fichero, QStringLiteral("tests/registros/partes/test_lista.cpp"));
+        QCOMPARE(faltas[3].linea, 2);
+    }
+
+    void sqliteFueraDeSuCarpetaFalla()
+    {
+        Carpeta src;
+        Carpeta pruebas;
+        src.escribir("servicios/cContribSvr.cpp", "#include \"servicios/Conexion.h\"\n"
+                                                  "#include <sqlite3.h>\n");
+        src.escribir("servicios/LoteContribuyentes.cpp",
+                     "void f(void* h)\n{\n    sqlite3_exec(h, \"BEGIN\", 0, 0, 0);\n}\n");
+        src.escribir("servicios/Conexion.h", "struct sqlite3;\nsqlite3* Manejador();\n");
+        // The engine's own folder may; a store may name the engine's interface and choose it.
+        src.escribir("servicios/sqlite/SentenciaSqlite.cpp",
+                     "#include <sqlite3.h>\nint f(sqlite3_stmt* s) { return sqlite3_step(s); }\n");
+        src.escribir("servicios/MotorAlmacenes.cpp", "#include \"servicios/sqlite/MotorSqlite.h\"\n"
+                                                     "// SQLite, the embedded engine\n");
+        src.escribir("valores/Fecha.cpp", "#include <QDate>\n");
+        const QList<Falta> faltas = ComprobarMotor(src.ruta(), pruebas.ruta());
+        QCOMPARE(faltas.size(), 3);
+        QCOMPARE(faltas[0].texto(),
+                 QStringLiteral("servicios/Conexion.h:2: a store outside servicios/sqlite names "
+                                "sqlite3* of SQLite's C interface"));
+        QCOMPARE(faltas[1].fichero, QStringLiteral("servicios/LoteContribuyentes.cpp"));
+        QCOMPARE(faltas[1].linea, 3);
+        QVERIFY(faltas[1].motivo.contains(QLatin1String("sqlite3_exec")));
+        QCOMPARE(faltas[2].texto(),
+                 QStringLiteral("servicios/cContribSvr.cpp:2: a store outside servicios/sqlite "
+                                "includes <sqlite3.h>"));
     }
 
     void carpetaSinModuloFalla()

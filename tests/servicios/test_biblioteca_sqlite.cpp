@@ -1,9 +1,11 @@
 // The SQLite library the program calls directly and the one behind Qt's driver: one and the
-// same here, and the message that stops the program when they are not.
+// same here, and the message that stops the program when they are not, which the stores'
+// engine gives at start-up.
 #include "catalogo/Catalogo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
-#include "servicios/BibliotecaSqlite.h"
+#include "servicios/MotorAlmacenes.h"
+#include "servicios/sqlite/BibliotecaSqlite.h"
 
 #include <QCoreApplication>
 #include <QTest>
@@ -21,6 +23,14 @@ private slots:
         QVERIFY(!f.propia.isEmpty());
         QCOMPARE(f.delControlador, f.propia);
         QCOMPARE(AvisoBibliotecaSqlite(f), QString());
+    }
+
+    // The start-up asks the stores' engine, which for SQLite is this check.
+    void elMotorDeLosAlmacenesLoComprueba()
+    {
+        QCOMPARE(MotorDeLosAlmacenes().Nombre(), QStringLiteral("SQLite"));
+        QCOMPARE(AvisoMotorAlmacenes(), AvisoBibliotecaSqlite(LeerFuentesSqlite()));
+        QCOMPARE(AvisoMotorAlmacenes(), QString());
     }
 
     void bibliotecasDistintas()

@@ -5,7 +5,7 @@
 
 #include "plataforma/General.h"
 #include "servicios/Conexion.h"
-#include "servicios/ConexionPropia.h"
+#include "servicios/sqlite/ConexionPropia.h"
 
 #include <QFile>
 #include <QSqlQuery>

@@ -2,9 +2,15 @@
 // A connection of its own to one SQLite file, apart from the stores' shared ones (Conexion.h),
 // closed and forgotten on leaving the scope: the checks of a store, the making of a backup and
 // a restore work on files that the stores must not keep open.
+#include "servicios/motor/Motor.h"
+
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QString>
+
+// The driver's connection `nombre` (made when there is none) aimed at the SQLite file `ruta`
+// with this access, not opened yet.
+QSqlDatabase DefinirConexionSqlite(const QString& nombre, const QString& ruta, Acceso acceso);
 
 class ConexionPropia {
 public:

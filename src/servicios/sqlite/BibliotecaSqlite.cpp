@@ -1,7 +1,7 @@
-#include "servicios/BibliotecaSqlite.h"
+#include "servicios/sqlite/BibliotecaSqlite.h"
 
 #include "catalogo/Catalogo.h"
-#include "servicios/ConexionPropia.h"
+#include "servicios/sqlite/ConexionPropia.h"
 
 #include <QSqlQuery>
 #include <sqlite3.h>

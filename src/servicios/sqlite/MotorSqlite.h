@@ -1,0 +1,31 @@
+#pragma once
+// The embedded engine: each store is one SQLite file, reached through Qt's driver and, where
+// the driver costs too much or cannot go, through SQLite's own C interface on the same
+// connection.
+#include "servicios/motor/Motor.h"
+
+class MotorSqlite final : public Motor {
+public:
+    QString Nombre() const override;
+    QString AvisoArranque() const override;
+    QSqlDatabase Definir(const QString& nombre, const QString& ubicacion,
+                         Acceso acceso) const override;
+    void Preparar(const QSqlDatabase& db, Acceso acceso, const QString& origen) const override;
+    void AntesDeCerrar(const QSqlDatabase& db) const override;
+    QString InicioEscritura() const override;
+    qint32 MarcaDe(const QSqlDatabase& db, const QString& origen) const override;
+    int VersionDe(const QSqlDatabase& db, const QString& origen) const override;
+    void Sellar(const QSqlDatabase& db, qint32 marca, int version,
+                const QString& origen) const override;
+    void ExigirReferencias(const QSqlDatabase& db, bool exigir,
+                           const QString& origen) const override;
+    std::optional<ReferenciaRota> PrimeraReferenciaRota(const QSqlDatabase& db,
+                                                        const QString& origen) const override;
+    std::unique_ptr<SentenciaMotor> Compilar(const QSqlDatabase& db, const QString& sql,
+                                             const QString& origen) const override;
+    QString CondicionPrefijo(const QString& columna, const QString& prefijo,
+                             QVariantList& valores) const override;
+    void CopiarEnArchivo(const QSqlDatabase& db, const QString& destino,
+                         const QString& origen) const override;
+    bool Sana(const QString& ubicacion, bool completa) const override;
+};
