@@ -276,11 +276,6 @@ void cImportar::Iniciar()
     TERMINADA.clear();
 }
 
-int16_t cImportar::ValidarDatosContribuyente(const Arreglo& datos) const
-{
-    return cContribSvr().ValidarDatosContribuyentes(datos);
-}
-
 QString cImportar::TextoPreguntaSustituir(const QString& dni)
 {
     return TextoSegunIdioma(QStringLiteral("El contribuyente con DNI ") + dni

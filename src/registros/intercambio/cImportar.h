@@ -25,8 +25,6 @@ public:
     int16_t NUMEROSUS = 0;      // of those written, lines that replaced a contributor
     QString AUTOMATICO;         // "X" automatic mode on, " " switched off, "" at the start
     QString TERMINADA;          // "S" once a run has ended, else ""
-    // The store's interactive validation of one validation array (not used by the run).
-    int16_t ValidarDatosContribuyente(const Arreglo& datos) const;
     int16_t NUMEROIGN = 0;      // existing contributors the user chose not to replace
     // Lines read by the run. 16 bits wide, as the file format has always been read: a run
     // stops with an overflow at a 32 768th line.
