@@ -40,34 +40,39 @@ const QStringList kNombres = {"ANA", "JUAN", "MARIA", "JOSE", "CARMEN", "ANTONIO
                               "DAVID", "ELENA", "JAVIER", "ITZIAR", "IKER", "AINHOA", "MIKEL",
                               "LUCIA", "PABLO", "SARA", "JON", "NEREA", "UNAI"};
 
-Arreglo Contribuyente(quint32 i, QRandomGenerator& azar)
+Contribuyente ContribuyenteAzar(quint32 i, QRandomGenerator& azar)
 {
     const QString nombre = kApellidos[azar.bounded(kApellidos.size())] + QLatin1Char(' ')
         + kApellidos[azar.bounded(kApellidos.size())] + QLatin1Char(' ')
         + kNombres[azar.bounded(kNombres.size())];
     const bool tesoreria = azar.bounded(4) != 0;
     const int municipio = 1 + azar.bounded(45);
-    return {0,
-            QStringLiteral("O"),
-            Dni(i),
-            nombre.left(40),
-            QStringLiteral("CL"),
-            QStringLiteral("MAYOR"),
-            int(azar.bounded(200)),
-            QString(),
-            QString(),
-            QString::number(azar.bounded(9)),
-            QStringLiteral("DCH"),
-            QStringLiteral("N"),
-            QString(),
-            tesoreria ? QStringLiteral("77") : QStringLiteral("48"),
-            QString(),
-            tesoreria ? QStringLiteral("77%1").arg(municipio, 3, 10, QLatin1Char('0'))
-                      : QStringLiteral("48001"),
-            tesoreria ? QStringLiteral("%1").arg(municipio, 3, 10, QLatin1Char('0')) : QString(),
-            tesoreria ? QString() : QStringLiteral("BILBAO"),
-            0.0,
-            0.0};
+    Contribuyente c;
+    c.TIPODNI = QStringLiteral("O");
+    c.DNIC = Dni(i);
+    c.NOMBREC = nombre.left(40);
+    c.VIAC = QStringLiteral("CL");
+    c.DOMICILIOC = QStringLiteral("MAYOR");
+    c.NUMEROC = int(azar.bounded(200));
+    c.PISOC = QString::number(azar.bounded(9));
+    c.MANOC = QStringLiteral("DCH");
+    c.TIPODOMI = QStringLiteral("N");
+    c.CODPROVC = tesoreria ? QStringLiteral("77") : QStringLiteral("48");
+    c.CODPOSC = tesoreria ? QStringLiteral("77%1").arg(municipio, 3, 10, QLatin1Char('0'))
+                          : QStringLiteral("48001");
+    c.CODMUNC = tesoreria ? QStringLiteral("%1").arg(municipio, 3, 10, QLatin1Char('0')) : QString();
+    c.NOMMUNC = tesoreria ? QString() : QStringLiteral("BILBAO");
+    return c;
+}
+
+// The stored columns of a contributor, in the order of the table; a text never null.
+QVariantList Columnas(const Contribuyente& c)
+{
+    const auto t = [](const QString& s) { return QVariant(s.isNull() ? QStringLiteral("") : s); };
+    return {t(c.TIPODNI), t(c.DNIC),     t(c.NOMBREC),  t(c.VIAC),     t(c.DOMICILIOC),
+            c.NUMEROC,    t(c.LETRAC),   t(c.ESCALERAC), t(c.PISOC),   t(c.MANOC),
+            t(c.TIPODOMI), t(c.PAIS),    t(c.CODPROVC), t(c.NOMPROVC), t(c.CODPOSC),
+            t(c.CODMUNC), t(c.NOMMUNC)};
 }
 
 // Processor time of the process (user and system), in ms: on a machine shared with other
@@ -115,11 +120,8 @@ void Llenar(int n, int declaraciones)
         "ESCALERAC, PISOC, MANOC, TIPODOMI, PAIS, CODPROVC, NOMPROVC, CODPOSC, CODMUNC, NOMMUNC) "
         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
     for (int i = 1; i <= n; ++i) {
-        const Arreglo a = Contribuyente(quint32(i), azar);
-        for (int k = 1; k < 18; ++k)
-            ins.addBindValue(a[k].typeId() == QMetaType::QString && a[k].toString().isNull()
-                                 ? QVariant(QStringLiteral(""))
-                                 : a[k]);
+        for (const QVariant& v : Columnas(ContribuyenteAzar(quint32(i), azar)))
+            ins.addBindValue(v);
         if (!ins.exec())
             qFatal("Llenar: %s", qPrintable(ins.lastError().text()));
     }
@@ -223,17 +225,18 @@ void Guardados()
     CarpetaDePrueba carpeta;
     CrearAlmacen();
     QRandomGenerator azar(176);
-    QList<Arreglo> arreglos;
-    arreglos.reserve(n);
+    QList<Contribuyente> valores;
+    valores.reserve(n);
     for (int i = 1; i <= n; ++i)
-        arreglos << Contribuyente(quint32(i), azar);
+        valores << ContribuyenteAzar(quint32(i), azar);
     QElapsedTimer t;
     t.start();
     const double cpu0 = TiempoCpu();
     int fallos = 0;
-    for (const Arreglo& a : arreglos) {
-        // As the program does: a store object for each call.
-        if (ConDatos().GuardarContribuyente(a) != 0)
+    for (const Contribuyente& v : valores) {
+        // As the program does: the record takes the value, a store object for each call.
+        static_cast<Contribuyente&>(ConDatos()) = v;
+        if (!ConDatos().GuardarContribuyente())
             ++fallos;
     }
     const double ms = double(t.nsecsElapsed()) / 1e6;

@@ -102,6 +102,32 @@ const TablaParte& Tabla()
     return t;
 }
 
+Arreglo ArregloDe(const Contribuyente& c)
+{
+    Arreglo a(P::Tamano);
+    a[P::CSCO] = c.CSCO;
+    a[P::TIPODNI] = c.TIPODNI;
+    a[P::DNIC] = c.DNIC;
+    a[P::NOMBREC] = c.NOMBREC;
+    a[P::VIAC] = c.VIAC;
+    a[P::DOMICILIOC] = c.DOMICILIOC;
+    a[P::NUMEROC] = c.NUMEROC;
+    a[P::LETRAC] = c.LETRAC;
+    a[P::ESCALERAC] = c.ESCALERAC;
+    a[P::PISOC] = c.PISOC;
+    a[P::MANOC] = c.MANOC;
+    a[P::TIPODOMI] = c.TIPODOMI;
+    a[P::PAIS] = c.PAIS;
+    a[P::CODPROVC] = c.CODPROVC;
+    a[P::NOMPROVC] = c.NOMPROVC;
+    a[P::CODPOSC] = c.CODPOSC;
+    a[P::CODMUNC] = c.CODMUNC;
+    a[P::NOMMUNC] = c.NOMMUNC;
+    a[P::NUMSP] = c.NUMSP;
+    a[P::NUMTR] = c.NUMTR;
+    return a;
+}
+
 QString DniGuardado(const Arreglo& datos)
 {
     return Texto(datos, P::DNIC).trimmed();

@@ -5,6 +5,7 @@
 #include "servicios/AccesoTabla.h"
 #include "servicios/Arreglos.h"
 #include "servicios/TablaParte.h"
+#include "valores/Contribuyente.h"
 #include "valores/Veredicto.h"
 
 #include <QSqlDatabase>
@@ -66,6 +67,9 @@ QVariantList FilaGuardada(const Arreglo& datos, const QString& origen);
 // of two.
 int16_t AnadirSiNuevo(AccesoNativo& tabla, const Arreglo& datos, const QString& origen,
                       TitularParte& titular, Veredicto* rechazo = nullptr);
+// The save array of a value, in the order of PosContribuyente: the form that the single saves
+// share with the import's batch, whose values come from an exchange line as raw texts.
+Arreglo ArregloDe(const Contribuyente& c);
 // The number of a save array as the store keeps it and looks it up (blanks around it removed).
 QString DniGuardado(const Arreglo& datos);
 

@@ -3,7 +3,6 @@
 #include "servicios/ArreglosPartes.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/PosicionesImportar.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/ValidarDniOficial.h"
 
 #include <algorithm>
@@ -79,21 +78,20 @@ QString cincoCifras(const QString& cp)
 
 }  // namespace
 
-int16_t ReglasContribuyente(const Arreglo& datos)
+int16_t ReglasContribuyente(const Contribuyente& c)
 {
     using namespace VeredictoContribuyente;
-    namespace V = PosValidacionContribuyente;
-    const QString tipoDni = Texto(datos, V::TIPODNI);
-    const QString dni = Texto(datos, V::DNIC);
-    const QString nombre = Texto(datos, V::NOMBREC);
-    const QString domicilio = Texto(datos, V::DOMICILIOC);
-    const bool extranjero = Texto(datos, V::TIPODOMI).trimmed() == QLatin1String("E");
-    const QString pais = Texto(datos, V::PAIS);
-    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, V::CODPROVC));
-    const QString cp = Texto(datos, V::CODPOSC);
-    const QString nomProvincia = Texto(datos, V::NOMPROVC);
-    const QString nomMunicipio = Texto(datos, V::NOMMUNC);
-    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, V::CODMUNC));
+    const QString& tipoDni = c.TIPODNI;
+    const QString& dni = c.DNIC;
+    const QString& nombre = c.NOMBREC;
+    const QString& domicilio = c.DOMICILIOC;
+    const bool extranjero = c.TIPODOMI.trimmed() == QLatin1String("E");
+    const QString& pais = c.PAIS;
+    const QString provincia = CodigoProvincia::Normalizado(c.CODPROVC);
+    const QString& cp = c.CODPOSC;
+    const QString& nomProvincia = c.NOMPROVC;
+    const QString& nomMunicipio = c.NOMMUNC;
+    const QString municipio = CodigoMunicipio::Normalizado(c.CODMUNC);
 
     const EstadoNif nif = ExaminarDni(tipoDni, dni);
     if (nif == EstadoNif::MalFormado)
@@ -230,18 +228,17 @@ Arreglo2D ArregloErrores(const QList<int>& codigos)
     return Arreglo2D{columna};
 }
 
-int16_t ReglasPresentador(const Arreglo& datos)
+int16_t ReglasPresentador(const Presentador& p)
 {
     using namespace VeredictoPresentador;
-    namespace V = PosValidacionPresentador;
-    const QString dni = Texto(datos, V::DNIP);
-    const QString nombre = Texto(datos, V::NOMBREP);
-    const QString domicilio = Texto(datos, V::DOMICILIOP);
-    const QString provincia = CodigoProvincia::Normalizado(Texto(datos, V::CODPROVP));
-    const QString municipio = CodigoMunicipio::Normalizado(Texto(datos, V::CODMUNP));
-    const QString nomMunicipio = Texto(datos, V::NOMMUNP);
-    const QString cp = cincoCifras(Texto(datos, V::CODPOSP));
-    const QString telefono = Texto(datos, V::TELEFONOP).trimmed();
+    const QString& dni = p.DNIP;
+    const QString& nombre = p.NOMBREP;
+    const QString& domicilio = p.DOMICILIOP;
+    const QString provincia = CodigoProvincia::Normalizado(p.CODPROVP);
+    const QString municipio = CodigoMunicipio::Normalizado(p.CODMUNP);
+    const QString& nomMunicipio = p.NOMMUNP;
+    const QString cp = cincoCifras(p.CODPOSP);
+    const QString telefono = p.TELEFONOP.trimmed();
 
     // A presenter's number is always an official one, and an empty one is as wrong as a
     // badly formed one.

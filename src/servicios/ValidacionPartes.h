@@ -14,13 +14,15 @@
 // said to be of another province; a missing province is reported as missing, not as a postal
 // code that does not match). The import's validation reports every error of a line at once.
 #include "servicios/Arreglos.h"
+#include "valores/Contribuyente.h"
+#include "valores/Presentador.h"
 
 #include <QList>
 #include <QString>
 #include <cstdint>
 #include <functional>
 
-// Verdicts of ValidarDatosContribuyentes; also the codes 1 to 13 of the import.
+// The rules of a contributor, by number; also the codes 1 to 13 of the import.
 namespace VeredictoContribuyente {
 enum : int16_t {
     Valido = 0,
@@ -64,7 +66,7 @@ enum : int {
 };
 }
 
-// Verdicts of ValidarDatosPresentador.
+// The rules of a presenter, by number.
 namespace VeredictoPresentador {
 enum : int16_t {
     Valido = 0,
@@ -92,12 +94,12 @@ struct ConsultasReferencia {
     std::function<bool(const QString& municipio)> existeMunicipio;    // three digits
 };
 
-// The validation array of a contributor (11 texts) -> verdict.
-int16_t ReglasContribuyente(const Arreglo& datos);
+// The number of the first rule the contributor breaks, 0 when none.
+int16_t ReglasContribuyente(const Contribuyente& c);
 // The import validation array (15 raw texts) -> every error code, in ascending order.
 QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia);
 // The errors as the import's validation answers them: errores[0][k] for k from 0 to the
 // number of errors less one, then a spare 0, so that the upper bound is the number of errors.
 Arreglo2D ArregloErrores(const QList<int>& codigos);
-// The validation array of a presenter (8 texts) -> verdict.
-int16_t ReglasPresentador(const Arreglo& datos);
+// The number of the first rule the presenter breaks, 0 when none.
+int16_t ReglasPresentador(const Presentador& p);

@@ -11,6 +11,7 @@
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
+#include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
 #include <QStringList>
@@ -50,9 +51,11 @@ QString contadores()
 
 }  // namespace
 
-int16_t cContribSvr::ValidarDatosContribuyentes(const Arreglo& datos) const
+Resultado<void> cContribSvr::ValidarDatosContribuyentes(const Contribuyente& c) const
 {
-    return ReglasContribuyente(datos);
+    if (const int16_t regla = ReglasContribuyente(c); regla != VeredictoContribuyente::Valido)
+        return VeredictosPartes::ValidacionContribuyente(regla);
+    return {};
 }
 
 bool cContribSvr::ValidarDniOficial(const QString& dni) const
@@ -90,7 +93,7 @@ int32_t cContribSvr::ObtenerCodigoContribuyente(const QString& dni) const
     return tabla().CodigoPorDni(Conexion::Modificable(mdbmod, org), dni, org);
 }
 
-void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos, int64_t* version) const
+std::optional<Contribuyente> cContribSvr::CargarContribuyente(int32_t csco) const
 {
     const QString org = origen("CargarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
@@ -100,52 +103,83 @@ void cContribSvr::CargarContribuyente(int32_t csco, Arreglo& datos, int64_t* ver
                                .arg(kColumnas.join(QStringLiteral(", ")), contadores(),
                                     VersionFila::kColumna),
                            {csco}, org);
-    datos.clear();
-    if (version)
-        *version = 0;
     if (!q.next())
-        return;
-    if (version)
-        *version = q.value(P::NUMTR - kPrimera + 1).toLongLong();
-    // The query's columns: those of the stored row, then the two counters.
-    datos.resize(P::Tamano);
-    datos[P::CSCO] = csco;
-    for (int p = P::TIPODNI; p <= P::NOMMUNC; ++p)
-        datos[p] = q.value(p - kPrimera);
-    datos[P::NUMEROC] = q.value(P::NUMEROC - kPrimera).toInt();
-    datos[P::NUMSP] = q.value(P::NUMSP - kPrimera).toDouble();
-    datos[P::NUMTR] = q.value(P::NUMTR - kPrimera).toDouble();
+        return std::nullopt;
+    // The query's columns: those of the stored row, then the two counters and the version.
+    const auto texto = [&q](int p) { return q.value(p - kPrimera).toString(); };
+    Contribuyente c;
+    c.CSCO = csco;
+    c.TIPODNI = texto(P::TIPODNI);
+    c.DNIC = texto(P::DNIC);
+    c.NOMBREC = texto(P::NOMBREC);
+    c.VIAC = texto(P::VIAC);
+    c.DOMICILIOC = texto(P::DOMICILIOC);
+    c.NUMEROC = q.value(P::NUMEROC - kPrimera).toInt();
+    c.LETRAC = texto(P::LETRAC);
+    c.ESCALERAC = texto(P::ESCALERAC);
+    c.PISOC = texto(P::PISOC);
+    c.MANOC = texto(P::MANOC);
+    c.TIPODOMI = texto(P::TIPODOMI);
+    c.PAIS = texto(P::PAIS);
+    c.CODPROVC = texto(P::CODPROVC);
+    c.NOMPROVC = texto(P::NOMPROVC);
+    c.CODPOSC = texto(P::CODPOSC);
+    c.CODMUNC = texto(P::CODMUNC);
+    c.NOMMUNC = texto(P::NOMMUNC);
+    c.NUMSP = q.value(P::NUMSP - kPrimera).toDouble();
+    c.NUMTR = q.value(P::NUMTR - kPrimera).toDouble();
+    c.VERSION = q.value(P::NUMTR - kPrimera + 1).toLongLong();
+    return c;
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo,
-                                          int64_t* version) const
+Resultado<Contribuyente> cContribSvr::GuardarContribuyente(const Contribuyente& c,
+                                                           Sobrescritura sobre) const
 {
-    return guardar(datos, Modo::PorCodigo, rechazo, version);
+    return guardar(c, Modo::PorCodigo, sobre);
 }
 
-int16_t cContribSvr::GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                          Veredicto* rechazo, int64_t* version) const
+Resultado<Contribuyente> cContribSvr::GuardarContribuyente(const Contribuyente& c,
+                                                           bool sustituir,
+                                                           Sobrescritura sobre) const
 {
-    return guardar(datos, sustituir ? Modo::Sustituir : Modo::Anadir, rechazo, version);
+    return guardar(c, sustituir ? Modo::Sustituir : Modo::Anadir, sobre);
 }
 
-int16_t cContribSvr::guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo,
-                             int64_t* version) const
+Resultado<Contribuyente> cContribSvr::guardar(const Contribuyente& c, Modo modo,
+                                              Sobrescritura sobre) const
 {
+    using namespace VeredictoGuardarContribuyente;
     const QString org = origen("GuardarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     AccesoPreparado acceso(tabla(), db, org);
-    // The new version is handed back only once it is committed.
-    int64_t nueva = version ? *version : 0;
-    const int16_t veredicto = GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt,
-                                                             rechazo, version ? &nueva : nullptr);
-    if (veredicto == VeredictoGuardarContribuyente::Guardado) {
-        transaccion.confirmar();
-        if (version)
-            *version = nueva;
+    int64_t version = c.VERSION;
+    Veredicto rechazo;
+    const Arreglo datos = GuardadoContribuyente::ArregloDe(c);
+    switch (GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt, &rechazo,
+                                           sobre == Sobrescritura::VersionCargada ? &version
+                                                                                  : nullptr)) {
+    case Guardado:
+        break;
+    case DniExistente:
+        return VeredictosPartes::Informacion(41);
+    case DniDeOtro:
+        return VeredictosPartes::Informacion(42);
+    case Cambiado:
+        return VeredictosPartes::NoVigente(Vigencia::Cambiada);
+    case Borrado:
+        return VeredictosPartes::NoVigente(Vigencia::Borrada);
+    default:
+        return rechazo;
     }
-    return veredicto;
+    // The saved value: its code and version, read back in the same transaction (a new
+    // contributor's code is the store's to give).
+    const TitularParte titular = acceso.TitularPorDni(GuardadoContribuyente::DniGuardado(datos));
+    Contribuyente guardado = c;
+    guardado.CSCO = titular.codigo;
+    guardado.VERSION = titular.version;
+    transaccion.confirmar();
+    return guardado;
 }
 
 bool cContribSvr::BorrarContribuyente(int32_t csco) const

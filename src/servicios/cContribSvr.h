@@ -1,35 +1,34 @@
 #pragma once
 // The store of contributors. The program makes one object for each operation, sets the paths
 // the operation needs (mdbmod, mdblec), calls it and drops the object; nothing is kept between
-// calls but the cached connection of each file. Records cross as arrays of fixed order; the
-// rules come back as verdict numbers. Failures of the files are raised as cFallo.
+// calls but the cached connection of each file. A contributor crosses as a Contribuyente; a
+// refusal comes back as the Veredicto of a Resultado, with the message to show and the field to
+// focus. Failures of the files are raised as cFallo.
 //
-// Arrays (zero-based):
-//  - validation, 11 texts: TIPODNI, DNIC, NOMBREC, DOMICILIOC, TIPODOMI, PAIS, CODPROVC,
-//    CODPOSC, NOMPROVC, NOMMUNC, CODMUNC;
-//  - save and load, 20 values: CSCO, TIPODNI, DNIC, NOMBREC, VIAC, DOMICILIOC, NUMEROC, LETRAC,
-//    ESCALERAC, PISOC, MANOC, TIPODOMI, PAIS, CODPROVC, NOMPROVC, CODPOSC, CODMUNC, NOMMUNC,
-//    NUMSP, NUMTR (NUMEROC a whole number, the counters reals);
-//  - import validation, 15 texts: the validation array, then the house number, the two counters
-//    and the street type, as they stand in the exchange line.
+// The import's validation still takes the 15 raw texts of an exchange line, in the order of
+// PosImportar, blanks included.
 //
 // The counters NUMSP and NUMTR are the number of declarations that name the contributor as
 // subject and as transmitter. They are counted from the declarations whenever they are read,
-// and what a save array carries in their place is ignored; so a contributor named in a
+// and what a saved value carries in their place is ignored; so a contributor named in a
 // declaration always shows it, and is never deleted.
 #include "servicios/Arreglos.h"
 #include "servicios/GuardadoContribuyente.h"
+#include "servicios/Sobrescritura.h"
+#include "valores/Contribuyente.h"
+#include "valores/Resultado.h"
 
 #include <QString>
 #include <cstdint>
+#include <optional>
 
 class cContribSvr {
 public:
     QString mdbmod;
     QString mdblec;
 
-    // Number of the first rule that the validation array breaks, 0 when none (1 to 14).
-    int16_t ValidarDatosContribuyentes(const Arreglo& datos) const;
+    // The first rule the contributor breaks, as the message to show and the field to focus.
+    Resultado<void> ValidarDatosContribuyentes(const Contribuyente& c) const;
     // True when `dni` is a well-formed official (Spanish) number with the right check
     // character.
     bool ValidarDniOficial(const QString& dni) const;
@@ -43,26 +42,23 @@ public:
     // Code of the contributor with this number (blanks around it ignored), 0 when none.
     int32_t ExisteContribuyente(const QString& dni) const;
     int32_t ObtenerCodigoContribuyente(const QString& dni) const;
-    // Fills the load array; leaves it empty when the store has no such code. `version`, when
-    // given, receives the version of the row (VersionFila.h), 0 when there is none.
-    void CargarContribuyente(int32_t csco, Arreglo& datos, int64_t* version = nullptr) const;
-    // Element 0 is 0: insert; otherwise update of that code. Verdicts
-    // (VeredictoGuardarContribuyente): 0 saved; 1 insert of a number already in the store; 2
-    // update to a number held by another contributor; 3 a text that the store cannot keep as
-    // given (a name of blanks, a control character, a broken character, a text too long), of
-    // which `rechazo`, when given, receives the message and the field; 4 the contributor was
-    // saved again since the version given was loaded, 5 it was deleted since. Nothing is
-    // written unless the verdict is 0.
-    // `version` is the version the caller loaded: an update writes only over that version, and
-    // a save puts the row's new version there. Without it an update writes whatever the row
-    // holds, and a code no longer in the store is written back under the same code.
-    int16_t GuardarContribuyente(const Arreglo& datos, Veredicto* rechazo = nullptr,
-                                 int64_t* version = nullptr) const;
-    // The import's form: `sustituir` true replaces the contributor of element 0 (or, with 0,
-    // the one that has the number; a new one when none has), false adds a new one. Same
-    // verdicts and the same use of `version`.
-    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                 Veredicto* rechazo = nullptr, int64_t* version = nullptr) const;
+    // The stored contributor of that code, with its counters and VERSION; nullopt when the
+    // store has none.
+    std::optional<Contribuyente> CargarContribuyente(int32_t csco) const;
+    // CSCO 0: insert; otherwise update of that code. Answers the value as saved (its code, the
+    // row's new VERSION) or the refusal: an insert of a number already in the store (message
+    // 41), an update to a number held by another contributor (42), a text the store cannot
+    // keep as given (its message and field), or, with Sobrescritura::VersionCargada, a stored
+    // contributor no longer of the VERSION loaded (the verdict's vigencia: saved again since,
+    // or deleted). Nothing is written on a refusal. With CualquierVersion an update writes
+    // whatever the row holds, and a code no longer in the store is written back under it.
+    Resultado<Contribuyente> GuardarContribuyente(
+        const Contribuyente& c, Sobrescritura sobre = Sobrescritura::VersionCargada) const;
+    // The import's form: `sustituir` true replaces the contributor CSCO (or, with 0, the one
+    // that has the number; a new one when none has), false adds a new one. Same answers.
+    Resultado<Contribuyente> GuardarContribuyente(
+        const Contribuyente& c, bool sustituir,
+        Sobrescritura sobre = Sobrescritura::VersionCargada) const;
     // Deletes the contributor unless a declaration names him; true when a row went.
     bool BorrarContribuyente(int32_t csco) const;
     // {declarations as subject, as transmitter}.
@@ -79,5 +75,5 @@ public:
 
 private:
     using Modo = GuardadoContribuyente::Modo;
-    int16_t guardar(const Arreglo& datos, Modo modo, Veredicto* rechazo, int64_t* version) const;
+    Resultado<Contribuyente> guardar(const Contribuyente& c, Modo modo, Sobrescritura sobre) const;
 };

@@ -8,6 +8,7 @@
 #include "servicios/TablaParte.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
+#include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
 #include <QStringList>
@@ -73,6 +74,28 @@ constexpr ColumnaTexto kTextos[] = {
     {P::TELEFONOP, 9, 194, "txttelefonop"},
 };
 
+// The save array of a value, in the order of PosPresentador.
+Arreglo arregloDe(const Presentador& p)
+{
+    Arreglo a(P::Tamano);
+    a[P::CSPR] = p.CSPR;
+    a[P::DNIP] = p.DNIP;
+    a[P::NOMBREP] = p.NOMBREP;
+    a[P::VIAP] = p.VIAP;
+    a[P::DOMICILIOP] = p.DOMICILIOP;
+    a[P::NUMEROP] = p.NUMEROP;
+    a[P::LETRAP] = p.LETRAP;
+    a[P::ESCALERAP] = p.ESCALERAP;
+    a[P::PISOP] = p.PISOP;
+    a[P::MANOP] = p.MANOP;
+    a[P::CODPROVP] = p.CODPROVP;
+    a[P::CODPOSP] = p.CODPOSP;
+    a[P::CODMUNP] = p.CODMUNP;
+    a[P::NOMMUNP] = p.NOMMUNP;
+    a[P::TELEFONOP] = p.TELEFONOP;
+    return a;
+}
+
 const TablaParte& tabla()
 {
     static const TablaParte t(QStringLiteral("PRESENTADORES"), QStringLiteral("CSPR"),
@@ -82,24 +105,23 @@ const TablaParte& tabla()
 
 }  // namespace
 
-int16_t cPresenSvr::ValidarDatosPresentador(const Arreglo& datos) const
+Resultado<void> cPresenSvr::ValidarDatosPresentador(const Presentador& p) const
 {
-    return ReglasPresentador(datos);
+    if (const int16_t regla = ReglasPresentador(p); regla != VeredictoPresentador::Valido)
+        return VeredictosPartes::ValidacionPresentador(regla);
+    return {};
 }
 
-int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo,
-                                       int64_t* version) const
+Resultado<Presentador> cPresenSvr::GuardarPresentador(const Presentador& p,
+                                                      Sobrescritura sobre) const
 {
-    using namespace VeredictoGuardarPresentador;
     const QString org = origen("GuardarPresentador");
-    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio()) {
-        if (rechazo)
-            *rechazo = std::move(v);
-        return TextoRechazado;
-    }
+    const Arreglo datos = arregloDe(p);
+    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio())
+        return v;
     const QVariantList fila = filaGuardada(datos, org);
-    const int32_t cspr =
-        EnteroGuardado(datos, P::CSPR, std::numeric_limits<int32_t>::max(), "CSPR", org);
+    const int32_t cspr = p.CSPR;
+    const bool vigilada = sobre == Sobrescritura::VersionCargada;
     const QString dni = fila[P::DNIP - kPrimera].toString();
 
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
@@ -108,16 +130,16 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo,
     const int64_t nueva = VersionFila::Nueva();
     if (cspr == 0) {
         if (titular != 0)
-            return DniExistente;
+            return VeredictosPartes::Informacion(195);
         tabla().Insertar(db, 0, fila, nueva, org);
     } else {
         if (titular != 0 && titular != cspr)
-            return DniDeOtro;
+            return VeredictosPartes::Informacion(196);
         QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
                                     {cspr}, org);
         if (!actual.next()) {
-            if (version)
-                return Borrado;
+            if (vigilada)
+                return VeredictosPartes::NoVigente(Vigencia::Borrada);
             tabla().Insertar(db, cspr, fila, nueva, org);
         } else {
             // The declarations copy the presenter's number: once one names him it stays. A
@@ -125,28 +147,25 @@ int16_t cPresenSvr::GuardarPresentador(const Arreglo& datos, Veredicto* rechazo,
             const bool otroDni =
                 actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
             if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
-                return DniEnDeclaraciones;
-            if (!version) {
+                return VeredictosPartes::Informacion(197);
+            if (!vigilada) {
                 tabla().Actualizar(db, cspr, fila, nueva, org);
-            } else {
-                switch (tabla().ActualizarVigente(db, cspr, fila, *version, nueva, org)) {
-                case Vigencia::Cambiada:
-                    return Cambiado;
-                case Vigencia::Borrada:
-                    return Borrado;
-                case Vigencia::Vigente:
-                    break;
-                }
+            } else if (const Vigencia v =
+                           tabla().ActualizarVigente(db, cspr, fila, p.VERSION, nueva, org);
+                       v != Vigencia::Vigente) {
+                return VeredictosPartes::NoVigente(v);
             }
         }
     }
+    // A new presenter's code is the store's to give: it is read back in the same transaction.
+    Presentador guardado = p;
+    guardado.CSPR = cspr != 0 ? cspr : tabla().CodigoPorDni(db, dni, org);
+    guardado.VERSION = nueva;
     transaccion.confirmar();
-    if (version)
-        *version = nueva;
-    return Guardado;
+    return guardado;
 }
 
-void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos, int64_t* version) const
+std::optional<Presentador> cPresenSvr::CargarPresentador(int32_t cspr) const
 {
     const QString org = origen("CargarPresentador");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
@@ -154,18 +173,28 @@ void cPresenSvr::CargarPresentador(int32_t cspr, Arreglo& datos, int64_t* versio
                            QStringLiteral("SELECT %1, %2 FROM PRESENTADORES WHERE CSPR = ?")
                                .arg(kColumnas.join(QStringLiteral(", ")), VersionFila::kColumna),
                            {cspr}, org);
-    datos.clear();
-    if (version)
-        *version = 0;
     if (!q.next())
-        return;
-    if (version)
-        *version = q.value(int(kColumnas.size())).toLongLong();
-    datos.resize(P::Tamano);
-    datos[P::CSPR] = cspr;
-    for (int p = P::DNIP; p < P::Tamano; ++p)
-        datos[p] = q.value(p - kPrimera);
-    datos[P::NUMEROP] = q.value(P::NUMEROP - kPrimera).toInt();
+        return std::nullopt;
+    // The query's columns: those of the stored row, then the version.
+    const auto texto = [&q](int p) { return q.value(p - kPrimera).toString(); };
+    Presentador p;
+    p.CSPR = cspr;
+    p.DNIP = texto(P::DNIP);
+    p.NOMBREP = texto(P::NOMBREP);
+    p.VIAP = texto(P::VIAP);
+    p.DOMICILIOP = texto(P::DOMICILIOP);
+    p.NUMEROP = q.value(P::NUMEROP - kPrimera).toInt();
+    p.LETRAP = texto(P::LETRAP);
+    p.ESCALERAP = texto(P::ESCALERAP);
+    p.PISOP = texto(P::PISOP);
+    p.MANOP = texto(P::MANOP);
+    p.CODPROVP = texto(P::CODPROVP);
+    p.CODPOSP = texto(P::CODPOSP);
+    p.CODMUNP = texto(P::CODMUNP);
+    p.NOMMUNP = texto(P::NOMMUNP);
+    p.TELEFONOP = texto(P::TELEFONOP);
+    p.VERSION = q.value(int(kColumnas.size())).toLongLong();
+    return p;
 }
 
 bool cPresenSvr::BorrarPresentador(int32_t cspr) const

@@ -1,57 +1,39 @@
 #pragma once
 // The store of presenters, used as the store of contributors is: one object per operation,
-// paths set before the call, arrays of fixed order, verdict numbers.
-//
-// Arrays (zero-based):
-//  - validation, 8 texts: DNIP, NOMBREP, DOMICILIOP, CODPROVP, CODMUNP, NOMMUNP, CODPOSP,
-//    TELEFONOP;
-//  - save and load, 15 values: CSPR, DNIP, NOMBREP, VIAP, DOMICILIOP, NUMEROP, LETRAP,
-//    ESCALERAP, PISOP, MANOP, CODPROVP, CODPOSP, CODMUNP, NOMMUNP, TELEFONOP (NUMEROP a whole
-//    number).
+// paths set before the call; a presenter crosses as a Presentador, a refusal as the Veredicto of
+// a Resultado.
 //
 // A presenter is always national and official. His number of declarations is counted from the
 // declarations when it is asked for; a presenter named in a declaration cannot be deleted, and
 // his number (which the declaration copies) cannot change.
 #include "servicios/Arreglos.h"
-#include "valores/Veredicto.h"
+#include "servicios/Sobrescritura.h"
+#include "valores/Presentador.h"
+#include "valores/Resultado.h"
 
 #include <QString>
 #include <cstdint>
-
-// Verdicts of GuardarPresentador.
-namespace VeredictoGuardarPresentador {
-enum : int16_t {
-    Guardado = 0,
-    DniExistente = 1,         // insert of a number already in the store
-    DniDeOtro = 2,            // update to a number held by another presenter
-    DniEnDeclaraciones = 3,   // change of the number of a presenter named in a declaration
-    TextoRechazado = 4,       // a text the store cannot keep as given (TextoGuardable.h)
-    Cambiado = 5,             // update of a presenter saved again since the version given
-    Borrado = 6,              // update of a presenter no longer in the store
-};
-}
+#include <optional>
 
 class cPresenSvr {
 public:
     QString mdbmod;
     QString mdblec;
 
-    // Number of the first rule that the validation array breaks, 0 when none (1 to 11).
-    int16_t ValidarDatosPresentador(const Arreglo& datos) const;
-    // Element 0 is 0: insert; otherwise update of that code. Verdicts: 0 saved; 1 insert of a
-    // number already in the store; 2 update to a number held by another presenter; 3 change of
-    // the number of a presenter named in a declaration; 4 a text that the store cannot keep as
-    // given, of which `rechazo`, when given, receives the message and the field; 5 the
-    // presenter was saved again since the version given was loaded, 6 it was deleted since.
-    // Nothing is written unless the verdict is 0.
-    // `version` is the version the caller loaded (VersionFila.h): an update writes only over
-    // it, and a save puts the row's new version there. Without it an update writes whatever
-    // the row holds, and a code no longer in the store is written back under the same code.
-    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr,
-                               int64_t* version = nullptr) const;
-    // Fills the load array; leaves it empty when the store has no such code. `version`, when
-    // given, receives the version of the row, 0 when there is none.
-    void CargarPresentador(int32_t cspr, Arreglo& datos, int64_t* version = nullptr) const;
+    // The first rule the presenter breaks, as the message to show and the field to focus.
+    Resultado<void> ValidarDatosPresentador(const Presentador& p) const;
+    // CSPR 0: insert; otherwise update of that code. Answers the value as saved (its code, the
+    // row's new VERSION) or the refusal: an insert of a number already in the store (message
+    // 195), an update to a number held by another presenter (196), a change of the number of
+    // a presenter named in a declaration (197), a text the store cannot keep as given (its
+    // message and field), or, with Sobrescritura::VersionCargada, a stored presenter no longer
+    // of the VERSION loaded (the verdict's vigencia). Nothing is written on a refusal. With
+    // CualquierVersion an update writes whatever the row holds, and a code no longer in the
+    // store is written back under it.
+    Resultado<Presentador> GuardarPresentador(
+        const Presentador& p, Sobrescritura sobre = Sobrescritura::VersionCargada) const;
+    // The stored presenter of that code, with its VERSION; nullopt when the store has none.
+    std::optional<Presentador> CargarPresentador(int32_t cspr) const;
     // Deletes the presenter unless a declaration names him; true when a row went.
     bool BorrarPresentador(int32_t cspr) const;
     // Code of the presenter with this number, 0 when none.

@@ -1,8 +1,10 @@
 #pragma once
-// Parties for the tests: the arrays of valid contributors and presenters that the stores take,
-// built by the arrays' named positions, and parties put in the store of the application
-// paths (mdbmod) through the stores' own operations.
+// Parties for the tests: valid contributors and presenters as the stores take them, the raw
+// texts of an exchange line for the import's validation, and parties put in the store of the
+// application paths (mdbmod) through the stores' own operations.
 #include "servicios/Arreglos.h"
+#include "valores/Contribuyente.h"
+#include "valores/Presentador.h"
 
 #include <QString>
 #include <cstdint>
@@ -10,20 +12,16 @@
 // A DNI of eight digits with its right letter.
 QString Dni(quint32 numero);
 
-// Save arrays of a valid contributor: national in the treasury's province (municipality 001),
-// and foreign with a foreign document.
-Arreglo ContribuyenteNacional(const QString& dni, const QString& nombre, int32_t csco = 0);
-Arreglo ContribuyenteExtranjero(const QString& dni, const QString& nombre, int32_t csco = 0);
-// The validation array (11 texts) of a save array.
-Arreglo ValidacionDe(const Arreglo& guardar);
+// A valid contributor: national in the treasury's province (municipality 001), and foreign
+// with a foreign document.
+Contribuyente ContribuyenteNacional(const QString& dni, const QString& nombre, int32_t csco = 0);
+Contribuyente ContribuyenteExtranjero(const QString& dni, const QString& nombre, int32_t csco = 0);
 // The import validation array (15 raw texts) of a valid national contributor, as an exchange
 // line holds it (fixed widths, blanks included).
 Arreglo ImportacionNacional();
 
-// Save array of a valid presenter in the treasury's province.
-Arreglo Presentador(const QString& dni, const QString& nombre, int32_t cspr = 0);
-// Its validation array (8 texts).
-Arreglo ValidacionPresentador(const Arreglo& guardar);
+// A valid presenter in the treasury's province.
+Presentador PresentadorValido(const QString& dni, const QString& nombre, int32_t cspr = 0);
 
 // A national contributor of the treasury's province, in street `calle` and municipality
 // `municipio`, saved through the store of contributors; answers its code. A refusal stops the

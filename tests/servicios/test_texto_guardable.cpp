@@ -10,7 +10,6 @@
 #include "plataforma/Idioma.h"
 #include "servicios/BusquedaTexto.h"
 #include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
@@ -19,7 +18,6 @@
 #include <QtTest>
 
 namespace P = PosContribuyente;
-namespace R = PosPresentador;
 
 namespace {
 
@@ -29,6 +27,26 @@ cContribSvr Contribuyentes()
     s.mdbmod = mdbmod;
     s.mdblec = mdblec;
     return s;
+}
+
+// The refusal of a save; an empty verdict when it was saved.
+template <typename T>
+Veredicto Rechazo(const Resultado<T>& r)
+{
+    return r ? Veredicto{} : r.veredicto();
+}
+
+// The text field of a contributor at a position of the contributor's columns.
+QString& Campo(Contribuyente& c, int posicion)
+{
+    switch (posicion) {
+    case P::DNIC: return c.DNIC;
+    case P::DOMICILIOC: return c.DOMICILIOC;
+    case P::MANOC: return c.MANOC;
+    case P::NOMMUNC: return c.NOMMUNC;
+    case P::CODPOSC: return c.CODPOSC;
+    default: qFatal("Campo sin caso: %d", posicion);
+    }
 }
 
 cPresenSvr Presentadores()
@@ -211,10 +229,9 @@ private slots:
         const int32_t otro = NuevoContribuyente(Dni(1), QStringLiteral("ZABALA ARANA MIKEL"));
         const QStringList antes = ContenidoContribuyentes(almacen);
 
-        Veredicto rechazo;
-        QCOMPARE(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(2), valor),
-                                                       &rechazo),
-                 int16_t(VeredictoGuardarContribuyente::TextoRechazado));
+        const Veredicto rechazo =
+            Rechazo(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(2), valor), Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.id, id);
         QCOMPARE(rechazo.mensaje, mensaje);
         QCOMPARE(rechazo.control, QStringLiteral("txtnombrec"));
@@ -222,8 +239,7 @@ private slots:
         QCOMPARE(ContenidoContribuyentes(almacen), antes);
         QVERIFY(otro > 0);
         // The import's form refuses it the same way.
-        QCOMPARE(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(2), valor), true),
-                 int16_t(VeredictoGuardarContribuyente::TextoRechazado));
+        QCOMPARE(Rechazo(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(2), valor), true)).id, id);
         QCOMPARE(ContenidoContribuyentes(almacen), antes);
     }
 
@@ -236,15 +252,13 @@ private slots:
         AlmacenDePrueba almacen;
         const int32_t c = NuevoContribuyente(Dni(3), QStringLiteral("GARCIA LOPEZ JUAN"));
         const QStringList antes = ContenidoContribuyentes(almacen);
-        Veredicto rechazo;
-        QCOMPARE(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(3), valor, c),
-                                                       &rechazo),
-                 int16_t(VeredictoGuardarContribuyente::TextoRechazado));
+        const Veredicto rechazo =
+            Rechazo(Contribuyentes().GuardarContribuyente(ContribuyenteNacional(Dni(3), valor, c), Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.id, id);
         QCOMPARE(ContenidoContribuyentes(almacen), antes);
-        Arreglo leido;
-        Contribuyentes().CargarContribuyente(c, leido);
-        QCOMPARE(leido[P::NOMBREC].toString(), QStringLiteral("GARCIA LOPEZ JUAN"));
+        QCOMPARE(Contribuyentes().CargarContribuyente(c)->NOMBREC,
+                 QStringLiteral("GARCIA LOPEZ JUAN"));
     }
 
     void contribuyenteOtrosCampos_data()
@@ -279,11 +293,11 @@ private slots:
         QFETCH(QString, control);
         QFETCH(QString, mensaje);
         AlmacenDePrueba almacen;
-        Arreglo a = ContribuyenteNacional(Dni(4), QStringLiteral("ETXEBERRIA OTXOA ANE"));
-        a[posicion] = valor;
-        Veredicto rechazo;
-        QCOMPARE(Contribuyentes().GuardarContribuyente(a, &rechazo),
-                 int16_t(VeredictoGuardarContribuyente::TextoRechazado));
+        Contribuyente a = ContribuyenteNacional(Dni(4), QStringLiteral("ETXEBERRIA OTXOA ANE"));
+        Campo(a, posicion) = valor;
+        const Veredicto rechazo =
+            Rechazo(Contribuyentes().GuardarContribuyente(a, Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.control, control);
         QCOMPARE(rechazo.mensaje, mensaje);
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
@@ -300,11 +314,8 @@ private slots:
         const QString cuarenta = coche + QString(39, QLatin1Char('N'));
         const int32_t a = NuevoContribuyente(Dni(5), nombre);
         const int32_t b = NuevoContribuyente(Dni(6), cuarenta);
-        Arreglo leido;
-        Contribuyentes().CargarContribuyente(a, leido);
-        QCOMPARE(leido[P::NOMBREC].toString(), nombre);
-        Contribuyentes().CargarContribuyente(b, leido);
-        QCOMPARE(leido[P::NOMBREC].toString(), cuarenta);
+        QCOMPARE(Contribuyentes().CargarContribuyente(a)->NOMBREC, nombre);
+        QCOMPARE(Contribuyentes().CargarContribuyente(b)->NOMBREC, cuarenta);
     }
 
     // --- Presenters --------------------------------------------------------------------------
@@ -319,9 +330,9 @@ private slots:
         AlmacenDePrueba almacen;
         NuevoPresentador(Dni(10), QStringLiteral("ASESORIA ARANA"));
         const QStringList antes = ContenidoPresentadores(almacen);
-        Veredicto rechazo;
-        QCOMPARE(Presentadores().GuardarPresentador(Presentador(Dni(11), valor), &rechazo),
-                 int16_t(VeredictoGuardarPresentador::TextoRechazado));
+        const Veredicto rechazo =
+            Rechazo(Presentadores().GuardarPresentador(PresentadorValido(Dni(11), valor), Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.id, id);
         QCOMPARE(rechazo.mensaje, mensaje);
         QCOMPARE(rechazo.control, QStringLiteral("txtnombrep"));
@@ -337,24 +348,22 @@ private slots:
         AlmacenDePrueba almacen;
         const int32_t p = NuevoPresentador(Dni(12), QStringLiteral("GESTORIA ELORZA"));
         const QStringList antes = ContenidoPresentadores(almacen);
-        Veredicto rechazo;
-        QCOMPARE(Presentadores().GuardarPresentador(Presentador(Dni(12), valor, p), &rechazo),
-                 int16_t(VeredictoGuardarPresentador::TextoRechazado));
+        const Veredicto rechazo =
+            Rechazo(Presentadores().GuardarPresentador(PresentadorValido(Dni(12), valor, p), Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.id, id);
         QCOMPARE(ContenidoPresentadores(almacen), antes);
-        Arreglo leido;
-        Presentadores().CargarPresentador(p, leido);
-        QCOMPARE(leido[R::NOMBREP].toString(), QStringLiteral("GESTORIA ELORZA"));
+        QCOMPARE(Presentadores().CargarPresentador(p)->NOMBREP, QStringLiteral("GESTORIA ELORZA"));
     }
 
     void presentadorDniDeBlancos()
     {
         // For a presenter an empty number is a wrong one: the record's own message says so.
         AlmacenDePrueba almacen;
-        Veredicto rechazo;
-        QCOMPARE(Presentadores().GuardarPresentador(
-                     Presentador(QStringLiteral("         "), QStringLiteral("GESTORIA")), &rechazo),
-                 int16_t(VeredictoGuardarPresentador::TextoRechazado));
+        const Veredicto rechazo =
+            Rechazo(Presentadores().GuardarPresentador(
+                     PresentadorValido(QStringLiteral("         "), QStringLiteral("GESTORIA")), Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.id, 330);
         QCOMPARE(rechazo.control, QStringLiteral("txtdnip"));
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 0);
@@ -363,11 +372,11 @@ private slots:
     void presentadorTelefonoLargo()
     {
         AlmacenDePrueba almacen;
-        Arreglo a = Presentador(Dni(13), QStringLiteral("GESTORIA"));
-        a[R::TELEFONOP] = QStringLiteral("9451234567");
-        Veredicto rechazo;
-        QCOMPARE(Presentadores().GuardarPresentador(a, &rechazo),
-                 int16_t(VeredictoGuardarPresentador::TextoRechazado));
+        Presentador a = PresentadorValido(Dni(13), QStringLiteral("GESTORIA"));
+        a.TELEFONOP = QStringLiteral("9451234567");
+        const Veredicto rechazo =
+            Rechazo(Presentadores().GuardarPresentador(a, Sobrescritura::CualquierVersion));
+        QVERIFY(!rechazo.vacio());
         QCOMPARE(rechazo.mensaje,
                  QStringLiteral("La casilla Teléfono no puede tener más de 9 caracteres"));
         QCOMPARE(rechazo.control, QStringLiteral("txttelefonop"));

@@ -13,9 +13,7 @@
 #include "servicios/Esquema.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/PosicionesDeclaracion.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cPresenSvr.h"
@@ -29,34 +27,58 @@
 
 namespace {
 
-namespace C = PosContribuyente;
-namespace P = PosPresentador;
 namespace G = PosGuardarDeclaracion;
 
 cContribSvr contribuyentes() { return Almacen<cContribSvr>(); }
 cPresenSvr presentadores() { return Almacen<cPresenSvr>(); }
 cDeclaSvr declaraciones() { return Almacen<cDeclaSvr>(); }
 
-// A contributor as a copy loads it: its save array and the version of its row.
+// A return as a copy loads it: its save array and the version of its row.
 struct Cargado {
     Arreglo datos;
     int64_t version = 0;
 };
 
-Cargado cargarContribuyente(int32_t csco)
+// A contributor and a presenter as a copy loads them (with the version of the row).
+Contribuyente cargarContribuyente(int32_t csco)
 {
-    Cargado c;
-    contribuyentes().CargarContribuyente(csco, c.datos, &c.version);
-    c.datos[C::CSCO] = csco;
-    return c;
+    return contribuyentes().CargarContribuyente(csco).value_or(Contribuyente{});
 }
 
-Cargado cargarPresentador(int32_t cspr)
+Presentador cargarPresentador(int32_t cspr)
 {
-    Cargado c;
-    presentadores().CargarPresentador(cspr, c.datos, &c.version);
-    c.datos[P::CSPR] = cspr;
-    return c;
+    return presentadores().CargarPresentador(cspr).value_or(Presentador{});
+}
+
+// The save of what a copy loaded, over the version it loaded, as the store's verdict numbers
+// (0 saved: the copy takes the row's new version; Cambiado, Borrado; -1 another refusal).
+int16_t guardarCargado(Contribuyente& c)
+{
+    const Resultado<Contribuyente> r = contribuyentes().GuardarContribuyente(c);
+    if (r) {
+        c.VERSION = r->VERSION;
+        return 0;
+    }
+    switch (r.veredicto().vigencia) {
+    case Vigencia::Cambiada: return VeredictoGuardarContribuyente::Cambiado;
+    case Vigencia::Borrada: return VeredictoGuardarContribuyente::Borrado;
+    default: return -1;
+    }
+}
+
+// As guardarCargado, for a presenter: 5 saved again since, 6 deleted since.
+int16_t guardarCargado(Presentador& p)
+{
+    const Resultado<Presentador> r = presentadores().GuardarPresentador(p);
+    if (r) {
+        p.VERSION = r->VERSION;
+        return 0;
+    }
+    switch (r.veredicto().vigencia) {
+    case Vigencia::Cambiada: return 5;
+    case Vigencia::Borrada: return 6;
+    default: return -1;
+    }
 }
 
 // A return as a copy loads it: the save array made from the load array.
@@ -96,9 +118,9 @@ QString referenciaDeclaracion(int32_t csde)
 
 void renombrarContribuyente(int32_t csco, const QString& nombre)
 {
-    Cargado c = cargarContribuyente(csco);
-    c.datos[C::NOMBREC] = nombre;
-    QCOMPARE(contribuyentes().GuardarContribuyente(c.datos, nullptr, &c.version), 0);
+    Contribuyente c = cargarContribuyente(csco);
+    c.NOMBREC = nombre;
+    QCOMPARE(guardarCargado(c), 0);
 }
 
 void cambiarReferencia(int32_t csde, const QString& referencia)
@@ -137,18 +159,18 @@ private slots:
     {
         const int32_t a = NuevoContribuyente(Dni(1), QStringLiteral("UNO"));
         const int32_t b = NuevoContribuyente(Dni(2), QStringLiteral("DOS"));
-        Cargado ca = cargarContribuyente(a);
-        const int64_t primera = ca.version;
+        Contribuyente ca = cargarContribuyente(a);
+        const int64_t primera = ca.VERSION;
         QVERIFY(primera > 0);
-        QVERIFY(cargarContribuyente(b).version > 0);
-        QVERIFY(cargarContribuyente(b).version != primera);
-        QCOMPARE(contribuyentes().GuardarContribuyente(ca.datos, nullptr, &ca.version), 0);
-        QVERIFY(ca.version > 0);
-        QVERIFY(ca.version != primera);
-        QCOMPARE(cargarContribuyente(a).version, ca.version);
+        QVERIFY(cargarContribuyente(b).VERSION > 0);
+        QVERIFY(cargarContribuyente(b).VERSION != primera);
+        QCOMPARE(guardarCargado(ca), 0);
+        QVERIFY(ca.VERSION > 0);
+        QVERIFY(ca.VERSION != primera);
+        QCOMPARE(cargarContribuyente(a).VERSION, ca.VERSION);
         // And the copy that saved goes on saving over its own save.
-        ca.datos[C::NOMBREC] = QStringLiteral("UNO BIS");
-        QCOMPARE(contribuyentes().GuardarContribuyente(ca.datos, nullptr, &ca.version), 0);
+        ca.NOMBREC = QStringLiteral("UNO BIS");
+        QCOMPARE(guardarCargado(ca), 0);
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {a}),
                  QStringLiteral("UNO BIS"));
     }
@@ -156,24 +178,24 @@ private slots:
     void contribuyenteEnDosCopias()
     {
         const int32_t csco = NuevoContribuyente(Dni(10), QStringLiteral("ORIGINAL"));
-        Cargado esta = cargarContribuyente(csco);
+        Contribuyente esta = cargarContribuyente(csco);
         QVERIFY(EnOtraConexion([csco] {
-            Cargado otra = cargarContribuyente(csco);
-            otra.datos[C::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
-            if (contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version) != 0)
+            Contribuyente otra = cargarContribuyente(csco);
+            otra.NOMBREC = QStringLiteral("DE LA OTRA COPIA");
+            if (guardarCargado(otra) != 0)
                 throw std::runtime_error("no guardado");
         }));
-        const int64_t cargada = esta.version;
-        esta.datos[C::NOMBREC] = QStringLiteral("DE ESTA COPIA");
-        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version),
+        const int64_t cargada = esta.VERSION;
+        esta.NOMBREC = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(guardarCargado(esta),
                  int16_t(VeredictoGuardarContribuyente::Cambiado));
-        QCOMPARE(esta.version, cargada);
+        QCOMPARE(esta.VERSION, cargada);
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
                  QStringLiteral("DE LA OTRA COPIA"));
         // Loaded again, the same save goes through.
-        const int64_t vigente = cargarContribuyente(csco).version;
-        esta.version = vigente;
-        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version), 0);
+        const int64_t vigente = cargarContribuyente(csco).VERSION;
+        esta.VERSION = vigente;
+        QCOMPARE(guardarCargado(esta), 0);
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
                  QStringLiteral("DE ESTA COPIA"));
     }
@@ -181,9 +203,9 @@ private slots:
     void contribuyenteBorradoNoVuelve()
     {
         const int32_t csco = NuevoContribuyente(Dni(11), QStringLiteral("BORRABLE"));
-        Cargado esta = cargarContribuyente(csco);
+        Contribuyente esta = cargarContribuyente(csco);
         QVERIFY(EnOtraConexion([csco] { contribuyentes().BorrarContribuyente(csco); }));
-        QCOMPARE(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version),
+        QCOMPARE(guardarCargado(esta),
                  int16_t(VeredictoGuardarContribuyente::Borrado));
         QVERIFY(!ExisteContribuyente(csco));
         QCOMPARE(m_almacen->Filas(QStringLiteral("CONTRIBUYENTES")), 0);
@@ -192,23 +214,23 @@ private slots:
     void presentadorEnDosCopias()
     {
         const int32_t cspr = NuevoPresentador(Dni(20), QStringLiteral("GESTORIA"));
-        Cargado esta = cargarPresentador(cspr);
+        Presentador esta = cargarPresentador(cspr);
         QVERIFY(EnOtraConexion([cspr] {
-            Cargado otra = cargarPresentador(cspr);
-            otra.datos[P::NOMBREP] = QStringLiteral("DE LA OTRA COPIA");
-            if (presentadores().GuardarPresentador(otra.datos, nullptr, &otra.version) != 0)
+            Presentador otra = cargarPresentador(cspr);
+            otra.NOMBREP = QStringLiteral("DE LA OTRA COPIA");
+            if (guardarCargado(otra) != 0)
                 throw std::runtime_error("no guardado");
         }));
-        esta.datos[P::NOMBREP] = QStringLiteral("DE ESTA COPIA");
-        QCOMPARE(presentadores().GuardarPresentador(esta.datos, nullptr, &esta.version),
-                 int16_t(VeredictoGuardarPresentador::Cambiado));
+        esta.NOMBREP = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(guardarCargado(esta),
+                 int16_t(5));
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREP FROM PRESENTADORES WHERE CSPR = ?"), {cspr}),
                  QStringLiteral("DE LA OTRA COPIA"));
         // Deleted meanwhile: not written back.
-        Cargado otraVez = cargarPresentador(cspr);
+        Presentador otraVez = cargarPresentador(cspr);
         QVERIFY(EnOtraConexion([cspr] { presentadores().BorrarPresentador(cspr); }));
-        QCOMPARE(presentadores().GuardarPresentador(otraVez.datos, nullptr, &otraVez.version),
-                 int16_t(VeredictoGuardarPresentador::Borrado));
+        QCOMPARE(guardarCargado(otraVez),
+                 int16_t(6));
         QVERIFY(!ExistePresentador(cspr));
     }
 
@@ -250,10 +272,10 @@ private slots:
         cambiarReferencia(csde, QStringLiteral("DESPUES"));
         const int32_t nuevo = NuevoContribuyente(Dni(41), QStringLiteral("NUEVO"));
 
-        Cargado contribuyente = cargarContribuyente(csco);
+        Contribuyente contribuyente = cargarContribuyente(csco);
         Cargado declaracion = cargarDeclaracion(csde);
-        Cargado posterior = cargarContribuyente(nuevo);
-        QCOMPARE(contribuyente.datos[C::NOMBREC].toString(), QStringLiteral("TRAS LA COPIA"));
+        Contribuyente posterior = cargarContribuyente(nuevo);
+        QCOMPARE(contribuyente.NOMBREC, QStringLiteral("TRAS LA COPIA"));
 
         QVERIFY(EnOtraConexion([] {
             const QString copia = CarpetaPrograma() + QStringLiteral("/backups/VELDOMod_bak.mdb");
@@ -263,14 +285,13 @@ private slots:
         QCOMPARE(nombreContribuyente(csco), QStringLiteral("EN LA COPIA"));
         QVERIFY(!ExisteContribuyente(nuevo));
 
-        contribuyente.datos[C::NOMBREC] = QStringLiteral("DE ESTA COPIA");
-        QCOMPARE(contribuyentes().GuardarContribuyente(contribuyente.datos, nullptr,
-                                                       &contribuyente.version),
+        contribuyente.NOMBREC = QStringLiteral("DE ESTA COPIA");
+        QCOMPARE(guardarCargado(contribuyente),
                  int16_t(VeredictoGuardarContribuyente::Cambiado));
         declaracion.datos[G::REFERENCIA] = QStringLiteral("ESTA");
         QCOMPARE(declaraciones().GuardarDeclaracion(declaracion.datos, nullptr, &declaracion.version),
                  cDeclaSvr::kCambiada);
-        QCOMPARE(contribuyentes().GuardarContribuyente(posterior.datos, nullptr, &posterior.version),
+        QCOMPARE(guardarCargado(posterior),
                  int16_t(VeredictoGuardarContribuyente::Borrado));
 
         QCOMPARE(nombreContribuyente(csco), QStringLiteral("EN LA COPIA"));
@@ -286,15 +307,14 @@ private slots:
     {
         const int32_t csco = NuevoContribuyente(Dni(42), QStringLiteral("IGUAL"));
         QVERIFY(copiaDeSeguridad(false).Copiar());
-        Cargado contribuyente = cargarContribuyente(csco);
+        Contribuyente contribuyente = cargarContribuyente(csco);
         QVERIFY(EnOtraConexion([] {
             const QString copia = CarpetaPrograma() + QStringLiteral("/backups/VELDOMod_bak.mdb");
             if (!copiaDeSeguridad(true).Restaurar(copia).hecha)
                 throw std::runtime_error("no restaurada");
         }));
-        contribuyente.datos[C::NOMBREC] = QStringLiteral("EDITADO");
-        QCOMPARE(contribuyentes().GuardarContribuyente(contribuyente.datos, nullptr,
-                                                       &contribuyente.version),
+        contribuyente.NOMBREC = QStringLiteral("EDITADO");
+        QCOMPARE(guardarCargado(contribuyente),
                  0);
         QCOMPARE(nombreContribuyente(csco), QStringLiteral("EDITADO"));
     }
@@ -319,7 +339,7 @@ private slots:
         }
         QVERIFY(!ColumnasDe(copia, QStringLiteral("CONTRIBUYENTES")).contains(VersionFila::kColumna));
         const int32_t abierto = NuevoContribuyente(Dni(43), QStringLiteral("ABIERTO"));
-        Cargado esta = cargarContribuyente(abierto);
+        Contribuyente esta = cargarContribuyente(abierto);
 
         QVERIFY(copiaDeSeguridad(true).Restaurar(copia).hecha);
         QCOMPARE(VersionDeArchivo(mdbmod), Esquema::VersionActual());
@@ -328,13 +348,13 @@ private slots:
                  2);
         const int32_t restaurado =
             ValorAlmacenado(QStringLiteral("SELECT MIN(CSCO) FROM CONTRIBUYENTES")).toInt();
-        Cargado otra = cargarContribuyente(restaurado);
-        QVERIFY(otra.version > 0);
-        otra.datos[C::NOMBREC] = QStringLiteral("TRAS RESTAURAR");
-        QCOMPARE(contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version), 0);
+        Contribuyente otra = cargarContribuyente(restaurado);
+        QVERIFY(otra.VERSION > 0);
+        otra.NOMBREC = QStringLiteral("TRAS RESTAURAR");
+        QCOMPARE(guardarCargado(otra), 0);
         QCOMPARE(nombreContribuyente(restaurado), QStringLiteral("TRAS RESTAURAR"));
         // What this copy had open before the restore is not in the restored store as it was.
-        QVERIFY(contribuyentes().GuardarContribuyente(esta.datos, nullptr, &esta.version) != 0);
+        QVERIFY(guardarCargado(esta) != 0);
         QCOMPARE(m_almacen->Filas(QStringLiteral("CONTRIBUYENTES")), 2);
     }
 
@@ -349,12 +369,12 @@ private slots:
         QVERIFY(version > 0);
         lote.Confirmar();
         QVERIFY(EnOtraConexion([csco] {
-            Cargado otra = cargarContribuyente(csco);
-            otra.datos[C::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
-            if (contribuyentes().GuardarContribuyente(otra.datos, nullptr, &otra.version) != 0)
+            Contribuyente otra = cargarContribuyente(csco);
+            otra.NOMBREC = QStringLiteral("DE LA OTRA COPIA");
+            if (guardarCargado(otra) != 0)
                 throw std::runtime_error("no guardado");
         }));
-        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco),
+        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco)),
                                            true, nullptr, &version),
                  int16_t(VeredictoGuardarContribuyente::Cambiado));
         lote.Confirmar();
@@ -362,7 +382,7 @@ private slots:
                  QStringLiteral("DE LA OTRA COPIA"));
         // With the version as it is now, the replacement goes through.
         QCOMPARE(lote.ExisteContribuyente(Dni(30), &version), csco);
-        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco),
+        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco)),
                                            true, nullptr, &version),
                  0);
         lote.Confirmar();
@@ -378,7 +398,7 @@ private slots:
         QCOMPARE(lote.ExisteContribuyente(Dni(31), &version), csco);
         lote.Confirmar();
         QVERIFY(EnOtraConexion([csco] { contribuyentes().BorrarContribuyente(csco); }));
-        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(31), QStringLiteral("DEL FICHERO"), csco),
+        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(31), QStringLiteral("DEL FICHERO"), csco)),
                                            true, nullptr, &version),
                  int16_t(VeredictoGuardarContribuyente::Borrado));
         lote.Confirmar();

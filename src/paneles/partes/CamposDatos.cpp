@@ -218,18 +218,6 @@ void BotonesDeDatos(QWidget* panel, QFrame* datos, QFrame* botones, QPushButton*
     todo->addWidget(botones);
 }
 
-void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<FocoDeVeredicto>& focos)
-{
-    if (id == 0)
-        return;
-    Mensaje(Texto(id), vb::OKOnly + vb::Information, panel->windowTitle());
-    for (const FocoDeVeredicto& foco : focos)
-        if (foco.campo && foco.veredictos.contains(veredicto)) {
-            foco.campo->setFocus(Qt::OtherFocusReason);
-            return;
-        }
-}
-
 void AvisarRechazo(QWidget* panel, Veredicto rechazo)
 {
     rechazo.titulo = panel->windowTitle();

@@ -67,15 +67,7 @@ QLabel* Etiqueta(QWidget* padre, const char* nombre);
 void BotonesDeDatos(QWidget* panel, QFrame* datos, QFrame* botones, QPushButton*& aceptar,
                     QPushButton*& cancelar, QLabel*& picAce, QLabel*& picCan);
 
-// The field that takes the focus after some verdicts of the store.
-struct FocoDeVeredicto {
-    QList<int16_t> veredictos;
-    QWidget* campo = nullptr;
-};
-// The message of a verdict of the store: catalogue text `id` (0: nothing is shown) in an
-// information box with the panel's title; then the field that `focos` names for the verdict,
-// if any, takes the focus.
-void AvisarVeredicto(QWidget* panel, int id, int16_t veredicto, const QList<FocoDeVeredicto>& focos);
-// A text the store refused (TextoGuardable): its message in a box with the panel's title, then
-// the field it names takes the focus. Nothing when the store refused nothing.
+// A refusal of the store (a rule broken, a number held, a text it cannot keep as given): its
+// message in a box with the panel's title, then the field it names takes the focus. Nothing
+// when the verdict has no message.
 void AvisarRechazo(QWidget* panel, Veredicto rechazo);

@@ -214,32 +214,20 @@ void FrmConDatos::ClicTipoDomicilio(bool marcado)
 
 bool FrmConDatos::ValidarCampos()
 {
-    const int16_t veredicto = ConDatos().ValidarDatosContribuyente(ConDatos().ArregloValidacion());
-    if (veredicto == 0)
-        return true;
-    const BloqueDomicilio& d = *m_domicilio;
-    AvisarVeredicto(this, cConDatos::IdMensajeValidacion(veredicto), veredicto,
-                    {{{1, 2, 14}, txtdnic},
-                     {{3}, txtnombrec},
-                     {{4}, d.txtdomicilio},
-                     {{5}, txtpais},
-                     {{6, 7, 8, 9}, d.txtcodpos},
-                     {{10}, d.txtnomprov},
-                     {{11}, d.txtnommun},
-                     {{12}, d.txtcodprov},
-                     {{13}, d.txtcodmun}});
-    return false;
+    const Resultado<void> r = ConDatos().ValidarDatosContribuyente();
+    if (!r)
+        AvisarRechazo(this, r.veredicto());
+    return r.aceptado();
 }
 
-int16_t FrmConDatos::GuardarContribuyente()
+bool FrmConDatos::GuardarContribuyente()
 {
-    Veredicto rechazo;
-    const int16_t veredicto =
-        ConDatos().GuardarContribuyente(ConDatos().ArregloGuardar(), &rechazo);
-    AvisarRechazo(this, rechazo);
-    AvisarVeredicto(this, cConDatos::IdMensajeGuardar(veredicto), veredicto, {});
-    TratarVigencia(cConDatos::VigenciaGuardar(veredicto));
-    return veredicto;
+    const Resultado<Contribuyente> r = ConDatos().GuardarContribuyente();
+    if (r)
+        return true;
+    AvisarRechazo(this, r.veredicto());
+    TratarVigencia(r.veredicto().vigencia);
+    return false;
 }
 
 void FrmConDatos::AnotarEnLista()

@@ -24,8 +24,8 @@ public:
     explicit FrmConDatos(QWidget* parent = nullptr);
 
     bool ValidarCampos() override;
-    // Saves the record; shows the message of a refusal. Answers the store's verdict.
-    int16_t GuardarContribuyente();
+    // Saves the record; shows the message of a refusal. Answers whether it was saved.
+    bool GuardarContribuyente();
 
 private:
     void Construir();
@@ -37,7 +37,7 @@ private:
     void Redibujar() override;
     void PresentarContribuyente();
     void ActivarSelectores();
-    int16_t Guardar() override { return GuardarContribuyente(); }
+    bool Guardar() override { return GuardarContribuyente(); }
     void AnotarEnLista() override;
 
     // Clicks on the check boxes.

@@ -137,30 +137,20 @@ void FrmPreDatos::Redibujar()
 
 bool FrmPreDatos::ValidarCampos()
 {
-    const int16_t veredicto = PreDatos().ValidarDatosPresentador(PreDatos().ArregloValidacion());
-    if (veredicto == 0)
-        return true;
-    // The presenter's verdicts are numbered on their own, not as the contributor's.
-    const BloqueDomicilio& d = *m_domicilio;
-    AvisarVeredicto(this, cPreDatos::IdMensajeValidacion(veredicto), veredicto,
-                    {{{1, 11}, txtdnip},
-                     {{2}, txtnombrep},
-                     {{3}, d.txtdomicilio},
-                     {{4}, d.txtcodmun},
-                     {{5}, d.txtnommun},
-                     {{6, 7, 8}, d.txtcodpos},
-                     {{9, 10}, txttelefonop}});
-    return false;
+    const Resultado<void> r = PreDatos().ValidarDatosPresentador();
+    if (!r)
+        AvisarRechazo(this, r.veredicto());
+    return r.aceptado();
 }
 
-int16_t FrmPreDatos::GuardarPresentador()
+bool FrmPreDatos::GuardarPresentador()
 {
-    Veredicto rechazo;
-    const int16_t veredicto = PreDatos().GuardarPresentador(PreDatos().ArregloGuardar(), &rechazo);
-    AvisarRechazo(this, rechazo);
-    AvisarVeredicto(this, cPreDatos::IdMensajeGuardar(veredicto), veredicto, {});
-    TratarVigencia(cPreDatos::VigenciaGuardar(veredicto));
-    return veredicto;
+    const Resultado<Presentador> r = PreDatos().GuardarPresentador();
+    if (r)
+        return true;
+    AvisarRechazo(this, r.veredicto());
+    TratarVigencia(r.veredicto().vigencia);
+    return false;
 }
 
 void FrmPreDatos::AnotarEnLista()

@@ -19,8 +19,8 @@ public:
     explicit FrmPreDatos(QWidget* parent = nullptr);
 
     bool ValidarCampos() override;
-    // Saves the record; shows the message of a refusal. Answers the store's verdict.
-    int16_t GuardarPresentador();
+    // Saves the record; shows the message of a refusal. Answers whether it was saved.
+    bool GuardarPresentador();
 
 private:
     void Construir();
@@ -32,7 +32,7 @@ private:
     void Redibujar() override;
     void PresentarPresentador();
     void ActivarSelectores();
-    int16_t Guardar() override { return GuardarPresentador(); }
+    bool Guardar() override { return GuardarPresentador(); }
     void AnotarEnLista() override;
 
     QLineEdit* txtdnip = nullptr;

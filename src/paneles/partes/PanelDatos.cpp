@@ -81,7 +81,7 @@ void PanelDatos::Aceptar()
     if (!ValidarCampos())
         return;
     if (m_modificado) {
-        if (Guardar() != 0)
+        if (!Guardar())
             return;
         AnotarEnLista();
     }

@@ -68,8 +68,8 @@ protected:
     virtual void CargarDatos() = 0;
     // Draws the panel from the record and enables the pickers' buttons.
     virtual void Redibujar() = 0;
-    // Saves the record and shows the message of a refusal; answers the store's verdict.
-    virtual int16_t Guardar() = 0;
+    // Saves the record and shows the message of a refusal; answers whether it was saved.
+    virtual bool Guardar() = 0;
     // After a save: a new party made from its list is the one the list selects on coming back.
     virtual void AnotarEnLista() = 0;
 

@@ -1,68 +1,39 @@
 #pragma once
-// The program's working copy of one presenter (one instance, PreDatos()): a plain record like
-// the contributor's, with the same reset on MODO "A", and operations that each make a store
-// object for one call. A presenter is always national and official: no kind of document or
+// The program's working copy of one presenter (one instance, PreDatos()): one Presentador and
+// how it was opened, like the contributor's record, with the same reset on MODO "A", and
+// operations that each make a store object for one call. A presenter is always national and official: no kind of document or
 // domicile, no country, no typed province, no counters; a telephone.
-#include "servicios/Arreglos.h"
-#include "valores/Veredicto.h"
-#include "valores/Vigencia.h"
+#include "valores/Presentador.h"
+#include "valores/Resultado.h"
 
 #include <QString>
 #include <cstdint>
 
-class cPreDatos {
+class cPreDatos : public Presentador {
 public:
+    // "A" new presenter, "C" existing one; "A" resets every field of the value but CSPR.
+    const QString& MODO() const { return m_modo; }
+    void setMODO(const QString& modo);
+    QString LISTA;
+
+    // The presenter the record holds, as the store takes it.
+    const Presentador& valor() const { return *this; }
+
     // Declarations that name the presenter CSPR (16-bit; no panel calls it).
     int16_t NDeclaPresentador() const;
     // Fills the record from the store; MODO, LISTA and CSPR keep their values. The province is
     // given two digits and the postal code five; a telephone of value 0 reads empty. A code
     // the store does not have leaves the record as it was.
     void CargarPresentador(int32_t codigo);
-    // Verdict 0 to 6 of the save array; on 4 (a text the store cannot keep as given)
-    // `rechazo`, when given, holds the message and the field to show; 5 and 6 when the stored
-    // presenter is no longer the VERSION loaded (saved again or deleted since), and nothing was
-    // written. A save takes the row's new version into VERSION.
-    int16_t GuardarPresentador(const Arreglo& datos, Veredicto* rechazo = nullptr);
-    // Verdict 0 to 11 of the validation array.
-    int16_t ValidarDatosPresentador(const Arreglo& datos) const;
+    // Saves the record over the VERSION loaded; a save takes the row's new version into
+    // VERSION. A refusal (see cPresenSvr::GuardarPresentador) leaves the record as it was; its
+    // vigencia tells of a stored presenter other than the one loaded.
+    Resultado<Presentador> GuardarPresentador();
+    // The first rule the record breaks: its message and the field to focus.
+    Resultado<void> ValidarDatosPresentador() const;
     // Deletes the presenter CSPR; the store refuses one named in a declaration.
     void BorrarPresentador() const;
-
-    QString CODPROVP;
-    // "A" new presenter, "C" existing one; "A" resets every field but LISTA and CSPR.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
-    QString LISTA;
-    QString CODPOSP;
-    QString CODMUNP;
-    QString NOMMUNP;
-    int32_t CSPR = 0;
-    QString DOMICILIOP;
-    QString DNIP;
-    QString NOMBREP;
-    QString VIAP;
-    int32_t NUMEROP = 0;
-    QString LETRAP;
-    QString ESCALERAP;
-    QString PISOP;
-    QString MANOP;
-    QString TELEFONOP;
-    // The version of the stored row this record was loaded from or last saved as; 0 for a
-    // presenter not loaded.
-    int64_t VERSION = 0;
-
     int32_t ObtenerCodigoPresentador(const QString& dni) const;
-
-    // The arrays of the record, as the store takes them.
-    Arreglo ArregloValidacion() const;
-    Arreglo ArregloGuardar() const;
-
-    // The catalogue id of the message of a verdict, 0 for valid or a verdict outside the
-    // table.
-    static int IdMensajeValidacion(int16_t veredicto);
-    static int IdMensajeGuardar(int16_t veredicto);
-    // Whether a verdict of the save tells of a stored presenter other than the one loaded.
-    static Vigencia VigenciaGuardar(int16_t veredicto);
 
 private:
     QString m_modo;

@@ -161,9 +161,10 @@ private slots:
             esperado += FicheroErrores::Formato();
             QCOMPARE(Leer(r.FICHEROERRORES), esperado);
             for (auto it = ultimo.cbegin(); it != ultimo.cend(); ++it) {
-                Arreglo a;
-                svr.CargarContribuyente(svr.ExisteContribuyente(it.key()), a);
-                QCOMPARE(a.value(PosContribuyente::NOMBREC).toString(), it.value());
+                const std::optional<Contribuyente> c =
+                    svr.CargarContribuyente(svr.ExisteContribuyente(it.key()));
+                QVERIFY(c.has_value());
+                QCOMPARE(c->NOMBREC, it.value());
             }
         }
         QCOMPARE(total, 100000);

@@ -28,9 +28,8 @@ int32_t Codigo(quint32 n)
 
 QString NombreGuardado(quint32 n)
 {
-    Arreglo a;
-    Svr().CargarContribuyente(Codigo(n), a);
-    return a.value(3).toString();
+    const std::optional<Contribuyente> c = Svr().CargarContribuyente(Codigo(n));
+    return c ? c->NOMBREC : QString();
 }
 
 }  // namespace
@@ -287,11 +286,9 @@ private slots:
             // The other copy edits the first one and deletes the second.
             const bool hecho = EnOtraConexion([&] {
                 if (pregunta++ == 0) {
-                    Arreglo a;
-                    Svr().CargarContribuyente(uno, a);
-                    a[PosContribuyente::CSCO] = uno;
-                    a[PosContribuyente::NOMBREC] = QStringLiteral("DE LA OTRA COPIA");
-                    if (Svr().GuardarContribuyente(a) != 0)
+                    Contribuyente c = Svr().CargarContribuyente(uno).value();
+                    c.NOMBREC = QStringLiteral("DE LA OTRA COPIA");
+                    if (!Svr().GuardarContribuyente(c))
                         throw std::runtime_error("no guardado");
                 } else if (!Svr().BorrarContribuyente(dos)) {
                     throw std::runtime_error("no borrado");

@@ -237,7 +237,7 @@ private slots:
         QCOMPARE(t("txtdnisp")->text(), QString());
         QCOMPARE(DecDatos().DNISP, QString());
         // A stored foreign contributor cannot be the subject: message 167.
-        Contribuyente extranjero;
+        ContribuyenteDePanel extranjero;
         extranjero.TIPODNI = QStringLiteral("O");
         extranjero.DNIC = Dni(11111111);
         extranjero.TIPODOMI = QStringLiteral("E");
@@ -254,7 +254,7 @@ private slots:
         QCOMPARE(mensajes(), QStringList{Texto(167)});
         QCOMPARE(t("txtdnisp")->text(), QString());
         // A stored national one is loaded.
-        Contribuyente nacional;
+        ContribuyenteDePanel nacional;
         nacional.DNIC = Dni(22222222);
         nacional.NOMBREC = QStringLiteral("PEREZ LOPEZ JUAN");
         const int32_t codigo = GuardarEnAlmacen(nacional);
@@ -285,7 +285,7 @@ private slots:
 
     void unaParteEnAmbosLados()
     {
-        Contribuyente nacional;
+        ContribuyenteDePanel nacional;
         nacional.DNIC = Dni(22222222);
         const int32_t codigo = GuardarEnAlmacen(nacional);
         nueva();

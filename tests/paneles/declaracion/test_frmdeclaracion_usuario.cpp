@@ -399,7 +399,7 @@ private slots:
     // follows, and its municipality goes outside the treasury's province.
     void espejoDeUnaProvincia()
     {
-        Contribuyente nacional;
+        ContribuyenteDePanel nacional;
         nacional.DNIC = Dni(22222222);
         const int32_t codigo = GuardarEnAlmacen(nacional);
         nueva();
@@ -440,7 +440,7 @@ private slots:
         QCOMPARE(t("txtdnitr")->text(), QString());
         QCOMPARE(DecDatos().DNITR, QString());
         // A stored one is loaded; then an unknown good number asks 168.
-        Contribuyente vendedor;
+        ContribuyenteDePanel vendedor;
         vendedor.DNIC = Dni(33333333);
         vendedor.NOMBREC = QStringLiteral("VENDEDOR SA");
         const int32_t codigo = GuardarEnAlmacen(vendedor);

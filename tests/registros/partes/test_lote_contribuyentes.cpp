@@ -11,6 +11,7 @@
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/SentenciaNativa.h"
 #include "servicios/PosicionesImportar.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/cContribSvr.h"
 
@@ -28,6 +29,46 @@ cContribSvr Svr()
     return s;
 }
 
+// The save array of the batch, as the import makes it from a line.
+Arreglo Lote(const Contribuyente& c)
+{
+    return GuardadoContribuyente::ArregloDe(c);
+}
+
+// The store's single save of an array, by the batch's verdict numbers.
+int16_t GuardarSuelto(const Arreglo& a, bool sustituir)
+{
+    namespace P = PosContribuyente;
+    Contribuyente c;
+    c.CSCO = a[P::CSCO].toInt();
+    c.TIPODNI = a[P::TIPODNI].toString();
+    c.DNIC = a[P::DNIC].toString();
+    c.NOMBREC = a[P::NOMBREC].toString();
+    c.VIAC = a[P::VIAC].toString();
+    c.DOMICILIOC = a[P::DOMICILIOC].toString();
+    c.NUMEROC = a[P::NUMEROC].toInt();
+    c.LETRAC = a[P::LETRAC].toString();
+    c.ESCALERAC = a[P::ESCALERAC].toString();
+    c.PISOC = a[P::PISOC].toString();
+    c.MANOC = a[P::MANOC].toString();
+    c.TIPODOMI = a[P::TIPODOMI].toString();
+    c.PAIS = a[P::PAIS].toString();
+    c.CODPROVC = a[P::CODPROVC].toString();
+    c.NOMPROVC = a[P::NOMPROVC].toString();
+    c.CODPOSC = a[P::CODPOSC].toString();
+    c.CODMUNC = a[P::CODMUNC].toString();
+    c.NOMMUNC = a[P::NOMMUNC].toString();
+    const Resultado<Contribuyente> r =
+        Svr().GuardarContribuyente(c, sustituir, Sobrescritura::CualquierVersion);
+    if (r)
+        return VeredictoGuardarContribuyente::Guardado;
+    switch (r.veredicto().id) {
+    case 41: return VeredictoGuardarContribuyente::DniExistente;
+    case 42: return VeredictoGuardarContribuyente::DniDeOtro;
+    default: return VeredictoGuardarContribuyente::TextoRechazado;
+    }
+}
+
 struct Paso {
     Arreglo datos;
     bool sustituir;
@@ -38,14 +79,14 @@ struct Paso {
 QList<Paso> Secuencia()
 {
     QList<Paso> p;
-    p << Paso{ContribuyenteNacional(Dni(1), "UNO"), false}
-      << Paso{ContribuyenteNacional(Dni(2), "DOS"), false}
-      << Paso{ContribuyenteNacional(Dni(1), "UNO OTRA VEZ"), false}   // verdict 1
-      << Paso{ContribuyenteNacional(Dni(1), "UNO NUEVO", 1), true}      // by code
-      << Paso{ContribuyenteNacional(Dni(2), "DOS NUEVO", 0), true}      // by number
-      << Paso{ContribuyenteNacional(Dni(2), "CHOCA", 1), true}          // verdict 2
-      << Paso{ContribuyenteExtranjero("X1234567L", "TRES", 77), true}   // a code that is gone
-      << Paso{ContribuyenteExtranjero("X1234567L", "TRES BIS"), true};
+    p << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO")), false}
+      << Paso{Lote(ContribuyenteNacional(Dni(2), "DOS")), false}
+      << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO OTRA VEZ")), false}   // verdict 1
+      << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO NUEVO", 1)), true}      // by code
+      << Paso{Lote(ContribuyenteNacional(Dni(2), "DOS NUEVO", 0)), true}      // by number
+      << Paso{Lote(ContribuyenteNacional(Dni(2), "CHOCA", 1)), true}          // verdict 2
+      << Paso{Lote(ContribuyenteExtranjero("X1234567L", "TRES", 77)), true}   // a code that is gone
+      << Paso{Lote(ContribuyenteExtranjero("X1234567L", "TRES BIS")), true};
     return p;
 }
 
@@ -80,7 +121,7 @@ private slots:
         {
             AlmacenDePrueba a;
             for (const Paso& p : Secuencia()) {
-                veredictosSueltos << Svr().GuardarContribuyente(p.datos, p.sustituir);
+                veredictosSueltos << GuardarSuelto(p.datos, p.sustituir);
                 codigosSueltos << Svr().ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
             }
             filasSueltas = Filas(a);
@@ -107,7 +148,7 @@ private slots:
     void anadirSiNuevo()
     {
         AlmacenDePrueba a;
-        const int32_t uno = Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO")) == 0
+        const int32_t uno = GuardarSuelto(Lote(ContribuyenteNacional(Dni(1), "UNO")), false) == 0
             ? Svr().ExisteContribuyente(Dni(1))
             : 0;
         QVERIFY(uno != 0);
@@ -115,22 +156,22 @@ private slots:
         namespace V = VeredictoGuardarContribuyente;
         int32_t titular = -1;
         // A new number is added, as GuardarContribuyente(datos, false) adds it.
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS"), titular), int16_t(V::Guardado));
+        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(Dni(2), "DOS")), titular), int16_t(V::Guardado));
         QCOMPARE(titular, 0);
         QCOMPARE(lote.Pendientes(), 1);
         const int32_t dos = lote.ExisteContribuyente(Dni(2));
         QVERIFY(dos != 0 && dos != uno);
         // A number in the store, with blanks around it, writes nothing and names its holder,
         // whether the holder was committed before or saved in this batch.
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO"), titular),
+        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO")), titular),
                  int16_t(V::DniExistente));
         QCOMPARE(titular, uno);
-        QCOMPARE(lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS BIS"), titular),
+        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(Dni(2), "DOS BIS")), titular),
                  int16_t(V::DniExistente));
         QCOMPARE(titular, dos);
         QCOMPARE(lote.Pendientes(), 1);
         // A text the store cannot keep stops at the door, as it stops GuardarContribuyente.
-        Arreglo control = ContribuyenteNacional(Dni(4), "CON\tTABULADOR");
+        Arreglo control = Lote(ContribuyenteNacional(Dni(4), "CON\tTABULADOR"));
         Veredicto rechazo;
         QCOMPARE(lote.AnadirSiNuevo(control, titular, &rechazo), int16_t(V::TextoRechazado));
         QCOMPARE(titular, 0);
@@ -138,7 +179,7 @@ private slots:
         QCOMPARE(lote.GuardarContribuyente(control, false), int16_t(V::TextoRechazado));
         QCOMPARE(lote.Pendientes(), 1);
         // The save of the holder that follows replaces it in place.
-        QCOMPARE(lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO NUEVO", uno), true),
+        QCOMPARE(lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(1), "UNO NUEVO", uno)), true),
                  int16_t(0));
         lote.Confirmar();
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
@@ -156,7 +197,7 @@ private slots:
         // nothing is written.
         AlmacenDePrueba a;
         cLoteContribuyentes lote(mdbmod, mdblec);
-        Arreglo malo = ContribuyenteNacional(Dni(3), "TRES");
+        Arreglo malo = Lote(ContribuyenteNacional(Dni(3), "TRES"));
         malo[PosContribuyente::TIPODOMI] = QStringLiteral("Q");
         int32_t titular = 0;
         QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo, titular));
@@ -179,7 +220,7 @@ private slots:
         };
         quint32 n = 10;
         for (const auto& c : casos) {
-            Arreglo d = ContribuyenteNacional(Dni(++n), "CODIGOS");
+            Arreglo d = Lote(ContribuyenteNacional(Dni(++n), "CODIGOS"));
             d[PosContribuyente::CODPROVC] = c.provincia;
             d[PosContribuyente::CODMUNC] = c.municipio;
             int32_t titular = -1;
@@ -194,7 +235,7 @@ private slots:
                              {codigo}).toString(),
                      c.municipioGuardado);
         }
-        Arreglo ancho = ContribuyenteNacional(Dni(99), "ANCHO");
+        Arreglo ancho = Lote(ContribuyenteNacional(Dni(99), "ANCHO"));
         ancho[PosContribuyente::CODMUNC] = QStringLiteral("01001");
         int32_t titular = 0;
         QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho, titular));
@@ -233,9 +274,9 @@ private slots:
         AlmacenDePrueba a;
         {
             cLoteContribuyentes lote(mdbmod, mdblec);
-            lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO"), false);
+            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(1), "UNO")), false);
             lote.Confirmar();
-            lote.GuardarContribuyente(ContribuyenteNacional(Dni(2), "DOS"), false);
+            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(2), "DOS")), false);
             QCOMPARE(lote.Pendientes(), 1);
             // The batch under way sees its own saves; another connection does not.
             QVERIFY(lote.ExisteContribuyente(Dni(2)) != 0);
@@ -248,7 +289,7 @@ private slots:
         AlmacenDePrueba a;
         cLoteContribuyentes lote(mdbmod, mdblec);
         for (int i = 1; i <= cLoteContribuyentes::kFilasPorLote + 5; ++i)
-            lote.GuardarContribuyente(ContribuyenteNacional(Dni(quint32(i)), "N"), false);
+            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(quint32(i)), "N")), false);
         QVERIFY(lote.Pendientes() < cLoteContribuyentes::kFilasPorLote);
         QVERIFY(a.Filas(QStringLiteral("CONTRIBUYENTES")) >= cLoteContribuyentes::kFilasPorLote);
     }

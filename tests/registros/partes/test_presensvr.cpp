@@ -7,13 +7,13 @@
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "comun/ArregloPrueba.h"
-#include "servicios/PosicionesPresentador.h"
+#include "catalogo/Catalogo.h"
+#include "valores/BotonesMensaje.h"
 #include "servicios/cPresenSvr.h"
 
 #include <QtTest>
+#include <iterator>
 
-namespace P = PosPresentador;
-namespace V = PosValidacionPresentador;
 
 namespace {
 
@@ -25,48 +25,113 @@ cPresenSvr Svr()
     return s;
 }
 
-Arreglo Tesoreria()
+Presentador Tesoreria()
 {
-    return ArregloPorPosiciones(V::Tamano, {{V::DNIP, "12345678Z"},
-                                            {V::NOMBREP, "GESTORIA ARBEL SL"},
-                                            {V::DOMICILIOP, "NUEVA"},
-                                            {V::CODPROVP, "77"},
-                                            {V::CODMUNP, "2"},
-                                            {V::NOMMUNP, ""},
-                                            {V::CODPOSP, "77002"},
-                                            {V::TELEFONOP, "945123456"}});
+    Presentador p;
+    p.DNIP = "12345678Z";
+    p.NOMBREP = "GESTORIA ARBEL SL";
+    p.DOMICILIOP = "NUEVA";
+    p.CODPROVP = "77";
+    p.CODMUNP = "2";
+    p.NOMMUNP = "";
+    p.CODPOSP = "77002";
+    p.TELEFONOP = "945123456";
+    return p;
 }
-Arreglo OtraProvincia()
+Presentador OtraProvincia()
 {
-    return ArregloPorPosiciones(V::Tamano, {{V::DNIP, "B12345674"},
-                                            {V::NOMBREP, "GESTORIA BILBAO SL"},
-                                            {V::DOMICILIOP, "GRAN VIA"},
-                                            {V::CODPROVP, "48"},
-                                            {V::CODMUNP, ""},
-                                            {V::NOMMUNP, "BILBAO"},
-                                            {V::CODPOSP, "48001"},
-                                            {V::TELEFONOP, "944000000"}});
-}
-
-Arreglo Con(const Arreglo& a, ValoresEnPosicion cambios)
-{
-    return ArregloCambiado(a, cambios);
-}
-
-int32_t Guardar(const Arreglo& a)
-{
-    const int16_t v = Svr().GuardarPresentador(a);
-    return v != 0 ? -v : Svr().ObtenerCodigoPresentador(a[P::DNIP].toString());
+    Presentador p;
+    p.DNIP = "B12345674";
+    p.NOMBREP = "GESTORIA BILBAO SL";
+    p.DOMICILIOP = "GRAN VIA";
+    p.CODPROVP = "48";
+    p.CODMUNP = "";
+    p.NOMMUNP = "BILBAO";
+    p.CODPOSP = "48001";
+    p.TELEFONOP = "944000000";
+    return p;
 }
 
-Arreglo Cargar(int32_t cspr)
+using Cambios = std::initializer_list<std::pair<QString Presentador::*, QString>>;
+
+Presentador Con(Presentador p, Cambios cambios)
 {
-    Arreglo d;
-    Svr().CargarPresentador(cspr, d);
-    return d;
+    for (const auto& [campo, valor] : cambios)
+        p.*campo = valor;
+    return p;
+}
+
+// The rules by number, as the store's verdict tells them: its message and the field it
+// focuses.
+struct ReglaEsperada {
+    int id;
+    const char* control;
+};
+const ReglaEsperada kReglas[] = {
+    {0, ""},           {330, "txtdnip"},    {30, "txtnombrep"},  {31, "txtdomiciliop"},
+    {40, "txtcodmunp"}, {38, "txtnommunp"}, {36, "txtcodposp"},  {33, "txtcodposp"},
+    {35, "txtcodposp"}, {198, "txttelefonop"}, {199, "txttelefonop"}, {329, "txtdnip"},
+};
+
+// The number of the rule that the store's validation reports, 0 for none; -1 for a verdict
+// that is no rule's.
+int Regla(const Presentador& p, const cPresenSvr& svr = Svr())
+{
+    const Resultado<void> r = svr.ValidarDatosPresentador(p);
+    if (r)
+        return 0;
+    for (int n = 1; n < int(std::size(kReglas)); ++n)
+        if (r.veredicto().id == kReglas[n].id) {
+            const bool bien = r.veredicto().control == QLatin1String(kReglas[n].control)
+                && r.veredicto().mensaje == Texto(kReglas[n].id)
+                && r.veredicto().botones == vb::OKOnly + vb::Information;
+            return bien ? n : -1;
+        }
+    return -1;
+}
+
+// The store's answer to a save by number: 0 saved, 1 number already in the store (message
+// 195), 2 number of another (196), 3 number of a presenter named in a declaration (197), 4 a
+// text refused at the door, 5 saved again since, 6 deleted since.
+int NumeroGuardado(const Resultado<Presentador>& r)
+{
+    if (r)
+        return 0;
+    const Veredicto& v = r.veredicto();
+    if (v.vigencia == Vigencia::Cambiada)
+        return 5;
+    if (v.vigencia == Vigencia::Borrada)
+        return 6;
+    switch (v.id) {
+    case 195: return 1;
+    case 196: return 2;
+    case 197: return 3;
+    default: return v.vacio() ? -1 : 4;
+    }
+}
+
+// A save as the tests make it: over whatever the row holds, as nothing was loaded.
+int GuardarV(const Presentador& p)
+{
+    return NumeroGuardado(Svr().GuardarPresentador(p, Sobrescritura::CualquierVersion));
+}
+
+int32_t Guardar(const Presentador& p)
+{
+    const Resultado<Presentador> r =
+        Svr().GuardarPresentador(p, Sobrescritura::CualquierVersion);
+    return r ? r->CSPR : -NumeroGuardado(r);
+}
+
+// The stored presenter; an empty one when there is none.
+Presentador Cargar(int32_t cspr)
+{
+    return Svr().CargarPresentador(cspr).value_or(Presentador{});
 }
 
 }  // namespace
+
+Q_DECLARE_METATYPE(Presentador)
 
 class TestPresenSvr : public QObject {
     Q_OBJECT
@@ -74,82 +139,84 @@ class TestPresenSvr : public QObject {
 private slots:
     void validos()
     {
-        QCOMPARE(Svr().ValidarDatosPresentador(Tesoreria()), 0);
-        QCOMPARE(Svr().ValidarDatosPresentador(OtraProvincia()), 0);
+        QCOMPARE(Regla(Tesoreria()), 0);
+        QCOMPARE(Regla(OtraProvincia()), 0);
         // A postal code of fewer digits stands for the same code with leading zeros.
-        QCOMPARE(Svr().ValidarDatosPresentador(
-                     Con(OtraProvincia(), {{V::CODPROVP, "01"}, {V::CODPOSP, "1001"}})), 0);
+        QCOMPARE(Regla(
+                     Con(OtraProvincia(), {{&Presentador::CODPROVP, "01"}, {&Presentador::CODPOSP, "1001"}})), 0);
     }
 
     void veredictos_data()
     {
-        QTest::addColumn<Arreglo>("datos");
+        QTest::addColumn<Presentador>("datos");
         QTest::addColumn<int>("veredicto");
-        QTest::newRow("1 vacío") << Con(Tesoreria(), {{V::DNIP, ""}}) << 1;
-        QTest::newRow("1 forma") << Con(Tesoreria(), {{V::DNIP, "1234"}}) << 1;
-        QTest::newRow("1 extranjero") << Con(Tesoreria(), {{V::DNIP, "AB1234567"}}) << 1;
-        QTest::newRow("2") << Con(Tesoreria(), {{V::NOMBREP, ""}}) << 2;
-        QTest::newRow("3") << Con(Tesoreria(), {{V::DOMICILIOP, " "}}) << 3;
-        QTest::newRow("4") << Con(Tesoreria(), {{V::CODMUNP, ""}}) << 4;
-        QTest::newRow("5") << Con(OtraProvincia(), {{V::NOMMUNP, ""}}) << 5;
-        QTest::newRow("6") << Con(Tesoreria(), {{V::CODPOSP, "00000"}}) << 6;
-        QTest::newRow("6 vacío") << Con(Tesoreria(), {{V::CODPOSP, ""}}) << 6;
-        QTest::newRow("7") << Con(Tesoreria(), {{V::CODPOSP, "48001"}}) << 7;
-        QTest::newRow("8") << Con(Tesoreria(), {{V::CODPOSP, "77000"}}) << 8;
-        QTest::newRow("9 ocho cifras") << Con(Tesoreria(), {{V::TELEFONOP, "94512345"}}) << 9;
-        QTest::newRow("9 letras") << Con(Tesoreria(), {{V::TELEFONOP, "94512345X"}}) << 9;
-        QTest::newRow("10") << Con(Tesoreria(), {{V::TELEFONOP, ""}}) << 10;
-        QTest::newRow("10 cero") << Con(Tesoreria(), {{V::TELEFONOP, "0"}}) << 10;
-        QTest::newRow("11") << Con(Tesoreria(), {{V::DNIP, "12345678A"}}) << 11;
-        QTest::newRow("11 sin letra") << Con(Tesoreria(), {{V::DNIP, "12345678"}}) << 11;
+        QTest::newRow("1 vacío") << Con(Tesoreria(), {{&Presentador::DNIP, ""}}) << 1;
+        QTest::newRow("1 forma") << Con(Tesoreria(), {{&Presentador::DNIP, "1234"}}) << 1;
+        QTest::newRow("1 extranjero") << Con(Tesoreria(), {{&Presentador::DNIP, "AB1234567"}}) << 1;
+        QTest::newRow("2") << Con(Tesoreria(), {{&Presentador::NOMBREP, ""}}) << 2;
+        QTest::newRow("3") << Con(Tesoreria(), {{&Presentador::DOMICILIOP, " "}}) << 3;
+        QTest::newRow("4") << Con(Tesoreria(), {{&Presentador::CODMUNP, ""}}) << 4;
+        QTest::newRow("5") << Con(OtraProvincia(), {{&Presentador::NOMMUNP, ""}}) << 5;
+        QTest::newRow("6") << Con(Tesoreria(), {{&Presentador::CODPOSP, "00000"}}) << 6;
+        QTest::newRow("6 vacío") << Con(Tesoreria(), {{&Presentador::CODPOSP, ""}}) << 6;
+        QTest::newRow("7") << Con(Tesoreria(), {{&Presentador::CODPOSP, "48001"}}) << 7;
+        QTest::newRow("8") << Con(Tesoreria(), {{&Presentador::CODPOSP, "77000"}}) << 8;
+        QTest::newRow("9 ocho cifras") << Con(Tesoreria(), {{&Presentador::TELEFONOP, "94512345"}}) << 9;
+        QTest::newRow("9 letras") << Con(Tesoreria(), {{&Presentador::TELEFONOP, "94512345X"}}) << 9;
+        QTest::newRow("10") << Con(Tesoreria(), {{&Presentador::TELEFONOP, ""}}) << 10;
+        QTest::newRow("10 cero") << Con(Tesoreria(), {{&Presentador::TELEFONOP, "0"}}) << 10;
+        QTest::newRow("11") << Con(Tesoreria(), {{&Presentador::DNIP, "12345678A"}}) << 11;
+        QTest::newRow("11 sin letra") << Con(Tesoreria(), {{&Presentador::DNIP, "12345678"}}) << 11;
     }
 
     void veredictos()
     {
-        QFETCH(Arreglo, datos);
+        QFETCH(Presentador, datos);
         QFETCH(int, veredicto);
-        QCOMPARE(int(Svr().ValidarDatosPresentador(datos)), veredicto);
+        QCOMPARE(Regla(datos), veredicto);
     }
 
     void ordenDeLosVeredictos()
     {
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::DNIP, ""}, {V::NOMBREP, ""}})), 1);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::NOMBREP, ""}, {V::DOMICILIOP, ""}})), 2);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::DOMICILIOP, ""}, {V::CODMUNP, ""}})), 3);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODMUNP, ""}, {V::CODPOSP, ""}})), 4);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(OtraProvincia(), {{V::NOMMUNP, ""}, {V::CODPOSP, "77001"}})), 5);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, ""}, {V::TELEFONOP, ""}})), 6);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, "48000"}})), 7);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::CODPOSP, "77000"}, {V::TELEFONOP, "1"}})), 8);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::TELEFONOP, "1"}, {V::DNIP, "12345678A"}})), 9);
-        QCOMPARE(Svr().ValidarDatosPresentador(Con(Tesoreria(), {{V::TELEFONOP, ""}, {V::DNIP, "12345678A"}})), 10);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::DNIP, ""}, {&Presentador::NOMBREP, ""}})), 1);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::NOMBREP, ""}, {&Presentador::DOMICILIOP, ""}})), 2);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::DOMICILIOP, ""}, {&Presentador::CODMUNP, ""}})), 3);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::CODMUNP, ""}, {&Presentador::CODPOSP, ""}})), 4);
+        QCOMPARE(Regla(Con(OtraProvincia(), {{&Presentador::NOMMUNP, ""}, {&Presentador::CODPOSP, "77001"}})), 5);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::CODPOSP, ""}, {&Presentador::TELEFONOP, ""}})), 6);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::CODPOSP, "48000"}})), 7);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::CODPOSP, "77000"}, {&Presentador::TELEFONOP, "1"}})), 8);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::TELEFONOP, "1"}, {&Presentador::DNIP, "12345678A"}})), 9);
+        QCOMPARE(Regla(Con(Tesoreria(), {{&Presentador::TELEFONOP, ""}, {&Presentador::DNIP, "12345678A"}})), 10);
     }
 
     void guardarYCargar()
     {
         AlmacenDePrueba almacen;
-        const Arreglo a = Presentador(Dni(100), QStringLiteral("GESTORIA"));
+        const Presentador a = PresentadorValido(Dni(100), QStringLiteral("GESTORIA"));
         const int32_t c = Guardar(a);
         QVERIFY(c > 0);
-        const Arreglo d = Cargar(c);
-        QCOMPARE(d.size(), 15);
-        for (int i = P::DNIP; i < P::Tamano; ++i)
-            QCOMPARE(d[i].toString(), a[i].toString());
-        QCOMPARE(d[P::NUMEROP].typeId(), QMetaType::Int);
-        QVERIFY(Cargar(c + 1000).isEmpty());
+        const Presentador d = Cargar(c);
+        // Every field as saved; the code and the version are the store's.
+        Presentador esperado = a;
+        esperado.CSPR = c;
+        esperado.VERSION = d.VERSION;
+        QVERIFY(d.VERSION != 0);
+        QCOMPARE(d, esperado);
+        QVERIFY(!Svr().CargarPresentador(c + 1000));
     }
 
     void guardarVeredictos()
     {
         AlmacenDePrueba almacen;
-        const int32_t a = Guardar(Presentador(Dni(101), QStringLiteral("A")));
-        const int32_t b = Guardar(Presentador(Dni(102), QStringLiteral("B")));
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(101), QStringLiteral("C"))), 1);
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(102), QStringLiteral("A"), a)), 2);
+        const int32_t a = Guardar(PresentadorValido(Dni(101), QStringLiteral("A")));
+        const int32_t b = Guardar(PresentadorValido(Dni(102), QStringLiteral("B")));
+        QCOMPARE(GuardarV(PresentadorValido(Dni(101), QStringLiteral("C"))), 1);
+        QCOMPARE(GuardarV(PresentadorValido(Dni(102), QStringLiteral("A"), a)), 2);
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 2);
-        QCOMPARE(Cargar(a)[P::NOMBREP].toString(), QStringLiteral("A"));
+        QCOMPARE(Cargar(a).NOMBREP, QStringLiteral("A"));
         // Not named in any declaration: the number may change.
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(103), QStringLiteral("A"), a)), 0);
+        QCOMPARE(GuardarV(PresentadorValido(Dni(103), QStringLiteral("A"), a)), 0);
         QCOMPARE(Svr().ObtenerCodigoPresentador(Dni(103)), a);
         QVERIFY(b != a);
     }
@@ -157,25 +224,25 @@ private slots:
     void dniDePresentadorEnDeclaracion()
     {
         AlmacenDePrueba almacen;
-        const int32_t p = Guardar(Presentador(Dni(110), QStringLiteral("NOMBRADO")));
+        const int32_t p = Guardar(PresentadorValido(Dni(110), QStringLiteral("NOMBRADO")));
         almacen.NuevaDeclaracion(0, 0, p);
         // 3: the number may not change once a declaration names him, and nothing is written.
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(111), QStringLiteral("NOMBRADO BIS"), p)), 3);
-        QCOMPARE(Cargar(p)[P::DNIP].toString(), Dni(110));
-        QCOMPARE(Cargar(p)[P::NOMBREP].toString(), QStringLiteral("NOMBRADO"));
+        QCOMPARE(GuardarV(PresentadorValido(Dni(111), QStringLiteral("NOMBRADO BIS"), p)), 3);
+        QCOMPARE(Cargar(p).DNIP, Dni(110));
+        QCOMPARE(Cargar(p).NOMBREP, QStringLiteral("NOMBRADO"));
         // Everything else may change.
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(110), QStringLiteral("NOMBRADO BIS"), p)), 0);
-        QCOMPARE(Cargar(p)[P::NOMBREP].toString(), QStringLiteral("NOMBRADO BIS"));
+        QCOMPARE(GuardarV(PresentadorValido(Dni(110), QStringLiteral("NOMBRADO BIS"), p)), 0);
+        QCOMPARE(Cargar(p).NOMBREP, QStringLiteral("NOMBRADO BIS"));
         // 2 comes before 3: a number held by another presenter.
-        Guardar(Presentador(Dni(112), QStringLiteral("OTRO")));
-        QCOMPARE(Svr().GuardarPresentador(Presentador(Dni(112), QStringLiteral("X"), p)), 2);
+        Guardar(PresentadorValido(Dni(112), QStringLiteral("OTRO")));
+        QCOMPARE(GuardarV(PresentadorValido(Dni(112), QStringLiteral("X"), p)), 2);
     }
 
     void numeroDeDeclaracionesYBorrado()
     {
         AlmacenDePrueba almacen;
-        const int32_t p = Guardar(Presentador(Dni(120), QStringLiteral("P")));
-        const int32_t q = Guardar(Presentador(Dni(121), QStringLiteral("Q")));
+        const int32_t p = Guardar(PresentadorValido(Dni(120), QStringLiteral("P")));
+        const int32_t q = Guardar(PresentadorValido(Dni(121), QStringLiteral("Q")));
         QCOMPARE(Svr().NumDeclaPresentador(p), 0);
         const int32_t d1 = almacen.NuevaDeclaracion(0, 0, p);
         const int32_t d2 = almacen.NuevaDeclaracion(0, 0, p);
@@ -195,32 +262,32 @@ private slots:
     void guardarFormaAlmacenada()
     {
         AlmacenDePrueba almacen;
-        Arreglo a = Presentador(Dni(130), QStringLiteral("  FORMA  "));
-        a[P::CODPROVP] = "1";
-        a[P::CODPOSP] = "1001";
-        a[P::CODMUNP] = "";
-        a[P::NOMMUNP] = "VITORIA";
-        a[P::TELEFONOP] = "0";
+        Presentador a = PresentadorValido(Dni(130), QStringLiteral("  FORMA  "));
+        a.CODPROVP = "1";
+        a.CODPOSP = "1001";
+        a.CODMUNP = "";
+        a.NOMMUNP = "VITORIA";
+        a.TELEFONOP = "0";
         const int32_t p = Guardar(a);
-        const Arreglo d = Cargar(p);
-        QCOMPARE(d[P::NOMBREP].toString(), QStringLiteral("FORMA"));
-        QCOMPARE(d[P::CODPROVP].toString(), QStringLiteral("01"));
-        QCOMPARE(d[P::CODPOSP].toString(), QStringLiteral("01001"));
-        QCOMPARE(d[P::TELEFONOP].toString(), QString());
-        a[P::TELEFONOP] = "94512X";
-        QVERIFY_THROWS_EXCEPTION(cFallo, Svr().GuardarPresentador(a));
+        const Presentador d = Cargar(p);
+        QCOMPARE(d.NOMBREP, QStringLiteral("FORMA"));
+        QCOMPARE(d.CODPROVP, QStringLiteral("01"));
+        QCOMPARE(d.CODPOSP, QStringLiteral("01001"));
+        QCOMPARE(d.TELEFONOP, QString());
+        a.TELEFONOP = "94512X";
+        QVERIFY_THROWS_EXCEPTION(cFallo, GuardarV(a));
     }
 
     void busqueda()
     {
         AlmacenDePrueba almacen;
-        const int32_t a = Guardar(Presentador(Dni(140), QStringLiteral("ASESORES O'NEILL")));
-        Guardar(Presentador(Dni(141), QStringLiteral("ASESORES 50% SL")));
-        Arreglo b = Presentador(QStringLiteral("B12345674"), QStringLiteral("BILBAO GESTION"));
-        b[P::CODPROVP] = "48";
-        b[P::CODPOSP] = "48001";
-        b[P::CODMUNP] = "";
-        b[P::NOMMUNP] = "BILBAO";
+        const int32_t a = Guardar(PresentadorValido(Dni(140), QStringLiteral("ASESORES O'NEILL")));
+        Guardar(PresentadorValido(Dni(141), QStringLiteral("ASESORES 50% SL")));
+        Presentador b = PresentadorValido(QStringLiteral("B12345674"), QStringLiteral("BILBAO GESTION"));
+        b.CODPROVP = "48";
+        b.CODPOSP = "48001";
+        b.CODMUNP = "";
+        b.NOMMUNP = "BILBAO";
         const int32_t bilbao = Guardar(b);
         almacen.NuevaDeclaracion(0, 0, a);
         Arreglo2D d;

@@ -1,5 +1,5 @@
 // The program's records of a contributor and a presenter (their defaults, the reset of MODO
-// "A", loading and the arrays they give the store) and the state of the two party lists.
+// "A", loading, and the values they give the store) and the state of the two party lists.
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -120,10 +120,16 @@ private slots:
         c.NUMEROC = 4;
         c.CODPOSC = "77003";
         c.CODMUNC = "3";
-        QCOMPARE(c.ValidarDatosContribuyente(c.ArregloValidacion()), 0);
-        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 0);
+        QVERIFY(c.ValidarDatosContribuyente());
+        const Resultado<Contribuyente> guardado = c.GuardarContribuyente();
+        QVERIFY(guardado);
         const int32_t csco = c.ObtenerCodigoContribuyente(c.DNIC);
         QVERIFY(csco > 0);
+        QCOMPARE(guardado->CSCO, csco);
+        // The record takes the row's new version, and nothing else of the saved value.
+        QVERIFY(c.VERSION != 0);
+        QCOMPARE(c.VERSION, guardado->VERSION);
+        QCOMPARE(c.CSCO, 0);
 
         cConDatos l;
         l.setMODO("C");
@@ -140,6 +146,7 @@ private slots:
         QCOMPARE(l.CODMUNC, QStringLiteral("003"));
         QCOMPARE(l.TIPODNI, QStringLiteral("O"));
         QCOMPARE(l.TIPODOMI, QStringLiteral("N"));
+        QCOMPARE(l.VERSION, c.VERSION);
 
         // The counters come from the declarations.
         almacen.NuevaDeclaracion(csco, 0);
@@ -149,9 +156,11 @@ private slots:
 
         // The verdict of a duplicate number.
         c.NOMBREC = "OTRO";
-        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 1);
-        QCOMPARE(cConDatos::IdMensajeGuardar(1), 41);
-        QCOMPARE(cConDatos::IdMensajeGuardar(2), 42);
+        const Resultado<Contribuyente> doble = c.GuardarContribuyente();
+        QVERIFY(!doble);
+        QCOMPARE(doble.veredicto().id, 41);
+        QCOMPARE(doble.veredicto().mensaje, Texto(41));
+        QCOMPARE(doble.veredicto().vigencia, Vigencia::Vigente);
     }
 
     void provinciaUnoLeeCeroUno()
@@ -205,25 +214,30 @@ private slots:
         c.DOMICILIOC = "X";
         c.CODPOSC = "77001";
         c.CODMUNC = "1";
-        QCOMPARE(c.GuardarContribuyente(c.ArregloGuardar()), 0);
+        QVERIFY(c.GuardarContribuyente());
         c.CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
         c.BorrarContribuyente();
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
     }
 
-    void veredictoFueraDeTabla()
+    void veredictoDeValidacion()
     {
-        // A verdict of 15 or more has no message (and is not 0, so no acceptance).
-        QCOMPARE(cConDatos::IdMensajeValidacion(0), 0);
-        QCOMPARE(cConDatos::IdMensajeValidacion(1), 330);
-        QCOMPARE(cConDatos::IdMensajeValidacion(2), 29);
-        QCOMPARE(cConDatos::IdMensajeValidacion(13), 40);
-        QCOMPARE(cConDatos::IdMensajeValidacion(14), 329);
-        QCOMPARE(cConDatos::IdMensajeValidacion(15), 0);
-        QCOMPARE(cConDatos::IdMensajeValidacion(300), 0);
-        QCOMPARE(cConDatos::IdMensajeValidacion(-1), 0);
-        QCOMPARE(Texto(cConDatos::IdMensajeValidacion(6)),
+        // The first rule broken, with its message and the field to focus.
+        cConDatos c;
+        c.setMODO("A");
+        c.DNIC = Dni(125);
+        c.NOMBREC = "VALIDAR";
+        c.DOMICILIOC = "MAYOR";
+        c.CODPOSC = "48001";
+        c.CODMUNC = "1";
+        const Resultado<void> r = c.ValidarDatosContribuyente();
+        QVERIFY(!r);
+        QCOMPARE(r.veredicto().id, 33);
+        QCOMPARE(r.veredicto().mensaje,
                  QStringLiteral("El Código de Provincia y el Código Postal no coinciden"));
+        QCOMPARE(r.veredicto().control, QStringLiteral("txtcodposc"));
+        c.CODPOSC = "77001";
+        QVERIFY(c.ValidarDatosContribuyente());
     }
 
     void idsDeImportacion()
@@ -252,23 +266,36 @@ private slots:
         QCOMPARE(errores[0][0].toInt(), 3);
     }
 
-    void arreglosDelRegistro()
+    void valorDelRegistro()
     {
+        // The record's value is every field of the contributor, and only those.
         cConDatos c;
         LlenarContribuyente(c);
         c.CSCO = 9;
-        QCOMPARE(c.ArregloValidacion(),
-                 (Arreglo{"N", "AB123", "VIEJO", "CALLE", "E", "FRANCIA", "", "75001", "PARIS",
-                          "PARIS", ""}));
-        const Arreglo g = c.ArregloGuardar();
-        QCOMPARE(g.size(), 20);
-        QCOMPARE(g[PosContribuyente::CSCO].toInt(), 9);
-        QCOMPARE(g[PosContribuyente::VIAC].toString(), QStringLiteral("AV"));
-        QCOMPARE(g[PosContribuyente::NUMEROC].toInt(), 5);
-        QCOMPARE(g[PosContribuyente::TIPODOMI].toString(), QStringLiteral("E"));
-        QCOMPARE(g[PosContribuyente::NOMPROVC].toString(), QStringLiteral("PARIS"));
-        QCOMPARE(g[PosContribuyente::NUMSP].toDouble(), 3.0);
-        QCOMPARE(g[PosContribuyente::NUMTR].toDouble(), 4.0);
+        c.LISTA = "S";
+        c.setMODO("C");
+        Contribuyente v;
+        v.CSCO = 9;
+        v.TIPODNI = "N";
+        v.DNIC = "AB123";
+        v.NOMBREC = "VIEJO";
+        v.TIPODOMI = "E";
+        v.VIAC = "AV";
+        v.DOMICILIOC = "CALLE";
+        v.NUMEROC = 5;
+        v.LETRAC = "A";
+        v.ESCALERAC = "B";
+        v.PISOC = "C";
+        v.MANOC = "D";
+        v.PAIS = "FRANCIA";
+        v.CODPROVC = "";
+        v.NOMPROVC = "PARIS";
+        v.CODPOSC = "75001";
+        v.CODMUNC = "";
+        v.NOMMUNC = "PARIS";
+        v.NUMSP = 3;
+        v.NUMTR = 4;
+        QCOMPARE(c.valor(), v);
     }
 
     // --- cPreDatos ---------------------------------------------------------------------
@@ -323,21 +350,21 @@ private slots:
         p.CODMUNP = "2";
         p.CODPOSP = "77002";
         p.TELEFONOP = "94512345";
-        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 9);
-        QCOMPARE(cPreDatos::IdMensajeValidacion(9), 198);
+        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, 198);
+        QCOMPARE(p.ValidarDatosPresentador().veredicto().control, QStringLiteral("txttelefonop"));
         p.TELEFONOP = "";
-        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 10);
-        QCOMPARE(cPreDatos::IdMensajeValidacion(10), 199);
+        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, 199);
         p.TELEFONOP = "945123456";
-        QCOMPARE(p.ValidarDatosPresentador(p.ArregloValidacion()), 0);
-        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 0);
+        QVERIFY(p.ValidarDatosPresentador());
+        QVERIFY(p.GuardarPresentador());
         p.CSPR = p.ObtenerCodigoPresentador(p.DNIP);
         QVERIFY(p.CSPR > 0);
         almacen.NuevaDeclaracion(0, 0, p.CSPR);
         QCOMPARE(p.NDeclaPresentador(), int16_t(1));
         p.DNIP = Dni(151);
-        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 3);
-        QCOMPARE(cPreDatos::IdMensajeGuardar(3), 197);
+        const Resultado<Presentador> nombrado = p.GuardarPresentador();
+        QVERIFY(!nombrado);
+        QCOMPARE(nombrado.veredicto().id, 197);
         QCOMPARE(p.DNIP, Dni(151));  // the record keeps what was typed
         p.BorrarPresentador();
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 1);
@@ -345,9 +372,10 @@ private slots:
         l.CargarPresentador(p.CSPR);
         QCOMPARE(l.DNIP, Dni(150));
         QCOMPARE(l.CODMUNP, QStringLiteral("002"));
-        QCOMPARE(cPreDatos::IdMensajeValidacion(12), 0);
-        QCOMPARE(cPreDatos::IdMensajeValidacion(11), 329);
-        QCOMPARE(cPreDatos::IdMensajeGuardar(4), 0);
+        // A wrong check character is told last, with the number's field.
+        l.DNIP = "12345678A";
+        QCOMPARE(l.ValidarDatosPresentador().veredicto().id, 329);
+        QCOMPARE(l.ValidarDatosPresentador().veredicto().control, QStringLiteral("txtdnip"));
     }
 
     // --- cConLista, cPreLista ------------------------------------------------------------
@@ -513,7 +541,7 @@ private slots:
         p.CODMUNP = "1";
         p.CODPOSP = "77001";
         p.TELEFONOP = "945000001";
-        QCOMPARE(p.GuardarPresentador(p.ArregloGuardar()), 0);
+        QVERIFY(p.GuardarPresentador());
         cPreLista l;
         l.ENTRADA = "A";
         l.IniciarLista();

@@ -5,8 +5,6 @@
 #include "comun/ArregloPrueba.h"
 #include "paneles/controles/Colores.h"
 #include "plataforma/General.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
 
@@ -153,59 +151,45 @@ bool MenuApagado(const ProgramaDePrueba& prog, const char* nombre)
     return !prog.ventana()->findChild<QMenu*>(QString::fromLatin1(nombre))->menuAction()->isEnabled();
 }
 
-int32_t GuardarEnAlmacen(const Contribuyente& c)
+int32_t GuardarEnAlmacen(const ContribuyenteDePanel& c)
 {
-    namespace C = PosContribuyente;
     cContribSvr svr;
     svr.mdbmod = mdbmod;
-    const Arreglo datos = ArregloPorPosiciones(C::Tamano, {{C::CSCO, 0},
-                                                           {C::TIPODNI, c.TIPODNI},
-                                                           {C::DNIC, c.DNIC},
-                                                           {C::NOMBREC, c.NOMBREC},
-                                                           {C::VIAC, c.VIAC},
-                                                           {C::DOMICILIOC, c.DOMICILIOC},
-                                                           {C::NUMEROC, c.NUMEROC},
-                                                           {C::LETRAC, QString()},
-                                                           {C::ESCALERAC, QString()},
-                                                           {C::PISOC, QString()},
-                                                           {C::MANOC, QString()},
-                                                           {C::TIPODOMI, c.TIPODOMI},
-                                                           {C::PAIS, c.PAIS},
-                                                           {C::CODPROVC, c.CODPROVC},
-                                                           {C::NOMPROVC, c.NOMPROVC},
-                                                           {C::CODPOSC, c.CODPOSC},
-                                                           {C::CODMUNC, c.CODMUNC},
-                                                           {C::NOMMUNC, c.NOMMUNC},
-                                                           {C::NUMSP, 0.0},
-                                                           {C::NUMTR, 0.0}});
-    if (svr.GuardarContribuyente(datos) != 0)
-        return 0;
-    return svr.ObtenerCodigoContribuyente(c.DNIC);
+    Contribuyente v;
+    v.TIPODNI = c.TIPODNI;
+    v.DNIC = c.DNIC;
+    v.NOMBREC = c.NOMBREC;
+    v.VIAC = c.VIAC;
+    v.DOMICILIOC = c.DOMICILIOC;
+    v.NUMEROC = c.NUMEROC;
+    v.TIPODOMI = c.TIPODOMI;
+    v.PAIS = c.PAIS;
+    v.CODPROVC = c.CODPROVC;
+    v.NOMPROVC = c.NOMPROVC;
+    v.CODPOSC = c.CODPOSC;
+    v.CODMUNC = c.CODMUNC;
+    v.NOMMUNC = c.NOMMUNC;
+    const Resultado<Contribuyente> r = svr.GuardarContribuyente(v);
+    return r ? r->CSCO : 0;
 }
 
-int32_t GuardarEnAlmacen(const Presentador& p)
+int32_t GuardarEnAlmacen(const PresentadorDePanel& p)
 {
-    namespace P = PosPresentador;
     cPresenSvr svr;
     svr.mdbmod = mdbmod;
-    const Arreglo datos = ArregloPorPosiciones(P::Tamano, {{P::CSPR, 0},
-                                                           {P::DNIP, p.DNIP},
-                                                           {P::NOMBREP, p.NOMBREP},
-                                                           {P::VIAP, p.VIAP},
-                                                           {P::DOMICILIOP, p.DOMICILIOP},
-                                                           {P::NUMEROP, p.NUMEROP},
-                                                           {P::LETRAP, QString()},
-                                                           {P::ESCALERAP, QString()},
-                                                           {P::PISOP, QString()},
-                                                           {P::MANOP, QString()},
-                                                           {P::CODPROVP, p.CODPROVP},
-                                                           {P::CODPOSP, p.CODPOSP},
-                                                           {P::CODMUNP, p.CODMUNP},
-                                                           {P::NOMMUNP, p.NOMMUNP},
-                                                           {P::TELEFONOP, p.TELEFONOP}});
-    if (svr.GuardarPresentador(datos) != 0)
-        return 0;
-    return svr.ObtenerCodigoPresentador(p.DNIP);
+    Presentador v;
+    v.DNIP = p.DNIP;
+    v.NOMBREP = p.NOMBREP;
+    v.VIAP = p.VIAP;
+    v.DOMICILIOP = p.DOMICILIOP;
+    v.NUMEROP = p.NUMEROP;
+    v.CODPROVP = p.CODPROVP;
+    v.CODPOSP = p.CODPOSP;
+    v.CODMUNP = p.CODMUNP;
+    v.NOMMUNP = p.NOMMUNP;
+    v.TELEFONOP = p.TELEFONOP;
+    const Resultado<Presentador> r = svr.GuardarPresentador(v);
+    return r ? r->CSPR : 0;
 }
 
 void DeclaracionCon(const char* columna, int32_t codigo)

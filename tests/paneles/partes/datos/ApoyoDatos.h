@@ -108,7 +108,7 @@ bool Blanco(const QWidget* campo);
 bool Gris(const QWidget* campo);
 
 // Parties in the store, through its services. Answer the new code.
-struct Contribuyente {
+struct ContribuyenteDePanel {
     QString TIPODNI = QStringLiteral("O");
     QString DNIC = QStringLiteral("12345678Z");
     QString NOMBREC = QStringLiteral("PEREZ LOPEZ JUAN");
@@ -123,9 +123,9 @@ struct Contribuyente {
     QString CODMUNC = QStringLiteral("002");
     QString NOMMUNC;
 };
-int32_t GuardarEnAlmacen(const Contribuyente& c);
+int32_t GuardarEnAlmacen(const ContribuyenteDePanel& c);
 
-struct Presentador {
+struct PresentadorDePanel {
     QString DNIP = QStringLiteral("87654321X");
     QString NOMBREP = QStringLiteral("GESTORIA ARBELIA");
     QString VIAP = QStringLiteral("CL");
@@ -137,7 +137,7 @@ struct Presentador {
     QString NOMMUNP;
     QString TELEFONOP = QStringLiteral("945123456");
 };
-int32_t GuardarEnAlmacen(const Presentador& p);
+int32_t GuardarEnAlmacen(const PresentadorDePanel& p);
 
 // A declaration that names a contributor as subject or transmitter, or a presenter.
 void DeclaracionCon(const char* columna, int32_t codigo);

@@ -9,8 +9,6 @@
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cPreDatos.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
 
@@ -44,12 +42,9 @@ QString nombrePresentador(int32_t cspr)
 bool otraCopiaRenombraContribuyente(int32_t csco)
 {
     return EnOtraConexion([csco] {
-        namespace C = PosContribuyente;
-        Arreglo datos;
-        Almacen<cContribSvr>().CargarContribuyente(csco, datos);
-        datos[C::CSCO] = csco;
-        datos[C::NOMBREC] = kDeLaOtra;
-        if (Almacen<cContribSvr>().GuardarContribuyente(datos) != 0)
+        Contribuyente c = Almacen<cContribSvr>().CargarContribuyente(csco).value();
+        c.NOMBREC = kDeLaOtra;
+        if (!Almacen<cContribSvr>().GuardarContribuyente(c))
             throw std::runtime_error("no guardado");
     });
 }
@@ -57,12 +52,9 @@ bool otraCopiaRenombraContribuyente(int32_t csco)
 bool otraCopiaRenombraPresentador(int32_t cspr)
 {
     return EnOtraConexion([cspr] {
-        namespace P = PosPresentador;
-        Arreglo datos;
-        Almacen<cPresenSvr>().CargarPresentador(cspr, datos);
-        datos[P::CSPR] = cspr;
-        datos[P::NOMBREP] = kDeLaOtra;
-        if (Almacen<cPresenSvr>().GuardarPresentador(datos) != 0)
+        Presentador p = Almacen<cPresenSvr>().CargarPresentador(cspr).value();
+        p.NOMBREP = kDeLaOtra;
+        if (!Almacen<cPresenSvr>().GuardarPresentador(p))
             throw std::runtime_error("no guardado");
     });
 }
@@ -106,7 +98,7 @@ private slots:
 
     void contribuyenteCambiadoSeConservaLoEscrito()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePanel());
         abrirContribuyente(cs);
         QVERIFY(m_panel);
         QVERIFY(otraCopiaRenombraContribuyente(cs));
@@ -139,7 +131,7 @@ private slots:
 
     void contribuyenteBorradoNoSeVuelveAEscribir()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePanel());
         abrirContribuyente(cs);
         QVERIFY(EnOtraConexion([cs] { Almacen<cContribSvr>().BorrarContribuyente(cs); }));
         EscribirYSalir(t("txtnombrec"), kDelPanel);
@@ -154,7 +146,7 @@ private slots:
 
     void presentadorCambiadoAmbasRespuestas()
     {
-        const int32_t cp = GuardarEnAlmacen(Presentador());
+        const int32_t cp = GuardarEnAlmacen(PresentadorDePanel());
         abrirPresentador(cp);
         QVERIFY(m_panel);
         QVERIFY(otraCopiaRenombraPresentador(cp));

@@ -230,7 +230,7 @@ private slots:
 
     void telefonoCeroSeMuestraVacio()
     {
-        Presentador p;
+        PresentadorDePanel p;
         p.TELEFONOP = QStringLiteral("0");
         const int32_t cspr = GuardarEnAlmacen(p);
         QVERIFY(cspr > 0);
@@ -241,7 +241,7 @@ private slots:
 
     void cambioDeDniConDeclaraciones()
     {
-        const int32_t cspr = GuardarEnAlmacen(Presentador());
+        const int32_t cspr = GuardarEnAlmacen(PresentadorDePanel());
         DeclaracionCon("CSPR", cspr);
         abrirExistente(cspr);
         EscribirYSalir(t("txtdnip"), QStringLiteral("12345678Z"));
@@ -265,7 +265,7 @@ private slots:
 
     void codigoPostalSiempreDeCincoCifras()
     {
-        Presentador p;
+        PresentadorDePanel p;
         p.CODPROVP = QStringLiteral("01");
         p.CODPOSP = QStringLiteral("1001");
         p.CODMUNP.clear();
@@ -281,7 +281,7 @@ private slots:
 
     void cambioDeshechoNoCuenta()
     {
-        const int32_t cspr = GuardarEnAlmacen(Presentador());
+        const int32_t cspr = GuardarEnAlmacen(PresentadorDePanel());
         abrirExistente(cspr, QString());
         // Typed and changed back before leaving: no change.
         Escribir(t("txtnombrep"), QStringLiteral("OTRO"));
@@ -357,7 +357,7 @@ private slots:
 
     void veredictosDeGuardar()
     {
-        GuardarEnAlmacen(Presentador());
+        GuardarEnAlmacen(PresentadorDePanel());
         // A new presenter with a number already in the store.
         RegistroValido(PreDatos());
         abrirConRegistro();
@@ -371,7 +371,7 @@ private slots:
         Clic(b("cmdCancelar"));
         QVERIFY(!m_panel);
         // An existing one changed to the number of another.
-        Presentador otro;
+        PresentadorDePanel otro;
         otro.DNIP = QStringLiteral("12345678Z");
         const int32_t co = GuardarEnAlmacen(otro);
         abrirExistente(co, QString());
@@ -412,7 +412,7 @@ private slots:
 
     void cancelarDesdeLaListaVuelveALaLista()
     {
-        const int32_t cspr = GuardarEnAlmacen(Presentador());
+        const int32_t cspr = GuardarEnAlmacen(PresentadorDePanel());
         PreLista().CSPR = cspr;
         abrirExistente(cspr);
         Escribir(t("txtviap"), QStringLiteral("QQ"));

@@ -76,7 +76,7 @@ private slots:
         m_prog.reset();
         Procesar();
         m_prog = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
-        const int32_t p = GuardarEnAlmacen(Presentador());
+        const int32_t p = GuardarEnAlmacen(PresentadorDePanel());
         m_panel = AbrirDatos<FrmPreDatos>(PreDatos(), PreDatos().CSPR, QStringLiteral("C"),
                                           QString(), p);
         QVERIFY(m_panel);

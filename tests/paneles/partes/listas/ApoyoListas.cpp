@@ -32,7 +32,7 @@ QLabel* Etiqueta(QWidget* panel, const char* nombre)
 
 QLineEdit* Caja(QWidget* panel) { return panel->findChild<QLineEdit*>(QStringLiteral("txtBusqueda")); }
 
-QString Resultado(QWidget* panel) { return Etiqueta(panel, "lblResultado")->text(); }
+QString TextoResultado(QWidget* panel) { return Etiqueta(panel, "lblResultado")->text(); }
 }  // namespace ControlesLista
 
 void ClicCabecera(cFlexGrid* grid, int columna)

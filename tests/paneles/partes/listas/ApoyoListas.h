@@ -22,7 +22,7 @@ namespace ControlesLista {
 QPushButton* Boton(QWidget* panel, const char* nombre);
 QLabel* Etiqueta(QWidget* panel, const char* nombre);
 QLineEdit* Caja(QWidget* panel);  // the search box over the heading
-QString Resultado(QWidget* panel);
+QString TextoResultado(QWidget* panel);
 }
 
 // The user's gestures on a grid: through its viewport and its heading, as a mouse does.

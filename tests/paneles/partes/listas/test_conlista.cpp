@@ -129,7 +129,7 @@ private slots:
         QCOMPARE(ConLista().NUMCONTRISEL, 5);
         QCOMPARE(ConLista().MODO, QStringLiteral("C"));
 
-        QCOMPARE(Resultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
         QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(313));
         QVERIFY(Etiqueta(p, "lblayuda")->isVisible());
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Datos"));
@@ -208,7 +208,7 @@ private slots:
             NuevoContribuyente(Dni(i), Nombre(i));
         FrmConLista* p = Abrir("A");
         QCOMPARE(Grid(p)->Rows(), 16);
-        QCOMPARE(Resultado(p), QStringLiteral("15 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("15 contribuyente(s) seleccionado(s) "));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
 
         NuevoContribuyente(Dni(16), Nombre(16));
@@ -282,7 +282,7 @@ private slots:
         ClicCabecera(g, 1);
         QCOMPARE(ConLista().ORDEN, uint8_t(1));
         QCOMPARE(g->TextMatrix(1, 1), kAbad);
-        QCOMPARE(Resultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
     }
 
     void elTecladoMueveLaSeleccion()
@@ -330,7 +330,7 @@ private slots:
         QCOMPARE(g->Rows(), 2);
         QCOMPARE(Fila(g, 1), QStringList(7));
         QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(314));
-        QCOMPARE(Resultado(p), QString());
+        QCOMPARE(TextoResultado(p), QString());
         QVERIFY(!Etiqueta(p, "picasc")->isVisible());
         QVERIFY(!Caja(p)->isVisible());
         QVERIFY(!Boton(p, "cmdBuscar")->isEnabled());
@@ -393,7 +393,7 @@ private slots:
         QCOMPARE(g->TextMatrix(1, 1), kGil);
         QCOMPARE(g->TextMatrix(2, 1), kGomez);
         QCOMPARE(g->TextMatrix(3, 1), QString());
-        QCOMPARE(Resultado(p), QStringLiteral("DNI empieza por '1' , Nombre empieza por 'G' "
+        QCOMPARE(TextoResultado(p), QStringLiteral("DNI empieza por '1' , Nombre empieza por 'G' "
                                               "2 contribuyente(s) seleccionado(s). "));
         QCOMPARE(FilasResaltadas(g), QList<int>{1});
         QCOMPARE(ConLista().CSCO, m_gil);
@@ -423,7 +423,7 @@ private slots:
         QCOMPARE(g->TextMatrix(1, 1), kGomez);
         QCOMPARE(g->TextMatrix(2, 1), kGil);
         QCOMPARE(g->TextMatrix(3, 1), kGarcia);
-        QCOMPARE(Resultado(p),
+        QCOMPARE(TextoResultado(p),
                  QStringLiteral("Nombre empieza por 'G' 3 contribuyente(s) seleccionado(s). "));
     }
 
@@ -446,7 +446,7 @@ private slots:
         QTest::keyClick(Boton(p, "cmdBuscar"), Qt::Key_Space);
         QCOMPARE(ConLista().BUSQUEDA, QStringLiteral("N"));
         QCOMPARE(Grid(p)->TextMatrix(1, 1), kGomez);
-        QCOMPARE(Resultado(p),
+        QCOMPARE(TextoResultado(p),
                  QStringLiteral("Nombre empieza por 'GO' 1 contribuyente(s) seleccionado(s). "));
     }
 
@@ -460,7 +460,7 @@ private slots:
         QCOMPARE(ConLista().NUMCONTRISEL, 0);
         QCOMPARE(Grid(p)->Rows(), 2);
         QCOMPARE(Fila(Grid(p), 1), QStringList(7));
-        QCOMPARE(Resultado(p), QStringLiteral("Nombre empieza por 'X' ") + Texto(63));
+        QCOMPARE(TextoResultado(p), QStringLiteral("Nombre empieza por 'X' ") + Texto(63));
         QCOMPARE(ConLista().CSCO, 0);
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
         QVERIFY(!Boton(p, "CmdDeclaraciones")->isEnabled());
@@ -472,7 +472,7 @@ private slots:
     {
         FrmConLista* p = Abrir("A");
         QCOMPARE(Grid(p)->Rows(), 2);
-        QCOMPARE(Resultado(p), QStringLiteral("0 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("0 contribuyente(s) seleccionado(s) "));
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
         QVERIFY(!Boton(p, "CmdDeclaraciones")->isEnabled());
         QVERIFY(Boton(p, "cmdNuevo")->isEnabled());
@@ -496,7 +496,7 @@ private slots:
         QCOMPARE(ConLista().ORDEN, uint8_t(1));
         QCOMPARE(g->TextMatrix(1, 1), kAbad);
         QCOMPARE(ConLista().CSCO, m_abad);
-        QCOMPARE(Resultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
         // The buttons stay as they were until the next click.
         QVERIFY(Boton(p, "cmdTodos")->isEnabled());
         ClicCelda(g, 2, 1);
@@ -627,7 +627,7 @@ private slots:
         QVERIFY(!ExisteContribuyente(m_gil));
         QVERIFY(Panel());
         QCOMPARE(ConLista().NUMCONTRISEL, 4);
-        QCOMPARE(Resultado(p), QStringLiteral("4 contribuyente(s) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("4 contribuyente(s) seleccionado(s) "));
         QCOMPARE(g->TextMatrix(3, 1), kGomez);
         QCOMPARE(FilasResaltadas(g), QList<int>{1});
         QCOMPARE(ConLista().CSCO, m_abad);
@@ -685,7 +685,7 @@ private slots:
         ClicCabecera(Grid(p), 2);             // by DNI: GOMEZ, GIL, GARCIA
         ClicCelda(Grid(p), 2, 1);
         QCOMPARE(ConLista().CSCO, m_gil);
-        const QString resultado = Resultado(p);
+        const QString resultado = TextoResultado(p);
 
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QVERIFY(!Panel());
@@ -708,7 +708,7 @@ private slots:
         QCOMPARE(g->TextMatrix(2, 1), kGil);
         QCOMPARE(g->TextMatrix(3, 1), kGarcia);
         QCOMPARE(FilasResaltadas(g), QList<int>{2});
-        QCOMPARE(Resultado(p), resultado);
+        QCOMPARE(TextoResultado(p), resultado);
         QVERIFY(Boton(p, "cmdAceptar")->isEnabled());
         const QRect dni = g->Celda(0, 2);
         QCOMPARE(Etiqueta(p, "picasc")->x(), g->x() + dni.right() + 1 - TwipsAPixeles(250));
@@ -758,7 +758,7 @@ private slots:
         QCOMPARE(Fila(g, 0), (QStringList{"Codigo", "Deiturak eta izena", "NA", "Helbidea",
                                           "Udalerria", "S.P.", "Tr."}));
         QCOMPARE(p->windowTitle(), QStringLiteral("Ireki zergaduna"));
-        QCOMPARE(Resultado(p), QStringLiteral("5 hautatutako zergaduna(k) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("5 hautatutako zergaduna(k) "));
         QCOMPARE(Etiqueta(p, "lblayuda")->text(), TextoFila(10313));
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Datuak"));
         QCOMPARE(Boton(p, "cmdBuscar")->text(), QStringLiteral("Bilaketa"));
@@ -768,12 +768,12 @@ private slots:
         QCOMPARE(Boton(p, "cmdBuscar")->text(), QStringLiteral("Emaitza"));
         Teclear(p, 1, "G");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
-        QCOMPARE(Resultado(p), QStringLiteral("NAren hasierako zifra '1' , Izenaren hasierako "
+        QCOMPARE(TextoResultado(p), QStringLiteral("NAren hasierako zifra '1' , Izenaren hasierako "
                                               "letra 'G' 2 hautatutako zergaduna(k). "));
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "X");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
-        QCOMPARE(Resultado(p), QStringLiteral("Izenaren hasierako letra 'X' ") + TextoFila(10063));
+        QCOMPARE(TextoResultado(p), QStringLiteral("Izenaren hasierako letra 'X' ") + TextoFila(10063));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
 
         p = Abrir("E");

@@ -98,7 +98,7 @@ private slots:
         QCOMPARE(g->TextMatrix(3, 1), kUrkia);
         QCOMPARE(FilasResaltadas(g), QList<int>{1});
         QCOMPARE(PreLista().CSPR, m_alonso);
-        QCOMPARE(Resultado(p), QStringLiteral("3 presentador(es) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("3 presentador(es) seleccionado(s) "));
         QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(313));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), QStringLiteral("Datos del presentador"));
         QCOMPARE(Boton(p, "cmdNuevo")->toolTip(), QStringLiteral("Nuevo presentador"));
@@ -173,19 +173,19 @@ private slots:
         QCOMPARE(PreLista().ORDEN, uint8_t(1));
         QCOMPARE(g->TextMatrix(1, 1), kGoiri);
         QCOMPARE(g->TextMatrix(2, 1), QString());
-        QCOMPARE(Resultado(p),
+        QCOMPARE(TextoResultado(p),
                  QStringLiteral("Nombre empieza por 'G' 1 presentador(es) seleccionado(s). "));
 
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 2, "9");
         Teclear(p, 1, "A");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
-        QCOMPARE(Resultado(p), QStringLiteral("DNI empieza por '9' , Nombre empieza por 'A' ")
+        QCOMPARE(TextoResultado(p), QStringLiteral("DNI empieza por '9' , Nombre empieza por 'A' ")
                                    + Texto(63));
         QCOMPARE(PreLista().NUMPRESENSEL, 0);
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
         QTest::mouseClick(Boton(p, "cmdTodos"), Qt::LeftButton);
-        QCOMPARE(Resultado(p), QStringLiteral("3 presentador(es) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("3 presentador(es) seleccionado(s) "));
     }
 
     void declaracionesDelPresentador()
@@ -242,7 +242,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::Yes);
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QVERIFY(!ExistePresentador(m_goiri));
-        QCOMPARE(Resultado(p), QStringLiteral("2 presentador(es) seleccionado(s) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("2 presentador(es) seleccionado(s) "));
         QCOMPARE(Grid(p)->TextMatrix(2, 1), kUrkia);
         QVERIFY(Panel());
     }
@@ -297,14 +297,14 @@ private slots:
         QCOMPARE(Fila(Grid(p), 0), (QStringList{"Codigo", "Deiturak eta izena", "NA", "Helbidea",
                                                 "Udalerria", "Aitor.Zk."}));
         QCOMPARE(p->windowTitle(), QStringLiteral("Ireki aurkezlea"));
-        QCOMPARE(Resultado(p), QStringLiteral("3 hautatutako aurkezlea(k) "));
+        QCOMPARE(TextoResultado(p), QStringLiteral("3 hautatutako aurkezlea(k) "));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), QStringLiteral("Aurkezlearen datuak"));
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "G");
         Teclear(p, 2, "3");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         // No point after the count in Basque, unlike the contributors' line.
-        QCOMPARE(Resultado(p), QStringLiteral("Izzenaren hasierako letra 'G' , NAren hasierako "
+        QCOMPARE(TextoResultado(p), QStringLiteral("Izzenaren hasierako letra 'G' , NAren hasierako "
                                               "zifra '3' 1 hautatutako aurkezlea(k) "));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
         p = Abrir("E");
