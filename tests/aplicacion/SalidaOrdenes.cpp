@@ -6,14 +6,14 @@
 #include <cstdio>
 #include <unistd.h>
 
-Resultado ejecutar(const QStringList& argumentos, const QString& carpeta, QPrinter* impresora)
+SalidaOrden ejecutar(const QStringList& argumentos, const QString& carpeta, QPrinter* impresora)
 {
     const QString fichero = carpeta + QStringLiteral("/stderr.txt");
     std::fflush(stderr);
     const int antes = dup(fileno(stderr));
     FILE* f = std::fopen(QFile::encodeName(fichero).constData(), "w");
     dup2(fileno(f), fileno(stderr));
-    Resultado r;
+    SalidaOrden r;
     r.estado = OrdenesImprimir(QStringList{QStringLiteral("Veldo")} + argumentos, impresora);
     std::fflush(stderr);
     dup2(antes, fileno(stderr));

@@ -7,11 +7,11 @@
 
 class QPrinter;
 
-struct Resultado {
+struct SalidaOrden {
     std::optional<int> estado;
     QString error;
 };
 
 // OrdenesImprimir on "Veldo" followed by `argumentos`; stderr goes through a file in `carpeta`.
-Resultado ejecutar(const QStringList& argumentos, const QString& carpeta,
+SalidaOrden ejecutar(const QStringList& argumentos, const QString& carpeta,
                    QPrinter* impresora = nullptr);

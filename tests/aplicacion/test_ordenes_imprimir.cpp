@@ -49,7 +49,7 @@ private slots:
 
     void cuatroCopias()
     {
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
                                       pdf("todas.pdf"), QStringLiteral("--fecha"),
                                       QStringLiteral("11/03/2004")},
                                      m_dir.path());
@@ -65,7 +65,7 @@ private slots:
 
     void opciones()
     {
-        Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+        SalidaOrden r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
                                 pdf("banco.pdf"), QStringLiteral("--copias"),
                                 QStringLiteral("banco,interesado")},
                                m_dir.path());
@@ -103,7 +103,7 @@ private slots:
         QFETCH(QStringList, extra);
         QFETCH(QString, mensaje);
         const QString fichero = pdf("rechazo.pdf");
-        const Resultado r = ejecutar(
+        const SalidaOrden r = ejecutar(
             QStringList{QStringLiteral("--pdf"), QString::number(m_codigo), fichero} + extra,
             m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(1));
@@ -113,7 +113,7 @@ private slots:
 
     void limiteAceptado()
     {
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
                                       pdf("limite.pdf"), QStringLiteral("--fecha"),
                                       QStringLiteral("01/12/2003"), QStringLiteral("--copias"),
                                       QStringLiteral("trafico")},
@@ -124,7 +124,7 @@ private slots:
 
     void declaracionQueNoExiste()
     {
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo + 50),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo + 50),
                                       pdf("nada.pdf")},
                                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(1));
@@ -134,7 +134,7 @@ private slots:
 
     void ficheroQueNoSePuedeEscribir()
     {
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), QString::number(m_codigo),
                                       m_dir.filePath(QStringLiteral("no/hay/carpeta.pdf"))},
                                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(1));
@@ -149,7 +149,7 @@ private slots:
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
         impresora.setOutputFileName(pdf("impresora.pdf"));
-        Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+        SalidaOrden r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
                                 QStringLiteral("--copias"), QStringLiteral("trafico"),
                                 QStringLiteral("--fecha"), QStringLiteral("11/03/2004")},
                                m_dir.path(), &impresora);
@@ -172,7 +172,7 @@ private slots:
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
         impresora.setOutputFileName(pdf("rechazada.pdf"));
-        Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+        SalidaOrden r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
                                 QStringLiteral("--fecha"), QStringLiteral("30/11/2003")},
                                m_dir.path(), &impresora);
         QCOMPARE(r.estado, std::optional<int>(1));
@@ -195,7 +195,7 @@ private slots:
     // the program's message.
     void impresoraQueNoExiste()
     {
-        const Resultado r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
+        const SalidaOrden r = ejecutar({QStringLiteral("--imprimir"), QString::number(m_codigo),
                                       QStringLiteral("--impresora"),
                                       QStringLiteral("veldo-no-existe-9")},
                                      m_dir.path());

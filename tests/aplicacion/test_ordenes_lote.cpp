@@ -56,14 +56,13 @@ class TestOrdenesLote : public QObject {
         d.NOMBRESP = nombreSujeto(i);
         const QDate fecha = QDate(2010, 3, 15).addDays(i - 1);
         d.FECHAD = fecha.year() * 10000 + fecha.month() * 100 + fecha.day();
-        d.BASEI = 1000000 + i * 12345;
-        d.CUOTA = 100000 + i * 7;
-        d.TOTAL = 99000 + i * 3;
+        d.BASEI = Importe(1000000 + i * 12345);
+        d.CUOTA = Importe(100000 + i * 7);
+        d.TOTAL = Importe(99000 + i * 3);
         if (i == 20)
             d.MARCA.clear();  // the rule of the make: this return cannot be printed
         d.CSDE = 0;
-        int32_t codigo = 0;
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        const int32_t codigo = d.GuardarDeclaracion() ? d.CSDE : 0;
         if (codigo <= 0)
             qFatal("return %d not saved", i);
         return codigo;
@@ -94,7 +93,7 @@ private slots:
     // return that breaks a rule is named with the rule's message, the status counts it.
     void aUnaCarpeta()
     {
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), rango(), ruta(QStringLiteral("carpeta")),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), rango(), ruta(QStringLiteral("carpeta")),
                                       QStringLiteral("--copias"), QStringLiteral("interesado"),
                                       QStringLiteral("--fecha"), QStringLiteral("11/03/2004")},
                                      m_dir.path());
@@ -128,7 +127,7 @@ private slots:
                                                                    .arg(m_codigos.at(10))
                                                                    .arg(m_codigos.last());
         const QString fichero = ruta(QStringLiteral("todas.pdf"));
-        const Resultado r = ejecutar({QStringLiteral("--pdf"), lista, QStringLiteral("--un-fichero"),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"), lista, QStringLiteral("--un-fichero"),
                                       fichero, QStringLiteral("--copias"),
                                       QStringLiteral("interesado,administracion")},
                                      m_dir.path());
@@ -152,7 +151,7 @@ private slots:
     void seleccion()
     {
         QDir(ruta(QStringLiteral("carpeta"))).removeRecursively();
-        Resultado r = ejecutar({QStringLiteral("--pdf"), ruta(QStringLiteral("carpeta")),
+        SalidaOrden r = ejecutar({QStringLiteral("--pdf"), ruta(QStringLiteral("carpeta")),
                                 QStringLiteral("--desde"), QStringLiteral("19/03/2010"),
                                 QStringLiteral("--hasta"), QStringLiteral("07/04/2010"),
                                 QStringLiteral("--borrador")},
@@ -181,7 +180,7 @@ private slots:
     void fallosYRechazos()
     {
         const int32_t ultimo = m_codigos.last();
-        Resultado r = ejecutar({QStringLiteral("--pdf"),
+        SalidaOrden r = ejecutar({QStringLiteral("--pdf"),
                                 QStringLiteral("%1,%2-%3").arg(ultimo).arg(ultimo + 1).arg(ultimo + 3),
                                 QStringLiteral("--un-fichero"), ruta(QStringLiteral("tres.pdf")),
                                 QStringLiteral("--borrador")},
@@ -225,7 +224,7 @@ private slots:
         const QString carpeta = ruta(QStringLiteral("ocupada"));
         const QString tapado = QStringLiteral("747_%1_%2.pdf").arg(m_codigos.at(2)).arg(Dni(10000003));
         QVERIFY(QDir().mkpath(carpeta + QLatin1Char('/') + tapado));
-        const Resultado r = ejecutar({QStringLiteral("--pdf"),
+        const SalidaOrden r = ejecutar({QStringLiteral("--pdf"),
                                       QStringLiteral("%1-%2").arg(m_codigos.at(0)).arg(m_codigos.at(5)),
                                       carpeta, QStringLiteral("--borrador")},
                                      m_dir.path());
@@ -244,7 +243,7 @@ private slots:
         QPrinter impresora(QPrinter::HighResolution);
         impresora.setOutputFormat(QPrinter::PdfFormat);
         impresora.setOutputFileName(ruta(QStringLiteral("impresora.pdf")));
-        const Resultado r = ejecutar({QStringLiteral("--imprimir"),
+        const SalidaOrden r = ejecutar({QStringLiteral("--imprimir"),
                                       QStringLiteral("%1-%2").arg(m_codigos.at(17)).arg(m_codigos.at(20)),
                                       QStringLiteral("--borrador")},
                                      m_dir.path(), &impresora);

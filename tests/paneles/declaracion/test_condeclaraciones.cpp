@@ -44,7 +44,7 @@ private slots:
     void init()
     {
         m_prog = std::make_unique<ProgramaDePrueba>();
-        Contribuyente c;
+        ContribuyenteDePrueba c;
         c.DNIC = Dni(22222222);
         c.NOMBREC = QStringLiteral("AGIRRE ZUBIA MIREN");
         m_csco = GuardarEnAlmacen(c);

@@ -55,11 +55,11 @@ private slots:
     void init()
     {
         m_prog = std::make_unique<ProgramaDePrueba>();
-        Contribuyente nacional;
+        ContribuyenteDePrueba nacional;
         nacional.DNIC = Dni(22222222);
         nacional.NOMBREC = QStringLiteral("AGIRRE ZUBIA MIREN");
         m_nacional = GuardarEnAlmacen(nacional);
-        Contribuyente extranjero;
+        ContribuyenteDePrueba extranjero;
         extranjero.TIPODNI = QStringLiteral("N");
         extranjero.DNIC = QStringLiteral("X9876");
         extranjero.NOMBREC = QStringLiteral("DUPONT JEAN");

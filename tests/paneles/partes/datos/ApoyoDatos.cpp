@@ -153,7 +153,7 @@ bool MenuApagado(const ProgramaDePrueba& prog, const char* nombre)
     return !prog.ventana()->findChild<QMenu*>(QString::fromLatin1(nombre))->menuAction()->isEnabled();
 }
 
-int32_t GuardarEnAlmacen(const Contribuyente& c)
+int32_t GuardarEnAlmacen(const ContribuyenteDePrueba& c)
 {
     namespace C = PosContribuyente;
     cContribSvr svr;

@@ -108,7 +108,7 @@ bool Blanco(const QWidget* campo);
 bool Gris(const QWidget* campo);
 
 // Parties in the store, through its services. Answer the new code.
-struct Contribuyente {
+struct ContribuyenteDePrueba {
     QString TIPODNI = QStringLiteral("O");
     QString DNIC = QStringLiteral("12345678Z");
     QString NOMBREC = QStringLiteral("PEREZ LOPEZ JUAN");
@@ -123,7 +123,7 @@ struct Contribuyente {
     QString CODMUNC = QStringLiteral("002");
     QString NOMMUNC;
 };
-int32_t GuardarEnAlmacen(const Contribuyente& c);
+int32_t GuardarEnAlmacen(const ContribuyenteDePrueba& c);
 
 struct Presentador {
     QString DNIP = QStringLiteral("87654321X");

@@ -106,7 +106,7 @@ private slots:
 
     void contribuyenteCambiadoSeConservaLoEscrito()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirContribuyente(cs);
         QVERIFY(m_panel);
         QVERIFY(otraCopiaRenombraContribuyente(cs));
@@ -139,7 +139,7 @@ private slots:
 
     void contribuyenteBorradoNoSeVuelveAEscribir()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirContribuyente(cs);
         QVERIFY(EnOtraConexion([cs] { Almacen<cContribSvr>().BorrarContribuyente(cs); }));
         EscribirYSalir(t("txtnombrec"), kDelPanel);

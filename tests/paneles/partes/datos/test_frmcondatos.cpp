@@ -452,9 +452,9 @@ private slots:
 
     void casillasSegunLasDeclaracionesComoSujeto()
     {
-        Contribuyente sujeto;
+        ContribuyenteDePrueba sujeto;
         const int32_t cs = GuardarEnAlmacen(sujeto);
-        Contribuyente transmitente;
+        ContribuyenteDePrueba transmitente;
         transmitente.DNIC = QStringLiteral("87654321X");
         const int32_t ct = GuardarEnAlmacen(transmitente);
         QVERIFY(cs > 0 && ct > 0);
@@ -479,7 +479,7 @@ private slots:
 
     void contribuyenteExistenteSeMuestraDelAlmacen()
     {
-        Contribuyente x;
+        ContribuyenteDePrueba x;
         x.CODPROVC = QStringLiteral("1");
         x.CODPOSC = QStringLiteral("01001");
         x.CODMUNC.clear();
@@ -498,7 +498,7 @@ private slots:
         QVERIFY(abierto(t("txtnommunc")));
         QVERIFY(!frm()->Modificado());
 
-        Contribuyente y;
+        ContribuyenteDePrueba y;
         y.DNIC = QStringLiteral("87654321X");
         y.CODMUNC = QStringLiteral("5");
         const int32_t cy = GuardarEnAlmacen(y);
@@ -512,7 +512,7 @@ private slots:
 
     void aceptarSinCambiosValidaPeroNoEscribe()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirExistente(cs, QString());
         // Someone else changes the stored row meanwhile: an unchanged panel does not overwrite it.
         EjecutarEnAlmacen(QStringLiteral("UPDATE CONTRIBUYENTES SET NOMBREC = 'OTRO' WHERE CSCO = ?"), {cs});
@@ -527,7 +527,7 @@ private slots:
 
     void aceptarConCambiosEscribe()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirExistente(cs, QString());
         EscribirYSalir(t("txtnombrec"), QStringLiteral("GARCIA"));
         Entrar(b("cmdVia"));
@@ -542,7 +542,7 @@ private slots:
     void loTecleadoSinSalirSeGuardaConAceptar()
     {
         // The click on Aceptar leaves the field first.
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirExistente(cs, QString());
         Escribir(t("txtdomicilioc"), QStringLiteral("NUEVA"));
         Clic(b("cmdAceptar"));
@@ -554,7 +554,7 @@ private slots:
 
     void teclaDeAccesoDeAceptarDejaElCampoAntes()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         abrirExistente(cs, QString());
         Escribir(t("txtpisoc"), QStringLiteral("3"));
         QTest::keyClick(t("txtpisoc"), Qt::Key_A, Qt::AltModifier);
@@ -576,7 +576,7 @@ private slots:
 
     void dniInvalidoCargadoDetieneAceptar()
     {
-        Contribuyente x;
+        ContribuyenteDePrueba x;
         x.DNIC = QStringLiteral("12345678A");  // wrong check letter
         const int32_t cs = GuardarEnAlmacen(x);
         QVERIFY(cs > 0);
@@ -683,7 +683,7 @@ private slots:
 
     void altaDeUnDniQueYaExiste()
     {
-        GuardarEnAlmacen(Contribuyente());
+        GuardarEnAlmacen(ContribuyenteDePrueba());
         RegistroValido(ConDatos());
         abrirConRegistro();
         EscribirYSalir(t("txtnombrec"), QStringLiteral("OTRO NOMBRE"));
@@ -699,8 +699,8 @@ private slots:
 
     void cambioADniDeOtro()
     {
-        GuardarEnAlmacen(Contribuyente());
-        Contribuyente otro;
+        GuardarEnAlmacen(ContribuyenteDePrueba());
+        ContribuyenteDePrueba otro;
         otro.DNIC = QStringLiteral("87654321X");
         const int32_t co = GuardarEnAlmacen(otro);
         abrirExistente(co);
@@ -799,7 +799,7 @@ private slots:
 
     void cancelarVuelveALaLista()
     {
-        const int32_t cs = GuardarEnAlmacen(Contribuyente());
+        const int32_t cs = GuardarEnAlmacen(ContribuyenteDePrueba());
         ConLista().CSCO = cs;
         abrirExistente(cs, QStringLiteral("S"));
         Clic(b("cmdCancelar"));
