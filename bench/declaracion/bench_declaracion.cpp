@@ -93,15 +93,14 @@ struct Medida {
     int filas = 0;
 };
 
-Medida buscar(const Arreglo& criterios, uint8_t orden, const QString& tipo)
+Medida buscar(const CondicionesDeclaracion& criterios, uint8_t orden, const QString& tipo)
 {
     QList<double> ms;
     int filas = 0;
     for (int i = 0; i < 7; ++i) {
-        Arreglo2D r;
         QElapsedTimer reloj;
         reloj.start();
-        filas = servidor().dameResultadoBusqueda(r, criterios, orden, tipo, 0);
+        filas = int(servidor().dameResultadoBusqueda(criterios, orden, tipo, 0).size());
         ms << reloj.nsecsElapsed() / 1e6;
     }
     std::sort(ms.begin(), ms.end());
@@ -134,52 +133,50 @@ int main(int argc, char** argv)
                 reloj.elapsed() / 1000.0);
 
     bool bien = true;
-    const Arreglo nada{0, QString(), 0, 0, QString()};
+    const CondicionesDeclaracion nada;
     std::printf("Busqueda de la lista de declaraciones (limite 200 ms):\n");
     bien &= informe("sin criterio, por codigo desc", buscar(nada, 1, "DESC"), 200);
-    Arreglo c = nada;
-    c[0] = kDeclaraciones - 500;
+    CondicionesDeclaracion c = nada;
+    c.CSDE = QString::number(kDeclaraciones - 500);
     bien &= informe("codigo >= N-500", buscar(c, 1, "DESC"), 200);
     c = nada;
-    c[0] = kDeclaraciones / 2;
+    c.CSDE = QString::number(kDeclaraciones / 2);
     bien &= informe("codigo >= N/2", buscar(c, 1, "DESC"), 200);
     c = nada;
-    c[1] = QStringLiteral("R0123");
+    c.REFERENCIA = QStringLiteral("R0123");
     bien &= informe("referencia empieza por R0123", buscar(c, 2, "ASC"), 200);
     c = nada;
-    c[2] = 20250101;
+    c.FECHAD = 20250101;
     bien &= informe("fecha >= 01/01/2025, por fecha", buscar(c, 3, "DESC"), 200);
     c = nada;
-    c[2] = 20100101;
+    c.FECHAD = 20100101;
     bien &= informe("fecha >= 01/01/2010, por fecha", buscar(c, 3, "DESC"), 200);
     c = nada;
-    c[3] = QStringLiteral("11.000");
+    c.TOTAL = QStringLiteral("11.000");
     bien &= informe("total >= 11.000,00, por total", buscar(c, 4, "DESC"), 200);
     c = nada;
-    c[4] = QStringLiteral("T2");
+    c.OPERACION = QStringLiteral("T2");
     bien &= informe("operacion empieza por T2, por operacion", buscar(c, 5, "ASC"), 200);
     c = nada;
-    c[1] = QStringLiteral("R09");
+    c.REFERENCIA = QStringLiteral("R09");
     bien &= informe("referencia R09, por total", buscar(c, 4, "DESC"), 200);
 
     {
         QList<double> ms;
         int filas = 0;
         for (int i = 0; i < 7; ++i) {
-            Arreglo2D r;
             QElapsedTimer t;
             t.start();
-            filas = servidor().dameDeclaracionesContribuyente(nada, r, 17, 1, "DESC", 0);
+            filas = int(servidor().dameDeclaracionesContribuyente(nada, 17, 1, "DESC", 0).size());
             ms << t.nsecsElapsed() / 1e6;
         }
         std::sort(ms.begin(), ms.end());
         bien &= informe("declaraciones de un contribuyente", {ms[3], ms.last(), filas}, 200);
         ms.clear();
         for (int i = 0; i < 7; ++i) {
-            Arreglo2D r;
             QElapsedTimer t;
             t.start();
-            filas = servidor().dameDeclaracionesPresentador(nada, r, 3, 1, "DESC", 0);
+            filas = int(servidor().dameDeclaracionesPresentador(nada, 3, 1, "DESC", 0).size());
             ms << t.nsecsElapsed() / 1e6;
         }
         std::sort(ms.begin(), ms.end());
@@ -194,15 +191,13 @@ int main(int argc, char** argv)
     for (int i = 0; i < 300; ++i) {
         d.CSDE = 0;
         d.REFERENCIA = QStringLiteral("B%1").arg(i);
-        int32_t codigo = 0;
         QElapsedTimer t;
         t.start();
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        d.GuardarDeclaracion();
         nuevas << t.nsecsElapsed() / 1e6;
-        d.CSDE = codigo;
         d.MARCA = QStringLiteral("CUPRA");
         t.restart();
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        d.GuardarDeclaracion();
         cambios << t.nsecsElapsed() / 1e6;
     }
     for (auto* lista : {&nuevas, &cambios})
@@ -219,10 +214,9 @@ int main(int argc, char** argv)
 
     QList<double> ultimas;
     for (int i = 0; i < 50; ++i) {
-        Arreglo2D l;
         QElapsedTimer t;
         t.start();
-        d.ObtenerUltimasDeclaraciones(l);
+        const QList<UltimaDeclaracion> l = d.ObtenerUltimasDeclaraciones();
         ultimas << t.nsecsElapsed() / 1e6;
     }
     std::sort(ultimas.begin(), ultimas.end());

@@ -47,8 +47,7 @@ int main(int argc, char** argv)
         cDecDatos& d = DecDatos();
         d.CSDE = 0;
         d.REFERENCIA = QStringLiteral("REF-%1").arg(i);
-        int32_t codigo = 0;
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        const int32_t codigo = d.GuardarDeclaracion() ? d.CSDE : 0;
         primero = primero ? primero : codigo;
         ultimo = codigo;
     }

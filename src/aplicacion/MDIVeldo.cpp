@@ -260,17 +260,16 @@ void MDIVeldo::ActualizarMenus()
         m_botones[1]->setEnabled(false);
         m_botones[2]->setEnabled(false);
     } else {
-        Arreglo2D ultimas;
-        DecDatos().ObtenerUltimasDeclaraciones(ultimas);
+        const QList<UltimaDeclaracion> ultimas = DecDatos().ObtenerUltimasDeclaraciones();
         m_botones[1]->setEnabled(true);
         m_botones[2]->setEnabled(true);
         const int mostradas = qMin<int>(Entrada().NUMDECLA, 4);
         for (int i = 0; i < mostradas && i < ultimas.size(); ++i) {
             QAction* d = m_recientes[i];
             d->setVisible(true);
-            d->setText(ultimas[i].value(0).toString() + QStringLiteral(" - ")
-                       + ultimas[i].value(1).toString());
-            d->setData(ultimas[i].value(0));
+            d->setText(QString::number(ultimas[i].CSDE) + QStringLiteral(" - ")
+                       + ultimas[i].descripcion);
+            d->setData(ultimas[i].CSDE);
         }
     }
     m_botones[0]->setEnabled(true);

@@ -331,9 +331,8 @@ std::optional<QString> reglasIncumplidas()
     if (const Veredicto v = VeredictoNifIntervinientes(titulo); !v.vacio())
         return v.mensaje;
     const bool tipoBloqueado = !EsTasaLibre(Operacion().T_TIP());
-    const VeredictoValidacion v =
-        VeredictoCampos(tipoBloqueado, titulo, Operacion().DESCRIP.trimmed());
-    if (v.numero != 0)
+    const Veredicto v = VeredictoCampos(tipoBloqueado, titulo, Operacion().DESCRIP.trimmed());
+    if (!v.vacio())
         return v.mensaje.trimmed();
     return std::nullopt;
 }

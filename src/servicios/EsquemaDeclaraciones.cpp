@@ -1,7 +1,7 @@
 // The declarations' table in layout 1 of the read/write database.
 //
-// One row per return. The columns hold the values of the save array of cDeclaSvr under the
-// names of the record's fields. Codes of parties are NULL when the return names no stored
+// One row per return. The columns hold the fields of a return (Declaracion) under their
+// names. Codes of parties are NULL when the return names no stored
 // contributor or presenter (the program's 0), so that the foreign keys hold. GRABACION is the
 // order of the saves (the greatest is the last saved), for the recent declarations of the menu.
 // The indexes serve the declaration lists: their criteria and orders (code, reference, date,

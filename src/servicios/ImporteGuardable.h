@@ -1,18 +1,13 @@
 #pragma once
 // The stores' door for amounts. An amount of a return is a 64-bit float in whole cents; one that
-// is not a finite number (not a number, or an infinity, given as a number or as the texts "nan"
-// and "inf") has no place in a return: SQLite would store an infinity as given and turn "not a
-// number" into NULL, which its column refuses with its own words. Such an amount is refused
-// here, with the program's message and the field to focus, before anything is written.
-#include "servicios/Arreglos.h"
+// is not a finite number (not a number, or an infinity) has no place in a return: SQLite would
+// store an infinity as given and turn "not a number" into NULL, which its column refuses with
+// its own words. Such an amount is refused here, with the program's message and the field to
+// focus, before anything is written.
 #include "valores/Veredicto.h"
 
-#include <QVariant>
-#include <span>
-
-// One amount of a store's save array.
+// One amount column of a store, with the field that shows it.
 struct ColumnaImporte {
-    int posicion;         // the value's position in the save array
     int idEtiqueta;       // catalogue id of the field's label, which names it in the message
     const char* control;  // objectName of the field that shows the value
 };
@@ -20,10 +15,6 @@ struct ColumnaImporte {
 // Catalogue id of the message of a refused amount: %1 the field's name.
 inline constexpr int kIdImporteNoValido = 366;
 
-// True when the value, as the store reads an amount (a number, a text that reads as one, or
-// nothing), is not a finite number.
-bool ImporteNoFinito(const QVariant& valor);
-
-// The verdict on the first of `columnas` whose value in `datos` is not a finite number; an
-// empty verdict when every amount is one.
-Veredicto ComprobarImportes(const Arreglo& datos, std::span<const ColumnaImporte> columnas);
+// The verdict on an amount of `columna` that is not a finite number; an empty verdict for a
+// finite one.
+Veredicto ComprobarImporte(double valor, const ColumnaImporte& columna);

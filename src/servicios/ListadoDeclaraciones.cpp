@@ -43,11 +43,11 @@ std::vector<FilaDeclaracion> ListarDeclaraciones(const QString& mdbmod,
         f.DNITR = q.value(5).toString();
         f.NOMBRETR = q.value(6).toString();
         f.OPERACION = q.value(7).toString();
-        f.BASEI = q.value(8).toDouble();
+        f.BASEI = Importe(q.value(8).toDouble());
         f.TIPOIMP = q.value(9).toDouble();
-        f.CUOTA = q.value(10).toDouble();
-        f.DEDUCCION = q.value(11).toDouble();
-        f.TOTAL = q.value(12).toDouble();
+        f.CUOTA = Importe(q.value(10).toDouble());
+        f.DEDUCCION = Importe(q.value(11).toDouble());
+        f.TOTAL = Importe(q.value(12).toDouble());
         filas.push_back(std::move(f));
     }
     return filas;

@@ -2,6 +2,8 @@
 // The stored returns of a selection, one row each with what a table of returns shows: the
 // work of the command line that prints or lists many returns at once. Set the path of the
 // read/write database as for any store; failures are raised as cFallo.
+#include "valores/FilaDeclaracion.h"
+
 #include <QString>
 #include <cstdint>
 #include <vector>
@@ -13,15 +15,6 @@ struct FiltroDeclaraciones {
     int32_t desde = 0;
     int32_t hasta = 0;
     QString dni;
-};
-
-struct FilaDeclaracion {
-    int32_t CSDE = 0;
-    QString REFERENCIA;
-    int32_t FECHAD = 0;
-    QString DNISP, NOMBRESP, DNITR, NOMBRETR, OPERACION;
-    // Amounts in whole cents, the rate in per cent, as stored.
-    double BASEI = 0, TIPOIMP = 0, CUOTA = 0, DEDUCCION = 0, TOTAL = 0;
 };
 
 // The returns of the filter in `mdbmod`, in the order of their codes.

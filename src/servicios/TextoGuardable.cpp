@@ -82,25 +82,33 @@ DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Bl
     return DefectoTexto::Ninguno;
 }
 
+Veredicto ComprobarTexto(const QString& texto, const ColumnaTexto& c, Blancos blancos)
+{
+    switch (ExaminarTexto(texto, c.ancho, c.idVacio != 0, blancos)) {
+    case DefectoTexto::Ninguno:
+        break;
+    case DefectoTexto::Vacio:
+        return veredicto(c.idVacio, Texto(c.idVacio), c);
+    case DefectoTexto::Caracteres:
+        return veredicto(kIdTextoCaracteres,
+                         Texto(kIdTextoCaracteres).arg(NombreDeCampo(c.idEtiqueta)), c);
+    case DefectoTexto::Largo:
+        return veredicto(kIdTextoLargo,
+                         Texto(kIdTextoLargo).arg(NombreDeCampo(c.idEtiqueta),
+                                                    QString::number(c.ancho)),
+                         c);
+    }
+    return {};
+}
+
 Veredicto ComprobarTextos(const Arreglo& datos, std::span<const ColumnaTexto> columnas,
                           Blancos blancos)
 {
     for (const ColumnaTexto& c : columnas) {
         const QString texto = c.posicion < datos.size() ? datos[c.posicion].toString() : QString();
-        switch (ExaminarTexto(texto, c.ancho, c.idVacio != 0, blancos)) {
-        case DefectoTexto::Ninguno:
-            break;
-        case DefectoTexto::Vacio:
-            return veredicto(c.idVacio, Texto(c.idVacio), c);
-        case DefectoTexto::Caracteres:
-            return veredicto(kIdTextoCaracteres,
-                             Texto(kIdTextoCaracteres).arg(NombreDeCampo(c.idEtiqueta)), c);
-        case DefectoTexto::Largo:
-            return veredicto(kIdTextoLargo,
-                             Texto(kIdTextoLargo).arg(NombreDeCampo(c.idEtiqueta),
-                                                        QString::number(c.ancho)),
-                             c);
-        }
+        Veredicto v = ComprobarTexto(texto, c, blancos);
+        if (!v.vacio())
+            return v;
     }
     return {};
 }

@@ -57,6 +57,11 @@ qsizetype Caracteres(QStringView texto);
 
 DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Blancos blancos);
 
+// The verdict on one text of column `columna` (its `posicion` is not read): the message in the
+// current language, with the field's name and width in place, and the field to focus. An empty
+// verdict when the column can keep the text.
+Veredicto ComprobarTexto(const QString& texto, const ColumnaTexto& columna, Blancos blancos);
+
 // The verdict on the first of `columnas` whose value in `datos` its column cannot keep: the
 // message in the current language, with the field's name and width in place, and the field to
 // focus. An empty verdict when every text can be kept.

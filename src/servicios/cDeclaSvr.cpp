@@ -14,7 +14,7 @@
 
 #include <QSqlRecord>
 #include <array>
-#include <cmath>
+#include <variant>
 
 namespace {
 
@@ -23,141 +23,169 @@ QString origen(const char* operacion)
     return QStringLiteral("svrveldoV1.cDeclaSvr.") + QLatin1String(operacion);
 }
 
-enum class Clase { Texto, Entero, Importe, Parte };
+using Texto = QString Declaracion::*;
+using Entero = int32_t Declaracion::*;
+using Corto = int16_t Declaracion::*;
+using Cantidad = Importe Declaracion::*;
+using Real = double Declaracion::*;
+
+// A party's code: stored as NULL when it names no stored contributor or presenter.
+struct Parte {
+    Entero campo;
+    const char* tabla;
+    const char* clave;
+};
+
+using Campo = std::variant<Texto, Entero, Corto, Cantidad, Real, Parte>;
 
 struct Columna {
     const char* nombre;
-    Clase clase;
+    Campo campo;
 };
 
-// The save array, value by value in the order of PosGuardarDeclaracion: the column that keeps
-// it and its kind. Value 0 is the code. The load array takes them at PosicionDeCarga.
-constexpr std::array<Columna, cDeclaSvr::kValoresGuardar> kColumnas{{
-    {"CSDE", Clase::Entero},          {"REFERENCIA", Clase::Texto},
-    {"CSPR", Clase::Parte},           {"CSSU", Clase::Parte},
-    {"CSTRA", Clase::Parte},          {"FECHAD", Clase::Entero},
-    {"ADQUIRIDO", Clase::Texto},      {"MARCA", Clase::Texto},
-    {"TIPO", Clase::Texto},           {"MODELO", Clase::Texto},
-    {"BASTIDOR", Clase::Texto},       {"CLASIFICACION", Clase::Entero},
-    {"MOTOR", Clase::Texto},          {"CILINDRADA", Clase::Entero},
-    {"OPERACION", Clase::Texto},      {"NOSUJETO", Clase::Texto},
-    {"EXENTO", Clase::Texto},         {"REDUCCION", Clase::Texto},
-    {"BASEI", Clase::Importe},        {"BASEIREDUCIDA", Clase::Importe},
-    {"TIPOIMP", Clase::Importe},      {"CUOTA", Clase::Importe},
-    {"DEDUCCION", Clase::Importe},    {"TOTAL", Clase::Importe},
-    {"DNISP", Clase::Texto},          {"NOMBRESP", Clase::Texto},
-    {"VIASP", Clase::Texto},          {"DOMICILIOSP", Clase::Texto},
-    {"NUMEROSP", Clase::Entero},      {"LETRASP", Clase::Texto},
-    {"ESCALERASP", Clase::Texto},     {"PISOSP", Clase::Texto},
-    {"MANOSP", Clase::Texto},         {"CODPROVSP", Clase::Texto},
-    {"NOMPROVSP", Clase::Texto},      {"CODPOSSP", Clase::Texto},
-    {"CODMUNSP", Clase::Texto},       {"NOMMUNSP", Clase::Texto},
-    {"TIPODNITR", Clase::Texto},      {"DNITR", Clase::Texto},
-    {"NOMBRETR", Clase::Texto},       {"VIATR", Clase::Texto},
-    {"DOMICILIOTR", Clase::Texto},    {"NUMEROTR", Clase::Entero},
-    {"LETRATR", Clase::Texto},        {"ESCALERATR", Clase::Texto},
-    {"PISOTR", Clase::Texto},         {"MANOTR", Clase::Texto},
-    {"TIPODOMITR", Clase::Texto},     {"PAISTR", Clase::Texto},
-    {"CODPROVTR", Clase::Texto},      {"NOMPROVTR", Clase::Texto},
-    {"CODPOSTR", Clase::Texto},       {"CODMUNTR", Clase::Texto},
-    {"NOMMUNTR", Clase::Texto},
+// The stored columns of a return after its code, each with the field of the value that holds
+// it, in the order of the table. The subject's province name is never stored (see below).
+const std::array<Columna, 54> kColumnas{{
+    {"REFERENCIA", &Declaracion::REFERENCIA},
+    {"CSPR", Parte{&Declaracion::CSPR, "PRESENTADORES", "CSPR"}},
+    {"CSSU", Parte{&Declaracion::CSSU, "CONTRIBUYENTES", "CSCO"}},
+    {"CSTRA", Parte{&Declaracion::CSTRA, "CONTRIBUYENTES", "CSCO"}},
+    {"FECHAD", &Declaracion::FECHAD},
+    {"ADQUIRIDO", &Declaracion::ADQUIRIDO},
+    {"MARCA", &Declaracion::MARCA},
+    {"TIPO", &Declaracion::TIPO},
+    {"MODELO", &Declaracion::MODELO},
+    {"BASTIDOR", &Declaracion::BASTIDOR},
+    {"CLASIFICACION", &Declaracion::CLASIFICACION},
+    {"MOTOR", &Declaracion::MOTOR},
+    {"CILINDRADA", &Declaracion::CILINDRADA},
+    {"OPERACION", &Declaracion::OPERACION},
+    {"NOSUJETO", &Declaracion::NOSUJETO},
+    {"EXENTO", &Declaracion::EXENTO},
+    {"REDUCCION", &Declaracion::REDUCCION},
+    {"BASEI", &Declaracion::BASEI},
+    {"BASEIREDUCIDA", &Declaracion::BASEIREDUCIDA},
+    {"TIPOIMP", &Declaracion::TIPOIMP},
+    {"CUOTA", &Declaracion::CUOTA},
+    {"DEDUCCION", &Declaracion::DEDUCCION},
+    {"TOTAL", &Declaracion::TOTAL},
+    {"DNISP", &Declaracion::DNISP},
+    {"NOMBRESP", &Declaracion::NOMBRESP},
+    {"VIASP", &Declaracion::VIASP},
+    {"DOMICILIOSP", &Declaracion::DOMICILIOSP},
+    {"NUMEROSP", &Declaracion::NUMEROSP},
+    {"LETRASP", &Declaracion::LETRASP},
+    {"ESCALERASP", &Declaracion::ESCALERASP},
+    {"PISOSP", &Declaracion::PISOSP},
+    {"MANOSP", &Declaracion::MANOSP},
+    {"CODPROVSP", &Declaracion::CODPROVSP},
+    {"NOMPROVSP", &Declaracion::NOMPROVSP},
+    {"CODPOSSP", &Declaracion::CODPOSSP},
+    {"CODMUNSP", &Declaracion::CODMUNSP},
+    {"NOMMUNSP", &Declaracion::NOMMUNSP},
+    {"TIPODNITR", &Declaracion::TIPODNITR},
+    {"DNITR", &Declaracion::DNITR},
+    {"NOMBRETR", &Declaracion::NOMBRETR},
+    {"VIATR", &Declaracion::VIATR},
+    {"DOMICILIOTR", &Declaracion::DOMICILIOTR},
+    {"NUMEROTR", &Declaracion::NUMEROTR},
+    {"LETRATR", &Declaracion::LETRATR},
+    {"ESCALERATR", &Declaracion::ESCALERATR},
+    {"PISOTR", &Declaracion::PISOTR},
+    {"MANOTR", &Declaracion::MANOTR},
+    {"TIPODOMITR", &Declaracion::TIPODOMITR},
+    {"PAISTR", &Declaracion::PAISTR},
+    {"CODPROVTR", &Declaracion::CODPROVTR},
+    {"NOMPROVTR", &Declaracion::NOMPROVTR},
+    {"CODPOSTR", &Declaracion::CODPOSTR},
+    {"CODMUNTR", &Declaracion::CODMUNTR},
+    {"NOMMUNTR", &Declaracion::NOMMUNTR},
 }};
 
-namespace G = PosGuardarDeclaracion;
 constexpr int kSujeto = 0;        // the tabs of the declaration form that hold the parties
 constexpr int kTransmitente = 1;
 
-// The texts of the save array as the store keeps them (as given, blanks included): the width of
-// each column, the label that names its field and the field, on its tab for a party's. The
-// widths are those of the form's fields, but for the make and the type, whose boxes on the
-// printed form hold 20 characters (the form lets 15 be typed).
-constexpr ColumnaTexto kTextos[] = {
-    {G::REFERENCIA, 10, 114, "txtreferencia"},
-    {G::ADQUIRIDO, 1, 104, "chkAdquirido"},
-    {G::MARCA, 20, 120, "txtmarca"},
-    {G::TIPO, 20, 118, "txttipo"},
-    {G::MODELO, 20, 119, "txtmodelo"},
-    {G::BASTIDOR, 17, 117, "txtbastidor"},
-    {G::MOTOR, 1, 110, "optDiesel"},
-    {G::OPERACION, 3, 122, "txtoperacion"},
-    {G::NOSUJETO, 1, 113, "chknosujeto"},
-    {G::EXENTO, 1, 105, "chkexento"},
-    {G::REDUCCION, 1, 326, "chkReduccion1"},
-    {G::DNISP, 9, 26, "txtdnisp", 0, kSujeto},
-    {G::NOMBRESP, 40, 27, "txtnombresp", 0, kSujeto},
-    {G::VIASP, 2, 13, "txtviasp", 0, kSujeto},
-    {G::DOMICILIOSP, 20, 19, "txtdomiciliosp", 0, kSujeto},
-    {G::LETRASP, 2, 21, "txtletrasp", 0, kSujeto},
-    {G::ESCALERASP, 2, 20, "txtescalerasp", 0, kSujeto},
-    {G::PISOSP, 2, 23, "txtpisosp", 0, kSujeto},
-    {G::MANOSP, 3, 24, "txtmanosp", 0, kSujeto},
-    {G::CODPROVSP, 2, 10, "txtcodprovsp", 0, kSujeto},
-    {G::NOMPROVSP, 20, 15, "txtnomprovsp", 0, kSujeto},
-    {G::CODPOSSP, 5, 25, "txtcodpossp", 0, kSujeto},
-    {G::CODMUNSP, 3, 12, "txtcodmunsp", 0, kSujeto},
-    {G::NOMMUNSP, 25, 14, "txtnommunsp", 0, kSujeto},
-    {G::TIPODNITR, 1, 9, "chktipodnitr", 0, kTransmitente},
-    {G::DNITR, 9, 26, "txtdnitr", 0, kTransmitente},
-    {G::NOMBRETR, 40, 27, "txtnombretr", 0, kTransmitente},
-    {G::VIATR, 2, 13, "txtviatr", 0, kTransmitente},
-    {G::DOMICILIOTR, 20, 19, "txtdomiciliotr", 0, kTransmitente},
-    {G::LETRATR, 2, 21, "txtletratr", 0, kTransmitente},
-    {G::ESCALERATR, 2, 20, "txtescaleratr", 0, kTransmitente},
-    {G::PISOTR, 2, 23, "txtpisotr", 0, kTransmitente},
-    {G::MANOTR, 3, 24, "txtmanotr", 0, kTransmitente},
-    {G::TIPODOMITR, 1, 8, "chktipodomitr", 0, kTransmitente},
-    {G::PAISTR, 20, 18, "txtpaistr", 0, kTransmitente},
-    {G::CODPROVTR, 2, 10, "txtcodprovtr", 0, kTransmitente},
-    {G::NOMPROVTR, 20, 15, "txtnomprovtr", 0, kTransmitente},
-    {G::CODPOSTR, 5, 25, "txtcodpostr", 0, kTransmitente},
-    {G::CODMUNTR, 3, 12, "txtcodmuntr", 0, kTransmitente},
-    {G::NOMMUNTR, 25, 14, "txtnommuntr", 0, kTransmitente},
+struct TextoGuardado {
+    Texto campo;
+    ColumnaTexto columna;
 };
 
-// The amounts of the save array, each with the label that names its field and the field.
-constexpr ColumnaImporte kImportes[] = {
-    {G::BASEI, 124, "txtbasei"},   {G::BASEIREDUCIDA, 325, "txtBaseIReducida"},
-    {G::TIPOIMP, 125, "txttipoimp"}, {G::CUOTA, 126, "txtcuota"},
-    {G::DEDUCCION, 127, "txtdeduccion"}, {G::TOTAL, 123, "txttotal"},
+// The texts of a return as the store keeps them (as given, blanks included): the width of each
+// column, the label that names its field and the field, on its tab for a party's. The widths
+// are those of the form's fields, but for the make and the type, whose boxes on the printed
+// form hold 20 characters (the form lets 15 be typed). The subject's province name is not
+// among them: it is never stored.
+const TextoGuardado kTextos[] = {
+    {&Declaracion::REFERENCIA, {0, 10, 114, "txtreferencia"}},
+    {&Declaracion::ADQUIRIDO, {0, 1, 104, "chkAdquirido"}},
+    {&Declaracion::MARCA, {0, 20, 120, "txtmarca"}},
+    {&Declaracion::TIPO, {0, 20, 118, "txttipo"}},
+    {&Declaracion::MODELO, {0, 20, 119, "txtmodelo"}},
+    {&Declaracion::BASTIDOR, {0, 17, 117, "txtbastidor"}},
+    {&Declaracion::MOTOR, {0, 1, 110, "optDiesel"}},
+    {&Declaracion::OPERACION, {0, 3, 122, "txtoperacion"}},
+    {&Declaracion::NOSUJETO, {0, 1, 113, "chknosujeto"}},
+    {&Declaracion::EXENTO, {0, 1, 105, "chkexento"}},
+    {&Declaracion::REDUCCION, {0, 1, 326, "chkReduccion1"}},
+    {&Declaracion::DNISP, {0, 9, 26, "txtdnisp", 0, kSujeto}},
+    {&Declaracion::NOMBRESP, {0, 40, 27, "txtnombresp", 0, kSujeto}},
+    {&Declaracion::VIASP, {0, 2, 13, "txtviasp", 0, kSujeto}},
+    {&Declaracion::DOMICILIOSP, {0, 20, 19, "txtdomiciliosp", 0, kSujeto}},
+    {&Declaracion::LETRASP, {0, 2, 21, "txtletrasp", 0, kSujeto}},
+    {&Declaracion::ESCALERASP, {0, 2, 20, "txtescalerasp", 0, kSujeto}},
+    {&Declaracion::PISOSP, {0, 2, 23, "txtpisosp", 0, kSujeto}},
+    {&Declaracion::MANOSP, {0, 3, 24, "txtmanosp", 0, kSujeto}},
+    {&Declaracion::CODPROVSP, {0, 2, 10, "txtcodprovsp", 0, kSujeto}},
+    {&Declaracion::CODPOSSP, {0, 5, 25, "txtcodpossp", 0, kSujeto}},
+    {&Declaracion::CODMUNSP, {0, 3, 12, "txtcodmunsp", 0, kSujeto}},
+    {&Declaracion::NOMMUNSP, {0, 25, 14, "txtnommunsp", 0, kSujeto}},
+    {&Declaracion::TIPODNITR, {0, 1, 9, "chktipodnitr", 0, kTransmitente}},
+    {&Declaracion::DNITR, {0, 9, 26, "txtdnitr", 0, kTransmitente}},
+    {&Declaracion::NOMBRETR, {0, 40, 27, "txtnombretr", 0, kTransmitente}},
+    {&Declaracion::VIATR, {0, 2, 13, "txtviatr", 0, kTransmitente}},
+    {&Declaracion::DOMICILIOTR, {0, 20, 19, "txtdomiciliotr", 0, kTransmitente}},
+    {&Declaracion::LETRATR, {0, 2, 21, "txtletratr", 0, kTransmitente}},
+    {&Declaracion::ESCALERATR, {0, 2, 20, "txtescaleratr", 0, kTransmitente}},
+    {&Declaracion::PISOTR, {0, 2, 23, "txtpisotr", 0, kTransmitente}},
+    {&Declaracion::MANOTR, {0, 3, 24, "txtmanotr", 0, kTransmitente}},
+    {&Declaracion::TIPODOMITR, {0, 1, 8, "chktipodomitr", 0, kTransmitente}},
+    {&Declaracion::PAISTR, {0, 20, 18, "txtpaistr", 0, kTransmitente}},
+    {&Declaracion::CODPROVTR, {0, 2, 10, "txtcodprovtr", 0, kTransmitente}},
+    {&Declaracion::NOMPROVTR, {0, 20, 15, "txtnomprovtr", 0, kTransmitente}},
+    {&Declaracion::CODPOSTR, {0, 5, 25, "txtcodpostr", 0, kTransmitente}},
+    {&Declaracion::CODMUNTR, {0, 3, 12, "txtcodmuntr", 0, kTransmitente}},
+    {&Declaracion::NOMMUNTR, {0, 25, 14, "txtnommuntr", 0, kTransmitente}},
 };
 
-[[noreturn]] void noCoincide(const Columna& c, const QVariant& v, const QString& o)
-{
-    // Failure 13, "type mismatch": a value of the array cannot become its column's type.
-    throw cFallo(13, o,
-                 QStringLiteral("No coinciden los tipos: %1 = '%2'")
-                     .arg(QLatin1String(c.nombre), v.toString()));
-}
+// The amounts, and the rate kept beside them, each with the label that names its field and
+// the field.
+struct NumeroGuardado {
+    double (*valor)(const Declaracion&);
+    ColumnaImporte columna;
+};
+const NumeroGuardado kImportes[] = {
+    {[](const Declaracion& d) { return d.BASEI.centimos(); }, {124, "txtbasei"}},
+    {[](const Declaracion& d) { return d.BASEIREDUCIDA.centimos(); }, {325, "txtBaseIReducida"}},
+    {[](const Declaracion& d) { return d.TIPOIMP; }, {125, "txttipoimp"}},
+    {[](const Declaracion& d) { return d.CUOTA.centimos(); }, {126, "txtcuota"}},
+    {[](const Declaracion& d) { return d.DEDUCCION.centimos(); }, {127, "txtdeduccion"}},
+    {[](const Declaracion& d) { return d.TOTAL.centimos(); }, {123, "txttotal"}},
+};
 
-// A number of the array: a number, a text that reads as one, or blanks (0).
-double numeroDe(const Columna& c, const QVariant& v, const QString& o)
+// What the store cannot keep of the return as given, or an empty verdict.
+Veredicto comprobar(const Declaracion& d)
 {
-    if (!v.isValid() || v.isNull())
-        return 0;
-    if (v.typeId() == QMetaType::QString) {
-        const QString t = v.toString().trimmed();
-        if (t.isEmpty())
-            return 0;
-        bool ok = false;
-        const double d = t.toDouble(&ok);
-        if (!ok)
-            noCoincide(c, v, o);
-        return d;
+    for (const TextoGuardado& t : kTextos) {
+        Veredicto v = ComprobarTexto(d.*t.campo, t.columna, Blancos::Conservados);
+        if (!v.vacio())
+            return v;
     }
-    bool ok = false;
-    const double d = v.toDouble(&ok);
-    if (!ok)
-        noCoincide(c, v, o);
-    return d;
-}
-
-qint64 enteroDe(const Columna& c, const QVariant& v, const QString& o)
-{
-    const double d = numeroDe(c, v, o);
-    // Not a number and the infinities have no integer (converting them would be undefined).
-    if (!std::isfinite(d) || d != static_cast<double>(static_cast<qint64>(d)) || d < -2147483648.0 || d > 2147483647.0)
-        noCoincide(c, v, o);
-    return static_cast<qint64>(d);
+    for (const NumeroGuardado& n : kImportes) {
+        Veredicto v = ComprobarImporte(n.valor(d), n.columna);
+        if (!v.vacio())
+            return v;
+    }
+    return {};
 }
 
 bool existe(const QSqlDatabase& db, const char* tabla, const char* clave, qint64 codigo,
@@ -171,172 +199,128 @@ bool existe(const QSqlDatabase& db, const char* tabla, const char* clave, qint64
         > 0;
 }
 
-// The value a party's code is stored as: NULL for none, or for a code that names no stored
-// party (the return then keeps only its own copy of the party's data).
-QVariant codigoDeParte(const QSqlDatabase& db, const Columna& c, qint64 codigo, const QString& o)
+// The value of one column as it is stored. A text is never NULL, an absent one being empty;
+// the subject's province name is always empty (the subject's address is national, its
+// province named by its code).
+QVariant valorGuardado(const QSqlDatabase& db, const Declaracion& d, const Columna& c,
+                       const QString& o)
 {
-    if (codigo <= 0)
-        return QVariant(QMetaType(QMetaType::LongLong));
-    const bool presentador = QLatin1String(c.nombre) == QLatin1String("CSPR");
-    const bool hay = presentador ? existe(db, "PRESENTADORES", "CSPR", codigo, o)
-                                 : existe(db, "CONTRIBUYENTES", "CSCO", codigo, o);
-    return hay ? QVariant(codigo) : QVariant(QMetaType(QMetaType::LongLong));
+    if (std::holds_alternative<Texto>(c.campo) && std::get<Texto>(c.campo) == &Declaracion::NOMPROVSP)
+        return QStringLiteral("");
+    return std::visit(
+        [&](const auto& campo) -> QVariant {
+            using T = std::decay_t<decltype(campo)>;
+            if constexpr (std::is_same_v<T, Texto>) {
+                const QString& t = d.*campo;
+                return t.isNull() ? QStringLiteral("") : t;
+            } else if constexpr (std::is_same_v<T, Cantidad>) {
+                return (d.*campo).centimos();
+            } else if constexpr (std::is_same_v<T, Parte>) {
+                const qint64 codigo = d.*campo.campo;
+                if (codigo > 0 && existe(db, campo.tabla, campo.clave, codigo, o))
+                    return codigo;
+                return QVariant(QMetaType(QMetaType::LongLong));
+            } else {
+                return qint64(d.*campo);
+            }
+        },
+        c.campo);
 }
 
-// A text of the array as it is stored: never NULL, an absent value being an empty text.
-QString textoNoNulo(const QVariant& v)
+// A stored value into its field of the return.
+void leerValor(Declaracion& d, const Columna& c, const QVariant& v)
 {
-    const QString t = v.toString();
-    return t.isNull() ? QStringLiteral("") : t;
+    std::visit(
+        [&](const auto& campo) {
+            using T = std::decay_t<decltype(campo)>;
+            if constexpr (std::is_same_v<T, Texto>)
+                d.*campo = v.isNull() ? QString() : v.toString();
+            else if constexpr (std::is_same_v<T, Cantidad>)
+                d.*campo = Importe(v.toDouble());
+            else if constexpr (std::is_same_v<T, Real>)
+                d.*campo = v.toDouble();
+            else if constexpr (std::is_same_v<T, Corto>)
+                d.*campo = static_cast<int16_t>(v.toLongLong());
+            else if constexpr (std::is_same_v<T, Entero>)
+                d.*campo = static_cast<int32_t>(v.toLongLong());
+            else
+                d.*campo.campo = static_cast<int32_t>(v.toLongLong());
+        },
+        c.campo);
 }
 
-// The values of the save array (all but the code) in the stored form, checked before
-// anything is written.
-QVariantList valoresGuardados(const QSqlDatabase& db, const Arreglo& datos, const QString& o)
+QStringList nombres(const QString& prefijo)
 {
-    if (datos.size() != cDeclaSvr::kValoresGuardar)
-        throw cFallo(9, o,
-                     QStringLiteral("La declaración debe tener %1 valores y tiene %2.")
-                         .arg(cDeclaSvr::kValoresGuardar)
-                         .arg(datos.size()));
-    QVariantList valores;
-    for (int i = PosGuardarDeclaracion::REFERENCIA; i < cDeclaSvr::kValoresGuardar; ++i) {
-        const Columna& c = kColumnas[i];
-        const QVariant& v = datos[i];
-        switch (c.clase) {
-        case Clase::Texto:
-            valores << textoNoNulo(v);
-            break;
-        case Clase::Entero:
-            valores << enteroDe(c, v, o);
-            break;
-        case Clase::Importe:
-            valores << numeroDe(c, v, o);
-            break;
-        case Clase::Parte:
-            valores << codigoDeParte(db, c, enteroDe(c, v, o), o);
-            break;
-        }
-    }
-    return valores;
+    QStringList columnas;
+    for (const Columna& c : kColumnas)
+        columnas << prefijo + QLatin1String(c.nombre);
+    return columnas;
 }
 
-QVariant valorCargado(const Columna& c, const QVariant& v)
-{
-    switch (c.clase) {
-    case Clase::Texto:
-        return v.isNull() ? QString() : v.toString();
-    case Clase::Entero:
-    case Clase::Parte:
-        return static_cast<int32_t>(v.toLongLong());
-    case Clase::Importe:
-        return v.toDouble();
-    }
-    return v;
-}
+// The columns of a contributor as a return takes it.
+const QString kColumnasContribuyente = QStringLiteral(
+    "CSCO, TIPODNI, DNIC, NOMBREC, VIAC, DOMICILIOC, NUMEROC, LETRAC, ESCALERAC, PISOC, MANOC, "
+    "TIPODOMI, PAIS, CODPROVC, NOMPROVC, CODPOSC, CODMUNC, NOMMUNC");
 
-Arreglo cargaVacia()
+// The contributor that the condition finds, with the returns that have it as subject.
+std::optional<Contribuyente> leerParte(const QSqlDatabase& db, const QString& condicion,
+                                       const QVariant& valor, const QString& o)
 {
-    Arreglo datos;
-    datos.resize(PosCargarDeclaracion::Tamano);
-    for (int i = 0; i < cDeclaSvr::kValoresGuardar; ++i)
-        datos[PosicionDeCarga(i)] = valorCargado(kColumnas[i], QVariant());
-    datos[PosCargarDeclaracion::DNIPR] = QString();
-    datos[PosCargarDeclaracion::NOMBREPR] = QString();
-    datos[PosCargarDeclaracion::DECLASP] = 0.0;
-    return datos;
-}
-
-// The columns of a contributor in the order of a party's array (PosContribuyente::TIPODNI to
-// NOMMUNC).
-const char* const kColumnasContribuyente[] = {
-    "TIPODNI", "DNIC", "NOMBREC", "VIAC", "DOMICILIOC", "NUMEROC", "LETRAC", "ESCALERAC", "PISOC",
-    "MANOC", "TIPODOMI", "PAIS", "CODPROVC", "NOMPROVC", "CODPOSC", "CODMUNC", "NOMMUNC",
-};
-static_assert(std::size(kColumnasContribuyente) == PosContribuyente::NOMMUNC);
-
-Arreglo parteVacia()
-{
-    Arreglo datos(cDeclaSvr::kValoresParte, QString());
-    datos[PosContribuyente::CSCO] = 0;
-    datos[PosContribuyente::NUMEROC] = 0;
-    datos[PosContribuyente::NUMSP] = 0.0;
-    return datos;
-}
-
-// The party's array of the contributor that the condition finds; false when none.
-bool leerParte(const QSqlDatabase& db, const QString& condicion, const QVariant& valor,
-               Arreglo& datos, const QString& o)
-{
-    QStringList columnas{QStringLiteral("CSCO")};
-    for (const char* c : kColumnasContribuyente)
-        columnas << QLatin1String(c);
     QSqlQuery q = Ejecutar(db,
                            QStringLiteral("SELECT %1 FROM CONTRIBUYENTES WHERE %2")
-                               .arg(columnas.join(QStringLiteral(", ")), condicion),
+                               .arg(kColumnasContribuyente, condicion),
                            {valor}, o);
-    if (!q.next()) {
-        datos = parteVacia();
-        return false;
-    }
-    // The query's columns stand at the positions of the party's array.
-    Arreglo parte(cDeclaSvr::kValoresParte);
-    const int32_t codigo = q.value(PosContribuyente::CSCO).toInt();
-    parte[PosContribuyente::CSCO] = codigo;
-    for (int i = PosContribuyente::TIPODNI; i <= PosContribuyente::NOMMUNC; ++i)
-        parte[i] = q.value(i).toString();
-    parte[PosContribuyente::NUMEROC] =
-        static_cast<int32_t>(q.value(PosContribuyente::NUMEROC).toLongLong());
-    parte[PosContribuyente::NUMSP] =
-        static_cast<double>(ContadoresPartes::ComoSujeto(db, codigo, o));
-    datos = std::move(parte);
-    return true;
+    if (!q.next())
+        return std::nullopt;
+    Contribuyente c;
+    int i = 0;
+    c.CSCO = q.value(i++).toInt();
+    for (QString* t : {&c.TIPODNI, &c.DNIC, &c.NOMBREC, &c.VIAC, &c.DOMICILIOC})
+        *t = q.value(i++).toString();
+    c.NUMEROC = static_cast<int32_t>(q.value(i++).toLongLong());
+    for (QString* t : {&c.LETRAC, &c.ESCALERAC, &c.PISOC, &c.MANOC, &c.TIPODOMI, &c.PAIS,
+                       &c.CODPROVC, &c.NOMPROVC, &c.CODPOSC, &c.CODMUNC, &c.NOMMUNC})
+        *t = q.value(i++).toString();
+    c.NUMSP = static_cast<double>(ContadoresPartes::ComoSujeto(db, c.CSCO, o));
+    return c;
 }
 
 }  // namespace
 
-int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo,
-                                      int64_t* version) const
+Resultado<Declaracion> cDeclaSvr::GuardarDeclaracion(const Declaracion& declaracion,
+                                                     ComprobarVersion comprobar) const
 {
     const QString o = origen("GuardarDeclaracion");
-    Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Conservados);
-    if (v.vacio())
-        v = ComprobarImportes(datos, kImportes);
-    if (!v.vacio()) {
-        if (rechazo)
-            *rechazo = std::move(v);
-        return 0;
-    }
+    if (Veredicto v = ::comprobar(declaracion); !v.vacio())
+        return v;
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
     Transaccion transaccion(db, o);
-    QVariantList valores = valoresGuardados(db, datos, o);
-    const qint64 codigo =
-        enteroDe(kColumnas[PosGuardarDeclaracion::CSDE], datos[PosGuardarDeclaracion::CSDE], o);
+    QVariantList valores;
+    for (const Columna& c : kColumnas)
+        valores << valorGuardado(db, declaracion, c, o);
+    const qint64 codigo = declaracion.CSDE;
     const qint64 grabacion =
         Escalar(db, QStringLiteral("SELECT COALESCE(MAX(GRABACION), 0) + 1 FROM DECLARACIONES"),
                 {}, o, 1)
             .toLongLong();
     const int64_t nueva = VersionFila::Nueva();
     valores << grabacion << qlonglong(nueva);
-    QStringList columnas;
-    for (int i = PosGuardarDeclaracion::REFERENCIA; i < kValoresGuardar; ++i)
-        columnas << QLatin1String(kColumnas[i].nombre);
-    columnas << QStringLiteral("GRABACION");
+    const QStringList columnas = nombres(QString()) + QStringList{QStringLiteral("GRABACION")};
 
     int32_t resultado = 0;
-    if (codigo > 0 && version) {
+    if (codigo > 0 && comprobar == ComprobarVersion::Si) {
         QVariantList conCodigo = valores;
-        conCodigo << codigo << qlonglong(*version);
+        conCodigo << codigo << qlonglong(declaracion.VERSION);
         const QSqlQuery q = Ejecutar(
             db, VersionFila::SqlActualizarVigente(QStringLiteral("DECLARACIONES"), columnas,
                                                   QStringLiteral("CSDE")),
             conCodigo, o);
-        if (q.numRowsAffected() == 0)
-            return VersionFila::Diagnostico(db, QStringLiteral("DECLARACIONES"),
-                                            QStringLiteral("CSDE"), codigo, o)
-                    == Vigencia::Cambiada
-                ? kCambiada
-                : kBorrada;
+        if (q.numRowsAffected() == 0) {
+            Veredicto rechazo;
+            rechazo.vigencia = VersionFila::Diagnostico(db, QStringLiteral("DECLARACIONES"),
+                                                        QStringLiteral("CSDE"), codigo, o);
+            return rechazo;
+        }
         resultado = static_cast<int32_t>(codigo);
     } else if (codigo > 0) {
         QStringList asignaciones;
@@ -352,8 +336,8 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo,
             resultado = static_cast<int32_t>(codigo);
     }
     if (resultado == 0) {
-        // A new return, or (saved without a version) one whose row was deleted meanwhile: it
-        // gets a new row.
+        // A new return, or (saved without its version) one whose row was deleted meanwhile:
+        // it gets a new row.
         QStringList marcas;
         for (qsizetype i = 0; i < valores.size(); ++i)
             marcas << QStringLiteral("?");
@@ -365,43 +349,37 @@ int32_t cDeclaSvr::GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo,
         resultado = q.lastInsertId().toInt();
     }
     transaccion.confirmar();
-    if (version)
-        *version = nueva;
-    return resultado;
+    Declaracion guardada = declaracion;
+    guardada.CSDE = resultado;
+    guardada.VERSION = nueva;
+    return guardada;
 }
 
-void cDeclaSvr::CargarDeclaracion(int32_t csde, Arreglo& datos, int64_t* version) const
+std::optional<Declaracion> cDeclaSvr::CargarDeclaracion(int32_t csde) const
 {
     const QString o = origen("CargarDeclaracion");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
-    QStringList columnas;
-    for (const Columna& c : kColumnas)
-        columnas << QStringLiteral("d.") + QLatin1String(c.nombre);
     QSqlQuery q = Ejecutar(db,
                            QStringLiteral("SELECT %1, p.DNIP, p.NOMBREP, d.%2 FROM DECLARACIONES d "
                                           "LEFT JOIN PRESENTADORES p ON p.CSPR = d.CSPR "
                                           "WHERE d.CSDE = ?")
-                               .arg(columnas.join(QStringLiteral(", ")), VersionFila::kColumna),
+                               .arg(nombres(QStringLiteral("d.")).join(QStringLiteral(", ")),
+                                    VersionFila::kColumna),
                            {csde}, o);
-    if (version)
-        *version = 0;
-    if (!q.next()) {
-        datos = cargaVacia();
-        return;
-    }
-    if (version)
-        *version = q.value(kValoresGuardar + 2).toLongLong();
-    Arreglo carga(kValoresCargar);
-    for (int i = 0; i < kValoresGuardar; ++i)
-        carga[PosicionDeCarga(i)] = valorCargado(kColumnas[i], q.value(i));
-    carga[PosCargarDeclaracion::DNIPR] = q.value(kValoresGuardar).toString();
-    carga[PosCargarDeclaracion::NOMBREPR] = q.value(kValoresGuardar + 1).toString();
+    if (!q.next())
+        return std::nullopt;
+    Declaracion d;
+    d.CSDE = csde;
+    int i = 0;
+    for (const Columna& c : kColumnas)
+        leerValor(d, c, q.value(i++));
+    d.DNIPR = q.value(i++).toString();
+    d.NOMBREPR = q.value(i++).toString();
+    d.VERSION = q.value(i++).toLongLong();
     // How many returns have this return's transmitter as their subject: the declaration form
     // keeps such a transmitter official and national.
-    const int32_t cstra = carga[PosCargarDeclaracion::CSTRA].toInt();
-    carga[PosCargarDeclaracion::DECLASP] =
-        static_cast<double>(ContadoresPartes::ComoSujeto(db, cstra, o));
-    datos = std::move(carga);
+    d.DECLASP = static_cast<double>(ContadoresPartes::ComoSujeto(db, d.CSTRA, o));
+    return d;
 }
 
 bool cDeclaSvr::BorrarDeclaracion(int32_t csde) const
@@ -416,7 +394,7 @@ bool cDeclaSvr::BorrarDeclaracion(int32_t csde) const
     return borrada;
 }
 
-void cDeclaSvr::ObtenerUltimasDeclaraciones(Arreglo2D& lista) const
+QList<UltimaDeclaracion> cDeclaSvr::ObtenerUltimasDeclaraciones() const
 {
     const QString o = origen("ObtenerUltimasDeclaraciones");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
@@ -424,34 +402,30 @@ void cDeclaSvr::ObtenerUltimasDeclaraciones(Arreglo2D& lista) const
                            QStringLiteral("SELECT CSDE, REFERENCIA, NOMBRESP FROM DECLARACIONES "
                                           "ORDER BY GRABACION DESC, CSDE DESC LIMIT 4"),
                            {}, o);
-    Arreglo2D ultimas;
+    QList<UltimaDeclaracion> ultimas;
     while (q.next()) {
         const QString referencia = q.value(1).toString().trimmed();
         ultimas.append({q.value(0).toInt(),
                         referencia.isEmpty() ? q.value(2).toString().trimmed() : referencia});
     }
-    lista = std::move(ultimas);
+    return ultimas;
 }
 
-bool cDeclaSvr::ExisteContribuyente(const QString& dni, Arreglo& datos) const
+std::optional<Contribuyente> cDeclaSvr::ExisteContribuyente(const QString& dni) const
 {
     const QString o = origen("ExisteContribuyente");
     const QString limpio = dni.trimmed();
-    if (limpio.isEmpty()) {
-        datos = parteVacia();
-        return false;
-    }
+    if (limpio.isEmpty())
+        return std::nullopt;
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
-    return leerParte(db, QStringLiteral("DNIC = ?"), limpio, datos, o);
+    return leerParte(db, QStringLiteral("DNIC = ?"), limpio, o);
 }
 
-void cDeclaSvr::CargarContribuyente(int32_t codigo, Arreglo& datos) const
+std::optional<Contribuyente> cDeclaSvr::CargarContribuyente(int32_t codigo) const
 {
     const QString o = origen("CargarContribuyente");
-    if (codigo <= 0) {
-        datos = parteVacia();
-        return;
-    }
+    if (codigo <= 0)
+        return std::nullopt;
     const QSqlDatabase db = Conexion::Modificable(mdbmod, o);
-    leerParte(db, QStringLiteral("CSCO = ?"), codigo, datos, o);
+    return leerParte(db, QStringLiteral("CSCO = ?"), codigo, o);
 }

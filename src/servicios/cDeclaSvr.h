@@ -3,82 +3,127 @@
 // form 747 (T11_OPERACIONES in the reference database), with the whole-return validation.
 // Set mdbmod and/or mdblec before each call; nothing is kept open between calls that the next
 // call relies on. Failures of the stores are raised as cFallo with the operation as source.
-#include "servicios/Arreglos.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesDeclaracion.h"
+#include "valores/Contribuyente.h"
+#include "valores/CriteriosDeclaracion.h"
+#include "valores/Declaracion.h"
+#include "valores/FilaDeclaracion.h"
+#include "valores/Resultado.h"
 #include "valores/Veredicto.h"
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <cstdint>
+#include <optional>
+
+// One of the last saved returns, as the main window offers them.
+struct UltimaDeclaracion {
+    int32_t CSDE = 0;
+    QString descripcion;  // the reference, or the subject's name when it has none
+};
+
+// Whether a save of a stored return writes only over the version it loaded (the program's
+// saves), or over whatever the row holds (a return made outside any panel).
+enum class ComprobarVersion { Si, No };
+
+// An operation of form 747 as it applies on a date.
+struct DatosOperacion {
+    QString descripcion;   // in the language asked for
+    QString impresion;     // the print key
+    QString nosujeto;      // "X" not subject
+    QString exento;        // "X" exempt
+    double tipo = 0;       // the rate; 99.99 the rate without fixed value
+    double tipoMinimo = 0;  // the limits of a typed rate
+    double tipoMaximo = 0;
+    double deduccion = 0;  // in whole cents
+};
+
+// What the whole-return validation judges: the return's fields as the form holds them (the
+// province codes with two digits, a national postal code with five), with the operation's
+// rate and the limits of a typed one.
+struct DatosValidacion {
+    QString MARCA;
+    QString MODELO;
+    QString TIPO;
+    QString BASTIDOR;
+    double CLASIFICACION = 0;
+    double CILINDRADA = 0;
+    QString OPERACION;
+    double BASEI = 0;        // whole cents
+    double TIPOIMP = 0;      // the rate of the return
+    double TASA = 0;         // the operation's rate; 0 when the rate is not the declarant's
+    double TASAMINIMA = 0;   // the limits of a typed rate
+    double TASAMAXIMA = 0;
+    QString DNISP;
+    QString NOMBRESP;
+    QString VIASP;
+    QString DOMICILIOSP;
+    QString CODPROVSP;
+    QString CODPOSSP;
+    QString CODMUNSP;
+    QString NOMMUNSP;
+    QString TIPODNITR;
+    QString DNITR;
+    QString NOMBRETR;
+    QString VIATR;
+    QString DOMICILIOTR;
+    QString TIPODOMITR;
+    QString PAISTR;
+    QString CODPROVTR;
+    QString NOMPROVTR;
+    QString CODPOSTR;
+    QString CODMUNTR;
+    QString NOMMUNTR;
+    QString MOTOR;
+};
 
 class cDeclaSvr {
 public:
     QString mdbmod;
     QString mdblec;
 
-    // Number of values of the save array and of the load array (PosicionesDeclaracion.h).
-    static constexpr int kValoresGuardar = PosGuardarDeclaracion::Tamano;
-    static constexpr int kValoresCargar = PosCargarDeclaracion::Tamano;
-    // Number of values of the validation array and of a party's array (a contributor's array
-    // up to the returns that have the party as subject).
-    static constexpr int kValoresValidar = 33;
-    static constexpr int kValoresParte = PosContribuyente::NUMSP + 1;
     // Highest rule number of ValidarDatosDeclaraciones.
     static constexpr int kUltimaRegla = 40;
 
-    // What GuardarDeclaracion answers, instead of a code, for a return whose row is no longer
-    // the version loaded: saved again since, or deleted.
-    static constexpr int32_t kCambiada = -1;
-    static constexpr int32_t kBorrada = -2;
-
     // --- Returns -------------------------------------------------------------------------
-    // Stores the 55-value save array: a new row when its value 0 (the code) is 0, else the row
-    // of that code.
-    // `version` is the version the caller loaded (VersionFila.h): the row of the code is
-    // rewritten only while it still has that version, and otherwise nothing is written and the
-    // answer is kCambiada (saved again since) or kBorrada (deleted since); a save puts the
-    // row's new version there. Without it the row is rewritten whatever it holds, and a code
-    // that names no row any more makes a new row. Party codes that name no stored
-    // contributor or presenter are kept as 0 (the return keeps its own copy of the party).
-    // The counters of the parties named before and after follow in the same transaction.
-    // Answers the code of the row. A text that the store cannot keep as given (a control
-    // character, a broken character, a text longer than its field) answers 0 and writes
-    // nothing; `rechazo`, when given, receives the message and the field. An array of another
-    // size or with a number that is not a number raises cFallo and writes nothing.
-    int32_t GuardarDeclaracion(const Arreglo& datos, Veredicto* rechazo = nullptr,
-                               int64_t* version = nullptr) const;
-    // Fills `datos` with the 58-value load array of the return `csde` (0 the code, then the
-    // save array's values with the presenter's number and name at 24 and 25, and at 57 the
-    // number of returns whose subject is this return's transmitter). An unknown code leaves
-    // an array of empty values with code 0. `version`, when given, receives the version of the
-    // row, 0 when there is none.
-    void CargarDeclaracion(int32_t csde, Arreglo& datos, int64_t* version = nullptr) const;
+    // Stores the return: a new row when its CSDE is 0, else the row of that code.
+    // Checking the version, the row of the code is rewritten only while it still has the
+    // VERSION the return was loaded with (VersionFila.h); otherwise nothing is written and the
+    // answer is a refusal without a message whose `vigencia` says Cambiada (saved again since)
+    // or Borrada (deleted since). Without the check the row is rewritten whatever it holds, and
+    // a code that names no row any more makes a new row. Party codes
+    // that name no stored contributor or presenter are kept as 0 (the return keeps its own copy
+    // of the party). The counters of the parties named before and after follow in the same
+    // transaction. The subject's province name is never stored (the subject's address is
+    // national). A text that the store cannot keep as given (a control character, a broken
+    // character, a text longer than its field) or an amount that is not a finite number is
+    // refused with the message and the field, and nothing is written. The accepted answer is
+    // the return as stored: its code and its row's new version.
+    Resultado<Declaracion> GuardarDeclaracion(
+        const Declaracion& declaracion, ComprobarVersion comprobar = ComprobarVersion::Si) const;
+    // The return `csde`, with the presenter's number and name read from the presenter's row,
+    // the number of returns whose subject is this return's transmitter in DECLASP, and the
+    // version of its row; nothing for an unknown code.
+    std::optional<Declaracion> CargarDeclaracion(int32_t csde) const;
     // Removes the row and lowers the counters of its parties; false when there was none.
     bool BorrarDeclaracion(int32_t csde) const;
-    // The last saved returns, the most recent first, at most four: lista[i][0] the code,
-    // lista[i][1] its description (the reference, or the subject's name when it has none).
-    void ObtenerUltimasDeclaraciones(Arreglo2D& lista) const;
+    // The last saved returns, the most recent first, at most four.
+    QList<UltimaDeclaracion> ObtenerUltimasDeclaraciones() const;
 
     // --- Parties, as the return takes them -------------------------------------------------
-    // The contributor with this number, as a 19-value party array: (0) code, (1) type of
-    // number, (2) number, (3) name, (4) street type, (5) street, (6) house number, (7) letter,
-    // (8) staircase, (9) floor, (10) door, (11) type of address, (12) country, (13) province
-    // code, (14) province name, (15) postal code, (16) municipality code, (17) municipality
-    // name, (18) returns in which it is the subject. For an unknown number the array clears a
-    // party: code 0, empty texts, zero numbers; the answer is then false.
-    bool ExisteContribuyente(const QString& dni, Arreglo& datos) const;
-    // The same array for a contributor's code (cleared for an unknown code).
-    void CargarContribuyente(int32_t codigo, Arreglo& datos) const;
+    // The contributor with this number, with NUMSP (returns in which it is the subject)
+    // counted; nothing for an unknown number.
+    std::optional<Contribuyente> ExisteContribuyente(const QString& dni) const;
+    // The same for a contributor's code.
+    std::optional<Contribuyente> CargarContribuyente(int32_t codigo) const;
 
     // --- Operations (mdblec) ---------------------------------------------------------------
     // The descriptions of the operations that apply on `fechad`, in the language of the offset.
-    void ObtenerOperaciones(int32_t fechad, Arreglo& lista, int16_t offsetIdioma) const;
-    // The eight values of an operation on a date: description, print key, not-subject mark,
-    // exempt mark, rate, lowest and highest rate, deduction. False when the code does not
-    // apply on that date (`datos` is then emptied).
-    bool ObtenerDatosOperacion(const QString& operacion, int32_t fechad, Arreglo& datos,
-                               int16_t offsetIdioma) const;
+    QStringList ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) const;
+    // The operation `operacion` on a date; nothing when the code does not apply on that date.
+    std::optional<DatosOperacion> ObtenerDatosOperacion(const QString& operacion, int32_t fechad,
+                                                        int16_t offsetIdioma) const;
     // The code of the operation with this description on the date; empty when none.
     QString DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
                                         int16_t offsetIdioma) const;
@@ -86,29 +131,34 @@ public:
     QString ObtenImpresion(int32_t fechad, const QString& codigo) const;
 
     // --- Validation ------------------------------------------------------------------------
-    // The number of the first rule (1 to 40) that the 33-value validation array breaks, 0 when
-    // none. `impresion` is the print key of the operation on `fechad` (ObtenImpresion): empty
-    // when the operation does not apply on that date. Needs no database.
-    int16_t ValidarDatosDeclaraciones(const Arreglo& datos, const QString& impresion,
-                                      int32_t fechad) const;
+    // Accepted when the return keeps every rule; otherwise the verdict of the first rule (1 to
+    // 40) it breaks (VeredictoRegla). `impresion` is the print key of the operation on
+    // `fechad` (ObtenImpresion): empty when the operation does not apply on that date. Needs
+    // no database.
+    Resultado<void> ValidarDatosDeclaraciones(const DatosValidacion& datos,
+                                              const QString& impresion, int32_t fechad) const;
+    // The verdict of rule `regla`: its message (for rule 9 the start of it, the limits to be
+    // added; for rule 39 the start, the operation and id 357 to be added), information icon,
+    // the control to focus and its tab. Empty for a number outside 1 to 40.
+    static Veredicto VeredictoRegla(int regla);
 
     // --- Lists (mdbmod and mdblec) ----------------------------------------------------------
-    // Criteria: five slots, (0) lowest code, (1) start of the reference, (2) lowest date of
-    // accrual yyyymmdd, (3) lowest total in euros as shown ("1.234,50" or a number), (4) start
-    // of the operation code; 0 or empty for no condition. `orden` 1 to 5 orders by code,
-    // reference, date, total or operation, `tipoOrden` "ASC" or "DESC".
-    // The result is indexed [column][row]: (0) code, (1) reference, (2) date yyyymmdd,
-    // (3) total in cents, (4) operation, (5) its description on the date of accrual.
-    // Answers the number of rows.
-    int32_t dameResultadoBusqueda(Arreglo2D& resultado, const Arreglo& criterios, uint8_t orden,
-                                  const QString& tipoOrden, int16_t offsetIdioma) const;
-    // The returns of one contributor, with a seventh column (6): "S" when it is the subject,
-    // "T" the transmitter, "S-T" both.
-    int32_t dameDeclaracionesContribuyente(const Arreglo& criterios, Arreglo2D& resultado,
-                                           int32_t csco, uint8_t orden, const QString& tipoOrden,
-                                           int16_t offsetIdioma) const;
-    // The returns handed in by one presenter (six columns).
-    int32_t dameDeclaracionesPresentador(const Arreglo& criterios, Arreglo2D& resultado,
-                                         int32_t cspr, uint8_t orden, const QString& tipoOrden,
-                                         int16_t offsetIdioma) const;
+    // The returns that meet `condiciones`, each with its code, reference, date, total,
+    // operation and the operation's description on its date of accrual in the language of the
+    // offset. `orden` 1 to 5 orders by code, reference, date, total or operation, `tipoOrden`
+    // "ASC" or "DESC"; the code breaks ties.
+    QList<FilaDeclaracion> dameResultadoBusqueda(const CondicionesDeclaracion& condiciones,
+                                                 uint8_t orden, const QString& tipoOrden,
+                                                 int16_t offsetIdioma) const;
+    // The returns of one contributor, each with PARTE: "S" when it is the subject, "T" the
+    // transmitter, "S-T" both.
+    QList<FilaDeclaracion> dameDeclaracionesContribuyente(const CondicionesDeclaracion& condiciones,
+                                                          int32_t csco, uint8_t orden,
+                                                          const QString& tipoOrden,
+                                                          int16_t offsetIdioma) const;
+    // The returns handed in by one presenter.
+    QList<FilaDeclaracion> dameDeclaracionesPresentador(const CondicionesDeclaracion& condiciones,
+                                                        int32_t cspr, uint8_t orden,
+                                                        const QString& tipoOrden,
+                                                        int16_t offsetIdioma) const;
 };

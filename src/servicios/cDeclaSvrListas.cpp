@@ -22,34 +22,13 @@ QString origen(const char* operacion)
     return QStringLiteral("svrveldoV1.cDeclaSvr.") + QLatin1String(operacion);
 }
 
-enum Criterio { cCodigo = 0, cReferencia, cFecha, cTotal, cOperacion };
-
-bool esTexto(const QVariant& v)
+// The total as the list shows it (euros, the Spanish way: "1.234,50"), in cents; 0 when it is
+// no amount.
+double centimos(const QString& texto)
 {
-    return v.typeId() == QMetaType::QString;
-}
-
-// A numeric criterion: a number, or a text that holds one; 0 when absent.
-double numero(const QVariant& v)
-{
-    if (!v.isValid() || v.isNull())
-        return 0;
-    if (esTexto(v))
-        return Val(v.toString());
-    return v.toDouble();
-}
-
-// The total as the list shows it (euros, the Spanish way: "1.234,50"), in cents.
-double centimos(const QVariant& v)
-{
-    if (!v.isValid() || v.isNull())
-        return 0;
-    if (esTexto(v)) {
-        bool ok = false;
-        const double euros = NumeroDeTexto(v.toString(), &ok);
-        return ok ? euros * 100 : 0;
-    }
-    return v.toDouble() * 100;
+    bool ok = false;
+    const double euros = NumeroDeTexto(texto, &ok);
+    return ok ? euros * 100 : 0;
 }
 
 struct Filtro {
@@ -75,29 +54,20 @@ struct Filtro {
     }
 };
 
-// A start-of-text criterion; a number 0 in its slot is no criterion.
-QString textoCriterio(const QVariant& v)
+void aplicarCriterios(const CondicionesDeclaracion& c, Filtro& f)
 {
-    if (!v.isValid() || v.isNull() || (!esTexto(v) && v.toDouble() == 0))
-        return QString();
-    return v.toString().trimmed().toUpper();
-}
-
-void aplicarCriterios(const Arreglo& criterios, Filtro& f)
-{
-    const double codigo = numero(criterios.value(cCodigo));
+    const double codigo = Val(c.CSDE);
     if (codigo != 0)
         f.agregar(QStringLiteral("d.CSDE >= ?"), {codigo});
-    const QString referencia = textoCriterio(criterios.value(cReferencia));
+    const QString referencia = c.REFERENCIA.trimmed().toUpper();
     if (!referencia.isEmpty())
         f.prefijo("REFERENCIA", referencia);
-    const double fecha = numero(criterios.value(cFecha));
-    if (fecha != 0)
-        f.agregar(QStringLiteral("d.FECHAD >= ?"), {fecha});
-    const double total = centimos(criterios.value(cTotal));
+    if (c.FECHAD != 0)
+        f.agregar(QStringLiteral("d.FECHAD >= ?"), {double(c.FECHAD)});
+    const double total = centimos(c.TOTAL);
     if (total != 0)
         f.agregar(QStringLiteral("d.TOTAL >= ?"), {total});
-    const QString operacion = textoCriterio(criterios.value(cOperacion));
+    const QString operacion = c.OPERACION.trimmed().toUpper();
     if (!operacion.isEmpty())
         f.prefijo("OPERACION", operacion);
 }
@@ -131,8 +101,8 @@ struct Busqueda {
     int32_t contribuyente = 0;  // with a code, the seventh column S-T is added
 };
 
-int32_t buscar(const cDeclaSvr& svr, Arreglo2D& resultado, const Busqueda& b, uint8_t orden,
-               const QString& tipoOrden, int16_t offsetIdioma, const QString& o)
+QList<FilaDeclaracion> buscar(const cDeclaSvr& svr, const Busqueda& b, uint8_t orden,
+                              const QString& tipoOrden, int16_t offsetIdioma, const QString& o)
 {
     const TablaOperaciones operaciones(svr.mdblec, o);
     const QSqlDatabase db = Conexion::Modificable(svr.mdbmod, o);
@@ -146,62 +116,54 @@ int32_t buscar(const cDeclaSvr& svr, Arreglo2D& resultado, const Busqueda& b, ui
                                                  : QString())
                                + b.filtro.where() + ordenSql(orden, tipoOrden),
                            b.filtro.valores, o);
-    Arreglo2D filas(conParte ? 7 : 6);
+    QList<FilaDeclaracion> filas;
     while (q.next()) {
-        const int32_t fecha = q.value(2).toInt();
-        const QString operacion = q.value(4).toString();
-        filas[0].append(q.value(0).toInt());
-        filas[1].append(q.value(1).toString());
-        filas[2].append(fecha);
-        filas[3].append(q.value(3).toDouble());
-        filas[4].append(operacion);
-        filas[5].append(operaciones.Descripcion(operacion, fecha, offsetIdioma));
+        FilaDeclaracion f;
+        f.CSDE = q.value(0).toInt();
+        f.REFERENCIA = q.value(1).toString();
+        f.FECHAD = q.value(2).toInt();
+        f.TOTAL = Importe(q.value(3).toDouble());
+        f.OPERACION = q.value(4).toString();
+        f.DESCRIPCION = operaciones.Descripcion(f.OPERACION, f.FECHAD, offsetIdioma);
         if (conParte)
-            filas[6].append(sujetoTransmitente(b.contribuyente, q.value(5).toInt(),
-                                               q.value(6).toInt()));
+            f.PARTE = sujetoTransmitente(b.contribuyente, q.value(5).toInt(), q.value(6).toInt());
+        filas.append(std::move(f));
     }
-    const auto cuenta = static_cast<int32_t>(filas[0].size());
-    resultado = std::move(filas);
-    return cuenta;
+    return filas;
 }
 
 }  // namespace
 
-int32_t cDeclaSvr::dameResultadoBusqueda(Arreglo2D& resultado, const Arreglo& criterios,
-                                         uint8_t orden, const QString& tipoOrden,
-                                         int16_t offsetIdioma) const
+QList<FilaDeclaracion> cDeclaSvr::dameResultadoBusqueda(const CondicionesDeclaracion& condiciones,
+                                                       uint8_t orden, const QString& tipoOrden,
+                                                       int16_t offsetIdioma) const
 {
     Busqueda b;
-    aplicarCriterios(criterios, b.filtro);
-    return buscar(*this, resultado, b, orden, tipoOrden, offsetIdioma,
-                  origen("dameResultadoBusqueda"));
+    aplicarCriterios(condiciones, b.filtro);
+    return buscar(*this, b, orden, tipoOrden, offsetIdioma, origen("dameResultadoBusqueda"));
 }
 
-int32_t cDeclaSvr::dameDeclaracionesContribuyente(const Arreglo& criterios, Arreglo2D& resultado,
-                                                  int32_t csco, uint8_t orden,
-                                                  const QString& tipoOrden,
-                                                  int16_t offsetIdioma) const
+QList<FilaDeclaracion> cDeclaSvr::dameDeclaracionesContribuyente(
+    const CondicionesDeclaracion& condiciones, int32_t csco, uint8_t orden,
+    const QString& tipoOrden, int16_t offsetIdioma) const
 {
+    if (csco == 0)  // 0 is no contributor: no return is its
+        return {};
     Busqueda b;
     b.filtro.agregar(QStringLiteral("(d.CSSU = ? OR d.CSTRA = ?)"), {csco, csco});
     b.contribuyente = csco;
-    aplicarCriterios(criterios, b.filtro);
-    if (csco == 0) {  // 0 is no contributor: no return is its
-        resultado = Arreglo2D(7);
-        return 0;
-    }
-    return buscar(*this, resultado, b, orden, tipoOrden, offsetIdioma,
+    aplicarCriterios(condiciones, b.filtro);
+    return buscar(*this, b, orden, tipoOrden, offsetIdioma,
                   origen("dameDeclaracionesContribuyente"));
 }
 
-int32_t cDeclaSvr::dameDeclaracionesPresentador(const Arreglo& criterios, Arreglo2D& resultado,
-                                                int32_t cspr, uint8_t orden,
-                                                const QString& tipoOrden,
-                                                int16_t offsetIdioma) const
+QList<FilaDeclaracion> cDeclaSvr::dameDeclaracionesPresentador(
+    const CondicionesDeclaracion& condiciones, int32_t cspr, uint8_t orden,
+    const QString& tipoOrden, int16_t offsetIdioma) const
 {
     Busqueda b;
     b.filtro.agregar(QStringLiteral("d.CSPR = ?"), {cspr});
-    aplicarCriterios(criterios, b.filtro);
-    return buscar(*this, resultado, b, orden, tipoOrden, offsetIdioma,
+    aplicarCriterios(condiciones, b.filtro);
+    return buscar(*this, b, orden, tipoOrden, offsetIdioma,
                   origen("dameDeclaracionesPresentador"));
 }

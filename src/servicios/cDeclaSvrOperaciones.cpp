@@ -44,7 +44,7 @@ QString TablaOperaciones::Descripcion(const QString& codigo, int32_t fechad,
     return QString();
 }
 
-void cDeclaSvr::ObtenerOperaciones(int32_t fechad, Arreglo& lista, int16_t offsetIdioma) const
+QStringList cDeclaSvr::ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) const
 {
     const QString o = origen("ObtenerOperaciones");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -54,14 +54,15 @@ void cDeclaSvr::ObtenerOperaciones(int32_t fechad, Arreglo& lista, int16_t offse
                                           "ORDER BY T11_ID")
                                .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
                            {fechad, fechad}, o);
-    Arreglo descripciones;
+    QStringList descripciones;
     while (q.next())
         descripciones.append(q.value(0).toString());
-    lista = std::move(descripciones);
+    return descripciones;
 }
 
-bool cDeclaSvr::ObtenerDatosOperacion(const QString& operacion, int32_t fechad, Arreglo& datos,
-                                      int16_t offsetIdioma) const
+std::optional<DatosOperacion> cDeclaSvr::ObtenerDatosOperacion(const QString& operacion,
+                                                               int32_t fechad,
+                                                               int16_t offsetIdioma) const
 {
     const QString o = origen("ObtenerDatosOperacion");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -73,17 +74,18 @@ bool cDeclaSvr::ObtenerDatosOperacion(const QString& operacion, int32_t fechad, 
                        "ORDER BY T11_ID LIMIT 1")
             .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
         {operacion.trimmed(), fechad, fechad}, o);
-    if (!q.next()) {
-        datos.clear();
-        return false;
-    }
-    Arreglo fila;
-    for (int i = 0; i < 4; ++i)
-        fila.append(q.value(i).toString());
-    for (int i = 4; i < 8; ++i)
-        fila.append(q.value(i).toDouble());
-    datos = std::move(fila);
-    return true;
+    if (!q.next())
+        return std::nullopt;
+    DatosOperacion d;
+    d.descripcion = q.value(0).toString();
+    d.impresion = q.value(1).toString();
+    d.nosujeto = q.value(2).toString();
+    d.exento = q.value(3).toString();
+    d.tipo = q.value(4).toDouble();
+    d.tipoMinimo = q.value(5).toDouble();
+    d.tipoMaximo = q.value(6).toDouble();
+    d.deduccion = q.value(7).toDouble();
+    return d;
 }
 
 QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,

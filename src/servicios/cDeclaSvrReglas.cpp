@@ -30,22 +30,72 @@
 //  37    the subject's number given
 #include "servicios/cDeclaSvr.h"
 
+#include "catalogo/Catalogo.h"
 #include "valores/Val.h"
 #include "servicios/ValidarDniOficial.h"
 
 #include <QStringList>
+#include <array>
 #include <bit>
 #include <cstdint>
 
 namespace {
 
-// Indexes of the validation array.
-enum Indice {
-    iMarca = 0, iModelo, iTipo, iBastidor, iClasificacion, iCilindrada, iOperacion, iBaseI,
-    iTipoImp, iTasa, iTasaMin, iTasaMax, iDniSp, iNombreSp, iViaSp, iDomicilioSp, iCodProvSp,
-    iCodPosSp, iCodMunSp, iNomMunSp, iTipoDniTr, iDniTr, iNombreTr, iViaTr, iDomicilioTr,
-    iTipoDomiTr, iPaisTr, iCodProvTr, iNomProvTr, iCodPosTr, iCodMunTr, iNomMunTr, iMotor,
+// The tabs of the declaration form that hold the parties, and none.
+constexpr int kNinguna = kSinPestana;
+constexpr int kSujeto = 0;
+constexpr int kTransmitente = 1;
+
+struct Regla {
+    int id;  // catalogue id of the message
+    const char* control;
+    int pestana;
 };
+
+// Rule number n is entry n - 1. The messages of rules 9 and 39 are completed by whoever shows
+// them (the operation's limits, the operation's text).
+constexpr std::array<Regla, cDeclaSvr::kUltimaRegla> kReglas{{
+    {132, "txtmarca", kNinguna},          // 1
+    {133, "txtmodelo", kNinguna},         // 2
+    {134, "txttipo", kNinguna},           // 3
+    {135, "txtbastidor", kNinguna},       // 4
+    {136, "txtclasificacion", kNinguna},  // 5
+    {137, "txtcilindrada", kNinguna},     // 6
+    {138, "txtoperacion", kNinguna},      // 7
+    {139, "txtbasei", kNinguna},          // 8
+    {140, "txttipoimp", kNinguna},        // 9, with 141
+    {330, "txtdnisp", kSujeto},           // 10
+    {143, "txtnombresp", kSujeto},        // 11
+    {144, "txtviasp", kSujeto},           // 12
+    {145, "txtdomiciliosp", kSujeto},     // 13
+    {146, "txtcodmunsp", kSujeto},        // 14
+    {147, "txtnommunsp", kSujeto},        // 15
+    {148, "txtcodpossp", kSujeto},        // 16
+    {149, "txtcodpossp", kSujeto},        // 17
+    {150, "txtcodpossp", kSujeto},        // 18
+    {151, "txtdnitr", kTransmitente},     // 19
+    {152, "txtdnitr", kTransmitente},     // 20
+    {153, "txtnombretr", kTransmitente},  // 21
+    {154, "txtviatr", kTransmitente},     // 22
+    {155, "txtdomiciliotr", kTransmitente},  // 23
+    {156, "txtpaistr", kTransmitente},    // 24
+    {157, "txtcodpostr", kTransmitente},  // 25
+    {158, "txtcodpostr", kTransmitente},  // 26
+    {159, "txtcodpostr", kTransmitente},  // 27
+    {160, "txtcodpostr", kTransmitente},  // 28
+    {161, "txtnomprovtr", kTransmitente},  // 29
+    {162, "txtnommuntr", kTransmitente},  // 30
+    {163, "txtcodprovtr", kTransmitente},  // 31
+    {164, "txtcodmuntr", kTransmitente},  // 32
+    {283, "txtcilindrada", kNinguna},     // 33
+    {284, "txtcilindrada", kNinguna},     // 34
+    {281, "txtcilindrada", kNinguna},     // 35
+    {282, "txtcilindrada", kNinguna},     // 36
+    {323, "txtdnisp", kSujeto},           // 37
+    {324, "txtoperacion", kNinguna},      // 38
+    {356, "txtoperacion", kNinguna},      // 39, with the operation and 357
+    {362, "txtoperacion", kNinguna},      // 40
+}};
 
 // The rate with no fixed value, recognised by its bits as everywhere in the program.
 bool esTasaLibre(double tasa)
@@ -60,50 +110,40 @@ constexpr int kProvinciaPropia = 77;
 
 class Revision {
 public:
-    Revision(const Arreglo& datos, const QString& impresion, int32_t fechad)
+    Revision(const DatosValidacion& datos, const QString& impresion, int32_t fechad)
         : m_datos(datos), m_impresion(impresion.trimmed()), m_fechad(fechad)
     {
     }
 
-    int16_t primeraRota() const;
+    int primeraRota() const;
 
 private:
-    QString texto(int i) const { return m_datos.value(i).toString(); }
-    bool vacio(int i) const { return texto(i).trimmed().isEmpty(); }
-    double numero(int i) const
-    {
-        const QVariant& v = m_datos.value(i);
-        if (v.typeId() == QMetaType::QString)
-            return Val(v.toString());
-        bool ok = false;
-        const double d = v.toDouble(&ok);
-        return ok ? d : 0;
-    }
-    QString operacion() const { return texto(iOperacion).trimmed(); }
+    static bool vacio(const QString& texto) { return texto.trimmed().isEmpty(); }
+    QString operacion() const { return m_datos.OPERACION.trimmed(); }
     bool operacionEn(const QStringList& codigos) const { return codigos.contains(operacion()); }
 
     // A passenger car: a four-digit classification that begins with 10.
     bool esTurismo() const
     {
-        const double c = numero(iClasificacion);
+        const double c = m_datos.CLASIFICACION;
         return c >= 1000 && c <= 1099;
     }
-    bool esDiesel() const { return texto(iMotor).trimmed() == QLatin1String("D"); }
-    bool esGasolina() const { return texto(iMotor).trimmed() == QLatin1String("G"); }
+    bool esDiesel() const { return m_datos.MOTOR.trimmed() == QLatin1String("D"); }
+    bool esGasolina() const { return m_datos.MOTOR.trimmed() == QLatin1String("G"); }
     // The engines that paid the reduced rate of 7 % before 2008.
     bool motorPequeno() const
     {
-        const double cc = numero(iCilindrada);
+        const double cc = m_datos.CILINDRADA;
         return (esDiesel() && cc < 2000) || (esGasolina() && cc < 1600);
     }
     bool antesDeBandas() const { return m_fechad < kInicioBandasCo2; }
 
     bool reglaTasa() const
     {
-        if (!esTasaLibre(numero(iTasa)))
+        if (!esTasaLibre(m_datos.TASA))
             return false;
-        const double tipo = numero(iTipoImp);
-        return tipo < numero(iTasaMin) || tipo > numero(iTasaMax);
+        const double tipo = m_datos.TIPOIMP;
+        return tipo < m_datos.TASAMINIMA || tipo > m_datos.TASAMAXIMA;
     }
 
     // The subject's address is always national.
@@ -111,7 +151,7 @@ private:
     int reglasTransmitente() const;
     int reglasVehiculoOperacion() const;
 
-    const Arreglo& m_datos;
+    const DatosValidacion& m_datos;
     QString m_impresion;
     int32_t m_fechad;
 };
@@ -157,20 +197,21 @@ bool deLaProvincia(const QString& cp, double provincia)
 
 int Revision::reglasSujeto() const
 {
-    if (!vacio(iDniSp) && !EsNifOficialValido(texto(iDniSp)))
+    const DatosValidacion& d = m_datos;
+    if (!vacio(d.DNISP) && !EsNifOficialValido(d.DNISP))
         return 10;
-    if (vacio(iNombreSp))
+    if (vacio(d.NOMBRESP))
         return 11;
-    if (vacio(iViaSp))
+    if (vacio(d.VIASP))
         return 12;
-    if (vacio(iDomicilioSp))
+    if (vacio(d.DOMICILIOSP))
         return 13;
-    const double provincia = numero(iCodProvSp);
-    if (provincia == kProvinciaPropia && numero(iCodMunSp) == 0)
+    const double provincia = Val(d.CODPROVSP);
+    if (provincia == kProvinciaPropia && Val(d.CODMUNSP) == 0)
         return 14;
-    if (provincia != kProvinciaPropia && vacio(iNomMunSp))
+    if (provincia != kProvinciaPropia && vacio(d.NOMMUNSP))
         return 15;
-    const QString cp = codigoPostal(texto(iCodPosSp));
+    const QString cp = codigoPostal(d.CODPOSSP);
     if (Val(cp) == 0)
         return 16;
     if (!deLaProvincia(cp, provincia))
@@ -182,24 +223,24 @@ int Revision::reglasSujeto() const
 
 int Revision::reglasTransmitente() const
 {
-    if (!vacio(iDniTr)
-        && ExaminarDni(texto(iTipoDniTr).trimmed(), texto(iDniTr)) != EstadoNif::Valido)
+    const DatosValidacion& d = m_datos;
+    if (!vacio(d.DNITR) && ExaminarDni(d.TIPODNITR.trimmed(), d.DNITR) != EstadoNif::Valido)
         return 19;
-    if (vacio(iDniTr))
+    if (vacio(d.DNITR))
         return 20;
-    if (vacio(iNombreTr))
+    if (vacio(d.NOMBRETR))
         return 21;
-    if (vacio(iViaTr))
+    if (vacio(d.VIATR))
         return 22;
-    if (vacio(iDomicilioTr))
+    if (vacio(d.DOMICILIOTR))
         return 23;
-    const bool extranjero = texto(iTipoDomiTr).trimmed() == QLatin1String("E");
-    if (extranjero && vacio(iPaisTr))
+    const bool extranjero = d.TIPODOMITR.trimmed() == QLatin1String("E");
+    if (extranjero && vacio(d.PAISTR))
         return 24;
-    const double provincia = numero(iCodProvTr);
+    const double provincia = Val(d.CODPROVTR);
     if (!extranjero) {
         // A national code is read as five digits; a foreign one keeps its country's shape.
-        const QString cp = codigoPostal(texto(iCodPosTr));
+        const QString cp = codigoPostal(d.CODPOSTR);
         if (!deLaProvincia(cp, provincia))
             return 25;
         if (!cincoCifras(cp))
@@ -207,15 +248,15 @@ int Revision::reglasTransmitente() const
         if (cp.right(3) == QLatin1String("000"))
             return 27;
     }
-    if (soloCeros(texto(iCodPosTr)))
+    if (soloCeros(d.CODPOSTR))
         return 28;
-    if (extranjero && vacio(iNomProvTr))
+    if (extranjero && vacio(d.NOMPROVTR))
         return 29;
-    if ((extranjero || provincia != kProvinciaPropia) && vacio(iNomMunTr))
+    if ((extranjero || provincia != kProvinciaPropia) && vacio(d.NOMMUNTR))
         return 30;
     if (!extranjero && provincia == 0)
         return 31;
-    if (!extranjero && provincia == kProvinciaPropia && numero(iCodMunTr) == 0)
+    if (!extranjero && provincia == kProvinciaPropia && Val(d.CODMUNTR) == 0)
         return 32;
     return 0;
 }
@@ -241,11 +282,11 @@ int Revision::reglasVehiculoOperacion() const
         if (!motorPequeno() && operacionEn(kTipoReducido))
             return esDiesel() ? 36 : 35;
     }
-    if (vacio(iDniSp))
+    if (vacio(m_datos.DNISP))
         return 37;
     if (antesDeBandas() && !esTurismo() && !operacionEn(kAntesDeBandas))
         return 38;
-    if (m_fechad / 10000 > kUltimoAnoSinLimitePlan && numero(iCilindrada) > kLimiteCilindradaPlan
+    if (m_fechad / 10000 > kUltimoAnoSinLimitePlan && m_datos.CILINDRADA > kLimiteCilindradaPlan
         && operacionEn(kPlanBajas))
         return 39;
     if (!antesDeBandas() && !esTurismo() && !operacionEn(kBandas))
@@ -253,34 +294,53 @@ int Revision::reglasVehiculoOperacion() const
     return 0;
 }
 
-int16_t Revision::primeraRota() const
+int Revision::primeraRota() const
 {
-    const int obligatorios[] = {iMarca, iModelo, iTipo, iBastidor};
+    const QString* obligatorios[] = {&m_datos.MARCA, &m_datos.MODELO, &m_datos.TIPO,
+                                     &m_datos.BASTIDOR};
     for (int n = 0; n < 4; ++n) {
-        if (vacio(obligatorios[n]))
-            return static_cast<int16_t>(n + 1);
+        if (vacio(*obligatorios[n]))
+            return n + 1;
     }
-    if (numero(iClasificacion) <= 0)
+    if (m_datos.CLASIFICACION <= 0)
         return 5;
-    if (numero(iCilindrada) <= 0)
+    if (m_datos.CILINDRADA <= 0)
         return 6;
     if (operacion().isEmpty() || m_impresion.isEmpty())
         return 7;
-    if (numero(iBaseI) <= 0)
+    if (m_datos.BASEI <= 0)
         return 8;
     if (reglaTasa())
         return 9;
     if (const int r = reglasSujeto())
-        return static_cast<int16_t>(r);
+        return r;
     if (const int r = reglasTransmitente())
-        return static_cast<int16_t>(r);
-    return static_cast<int16_t>(reglasVehiculoOperacion());
+        return r;
+    return reglasVehiculoOperacion();
 }
 
 }  // namespace
 
-int16_t cDeclaSvr::ValidarDatosDeclaraciones(const Arreglo& datos, const QString& impresion,
-                                             int32_t fechad) const
+Veredicto cDeclaSvr::VeredictoRegla(int regla)
 {
-    return Revision(datos, impresion, fechad).primeraRota();
+    if (regla < 1 || regla > kUltimaRegla)
+        return {};
+    const Regla& r = kReglas[regla - 1];
+    Veredicto v;
+    v.id = r.id;
+    v.mensaje = Texto(r.id);
+    v.botones = vb::Information;
+    v.control = QLatin1String(r.control);
+    v.pestana = r.pestana;
+    return v;
+}
+
+Resultado<void> cDeclaSvr::ValidarDatosDeclaraciones(const DatosValidacion& datos,
+                                                     const QString& impresion,
+                                                     int32_t fechad) const
+{
+    const int rota = Revision(datos, impresion, fechad).primeraRota();
+    if (rota == 0)
+        return {};
+    return VeredictoRegla(rota);
 }

@@ -5,30 +5,33 @@
 
 namespace CriteriosDeclaracion {
 
-namespace {
-enum Posicion : int { kPosCodigo = 0, kPosReferencia, kPosFecha, kPosTotal, kPosOperacion, kPosiciones };
-}
-
-QVariantList Arreglo5(const std::optional<TablaCriterios>& tabla)
+CondicionesDeclaracion Condiciones(const std::optional<TablaCriterios>& tabla)
 {
-    QVariantList criterios(kPosiciones);
-    criterios[kPosCodigo] = 0;
-    criterios[kPosReferencia] = QString();
-    criterios[kPosFecha] = 0;
-    criterios[kPosTotal] = 0;
-    criterios[kPosOperacion] = QString();
+    CondicionesDeclaracion condiciones;
     if (!tabla)
-        return criterios;
+        return condiciones;
     for (const cCriterio& c : *tabla) {
-        const int campo = c.CAMPOSELECCION.toInt();
-        if (campo < kCodigo || campo > kOperacion)
-            continue;
-        if (campo == kFecha)
-            criterios[campo - 1] = cFecha::StringToLong(c.VALORSELECCION, IdiomaPrograma());
-        else
-            criterios[campo - 1] = c.VALORSELECCION;
+        switch (c.CAMPOSELECCION.toInt()) {
+        case kCodigo:
+            condiciones.CSDE = c.VALORSELECCION;
+            break;
+        case kReferencia:
+            condiciones.REFERENCIA = c.VALORSELECCION;
+            break;
+        case kFecha:
+            condiciones.FECHAD = cFecha::StringToLong(c.VALORSELECCION, IdiomaPrograma());
+            break;
+        case kTotal:
+            condiciones.TOTAL = c.VALORSELECCION;
+            break;
+        case kOperacion:
+            condiciones.OPERACION = c.VALORSELECCION;
+            break;
+        default:
+            break;
+        }
     }
-    return criterios;
+    return condiciones;
 }
 
 bool Hay(const std::optional<TablaCriterios>& tabla)

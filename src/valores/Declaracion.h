@@ -27,7 +27,7 @@ struct Declaracion {
     QString NOSUJETO;            // "X" not subject
     QString EXENTO;              // "X" exempt
     QString REDUCCION;           // "X", "Y", "Z" or empty
-    Importe BASEI;               // amounts in euros with cents
+    Importe BASEI;               // amounts in whole cents (Importe)
     Importe BASEIREDUCIDA;
     double TIPOIMP = 0;          // rate in percent
     Importe CUOTA;

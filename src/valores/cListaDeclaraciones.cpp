@@ -19,9 +19,9 @@ bool cListaDeclaraciones::HayCriterios() const
     return CriteriosDeclaracion::Hay(TABLASELECCION);
 }
 
-QVariantList cListaDeclaraciones::Criterios() const
+CondicionesDeclaracion cListaDeclaraciones::Criterios() const
 {
-    return CriteriosDeclaracion::Arreglo5(TABLASELECCION);
+    return CriteriosDeclaracion::Condiciones(TABLASELECCION);
 }
 
 void cListaDeclaraciones::Reiniciar()

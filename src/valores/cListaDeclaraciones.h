@@ -3,10 +3,10 @@
 // the search conditions, the column and direction of the order, the selected return, the two
 // states (result "N", search "B") and the moves between them. Each list's record adds its own
 // fields and its call to the store.
+#include "valores/CriteriosDeclaracion.h"
 #include "valores/cCriterio.h"
 
 #include <QString>
-#include <QVariantList>
 #include <cstdint>
 #include <optional>
 
@@ -23,7 +23,7 @@ public:
 
     bool HayCriterios() const;
     // The conditions as the store reads them.
-    QVariantList Criterios() const;
+    CondicionesDeclaracion Criterios() const;
     // A fresh list: by code, newest first, no conditions, nothing selected.
     void Reiniciar();
     // The search box over column SELECCIONACTUAL was left with `texto`.

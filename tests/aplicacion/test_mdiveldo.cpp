@@ -119,8 +119,7 @@ private slots:
         for (int i = 0; i < n; ++i) {
             DeclaracionValida();
             DecDatos().REFERENCIA = QStringLiteral("REF-%1").arg(i + 1);
-            int32_t codigo = 0;
-            DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo);
+            const int32_t codigo = DecDatos().GuardarDeclaracion() ? DecDatos().CSDE : 0;
             codigos.append(codigo);
         }
         return codigos;

@@ -56,14 +56,13 @@ class TestOrdenesLote : public QObject {
         d.NOMBRESP = nombreSujeto(i);
         const QDate fecha = QDate(2010, 3, 15).addDays(i - 1);
         d.FECHAD = fecha.year() * 10000 + fecha.month() * 100 + fecha.day();
-        d.BASEI = 1000000 + i * 12345;
-        d.CUOTA = 100000 + i * 7;
-        d.TOTAL = 99000 + i * 3;
+        d.BASEI = Importe(1000000 + i * 12345);
+        d.CUOTA = Importe(100000 + i * 7);
+        d.TOTAL = Importe(99000 + i * 3);
         if (i == 20)
             d.MARCA.clear();  // the rule of the make: this return cannot be printed
         d.CSDE = 0;
-        int32_t codigo = 0;
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        const int32_t codigo = d.GuardarDeclaracion() ? d.CSDE : 0;
         if (codigo <= 0)
             qFatal("return %d not saved", i);
         return codigo;

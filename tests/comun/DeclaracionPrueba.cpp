@@ -3,6 +3,7 @@
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "servicios/cDeclaSvr.h"
 
 void DeclaracionValida()
 {
@@ -18,7 +19,7 @@ void DeclaracionValida()
     d.MOTOR = QStringLiteral("G");
     d.CILINDRADA = 1598;
     d.OPERACION = QStringLiteral("T2");
-    d.BASEI = 1500000;
+    d.BASEI = Importe(1500000);
     d.DNISP = Dni(12345678);
     d.NOMBRESP = QStringLiteral("GARCIA LOPEZ JUAN");
     d.DOMICILIOSP = QStringLiteral("MAYOR");
@@ -32,4 +33,15 @@ void DeclaracionValida()
     d.CODMUNTR = QStringLiteral("002");
     d.ObtenerDatosOperacion(false);
     AplicarOperacion();
+}
+
+int ReglaDe(const Veredicto& v)
+{
+    if (v.vacio())
+        return 0;
+    for (int n = 1; n <= cDeclaSvr::kUltimaRegla; ++n) {
+        if (cDeclaSvr::VeredictoRegla(n).id == v.id)
+            return n;
+    }
+    return -1;
 }

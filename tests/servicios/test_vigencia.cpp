@@ -13,7 +13,6 @@
 #include "servicios/Esquema.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
-#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cPresenSvr.h"
@@ -27,17 +26,9 @@
 
 namespace {
 
-namespace G = PosGuardarDeclaracion;
-
 cContribSvr contribuyentes() { return Almacen<cContribSvr>(); }
 cPresenSvr presentadores() { return Almacen<cPresenSvr>(); }
 cDeclaSvr declaraciones() { return Almacen<cDeclaSvr>(); }
-
-// A return as a copy loads it: its save array and the version of its row.
-struct Cargado {
-    Arreglo datos;
-    int64_t version = 0;
-};
 
 // A contributor and a presenter as a copy loads them (with the version of the row).
 Contribuyente cargarContribuyente(int32_t csco)
@@ -81,24 +72,28 @@ int16_t guardarCargado(Presentador& p)
     }
 }
 
-// A return as a copy loads it: the save array made from the load array.
-Cargado cargarDeclaracion(int32_t csde)
+// A return as a copy loads it, with the version of its row (0 for an unknown code).
+Declaracion cargarDeclaracion(int32_t csde)
 {
-    Arreglo carga;
-    Cargado c;
-    declaraciones().CargarDeclaracion(csde, carga, &c.version);
-    c.datos.resize(G::Tamano);
-    for (int i = 0; i < G::Tamano; ++i)
-        c.datos[i] = carga[PosicionDeCarga(i)];
-    c.datos[G::CSDE] = csde;
-    return c;
+    Declaracion d = declaraciones().CargarDeclaracion(csde).value_or(Declaracion());
+    d.CSDE = csde;
+    return d;
+}
+
+// How a copy's save of a return ended: its code, or why nothing was written.
+QVariant guardarDeclaracion(const Declaracion& d)
+{
+    const Resultado<Declaracion> r = declaraciones().GuardarDeclaracion(d);
+    if (r)
+        return r->CSDE;
+    return QVariant::fromValue(r.veredicto().vigencia);
 }
 
 int32_t nuevaDeclaracion(const QString& referencia)
 {
-    Cargado c = cargarDeclaracion(0);
-    c.datos[G::REFERENCIA] = referencia;
-    return declaraciones().GuardarDeclaracion(c.datos, nullptr, &c.version);
+    Declaracion d;
+    d.REFERENCIA = referencia;
+    return guardarDeclaracion(d).toInt();
 }
 
 QString almacenado(const QString& sql, const QVariantList& valores)
@@ -125,9 +120,9 @@ void renombrarContribuyente(int32_t csco, const QString& nombre)
 
 void cambiarReferencia(int32_t csde, const QString& referencia)
 {
-    Cargado c = cargarDeclaracion(csde);
-    c.datos[G::REFERENCIA] = referencia;
-    QCOMPARE(declaraciones().GuardarDeclaracion(c.datos, nullptr, &c.version), csde);
+    Declaracion d = cargarDeclaracion(csde);
+    d.REFERENCIA = referencia;
+    QCOMPARE(guardarDeclaracion(d), QVariant(csde));
 }
 
 // The backup of the live store and its restore, as the backup panel makes them.
@@ -238,25 +233,23 @@ private slots:
     {
         const int32_t csde = nuevaDeclaracion(QStringLiteral("ORIGINAL"));
         QVERIFY(csde > 0);
-        Cargado esta = cargarDeclaracion(csde);
-        QVERIFY(esta.version > 0);
+        Declaracion esta = cargarDeclaracion(csde);
+        QVERIFY(esta.VERSION > 0);
         QVERIFY(EnOtraConexion([csde] {
-            Cargado otra = cargarDeclaracion(csde);
-            otra.datos[G::REFERENCIA] = QStringLiteral("OTRA");
-            if (declaraciones().GuardarDeclaracion(otra.datos, nullptr, &otra.version) != csde)
+            Declaracion otra = cargarDeclaracion(csde);
+            otra.REFERENCIA = QStringLiteral("OTRA");
+            if (guardarDeclaracion(otra) != QVariant(csde))
                 throw std::runtime_error("no guardada");
         }));
-        esta.datos[G::REFERENCIA] = QStringLiteral("ESTA");
-        QCOMPARE(declaraciones().GuardarDeclaracion(esta.datos, nullptr, &esta.version),
-                 cDeclaSvr::kCambiada);
+        esta.REFERENCIA = QStringLiteral("ESTA");
+        QCOMPARE(guardarDeclaracion(esta), QVariant::fromValue(Vigencia::Cambiada));
         QCOMPARE(almacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES WHERE CSDE = ?"), {csde}),
                  QStringLiteral("OTRA"));
         QCOMPARE(FilasDeclaraciones(), 1);
         // Deleted meanwhile: no new row takes its place.
-        Cargado otraVez = cargarDeclaracion(csde);
+        const Declaracion otraVez = cargarDeclaracion(csde);
         QVERIFY(EnOtraConexion([csde] { declaraciones().BorrarDeclaracion(csde); }));
-        QCOMPARE(declaraciones().GuardarDeclaracion(otraVez.datos, nullptr, &otraVez.version),
-                 cDeclaSvr::kBorrada);
+        QCOMPARE(guardarDeclaracion(otraVez), QVariant::fromValue(Vigencia::Borrada));
         QCOMPARE(FilasDeclaraciones(), 0);
     }
 
@@ -273,7 +266,7 @@ private slots:
         const int32_t nuevo = NuevoContribuyente(Dni(41), QStringLiteral("NUEVO"));
 
         Contribuyente contribuyente = cargarContribuyente(csco);
-        Cargado declaracion = cargarDeclaracion(csde);
+        Declaracion declaracion = cargarDeclaracion(csde);
         Contribuyente posterior = cargarContribuyente(nuevo);
         QCOMPARE(contribuyente.NOMBREC, QStringLiteral("TRAS LA COPIA"));
 
@@ -288,9 +281,8 @@ private slots:
         contribuyente.NOMBREC = QStringLiteral("DE ESTA COPIA");
         QCOMPARE(guardarCargado(contribuyente),
                  int16_t(VeredictoGuardarContribuyente::Cambiado));
-        declaracion.datos[G::REFERENCIA] = QStringLiteral("ESTA");
-        QCOMPARE(declaraciones().GuardarDeclaracion(declaracion.datos, nullptr, &declaracion.version),
-                 cDeclaSvr::kCambiada);
+        declaracion.REFERENCIA = QStringLiteral("ESTA");
+        QCOMPARE(guardarDeclaracion(declaracion), QVariant::fromValue(Vigencia::Cambiada));
         QCOMPARE(guardarCargado(posterior),
                  int16_t(VeredictoGuardarContribuyente::Borrado));
 

@@ -33,8 +33,9 @@ const QString kDesdePresentador = QStringLiteral("P");
 
 bool FrmDeclaracion::ValidarCampos()
 {
-    VeredictoValidacion v;
-    if (::ValidarCampos(txttipoimp->locked(), windowTitle(), cmbOperacion->currentText(), &v))
+    const Veredicto v =
+        ::ValidarCampos(txttipoimp->locked(), windowTitle(), cmbOperacion->currentText());
+    if (v.vacio())
         return true;
     if (v.pestana != kPestanaNinguna)
         MostrarPestana(v.pestana);
@@ -48,11 +49,12 @@ bool FrmDeclaracion::ValidarCampos()
 
 bool FrmDeclaracion::Guardar()
 {
-    Veredicto rechazo;
-    const int32_t codigo = GuardarDatosDeclaracion(&rechazo);
-    if (codigo < 1) {
+    cDecDatos& d = DecDatos();
+    const Resultado<void> guardado = d.GuardarDeclaracion();
+    if (!guardado) {
         // A text the store cannot keep (dropped or pasted into a field past its key filter):
         // the store's message under the form's title, and the field with the focus.
+        Veredicto rechazo = guardado.veredicto();
         if (!rechazo.vacio()) {
             if (rechazo.titulo.isEmpty())
                 rechazo.titulo = windowTitle();
@@ -60,14 +62,13 @@ bool FrmDeclaracion::Guardar()
         }
         // The stored return is no longer the one loaded: nothing was written; the form keeps
         // what was typed unless the user asks for the stored return.
-        if (AvisarVigencia(VigenciaGuardado(codigo), windowTitle()))
+        if (AvisarVigencia(rechazo.vigencia, windowTitle()))
             CargarGuardada();
         return false;
     }
-    const QString modo = DecDatos().MODO();
+    const QString modo = d.MODO();
     if (modo == QLatin1String("A") || modo == QLatin1String("D"))
-        AnotarEnLista(codigo);
-    DecDatos().CSDE = codigo;
+        AnotarEnLista(d.CSDE);
     return true;
 }
 

@@ -194,7 +194,7 @@ void FrmDeclaracion::ElegirOperacion(bool alSalir)
 void FrmDeclaracion::SalirBase()
 {
     cDecDatos& d = DecDatos();
-    const double base = BaseDeTexto(txtbasei->text());
+    const Importe base = BaseDeTexto(txtbasei->text());
     if (m_saltarValidacion || base == d.BASEI)
         return;
     Modificado();

@@ -31,14 +31,12 @@ bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambi
     return true;
 }
 
-bool ValidarCampos(bool tipoBloqueado, const QString& titulo, const QString& textoOperacion,
-                   VeredictoValidacion* veredicto, QWidget* panel)
+Veredicto ValidarCampos(bool tipoBloqueado, const QString& titulo, const QString& textoOperacion,
+                        QWidget* panel)
 {
-    const VeredictoValidacion v = VeredictoCampos(tipoBloqueado, titulo, textoOperacion);
+    const Veredicto v = VeredictoCampos(tipoBloqueado, titulo, textoOperacion);
     MostrarVeredicto(v, panel);
-    if (veredicto)
-        *veredicto = v;
-    return v.numero == 0;
+    return v;
 }
 
 int16_t ValidarNifIntervinientes(const QString& titulo)

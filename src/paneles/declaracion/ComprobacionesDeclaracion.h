@@ -24,10 +24,10 @@ bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambi
 
 // The whole-return check (VeredictoCampos): for a rule from 1 to 40 its message with the
 // information icon under `titulo` (the form's caption); with a `panel`, the rule's tab of
-// tabTerceros is selected and its control takes the focus. True when the store answers 0. The
-// verdict, when asked for, tells the caller the rule and the control.
-bool ValidarCampos(bool tipoBloqueado, const QString& titulo, const QString& textoOperacion,
-                   VeredictoValidacion* veredicto = nullptr, QWidget* panel = nullptr);
+// tabTerceros is selected and its control takes the focus. Answers the verdict shown, which
+// tells the caller the control; empty when the return passes.
+Veredicto ValidarCampos(bool tipoBloqueado, const QString& titulo, const QString& textoOperacion,
+                        QWidget* panel = nullptr);
 
 // The tax numbers of the presenter, the subject and the transmitter
 // (VeredictoNifIntervinientes). -1 when one is wrong (and told), 0 when all are good.

@@ -117,9 +117,9 @@ void FrmConDeclaraciones::IniciarEstado()
     ConDeclaraciones().IniciarLista();
 }
 
-int32_t FrmConDeclaraciones::CargarDatos(Arreglo2D& datos)
+QList<FilaDeclaracion> FrmConDeclaraciones::CargarDatos()
 {
-    return ConDeclaraciones().CargarDeclaraciones(datos);
+    return ConDeclaraciones().CargarDeclaraciones();
 }
 
 QString FrmConDeclaraciones::TextoCriterio(int campo, const QString& valor) const
@@ -140,9 +140,9 @@ void FrmConDeclaraciones::Anadir_captions()
 void FrmConDeclaraciones::PresentaCabecera()
 {
     const cConDeclaraciones& e = ConDeclaraciones();
-    const Arreglo contadores = e.ObtenerContadores();
-    lblnumsp->setText(contadores.value(0).toString());
-    lblnumtr->setText(contadores.value(1).toString());
+    const cConDeclaraciones::Contadores contadores = e.ObtenerContadores();
+    lblnumsp->setText(contadores.comoSujeto);
+    lblnumtr->setText(contadores.comoTransmitente);
     lbldcontribuyente->setText(e.LBLCONTRI);
     lblddni->setText(e.lbldni);
 }
@@ -190,9 +190,9 @@ void FrmPreDeclaraciones::IniciarEstado()
     PreDeclaraciones().IniciarLista();
 }
 
-int32_t FrmPreDeclaraciones::CargarDatos(Arreglo2D& datos)
+QList<FilaDeclaracion> FrmPreDeclaraciones::CargarDatos()
 {
-    return PreDeclaraciones().CargarDeclaraciones(datos);
+    return PreDeclaraciones().CargarDeclaraciones();
 }
 
 QString FrmPreDeclaraciones::TextoCriterio(int campo, const QString& valor) const

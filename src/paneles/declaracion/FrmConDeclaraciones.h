@@ -17,7 +17,7 @@ public:
 protected:
     cListaDeclaraciones& estado() const override;
     void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
+    QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
     int idAyudaResultado() const override { return 64; }
     int idAyudaBusqueda() const override { return 319; }
@@ -41,7 +41,7 @@ public:
 protected:
     cListaDeclaraciones& estado() const override;
     void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
+    QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
     int idAyudaResultado() const override { return 320; }
     int idAyudaBusqueda() const override { return 321; }

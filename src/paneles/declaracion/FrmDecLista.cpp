@@ -34,9 +34,9 @@ void FrmDecLista::IniciarEstado()
     DecLista().IniciarLista();
 }
 
-int32_t FrmDecLista::CargarDatos(Arreglo2D& datos)
+QList<FilaDeclaracion> FrmDecLista::CargarDatos()
 {
-    return DecLista().CargarDeclaraciones(datos);
+    return DecLista().CargarDeclaraciones();
 }
 
 bool FrmDecLista::ModoEliminar() const

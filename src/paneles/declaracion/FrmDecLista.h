@@ -15,7 +15,7 @@ public:
 protected:
     cListaDeclaraciones& estado() const override;
     void IniciarEstado() override;
-    int32_t CargarDatos(Arreglo2D& datos) override;
+    QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
     QString ResultadoVacio() const override;
     int idAyudaResultado() const override { return 320; }

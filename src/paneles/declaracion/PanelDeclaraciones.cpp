@@ -34,7 +34,9 @@
 namespace {
 
 // The columns of the array the store gives, and of the grid.
-enum ColumnaGrid : int { kCodigo = 0, kReferencia, kFecha, kImporte, kOperacion, kDescripcion };
+enum ColumnaGrid : int {
+    kCodigo = 0, kReferencia, kFecha, kImporte, kOperacion, kDescripcion, kParte
+};
 
 constexpr int kFlechaDerecha = 250;   // the arrow stands this far left of the column's right edge
 const QString kFormatoImporte = QStringLiteral("###,###,###,##0.00");
@@ -232,9 +234,9 @@ void PanelDeclaraciones::LimpiarGrid()
 
 void PanelDeclaraciones::CargarFlxDeclaraciones()
 {
-    Arreglo2D datos;
-    if (CargarDatos(datos) > 0) {
-        RellenarGrid(datos);
+    const QList<FilaDeclaracion> filas = CargarDatos();
+    if (!filas.isEmpty()) {
+        RellenarGrid(filas);
         return;
     }
     LimpiarGrid();
@@ -242,30 +244,27 @@ void PanelDeclaraciones::CargarFlxDeclaraciones()
     cmdAceptar->setFocus(Qt::OtherFocusReason);
 }
 
-void PanelDeclaraciones::RellenarGrid(const Arreglo2D& datos)
+void PanelDeclaraciones::RellenarGrid(const QList<FilaDeclaracion>& filas)
 {
-    const int n = int(estado().NUMDECLASEL);
+    const int n = int(filas.size());
     cFlexGrid* g = flxDeclaraciones;
     g->setRedraw(false);
     // The rows of the count and the heading, no more: a blank row would be one more to click,
     // and a click on it would unmark the return.
     g->setRows(1);
     g->setRows(n + 1);
-    const int columnas = std::min(g->Cols(), int(datos.size()));
-    for (int j = 0; j < columnas; ++j) {
-        const QVariantList& columna = datos.at(j);
-        const int filas = std::min(int(columna.size()), n);
-        for (int i = 0; i < filas; ++i) {
-            const QVariant& v = columna.at(i);
-            QString texto;
-            if (j == kFecha)
-                texto = cFecha::LongToString(v.toInt(), IdiomaPrograma());
-            else if (j == kImporte)
-                texto = Formato(Val(v.toString()) / 100, kFormatoImporte);
-            else
-                texto = v.toString();
-            g->setTextMatrix(i + 1, j, texto);
-        }
+    // A contributor's list has the column of the party; the others end at the description.
+    const bool conParte = g->Cols() > kParte;
+    for (int i = 0; i < n; ++i) {
+        const FilaDeclaracion& f = filas.at(i);
+        g->setTextMatrix(i + 1, kCodigo, QString::number(f.CSDE));
+        g->setTextMatrix(i + 1, kReferencia, f.REFERENCIA);
+        g->setTextMatrix(i + 1, kFecha, cFecha::LongToString(f.FECHAD, IdiomaPrograma()));
+        g->setTextMatrix(i + 1, kImporte, Formato(f.TOTAL.euros(), kFormatoImporte));
+        g->setTextMatrix(i + 1, kOperacion, f.OPERACION);
+        g->setTextMatrix(i + 1, kDescripcion, f.DESCRIPCION);
+        if (conParte)
+            g->setTextMatrix(i + 1, kParte, f.PARTE);
     }
     g->setRedraw(true);
     lblResultado->clear();

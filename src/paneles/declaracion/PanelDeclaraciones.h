@@ -10,7 +10,7 @@
 // The state object of each list outlives the panel: a list that comes back from the form
 // finds its order, conditions and selection again.
 #include "paneles/controles/cUtilidadesGrid.h"
-#include "servicios/Arreglos.h"
+#include "valores/FilaDeclaracion.h"
 
 #include <QLineEdit>
 #include <QList>
@@ -62,7 +62,8 @@ protected:
     // What each list says and does of its own.
     virtual cListaDeclaraciones& estado() const = 0;
     virtual void IniciarEstado() = 0;
-    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;
+    // The rows of the list, from its record (which counts them in NUMDECLASEL).
+    virtual QList<FilaDeclaracion> CargarDatos() = 0;
     // The words of one condition (CAMPOSELECCION `campo`).
     virtual QString TextoCriterio(int campo, const QString& valor) const = 0;
     virtual void Anadir_captions() = 0;
@@ -117,7 +118,7 @@ private:
     void Construir(const QList<ColumnaDeclaraciones>& columnas);
     void Conectar();
     void LimpiarGrid();
-    void RellenarGrid(const Arreglo2D& datos);
+    void RellenarGrid(const QList<FilaDeclaracion>& filas);
     void PresentaResultado();
     void PresentaBusqueda();
     void SituarFlecha();

@@ -22,14 +22,10 @@
 
 namespace {
 
-// Positions of a contributor's array, as ExisteContribuyente gives it, that the form reads.
-enum PosicionParte : int { kTipoDni = 1, kTipoDomicilio = 11 };
-
 // A subject must have an official number and a national address.
-bool SirveDeSujeto(const Arreglo& datos)
+bool SirveDeSujeto(const Contribuyente& parte)
 {
-    return datos.value(kTipoDni).toString() == QLatin1String("O")
-        && datos.value(kTipoDomicilio).toString() == QLatin1String("N");
+    return parte.TIPODNI == QLatin1String("O") && parte.TIPODOMI == QLatin1String("N");
 }
 
 }  // namespace
@@ -104,18 +100,16 @@ void FrmDeclaracion::SalirDniSujeto()
         txtdnisp->setFocus(Qt::OtherFocusReason);
         return;
     }
-    Arreglo datos;
-    bool existe = false;
-    d.ExisteContribuyente(texto, datos, existe);
-    if (existe) {
-        if (!SirveDeSujeto(datos)) {
+    const std::optional<Contribuyente> parte = d.ExisteContribuyente(texto);
+    if (parte) {
+        if (!SirveDeSujeto(*parte)) {
             Mensaje(Texto(167), vb::Information, windowTitle());
             PresentarDeclaracion();
             txtdnisp->setFocus(Qt::OtherFocusReason);
             return;
         }
         Modificado();
-        d.CargarSujetoPasivo(datos);
+        d.CargarSujetoPasivo(*parte);
         if (d.CSSU == d.CSTRA)
             d.VolcarSpTR();
     } else if (d.CSSU != 0) {
@@ -125,7 +119,7 @@ void FrmDeclaracion::SalirDniSujeto()
             return;
         }
         Modificado();
-        d.CargarSujetoPasivo(datos);  // an unknown number's array clears the party
+        d.CargarSujetoPasivo(Contribuyente());  // the party is cleared
         d.DNISP = texto;
         d.CODPROVSP = QStringLiteral("77");
         d.VIASP = QStringLiteral("CL");
@@ -152,12 +146,10 @@ void FrmDeclaracion::SalirDniTransmitente()
     if (m_saltarValidacion || texto.trimmed().isEmpty() || texto == d.DNITR)
         return;
     // A stored contributor is taken as it is: a transmitter may be foreign.
-    Arreglo datos;
-    bool existe = false;
-    d.ExisteContribuyente(texto, datos, existe);
-    if (existe) {
+    const std::optional<Contribuyente> parte = d.ExisteContribuyente(texto);
+    if (parte) {
         Modificado();
-        d.CargarTransmitente(datos);
+        d.CargarTransmitente(*parte);
         if (d.CSSU == d.CSTRA)
             d.VolcarTrSp();
     } else {
@@ -179,7 +171,7 @@ void FrmDeclaracion::SalirDniTransmitente()
                 return;
             }
             Modificado();
-            d.CargarTransmitente(datos);
+            d.CargarTransmitente(Contribuyente());  // the party is cleared
             d.DNITR = texto;
             d.TIPODNITR = QStringLiteral("O");
             d.TIPODOMITR = QStringLiteral("N");

@@ -109,11 +109,11 @@ void FrmDeclaracion::PresentarImportes()
 {
     const cDecDatos& d = DecDatos();
     // The record keeps whole cents; the boxes show euros.
-    txtbasei->setValue(d.BASEI / 100);
-    txtBaseIReducida->setValue(d.BASEIREDUCIDA / 100);
-    txtcuota->setValue(d.CUOTA / 100);
-    txtdeduccion->setValue(d.DEDUCCION / 100);
-    txttotal->setValue(d.TOTAL / 100);
+    txtbasei->setValue(d.BASEI.euros());
+    txtBaseIReducida->setValue(d.BASEIREDUCIDA.euros());
+    txtcuota->setValue(d.CUOTA.euros());
+    txtdeduccion->setValue(d.DEDUCCION.euros());
+    txttotal->setValue(d.TOTAL.euros());
     // The rate is the declarant's to type only for an operation without a fixed one.
     AbrirCampo(txttipoimp, EsTasaLibre(Operacion().T_TIP()));
     txttipoimp->setValue(d.TIPOIMP);

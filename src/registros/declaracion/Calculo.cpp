@@ -28,7 +28,7 @@ void AplicarOperacion()
         d.EXENTO.clear();
         d.REDUCCION.clear();
         op.T_RED.clear();
-        d.BASEIREDUCIDA = 0;
+        d.BASEIREDUCIDA = Importe();
     } else {
         d.NOSUJETO.clear();
     }
@@ -37,7 +37,7 @@ void AplicarOperacion()
         d.NOSUJETO.clear();
         d.REDUCCION.clear();
         op.T_RED.clear();
-        d.BASEIREDUCIDA = 0;
+        d.BASEIREDUCIDA = Importe();
     } else {
         d.EXENTO.clear();
     }
@@ -52,7 +52,7 @@ void AplicarOperacion()
         d.TIPOIMP = 0;
     else if (op.T_TIP() >= 0 && op.T_TIP() <= 99)
         d.TIPOIMP = op.T_TIP();  // the rate without fixed value (99.99) leaves the one typed
-    d.DEDUCCION = op.T_DEDU();
+    d.DEDUCCION = Importe(op.T_DEDU());
     CalcularValores();
 }
 
@@ -68,14 +68,14 @@ void CalcularValores()
             d.BASEIREDUCIDA = d.BASEI * 0.7;
         else if (reduccion == QLatin1String("Z"))
             d.BASEIREDUCIDA = d.BASEI * 0.2;
-        d.CUOTA = Redondear(d.TIPOIMP * d.BASEIREDUCIDA / 100, 2);
+        d.CUOTA = Importe(Redondear(d.TIPOIMP * d.BASEIREDUCIDA.centimos() / 100, 2));
     } else {
-        d.BASEIREDUCIDA = 0;
-        d.CUOTA = Redondear(d.TIPOIMP * d.BASEI / 100, 2);
+        d.BASEIREDUCIDA = Importe();
+        d.CUOTA = Importe(Redondear(d.TIPOIMP * d.BASEI.centimos() / 100, 2));
     }
     d.TOTAL = d.CUOTA - d.DEDUCCION;
-    if (d.TOTAL < 0)
-        d.TOTAL = 0;
+    if (d.TOTAL < Importe())
+        d.TOTAL = Importe();
 }
 
 void ActualizarReduccion(const CasillasReduccion& c)
@@ -94,7 +94,7 @@ void ActualizarReduccion(const CasillasReduccion& c)
     // The operation keeps the choice, so that a new date or a reload of it does not lose it.
     Operacion().T_RED = codigo;
     if (codigo.isEmpty())
-        d.BASEIREDUCIDA = 0;
+        d.BASEIREDUCIDA = Importe();
 }
 
 ResultadoTipo AceptarTipoImpositivo(double valor, bool bloqueada, bool saltarValidacion)
@@ -141,7 +141,7 @@ void LimpiarOperacion()
     cDecDatos& d = DecDatos();
     cOperacion& op = Operacion();
     d.OPERACION.clear();
-    d.BASEIREDUCIDA = 0;
+    d.BASEIREDUCIDA = Importe();
     op.setT_DEDU(0);
     op.T_NSUJ.clear();
     op.T_EXE.clear();
@@ -149,15 +149,15 @@ void LimpiarOperacion()
     op.setT_TIP(0);
 }
 
-double BaseDeTexto(const QString& texto)
+Importe BaseDeTexto(const QString& texto)
 {
     // The form shows the base the Spanish way with two decimals; read so, whatever the
     // machine's settings, its digits are the cents.
     bool ok = false;
     const double euros = NumeroDeTexto(texto, &ok);
     if (!ok)
-        return 0;
-    return Redondear(euros * 100, 0);
+        return Importe();
+    return Importe(Redondear(euros * 100, 0));
 }
 
 QString TextoTasa(double tasa)

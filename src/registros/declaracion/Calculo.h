@@ -2,6 +2,7 @@
 // The computation of a return on the shared records DecDatos() and Operacion(): what the
 // chosen operation does to the return, the amounts, the reductions of the base and the typed
 // rate. The declaration form calls these routines and then repaints itself from the record.
+#include "valores/Importe.h"
 #include "valores/Veredicto.h"
 
 #include <QString>
@@ -48,7 +49,7 @@ void LimpiarOperacion();
 
 // The base as the form shows it ("1.234,50", two decimals) in whole cents (123450), whatever
 // the machine's regional settings. A text that is not an amount gives 0.
-double BaseDeTexto(const QString& texto);
+Importe BaseDeTexto(const QString& texto);
 // The Spanish way of showing a rate in a message: "14,75", "7", "0".
 QString TextoTasa(double tasa);
 

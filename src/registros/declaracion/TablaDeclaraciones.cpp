@@ -31,8 +31,8 @@ QString Fecha(int32_t fecha)
     return d.isValid() ? d.toString(QStringLiteral("dd/MM/yyyy")) : QString::number(fecha);
 }
 
-// Whole cents as euros with two decimals and the decimal comma.
-QString Euros(double centimos) { return Formato(centimos / 100.0, QStringLiteral("0.00")); }
+// An amount in euros with two decimals and the decimal comma.
+QString Euros(Importe cantidad) { return Formato(cantidad.euros(), QStringLiteral("0.00")); }
 
 }  // namespace
 

@@ -9,59 +9,8 @@
 #include "servicios/cDeclaSvr.h"
 
 #include <QRegularExpression>
-#include <array>
 
 namespace {
-
-struct Regla {
-    int id;            // catalogue id of the message
-    const char* control;
-    int pestana;
-};
-
-// Rule number n is entry n - 1. Rules 9 and 39 join a second id to their message (below).
-constexpr std::array<Regla, cDeclaSvr::kUltimaRegla> kReglas{{
-    {132, "txtmarca", kPestanaNinguna},          // 1
-    {133, "txtmodelo", kPestanaNinguna},         // 2
-    {134, "txttipo", kPestanaNinguna},           // 3
-    {135, "txtbastidor", kPestanaNinguna},       // 4
-    {136, "txtclasificacion", kPestanaNinguna},  // 5
-    {137, "txtcilindrada", kPestanaNinguna},     // 6
-    {138, "txtoperacion", kPestanaNinguna},      // 7
-    {139, "txtbasei", kPestanaNinguna},          // 8
-    {140, "txttipoimp", kPestanaNinguna},        // 9, with 141
-    {330, "txtdnisp", kPestanaSujeto},           // 10
-    {143, "txtnombresp", kPestanaSujeto},        // 11
-    {144, "txtviasp", kPestanaSujeto},           // 12
-    {145, "txtdomiciliosp", kPestanaSujeto},     // 13
-    {146, "txtcodmunsp", kPestanaSujeto},        // 14
-    {147, "txtnommunsp", kPestanaSujeto},        // 15
-    {148, "txtcodpossp", kPestanaSujeto},        // 16
-    {149, "txtcodpossp", kPestanaSujeto},        // 17
-    {150, "txtcodpossp", kPestanaSujeto},        // 18
-    {151, "txtdnitr", kPestanaTransmitente},     // 19
-    {152, "txtdnitr", kPestanaTransmitente},     // 20
-    {153, "txtnombretr", kPestanaTransmitente},  // 21
-    {154, "txtviatr", kPestanaTransmitente},     // 22
-    {155, "txtdomiciliotr", kPestanaTransmitente},  // 23
-    {156, "txtpaistr", kPestanaTransmitente},    // 24
-    {157, "txtcodpostr", kPestanaTransmitente},  // 25
-    {158, "txtcodpostr", kPestanaTransmitente},  // 26
-    {159, "txtcodpostr", kPestanaTransmitente},  // 27
-    {160, "txtcodpostr", kPestanaTransmitente},  // 28
-    {161, "txtnomprovtr", kPestanaTransmitente},  // 29
-    {162, "txtnommuntr", kPestanaTransmitente},  // 30
-    {163, "txtcodprovtr", kPestanaTransmitente},  // 31
-    {164, "txtcodmuntr", kPestanaTransmitente},  // 32
-    {283, "txtcilindrada", kPestanaNinguna},     // 33
-    {284, "txtcilindrada", kPestanaNinguna},     // 34
-    {281, "txtcilindrada", kPestanaNinguna},     // 35
-    {282, "txtcilindrada", kPestanaNinguna},     // 36
-    {323, "txtdnisp", kPestanaSujeto},           // 37
-    {324, "txtoperacion", kPestanaNinguna},      // 38
-    {356, "txtoperacion", kPestanaNinguna},      // 39, with the operation and 357
-    {362, "txtoperacion", kPestanaNinguna},      // 40
-}};
 
 const QString kSaltoLinea = QStringLiteral("\n");
 
@@ -82,78 +31,78 @@ bool dniBueno(const QString& dni)
 
 }  // namespace
 
-Arreglo DatosValidacion(bool tipoBloqueado)
+DatosValidacion DatosDeValidacion(bool tipoBloqueado)
 {
     const cDecDatos& d = DecDatos();
     const cOperacion& op = Operacion();
     const bool nacionalTr = d.TIPODOMITR == QLatin1String("N");
-    return {
-        d.MARCA,
-        d.MODELO,
-        d.TIPO,
-        d.BASTIDOR,
-        d.CLASIFICACION,
-        d.CILINDRADA,
-        d.OPERACION,
-        d.BASEI,
-        d.TIPOIMP,
-        tipoBloqueado ? 0.0 : op.T_TIP(),
-        op.T_MIN(),
-        op.T_MAX(),
-        d.DNISP,
-        d.NOMBRESP,
-        d.VIASP,
-        d.DOMICILIOSP,
-        Formato(d.CODPROVSP, QStringLiteral("00")),
-        Formato(d.CODPOSSP, QStringLiteral("00000")),
-        d.CODMUNSP,
-        d.NOMMUNSP,
-        d.TIPODNITR,
-        d.DNITR,
-        d.NOMBRETR,
-        d.VIATR,
-        d.DOMICILIOTR,
-        d.TIPODOMITR,
-        d.PAISTR,
-        Formato(d.CODPROVTR, QStringLiteral("00")),
-        d.NOMPROVTR,
-        nacionalTr ? Formato(d.CODPOSTR, QStringLiteral("00000")) : d.CODPOSTR,
-        d.CODMUNTR,
-        d.NOMMUNTR,
-        d.MOTOR,
-    };
+    DatosValidacion v;
+    v.MARCA = d.MARCA;
+    v.MODELO = d.MODELO;
+    v.TIPO = d.TIPO;
+    v.BASTIDOR = d.BASTIDOR;
+    v.CLASIFICACION = d.CLASIFICACION;
+    v.CILINDRADA = d.CILINDRADA;
+    v.OPERACION = d.OPERACION;
+    v.BASEI = d.BASEI.centimos();
+    v.TIPOIMP = d.TIPOIMP;
+    v.TASA = tipoBloqueado ? 0.0 : op.T_TIP();
+    v.TASAMINIMA = op.T_MIN();
+    v.TASAMAXIMA = op.T_MAX();
+    v.DNISP = d.DNISP;
+    v.NOMBRESP = d.NOMBRESP;
+    v.VIASP = d.VIASP;
+    v.DOMICILIOSP = d.DOMICILIOSP;
+    v.CODPROVSP = Formato(d.CODPROVSP, QStringLiteral("00"));
+    v.CODPOSSP = Formato(d.CODPOSSP, QStringLiteral("00000"));
+    v.CODMUNSP = d.CODMUNSP;
+    v.NOMMUNSP = d.NOMMUNSP;
+    v.TIPODNITR = d.TIPODNITR;
+    v.DNITR = d.DNITR;
+    v.NOMBRETR = d.NOMBRETR;
+    v.VIATR = d.VIATR;
+    v.DOMICILIOTR = d.DOMICILIOTR;
+    v.TIPODOMITR = d.TIPODOMITR;
+    v.PAISTR = d.PAISTR;
+    v.CODPROVTR = Formato(d.CODPROVTR, QStringLiteral("00"));
+    v.NOMPROVTR = d.NOMPROVTR;
+    v.CODPOSTR = nacionalTr ? Formato(d.CODPOSTR, QStringLiteral("00000")) : d.CODPOSTR;
+    v.CODMUNTR = d.CODMUNTR;
+    v.NOMMUNTR = d.NOMMUNTR;
+    v.MOTOR = d.MOTOR;
+    return v;
 }
 
-VeredictoValidacion VeredictoDeclaracion(int16_t numero, const QString& textoOperacion)
+namespace {
+
+// The store's verdict with the message that names the operation's limits (rule 9) or the
+// operation (rule 39).
+Veredicto completar(Veredicto v, const QString& textoOperacion)
 {
-    VeredictoValidacion v;
-    v.numero = numero;
-    v.botones = vb::Information;
-    if (numero < 1 || numero > cDeclaSvr::kUltimaRegla)
-        return v;
-    const Regla& r = kReglas[numero - 1];
-    v.id = r.id;
-    v.control = QLatin1String(r.control);
-    v.pestana = r.pestana;
-    if (numero == 9) {
+    if (v.id == 140) {
         const cOperacion& op = Operacion();
         v.mensaje = Texto(140) + TextoTasa(op.T_MIN()) + Texto(141) + TextoTasa(op.T_MAX())
             + kSaltoLinea;
-    } else if (numero == 39) {
+    } else if (v.id == 356) {
         v.mensaje = Texto(356) + textoOperacion + Texto(357);
-    } else {
-        v.mensaje = Texto(r.id);
     }
     return v;
 }
 
-VeredictoValidacion VeredictoCampos(bool tipoBloqueado, const QString& titulo,
-                                    const QString& textoOperacion)
+}  // namespace
+
+Veredicto VeredictoDeclaracion(int regla, const QString& textoOperacion)
 {
-    const Arreglo datos = DatosValidacion(tipoBloqueado);
-    int16_t numero = 0;
-    DecDatos().ValidarDatosDeclaracion(datos, DecDatos().FECHAD, numero);
-    VeredictoValidacion v = VeredictoDeclaracion(numero, textoOperacion);
+    return completar(cDeclaSvr::VeredictoRegla(regla), textoOperacion);
+}
+
+Veredicto VeredictoCampos(bool tipoBloqueado, const QString& titulo,
+                          const QString& textoOperacion)
+{
+    const Resultado<void> r = DecDatos().ValidarDatosDeclaracion(DatosDeValidacion(tipoBloqueado));
+    if (r)
+        return {};
+    Veredicto v = completar(r.veredicto(), textoOperacion);
     v.titulo = titulo;
     return v;
 }

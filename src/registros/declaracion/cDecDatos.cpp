@@ -8,20 +8,22 @@
 #include "valores/Formato.h"
 #include "valores/Val.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 
-namespace C = PosContribuyente;
-namespace G = PosGuardarDeclaracion;
-namespace L = PosCargarDeclaracion;
-
 namespace {
 
-QString texto(const Arreglo& a, int i) { return a.value(i).toString(); }
-int32_t entero(const Arreglo& a, int i) { return a.value(i).toInt(); }
-double real(const Arreglo& a, int i) { return a.value(i).toDouble(); }
+// What a code that names no stored return loads: every text empty, every number 0, with no
+// value of a new return's.
+Declaracion sinDatos(int32_t csde)
+{
+    Declaracion d;
+    d.CSDE = csde;
+    for (QString* t : {&d.MOTOR, &d.VIASP, &d.CODPROVSP, &d.TIPODNITR, &d.TIPODOMITR, &d.VIATR,
+                       &d.CODPROVTR})
+        *t = QString();
+    return d;
+}
 
 }  // namespace
 
@@ -31,14 +33,7 @@ void cDecDatos::setMODO(const QString& modo)
     if (modo != QLatin1String("A"))
         return;
     // Every field of the return to its value for a new one; the routing fields stay.
-    const QString entrada = ENTRADA, lista = LISTA, criterio = CRITERIO;
-    const bool modificado = MODIFICADO;
-    *this = cDecDatos();
-    m_modo = modo;
-    ENTRADA = entrada;
-    LISTA = lista;
-    CRITERIO = criterio;
-    MODIFICADO = modificado;
+    static_cast<Declaracion&>(*this) = Declaracion();
     Operacion().Inicializa();
     InicializaImportes();
 }
@@ -53,66 +48,66 @@ void cDecDatos::InicializaFecha()
 
 void cDecDatos::InicializaImportes()
 {
-    BASEIREDUCIDA = 0;
+    BASEIREDUCIDA = Importe();
     TIPOIMP = 0;
-    CUOTA = 0;
-    DEDUCCION = 0;
-    TOTAL = 0;
+    CUOTA = Importe();
+    DEDUCCION = Importe();
+    TOTAL = Importe();
     // On an open return a change of date keeps the base that was typed.
     if (m_modo == QLatin1String("A"))
-        BASEI = 0;
+        BASEI = Importe();
 }
 
-void cDecDatos::CargarSujetoPasivo(const Arreglo& datos)
+void cDecDatos::CargarSujetoPasivo(const Contribuyente& c)
 {
-    CSSU = entero(datos, C::CSCO);
-    DNISP = texto(datos, C::DNIC);
-    NOMBRESP = texto(datos, C::NOMBREC);
-    VIASP = texto(datos, C::VIAC);
-    DOMICILIOSP = texto(datos, C::DOMICILIOC);
-    NUMEROSP = entero(datos, C::NUMEROC);
-    LETRASP = texto(datos, C::LETRAC);
-    ESCALERASP = texto(datos, C::ESCALERAC);
-    PISOSP = texto(datos, C::PISOC);
-    MANOSP = texto(datos, C::MANOC);
-    if (texto(datos, C::TIPODOMI) == QLatin1String("E")) {
+    CSSU = c.CSCO;
+    DNISP = c.DNIC;
+    NOMBRESP = c.NOMBREC;
+    VIASP = c.VIAC;
+    DOMICILIOSP = c.DOMICILIOC;
+    NUMEROSP = c.NUMEROC;
+    LETRASP = c.LETRAC;
+    ESCALERASP = c.ESCALERAC;
+    PISOSP = c.PISOC;
+    MANOSP = c.MANOC;
+    if (c.TIPODOMI == QLatin1String("E")) {
         // A foreign address cannot stand for the subject: only a real province is taken.
-        if (Val(texto(datos, C::CODPROVC)) != 0) {
-            CODPROVSP = texto(datos, C::CODPROVC);
-            CODMUNSP = texto(datos, C::CODMUNC);
-            NOMMUNSP = texto(datos, C::NOMMUNC);
+        if (Val(c.CODPROVC) != 0) {
+            CODPROVSP = c.CODPROVC;
+            CODMUNSP = c.CODMUNC;
+            NOMMUNSP = c.NOMMUNC;
         }
-        CODPOSSP = Formato(texto(datos, C::CODPOSC), QStringLiteral("00000"));
+        CODPOSSP = Formato(c.CODPOSC, QStringLiteral("00000"));
     } else {
-        CODPROVSP = texto(datos, C::CODPROVC);
-        CODPOSSP = texto(datos, C::CODPOSC);
-        CODMUNSP = texto(datos, C::CODMUNC);
-        NOMMUNSP = texto(datos, C::NOMMUNC);
+        CODPROVSP = c.CODPROVC;
+        CODPOSSP = c.CODPOSC;
+        CODMUNSP = c.CODMUNC;
+        NOMMUNSP = c.NOMMUNC;
     }
     CODPROVSP = Formato(CODPROVSP, QStringLiteral("00"));
 }
 
-void cDecDatos::CargarTransmitente(const Arreglo& datos)
+void cDecDatos::CargarTransmitente(const Contribuyente& c)
 {
-    CSTRA = entero(datos, C::CSCO);
-    TIPODNITR = texto(datos, C::TIPODNI);
-    DNITR = texto(datos, C::DNIC);
-    NOMBRETR = texto(datos, C::NOMBREC);
-    VIATR = texto(datos, C::VIAC);
-    DOMICILIOTR = texto(datos, C::DOMICILIOC);
-    NUMEROTR = entero(datos, C::NUMEROC);
-    LETRATR = texto(datos, C::LETRAC);
-    ESCALERATR = texto(datos, C::ESCALERAC);
-    PISOTR = texto(datos, C::PISOC);
-    MANOTR = texto(datos, C::MANOC);
-    TIPODOMITR = texto(datos, C::TIPODOMI);
-    PAISTR = texto(datos, C::PAIS);
-    CODPROVTR = Formato(texto(datos, C::CODPROVC), QStringLiteral("00"));
-    NOMPROVTR = texto(datos, C::NOMPROVC);
-    CODPOSTR = texto(datos, C::CODPOSC);
-    CODMUNTR = texto(datos, C::CODMUNC);
-    NOMMUNTR = texto(datos, C::NOMMUNC);
-    DECLASP = real(datos, C::NUMSP);
+    CSTRA = c.CSCO;
+    TIPODNITR = c.TIPODNI;
+    DNITR = c.DNIC;
+    NOMBRETR = c.NOMBREC;
+    VIATR = c.VIAC;
+    DOMICILIOTR = c.DOMICILIOC;
+    NUMEROTR = c.NUMEROC;
+    LETRATR = c.LETRAC;
+    ESCALERATR = c.ESCALERAC;
+    PISOTR = c.PISOC;
+    MANOTR = c.MANOC;
+    TIPODOMITR = c.TIPODOMI;
+    PAISTR = c.PAIS;
+    CODPROVTR = Formato(c.CODPROVC, QStringLiteral("00"));
+    NOMPROVTR = c.NOMPROVC;
+    CODPOSTR = c.CODPOSC;
+    CODMUNTR = c.CODMUNC;
+    NOMMUNTR = c.NOMMUNC;
+    DECLASP = c.NUMSP;
 }
 
 void cDecDatos::VolcarTrSp()
@@ -167,146 +162,27 @@ void cDecDatos::VolcarSpTR()
     TIPODOMITR = QStringLiteral("N");
 }
 
-Arreglo cDecDatos::DatosGuardar() const
-{
-    Arreglo a(G::Tamano);
-    a[G::CSDE] = CSDE;
-    a[G::REFERENCIA] = REFERENCIA;
-    a[G::CSPR] = CSPR;
-    a[G::CSSU] = CSSU;
-    a[G::CSTRA] = CSTRA;
-    a[G::FECHAD] = FECHAD;
-    a[G::ADQUIRIDO] = ADQUIRIDO;
-    a[G::MARCA] = MARCA;
-    a[G::TIPO] = TIPO;
-    a[G::MODELO] = MODELO;
-    a[G::BASTIDOR] = BASTIDOR;
-    a[G::CLASIFICACION] = CLASIFICACION;
-    a[G::MOTOR] = MOTOR;
-    a[G::CILINDRADA] = CILINDRADA;
-    a[G::OPERACION] = OPERACION;
-    a[G::NOSUJETO] = NOSUJETO;
-    a[G::EXENTO] = EXENTO;
-    a[G::REDUCCION] = REDUCCION;
-    a[G::BASEI] = BASEI;
-    a[G::BASEIREDUCIDA] = BASEIREDUCIDA;
-    a[G::TIPOIMP] = TIPOIMP;
-    a[G::CUOTA] = CUOTA;
-    a[G::DEDUCCION] = DEDUCCION;
-    a[G::TOTAL] = TOTAL;
-    a[G::DNISP] = DNISP;
-    a[G::NOMBRESP] = NOMBRESP;
-    a[G::VIASP] = VIASP;
-    a[G::DOMICILIOSP] = DOMICILIOSP;
-    a[G::NUMEROSP] = NUMEROSP;
-    a[G::LETRASP] = LETRASP;
-    a[G::ESCALERASP] = ESCALERASP;
-    a[G::PISOSP] = PISOSP;
-    a[G::MANOSP] = MANOSP;
-    a[G::CODPROVSP] = CODPROVSP;
-    a[G::NOMPROVSP] = QString();
-    a[G::CODPOSSP] = CODPOSSP;
-    a[G::CODMUNSP] = CODMUNSP;
-    a[G::NOMMUNSP] = NOMMUNSP;
-    a[G::TIPODNITR] = TIPODNITR;
-    a[G::DNITR] = DNITR;
-    a[G::NOMBRETR] = NOMBRETR;
-    a[G::VIATR] = VIATR;
-    a[G::DOMICILIOTR] = DOMICILIOTR;
-    a[G::NUMEROTR] = NUMEROTR;
-    a[G::LETRATR] = LETRATR;
-    a[G::ESCALERATR] = ESCALERATR;
-    a[G::PISOTR] = PISOTR;
-    a[G::MANOTR] = MANOTR;
-    a[G::TIPODOMITR] = TIPODOMITR;
-    a[G::PAISTR] = PAISTR;
-    a[G::CODPROVTR] = CODPROVTR;
-    a[G::NOMPROVTR] = NOMPROVTR;
-    a[G::CODPOSTR] = CODPOSTR;
-    a[G::CODMUNTR] = CODMUNTR;
-    a[G::NOMMUNTR] = NOMMUNTR;
-    return a;
-}
-
-void cDecDatos::DatosCargados(const Arreglo& d)
-{
-    REFERENCIA = texto(d, L::REFERENCIA);
-    CSPR = entero(d, L::CSPR);
-    CSSU = entero(d, L::CSSU);
-    CSTRA = entero(d, L::CSTRA);
-    FECHAD = entero(d, L::FECHAD);
-    ADQUIRIDO = texto(d, L::ADQUIRIDO);
-    MARCA = texto(d, L::MARCA);
-    TIPO = texto(d, L::TIPO);
-    MODELO = texto(d, L::MODELO);
-    BASTIDOR = texto(d, L::BASTIDOR);
-    CLASIFICACION = static_cast<int16_t>(entero(d, L::CLASIFICACION));
-    MOTOR = texto(d, L::MOTOR);
-    CILINDRADA = entero(d, L::CILINDRADA);
-    OPERACION = texto(d, L::OPERACION);
-    NOSUJETO = texto(d, L::NOSUJETO);
-    EXENTO = texto(d, L::EXENTO);
-    REDUCCION = texto(d, L::REDUCCION);
-    BASEI = real(d, L::BASEI);
-    BASEIREDUCIDA = real(d, L::BASEIREDUCIDA);
-    TIPOIMP = real(d, L::TIPOIMP);
-    CUOTA = real(d, L::CUOTA);
-    DEDUCCION = real(d, L::DEDUCCION);
-    TOTAL = real(d, L::TOTAL);
-    DNIPR = texto(d, L::DNIPR);
-    NOMBREPR = texto(d, L::NOMBREPR);
-    DNISP = texto(d, L::DNISP);
-    NOMBRESP = texto(d, L::NOMBRESP);
-    VIASP = texto(d, L::VIASP);
-    DOMICILIOSP = texto(d, L::DOMICILIOSP);
-    NUMEROSP = entero(d, L::NUMEROSP);
-    LETRASP = texto(d, L::LETRASP);
-    ESCALERASP = texto(d, L::ESCALERASP);
-    PISOSP = texto(d, L::PISOSP);
-    MANOSP = texto(d, L::MANOSP);
-    CODPROVSP = texto(d, L::CODPROVSP);
-    m_nomProvSp = texto(d, L::NOMPROVSP);
-    CODPOSSP = texto(d, L::CODPOSSP);
-    CODMUNSP = texto(d, L::CODMUNSP);
-    NOMMUNSP = texto(d, L::NOMMUNSP);
-    TIPODNITR = texto(d, L::TIPODNITR);
-    DNITR = texto(d, L::DNITR);
-    NOMBRETR = texto(d, L::NOMBRETR);
-    VIATR = texto(d, L::VIATR);
-    DOMICILIOTR = texto(d, L::DOMICILIOTR);
-    NUMEROTR = entero(d, L::NUMEROTR);
-    LETRATR = texto(d, L::LETRATR);
-    ESCALERATR = texto(d, L::ESCALERATR);
-    PISOTR = texto(d, L::PISOTR);
-    MANOTR = texto(d, L::MANOTR);
-    TIPODOMITR = texto(d, L::TIPODOMITR);
-    PAISTR = texto(d, L::PAISTR);
-    CODPROVTR = texto(d, L::CODPROVTR);
-    NOMPROVTR = texto(d, L::NOMPROVTR);
-    CODPOSTR = texto(d, L::CODPOSTR);
-    CODMUNTR = texto(d, L::CODMUNTR);
-    NOMMUNTR = texto(d, L::NOMMUNTR);
-    DECLASP = real(d, L::DECLASP);
-}
-
-void cDecDatos::ValidarDatosDeclaracion(const Arreglo& datos, int32_t fecha,
-                                        int16_t& resultado) const
+Resultado<void> cDecDatos::ValidarDatosDeclaracion(const DatosValidacion& datos) const
 {
     const cDeclaSvr svr = Almacen<cDeclaSvr>();
-    const QString impresion = svr.ObtenImpresion(fecha, datos.value(6).toString());
-    resultado = svr.ValidarDatosDeclaraciones(datos, impresion, fecha);
+    const QString impresion = svr.ObtenImpresion(FECHAD, datos.OPERACION);
+    return svr.ValidarDatosDeclaraciones(datos, impresion, FECHAD);
 }
 
-void cDecDatos::GuardarDeclaracion(const Arreglo& datos, int32_t& resultado, Veredicto* rechazo)
+Resultado<void> cDecDatos::GuardarDeclaracion()
 {
-    resultado = Almacen<cDeclaSvr>().GuardarDeclaracion(datos, rechazo, &VERSION);
+    Resultado<Declaracion> r = Almacen<cDeclaSvr>().GuardarDeclaracion(valor());
+    if (!r)
+        return r.veredicto();
+    CSDE = r->CSDE;
+    VERSION = r->VERSION;
+    return {};
 }
 
 void cDecDatos::CargarDeclaracion()
 {
-    Arreglo datos;
-    Almacen<cDeclaSvr>().CargarDeclaracion(CSDE, datos, &VERSION);
-    DatosCargados(datos);
+    std::optional<Declaracion> d = Almacen<cDeclaSvr>().CargarDeclaracion(CSDE);
+    static_cast<Declaracion&>(*this) = d ? std::move(*d) : sinDatos(CSDE);
 }
 
 void cDecDatos::BorrarDeclaracion() const
@@ -314,27 +190,24 @@ void cDecDatos::BorrarDeclaracion() const
     Almacen<cDeclaSvr>().BorrarDeclaracion(CSDE);
 }
 
-void cDecDatos::ObtenerUltimasDeclaraciones(Arreglo2D& lista) const
+QList<UltimaDeclaracion> cDecDatos::ObtenerUltimasDeclaraciones() const
 {
-    Almacen<cDeclaSvr>().ObtenerUltimasDeclaraciones(lista);
+    return Almacen<cDeclaSvr>().ObtenerUltimasDeclaraciones();
 }
 
-void cDecDatos::ExisteContribuyente(const QString& dni, Arreglo& datos, bool& resultado) const
+std::optional<Contribuyente> cDecDatos::ExisteContribuyente(const QString& dni) const
 {
-    resultado = Almacen<cDeclaSvr>().ExisteContribuyente(dni, datos);
+    return Almacen<cDeclaSvr>().ExisteContribuyente(dni);
 }
 
 void cDecDatos::CargarContribuyente()
 {
     const cDeclaSvr svr = Almacen<cDeclaSvr>();
-    Arreglo datos;
-    if (ENTRADA == QLatin1String("S")) {
-        svr.CargarContribuyente(CSSU, datos);
-        CargarSujetoPasivo(datos);
-    } else {
-        svr.CargarContribuyente(CSTRA, datos);
-        CargarTransmitente(datos);
-    }
+    // An unknown code clears the party.
+    if (ENTRADA == QLatin1String("S"))
+        CargarSujetoPasivo(svr.CargarContribuyente(CSSU).value_or(Contribuyente()));
+    else
+        CargarTransmitente(svr.CargarContribuyente(CSTRA).value_or(Contribuyente()));
 }
 
 void cDecDatos::ValidarDniOficial(const QString& dni, bool& resultado) const
@@ -345,12 +218,7 @@ void cDecDatos::ValidarDniOficial(const QString& dni, bool& resultado) const
 
 QStringList cDecDatos::CargarListaOperaciones() const
 {
-    Arreglo lista;
-    Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, lista, OffsetIdioma());
-    QStringList descripciones;
-    for (const QVariant& v : lista)
-        descripciones << v.toString();
-    return descripciones;
+    return Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, OffsetIdioma());
 }
 
 QString cDecDatos::DameOperacionporDescripcion(const QString& descripcion) const
@@ -360,9 +228,9 @@ QString cDecDatos::DameOperacionporDescripcion(const QString& descripcion) const
 
 void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 {
-    Arreglo datos;
-    if (Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD, datos, OffsetIdioma()))
-        Operacion().ActualizaOperacion(datos, sinReduccion);
+    if (const auto datos = Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD,
+                                                                        OffsetIdioma()))
+        Operacion().ActualizaOperacion(*datos, sinReduccion);
     else
         Operacion().Inicializa();
 }
@@ -370,23 +238,4 @@ void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 cDecDatos& DecDatos()
 {
     return Estado().de<cDecDatos>();
-}
-
-int32_t GuardarDatosDeclaracion(Veredicto* rechazo)
-{
-    int32_t codigo = 0;
-    DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo, rechazo);
-    return codigo;
-}
-
-Vigencia VigenciaGuardado(int32_t resultado)
-{
-    switch (resultado) {
-    case cDeclaSvr::kCambiada:
-        return Vigencia::Cambiada;
-    case cDeclaSvr::kBorrada:
-        return Vigencia::Borrada;
-    default:
-        return Vigencia::Vigente;
-    }
 }

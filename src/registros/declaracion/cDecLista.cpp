@@ -17,11 +17,12 @@ void cDecLista::IniciarLista()
     BUSQUEDA = QStringLiteral("N");
 }
 
-int32_t cDecLista::CargarDeclaraciones(Arreglo2D& datos)
+QList<FilaDeclaracion> cDecLista::CargarDeclaraciones()
 {
-    NUMDECLASEL = Almacen<cDeclaSvr>().dameResultadoBusqueda(datos, Criterios(), ORDEN,
-                                                             TIPOORDEN, OffsetIdioma());
-    return NUMDECLASEL;
+    QList<FilaDeclaracion> filas =
+        Almacen<cDeclaSvr>().dameResultadoBusqueda(Criterios(), ORDEN, TIPOORDEN, OffsetIdioma());
+    NUMDECLASEL = static_cast<int32_t>(filas.size());
+    return filas;
 }
 
 cDecLista& DecLista()

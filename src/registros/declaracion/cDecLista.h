@@ -2,8 +2,10 @@
 // The state of the list of returns (one instance, DecLista()). It outlives the panel, so the
 // list that comes back from the declaration form finds its order, its search and its
 // selection again; the new return's code, when one was made, is the one selected.
-#include "servicios/Arreglos.h"
+#include "valores/FilaDeclaracion.h"
 #include "valores/cListaDeclaraciones.h"
+
+#include <QList>
 
 class cDecLista : public cListaDeclaraciones {
 public:
@@ -12,9 +14,8 @@ public:
     // The start by ENTRADA: "A" and "E" a fresh list (open or delete mode); anything else
     // keeps order, conditions and selection, in open mode and in the result state.
     void IniciarLista();
-    // The returns of the conditions in ORDEN and TIPOORDEN (datos[columna][fila], six
-    // columns); NUMDECLASEL takes the count, which is answered.
-    int32_t CargarDeclaraciones(Arreglo2D& datos);
+    // The returns of the conditions in ORDEN and TIPOORDEN; NUMDECLASEL takes their count.
+    QList<FilaDeclaracion> CargarDeclaraciones();
 };
 
 cDecLista& DecLista();

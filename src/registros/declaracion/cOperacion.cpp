@@ -29,16 +29,16 @@ void cOperacion::Inicializa()
     m_tip = m_min = m_max = m_dedu = 0;
 }
 
-void cOperacion::ActualizaOperacion(const Arreglo& datos, bool sinReduccion)
+void cOperacion::ActualizaOperacion(const DatosOperacion& datos, bool sinReduccion)
 {
-    DESCRIP = datos.value(0).toString();
-    T_IMPR = datos.value(1).toString();
-    T_NSUJ = datos.value(2).toString();
-    T_EXE = datos.value(3).toString();
-    setT_TIP(datos.value(4).toDouble());
-    setT_MIN(datos.value(5).toDouble());
-    setT_MAX(datos.value(6).toDouble());
-    setT_DEDU(datos.value(7).toDouble());
+    DESCRIP = datos.descripcion;
+    T_IMPR = datos.impresion;
+    T_NSUJ = datos.nosujeto;
+    T_EXE = datos.exento;
+    setT_TIP(datos.tipo);
+    setT_MIN(datos.tipoMinimo);
+    setT_MAX(datos.tipoMaximo);
+    setT_DEDU(datos.deduccion);
     // A reduction of the base makes no sense on an exempt or not-subject case.
     if (sinReduccion || T_EXE == QLatin1String("X") || T_NSUJ == QLatin1String("X"))
         T_RED.clear();

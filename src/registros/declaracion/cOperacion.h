@@ -2,7 +2,7 @@
 // The operation chosen on the return: its description, print key, marks, rate, limits of a
 // typed rate and deduction, as the store gives them for the date of accrual. One shared
 // instance, Operacion(); the declaration form and the record read it.
-#include "servicios/Arreglos.h"
+#include "servicios/cDeclaSvr.h"
 
 #include <QString>
 #include <cstdint>
@@ -32,10 +32,9 @@ public:
 
     // Empty texts and zero numbers.
     void Inicializa();
-    // Fills the object from the store's eight values: (0) description, (1) print key,
-    // (2) not-subject mark, (3) exempt mark, (4) rate, (5) lowest, (6) highest rate,
-    // (7) deduction. T_RED is kept unless `sinReduccion` or the case is exempt or not subject.
-    void ActualizaOperacion(const Arreglo& datos, bool sinReduccion);
+    // Fills the object from the store's operation. T_RED is kept unless `sinReduccion` or the
+    // case is exempt or not subject.
+    void ActualizaOperacion(const DatosOperacion& datos, bool sinReduccion);
 
 private:
     double m_tip = 0;

@@ -22,7 +22,7 @@ struct Interviniente {
 
 int valor(const QString& texto) { return texto.trimmed().toInt(); }
 
-QString importe(double centimos) { return Formato(centimos / 100.0, kImporte); }
+QString importe(Importe cantidad) { return Formato(cantidad.euros(), kImporte); }
 
 void municipioYProvincia(cSuperficiePagina& p, float y, const Interviniente& i)
 {
@@ -59,14 +59,14 @@ void datosInterviniente(cSuperficiePagina& p, float y, const Interviniente& i)
         TextoCentrado(p, 77, y + 20.5f, 18, i.codpos);
 }
 
-QString municipioTransmitente(const cDecDatos& d)
+QString municipioTransmitente(const Declaracion& d)
 {
     if (valor(d.CODPROVTR) == kProvinciaPropia)
         return valor(d.CODMUNTR) != 0 ? NombreMunicipioMayus(d.CODMUNTR) : QString();
     return d.NOMMUNTR.trimmed();
 }
 
-QString domicilioTransmitente(const cDecDatos& d)
+QString domicilioTransmitente(const Declaracion& d)
 {
     QString linea = d.DOMICILIOTR.trimmed() + QLatin1Char(' ');
     if (d.NUMEROTR != 0)
@@ -91,7 +91,7 @@ void DatosPeriodo(cSuperficiePagina& p, float y)
 
 void DatosSujetoPasivo(cSuperficiePagina& p, float y)
 {
-    const cDecDatos& d = DecDatos();
+    const Declaracion& d = DecDatos();
     // The obligor's telephone cell stays blank: the return keeps no telephone of the subject.
     datosInterviniente(p, y, {d.DNISP, d.NOMBRESP, d.DOMICILIOSP, d.NUMEROSP, d.LETRASP,
                               d.ESCALERASP, d.PISOSP, d.MANOSP, QString(), d.CODPROVSP,
@@ -108,7 +108,7 @@ void DatosPresentador(cSuperficiePagina& p, float y)
 
 void DatosTransmitente(cSuperficiePagina& p, float y)
 {
-    const cDecDatos& d = DecDatos();
+    const Declaracion& d = DecDatos();
     TextoCentrado(p, 14, y + 4, 22, d.DNITR);
     TextoCentrado(p, 45, y + 4, 130, d.NOMBRETR);
     TextoIzquierda(p, 12, y + 12.4f, domicilioTransmitente(d));
@@ -124,7 +124,7 @@ void DatosTransmitente(cSuperficiePagina& p, float y)
 
 void DatosCaracteristicas(cSuperficiePagina& p, float y)
 {
-    const cDecDatos& d = DecDatos();
+    const Declaracion& d = DecDatos();
     if (d.ADQUIRIDO == QLatin1String("X"))
         TextoIzquierda(p, 161.5f, y + 3, QStringLiteral("X"));
     TextoCentrado(p, 32, y + 12, 42, d.MARCA);
@@ -145,7 +145,7 @@ void DatosCaracteristicas(cSuperficiePagina& p, float y)
 
 void DatosAutoliquidacion(cSuperficiePagina& p, float y)
 {
-    const cDecDatos& d = DecDatos();
+    const Declaracion& d = DecDatos();
     const QString x = QStringLiteral("X");
     if (d.NOSUJETO == x)
         TextoIzquierda(p, 44.9f, y + 5.5f, x);

@@ -72,7 +72,7 @@ void ImprimirEjemplarBanco(cSuperficiePagina& p)
     FuenteArial(p, 9, true);
     DatosPeriodo(p, 26);
     DatosSujetoPasivo(p, 58);
-    TextoDerecha(p, 187, 237, Formato(DecDatos().TOTAL / 100.0, QStringLiteral("###,###,###,##0.00")));
+    TextoDerecha(p, 187, 237, Formato(DecDatos().TOTAL.euros(), QStringLiteral("###,###,###,##0.00")));
     estado.Restaurar();
     p.EndDoc();
 }

@@ -28,17 +28,18 @@ void cPreDeclaraciones::IniciarLista()
     CSPR = PreLista().CSPR;
 }
 
-Arreglo cConDeclaraciones::ObtenerContadores() const
+cConDeclaraciones::Contadores cConDeclaraciones::ObtenerContadores() const
 {
-    return Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
+    const Arreglo a = Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
+    return {a.value(0).toString(), a.value(1).toString()};
 }
 
-int32_t cConDeclaraciones::CargarDeclaraciones(Arreglo2D& datos)
+QList<FilaDeclaracion> cConDeclaraciones::CargarDeclaraciones()
 {
-    NUMDECLASEL = Almacen<cDeclaSvr>().dameDeclaracionesContribuyente(
-        Criterios(), datos, CSCO, ORDEN, TIPOORDEN,
-        OffsetIdioma());
-    return NUMDECLASEL;
+    QList<FilaDeclaracion> filas = Almacen<cDeclaSvr>().dameDeclaracionesContribuyente(
+        Criterios(), CSCO, ORDEN, TIPOORDEN, OffsetIdioma());
+    NUMDECLASEL = static_cast<int32_t>(filas.size());
+    return filas;
 }
 
 int32_t cPreDeclaraciones::ObtenerContador() const
@@ -46,12 +47,12 @@ int32_t cPreDeclaraciones::ObtenerContador() const
     return Almacen<cPresenSvr>().NumDeclaPresentador(CSPR);
 }
 
-int32_t cPreDeclaraciones::CargarDeclaraciones(Arreglo2D& datos)
+QList<FilaDeclaracion> cPreDeclaraciones::CargarDeclaraciones()
 {
-    NUMDECLASEL = Almacen<cDeclaSvr>().dameDeclaracionesPresentador(
-        Criterios(), datos, CSPR, ORDEN, TIPOORDEN,
-        OffsetIdioma());
-    return NUMDECLASEL;
+    QList<FilaDeclaracion> filas = Almacen<cDeclaSvr>().dameDeclaracionesPresentador(
+        Criterios(), CSPR, ORDEN, TIPOORDEN, OffsetIdioma());
+    NUMDECLASEL = static_cast<int32_t>(filas.size());
+    return filas;
 }
 
 cConDeclaraciones& ConDeclaraciones()

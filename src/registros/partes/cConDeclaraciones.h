@@ -4,8 +4,10 @@
 // conditions and the selected return are found again after a trip to the declaration form or
 // to the print; ENTRADA carries the trip ("D" or "I" appended) and the form, on closing, sets
 // it back to "P".
-#include "servicios/Arreglos.h"
+#include "valores/FilaDeclaracion.h"
 #include "valores/cListaDeclaraciones.h"
+
+#include <QList>
 
 #include <QString>
 #include <cstdint>
@@ -23,10 +25,14 @@ public:
     // other entry keeps order, conditions and selection, in the result state.
     void IniciarLista();
 
-    // {returns as subject, as transmitter}, asked of the store each time.
-    Arreglo ObtenerContadores() const;
-    // The contributor's returns of the conditions, seven columns (the last "S", "T" or "S-T").
-    int32_t CargarDeclaraciones(Arreglo2D& datos);
+    // The contributor's returns as subject and as transmitter, asked of the store each time.
+    struct Contadores {
+        QString comoSujeto;
+        QString comoTransmitente;
+    };
+    Contadores ObtenerContadores() const;
+    // The contributor's returns of the conditions, each with its PARTE ("S", "T" or "S-T").
+    QList<FilaDeclaracion> CargarDeclaraciones();
 };
 
 class cPreDeclaraciones : public cListaDeclaraciones {
@@ -42,7 +48,7 @@ public:
     // The presenter's returns, asked of the store each time.
     int32_t ObtenerContador() const;
     // The presenter's returns of the conditions, six columns.
-    int32_t CargarDeclaraciones(Arreglo2D& datos);
+    QList<FilaDeclaracion> CargarDeclaraciones();
 };
 
 cConDeclaraciones& ConDeclaraciones();

@@ -20,18 +20,44 @@
 int32_t DeclaracionGuardada(const QString& referencia, int32_t fecha, const QString& operacion,
                             int32_t cssu, int32_t cstra, int32_t cspr)
 {
-    const Arreglo datos = {
-        0, referencia, cspr, cssu, cstra, fecha, QString(), QStringLiteral("SEAT"), QStringLiteral("6J"),
-        QStringLiteral("IBIZA"), QStringLiteral("VSSZZZ6JZAR000001"), 1000, QStringLiteral("G"),
-        1598, operacion, QString(), QString(), QString(), 1500000.0, 0.0, 4.75, 71250.0, 0.0,
-        71250.0, Dni(12345678), QStringLiteral("GARCIA LOPEZ JUAN"), QStringLiteral("CL"),
-        QStringLiteral("MAYOR"), 7, QString(), QString(), QString(), QString(),
-        QStringLiteral("77"), QString(), QStringLiteral("77001"), QStringLiteral("001"), QString(),
-        QStringLiteral("O"), Dni(87654321), QStringLiteral("AUTOS VELDO SA"), QStringLiteral("AV"),
-        QStringLiteral("GASTEIZ"), 2, QString(), QString(), QString(), QString(),
-        QStringLiteral("N"), QString(), QStringLiteral("77"), QString(), QStringLiteral("77002"),
-        QStringLiteral("002"), QString()};
-    return Almacen<cDeclaSvr>().GuardarDeclaracion(datos);
+    Declaracion d;
+    d.REFERENCIA = referencia;
+    d.CSPR = cspr;
+    d.CSSU = cssu;
+    d.CSTRA = cstra;
+    d.FECHAD = fecha;
+    d.MARCA = QStringLiteral("SEAT");
+    d.TIPO = QStringLiteral("6J");
+    d.MODELO = QStringLiteral("IBIZA");
+    d.BASTIDOR = QStringLiteral("VSSZZZ6JZAR000001");
+    d.CLASIFICACION = 1000;
+    d.MOTOR = QStringLiteral("G");
+    d.CILINDRADA = 1598;
+    d.OPERACION = operacion;
+    d.BASEI = Importe(1500000.0);
+    d.TIPOIMP = 4.75;
+    d.CUOTA = Importe(71250.0);
+    d.TOTAL = Importe(71250.0);
+    d.DNISP = Dni(12345678);
+    d.NOMBRESP = QStringLiteral("GARCIA LOPEZ JUAN");
+    d.VIASP = QStringLiteral("CL");
+    d.DOMICILIOSP = QStringLiteral("MAYOR");
+    d.NUMEROSP = 7;
+    d.CODPROVSP = QStringLiteral("77");
+    d.CODPOSSP = QStringLiteral("77001");
+    d.CODMUNSP = QStringLiteral("001");
+    d.TIPODNITR = QStringLiteral("O");
+    d.DNITR = Dni(87654321);
+    d.NOMBRETR = QStringLiteral("AUTOS VELDO SA");
+    d.VIATR = QStringLiteral("AV");
+    d.DOMICILIOTR = QStringLiteral("GASTEIZ");
+    d.NUMEROTR = 2;
+    d.TIPODOMITR = QStringLiteral("N");
+    d.CODPROVTR = QStringLiteral("77");
+    d.CODPOSTR = QStringLiteral("77002");
+    d.CODMUNTR = QStringLiteral("002");
+    const Resultado<Declaracion> r = Almacen<cDeclaSvr>().GuardarDeclaracion(d);
+    return r ? r->CSDE : 0;
 }
 
 void Comando(const ProgramaDePrueba& prog, const char* nombre)

@@ -13,9 +13,12 @@
 #include "valores/Redondeo.h"
 
 #include <QLocale>
+#include <QRandomGenerator>
 #include <QTest>
+#include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
 
 class TestCalculo : public QObject {
     Q_OBJECT
@@ -140,9 +143,9 @@ private slots:
     void noSujetoBorraReduccionYBaseReducida()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.REDUCCION = QStringLiteral("X");
-        d.BASEIREDUCIDA = 500000;
+        d.BASEIREDUCIDA = Importe(500000);
         d.TIPOIMP = 12;
         Operacion().T_RED = QStringLiteral("X");
         operacion(QStringLiteral("X"), QString(), 0);
@@ -151,10 +154,10 @@ private slots:
         QVERIFY(d.EXENTO.isEmpty());
         QVERIFY(d.REDUCCION.isEmpty());
         QVERIFY(Operacion().T_RED.isEmpty());
-        QCOMPARE(d.BASEIREDUCIDA, 0.0);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 0.0);
         QCOMPARE(d.TIPOIMP, 0.0);
-        QCOMPARE(d.CUOTA, 0.0);
-        QCOMPARE(d.BASEI, 1000000.0);
+        QCOMPARE(d.CUOTA.centimos(), 0.0);
+        QCOMPARE(d.BASEI.centimos(), 1000000.0);
     }
 
     void conLasDosMarcasQuedaExento()
@@ -169,30 +172,30 @@ private slots:
     void laReduccionDeLaOperacionPasaAlRegistroYQuitaMarcas()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.NOSUJETO = QStringLiteral("X");
         operacion(QString(), QString(), 12);
         Operacion().T_RED = QStringLiteral("Y");
         AplicarOperacion();
         QCOMPARE(d.REDUCCION, QStringLiteral("Y"));
         QVERIFY(d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty());
-        QCOMPARE(d.BASEIREDUCIDA, 700000.0);
-        QCOMPARE(d.CUOTA, 84000.0);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 700000.0);
+        QCOMPARE(d.CUOTA.centimos(), 84000.0);
     }
 
     void laDeduccionVieneDeLaOperacion()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         operacion(QString(), QString(), 12, 0, 0, 48081);
         AplicarOperacion();
-        QCOMPARE(d.DEDUCCION, 48081.0);
-        QCOMPARE(d.TOTAL, 120000.0 - 48081.0);
+        QCOMPARE(d.DEDUCCION.centimos(), 48081.0);
+        QCOMPARE(d.TOTAL.centimos(), 120000.0 - 48081.0);
         // The computation itself never changes the deduction.
-        d.BASEI = 2000000;
+        d.BASEI = Importe(2000000);
         CalcularValores();
-        QCOMPARE(d.DEDUCCION, 48081.0);
-        QCOMPARE(d.TOTAL, 240000.0 - 48081.0);
+        QCOMPARE(d.DEDUCCION.centimos(), 48081.0);
+        QCOMPARE(d.TOTAL.centimos(), 240000.0 - 48081.0);
     }
 
     void operacionDesconocidaLimpiaMarcasTipoYDeduccion()
@@ -201,12 +204,12 @@ private slots:
         d.EXENTO = QStringLiteral("X");
         d.REDUCCION = QStringLiteral("X");
         d.TIPOIMP = 7;
-        d.DEDUCCION = 48081;
+        d.DEDUCCION = Importe(48081);
         Operacion().Inicializa();
         AplicarOperacion();
         QVERIFY(d.EXENTO.isEmpty() && d.NOSUJETO.isEmpty() && d.REDUCCION.isEmpty());
         QCOMPARE(d.TIPOIMP, 0.0);
-        QCOMPARE(d.DEDUCCION, 0.0);
+        QCOMPARE(d.DEDUCCION.centimos(), 0.0);
     }
 
     // --- CalcularValores ---------------------------------------------------------------------
@@ -214,16 +217,16 @@ private slots:
     void sinReduccion()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.TIPOIMP = 12;
-        d.BASEIREDUCIDA = 5;
+        d.BASEIREDUCIDA = Importe(5);
         CalcularValores();
-        QCOMPARE(d.BASEIREDUCIDA, 0.0);
-        QCOMPARE(d.CUOTA, 120000.0);
-        QCOMPARE(d.TOTAL, 120000.0);
-        QCOMPARE(Formato(d.BASEI / 100, QStringLiteral("#,###,###,###,##0.00")),
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 0.0);
+        QCOMPARE(d.CUOTA.centimos(), 120000.0);
+        QCOMPARE(d.TOTAL.centimos(), 120000.0);
+        QCOMPARE(Formato(d.BASEI.centimos() / 100, QStringLiteral("#,###,###,###,##0.00")),
                  QStringLiteral("10.000,00"));
-        QCOMPARE(Formato(d.TOTAL / 100, QStringLiteral("#,###,###,###,##0.00")),
+        QCOMPARE(Formato(d.TOTAL.centimos() / 100, QStringLiteral("#,###,###,###,##0.00")),
                  QStringLiteral("1.200,00"));
     }
 
@@ -243,60 +246,60 @@ private slots:
         QFETCH(double, reducida);
         QFETCH(double, cuota);
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.TIPOIMP = 12;
         d.REDUCCION = codigo;
         CalcularValores();
-        QCOMPARE(d.BASEIREDUCIDA, reducida);
-        QCOMPARE(d.CUOTA, cuota);
-        QCOMPARE(d.TOTAL, cuota);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), reducida);
+        QCOMPARE(d.CUOTA.centimos(), cuota);
+        QCOMPARE(d.TOTAL.centimos(), cuota);
     }
 
     void otraReduccionDejaLaBaseReducidaComoEsta()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.TIPOIMP = 10;
         d.REDUCCION = QStringLiteral("W");
-        d.BASEIREDUCIDA = 300000;
+        d.BASEIREDUCIDA = Importe(300000);
         CalcularValores();
-        QCOMPARE(d.BASEIREDUCIDA, 300000.0);
-        QCOMPARE(d.CUOTA, 30000.0);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 300000.0);
+        QCOMPARE(d.CUOTA.centimos(), 30000.0);
     }
 
     void cuotaConDecimalesDeCentimo()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 123457;
+        d.BASEI = Importe(123457);
         d.TIPOIMP = 12;
         CalcularValores();
-        QCOMPARE(d.CUOTA, 14814.84);
-        QCOMPARE(Formato(d.CUOTA / 100, QStringLiteral("##,###,###,##0.00")),
+        QCOMPARE(d.CUOTA.centimos(), 14814.84);
+        QCOMPARE(Formato(d.CUOTA.centimos() / 100, QStringLiteral("##,###,###,##0.00")),
                  QStringLiteral("148,15"));
     }
 
     void totalNuncaNegativo()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 100000;
+        d.BASEI = Importe(100000);
         d.TIPOIMP = 7;
-        d.DEDUCCION = 48081;
+        d.DEDUCCION = Importe(48081);
         CalcularValores();
-        QCOMPARE(d.CUOTA, 7000.0);
-        QCOMPARE(d.TOTAL, 0.0);
+        QCOMPARE(d.CUOTA.centimos(), 7000.0);
+        QCOMPARE(d.TOTAL.centimos(), 0.0);
     }
 
     void exentoTipoCeroCuotaCeroBaseIntacta()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 2345600;
+        d.BASEI = Importe(2345600);
         d.TIPOIMP = 12;
         operacion(QString(), QStringLiteral("X"), 0);
         AplicarOperacion();
         QCOMPARE(d.TIPOIMP, 0.0);
-        QCOMPARE(d.CUOTA, 0.0);
-        QCOMPARE(d.TOTAL, 0.0);
-        QCOMPARE(d.BASEI, 2345600.0);
+        QCOMPARE(d.CUOTA.centimos(), 0.0);
+        QCOMPARE(d.TOTAL.centimos(), 0.0);
+        QCOMPARE(d.BASEI.centimos(), 2345600.0);
     }
 
     void redondeoDeMedioNegativo()
@@ -307,10 +310,10 @@ private slots:
     void baseGrandeExacta()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 999999999999999.0;  // 9.999.999.999.999,99 on screen
+        d.BASEI = Importe(999999999999999.0);  // 9.999.999.999.999,99 on screen
         d.TIPOIMP = 1;
         CalcularValores();
-        QCOMPARE(d.CUOTA, 9999999999999.99);
+        QCOMPARE(d.CUOTA.centimos(), 9999999999999.99);
     }
 
     // --- ActualizarReduccion -----------------------------------------------------------------
@@ -332,12 +335,12 @@ private slots:
         QFETCH(bool, m2);
         QFETCH(QString, codigo);
         DecDatos().REDUCCION = QStringLiteral("Q");
-        DecDatos().BASEIREDUCIDA = 77;
+        DecDatos().BASEIREDUCIDA = Importe(77);
         Operacion().T_RED = QStringLiteral("Q");
         ActualizarReduccion({true, m1, true, m2});
         QCOMPARE(DecDatos().REDUCCION, codigo);
         QCOMPARE(Operacion().T_RED, codigo);
-        QCOMPARE(DecDatos().BASEIREDUCIDA, codigo.isEmpty() ? 0.0 : 77.0);
+        QCOMPARE(DecDatos().BASEIREDUCIDA.centimos(), codigo.isEmpty() ? 0.0 : 77.0);
     }
 
     void casillasDeshabilitadasNoCambianNada()
@@ -387,24 +390,24 @@ private slots:
 
     void tipoLibreDentroDeLimites()
     {
-        DecDatos().BASEI = 1000000;
+        DecDatos().BASEI = Importe(1000000);
         operacion(QString(), QString(), 99.99, 0, 14.75);
         const ResultadoTipo r = ValidarTipoImpositivo(14.75, false, false);
         QVERIFY(r.presentar && !r.volverAlTipo);
         QCOMPARE(DecDatos().TIPOIMP, 14.75);
-        QCOMPARE(DecDatos().CUOTA, 147500.0);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 147500.0);
         QVERIFY(MensajeSeam::registro().isEmpty());
     }
 
     void tipoLibreFueraDeLimites()
     {
-        DecDatos().BASEI = 1000000;
+        DecDatos().BASEI = Importe(1000000);
         DecDatos().TIPOIMP = 9;
         operacion(QString(), QString(), 99.99, 7, 12);
         const ResultadoTipo r = ValidarTipoImpositivo(12.01, false, false);
         QVERIFY(r.presentar && r.volverAlTipo);
         QCOMPARE(DecDatos().TIPOIMP, 9.0);
-        QCOMPARE(DecDatos().CUOTA, 90000.0);  // computed all the same
+        QCOMPARE(DecDatos().CUOTA.centimos(), 90000.0);  // computed all the same
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().first();
         QCOMPARE(m.texto, QStringLiteral("El Tipo Impositivo no puede ser menor que 7 ni mayor que 12"));
@@ -414,7 +417,7 @@ private slots:
 
     void tipoFijoSeAceptaTalCual()
     {
-        DecDatos().BASEI = 1000000;
+        DecDatos().BASEI = Importe(1000000);
         operacion(QString(), QString(), 12);
         const ResultadoTipo r = ValidarTipoImpositivo(50, false, false);
         QVERIFY(r.presentar && !r.volverAlTipo);
@@ -444,12 +447,12 @@ private slots:
     void limpiarOperacion()
     {
         DecDatos().OPERACION = QStringLiteral("P6");
-        DecDatos().BASEIREDUCIDA = 5;
+        DecDatos().BASEIREDUCIDA = Importe(5);
         operacion(QStringLiteral("X"), QStringLiteral("X"), 12, 1, 2, 48081);
         Operacion().T_RED = QStringLiteral("X");
         LimpiarOperacion();
         QVERIFY(DecDatos().OPERACION.isEmpty());
-        QCOMPARE(DecDatos().BASEIREDUCIDA, 0.0);
+        QCOMPARE(DecDatos().BASEIREDUCIDA.centimos(), 0.0);
         QCOMPARE(Operacion().T_DEDU(), 0.0);
         QCOMPARE(Operacion().T_TIP(), 0.0);
         QVERIFY(Operacion().T_NSUJ.isEmpty() && Operacion().T_EXE.isEmpty()
@@ -488,13 +491,13 @@ private slots:
     void tipoInicialTurismo()
     {
         cDecDatos& d = DecDatos();
-        d.BASEI = 1000000;
+        d.BASEI = Importe(1000000);
         d.CLASIFICACION = 1000;
         d.MOTOR = QStringLiteral("G");
         d.CILINDRADA = 1400;
         TipoInicialTurismo(QStringLiteral("1000"));
         QCOMPARE(d.TIPOIMP, 7.0);
-        QCOMPARE(d.CUOTA, 70000.0);
+        QCOMPARE(d.CUOTA.centimos(), 70000.0);
         d.CILINDRADA = 1800;
         TipoInicialTurismo(QStringLiteral("100"));  // not four characters: nothing
         QCOMPARE(d.TIPOIMP, 7.0);
@@ -504,7 +507,7 @@ private slots:
         // The sibling sets the rate and computes nothing.
         TipoInicialTurismoSinCalcular();
         QCOMPARE(d.TIPOIMP, 12.0);
-        QCOMPARE(d.CUOTA, 70000.0);
+        QCOMPARE(d.CUOTA.centimos(), 70000.0);
     }
 
     // --- Reading the base ----------------------------------------------------------------------
@@ -522,16 +525,60 @@ private slots:
         const QLocale anterior;
         QLocale::setDefault(QLocale(locale));
         std::setlocale(LC_ALL, locale == QLatin1String("C") ? "C" : (locale + ".UTF-8").toLatin1().constData());
-        QCOMPARE(BaseDeTexto(QStringLiteral("1.234,50")), 123450.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("10.000,00")), 1000000.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("0,00")), 0.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("0,01")), 1.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("1.234,56")), 123456.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("9.999.999.999.999,99")), 999999999999999.0);
-        QCOMPARE(BaseDeTexto(QString()), 0.0);
-        QCOMPARE(BaseDeTexto(QStringLiteral("ABC")), 0.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("1.234,50")).centimos(), 123450.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("10.000,00")).centimos(), 1000000.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("0,00")).centimos(), 0.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("0,01")).centimos(), 1.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("1.234,56")).centimos(), 123456.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("9.999.999.999.999,99")).centimos(), 999999999999999.0);
+        QCOMPARE(BaseDeTexto(QString()).centimos(), 0.0);
+        QCOMPARE(BaseDeTexto(QStringLiteral("ABC")).centimos(), 0.0);
         std::setlocale(LC_ALL, "C");
         QLocale::setDefault(anterior);
+    }
+
+    // The amounts kept as Importe come out of the computation with the very bits that plain
+    // doubles give by the same arithmetic, over many bases, rates, reductions and deductions
+    // (the shapes the form produces: whole cents, rates with two decimals, and a few odd ones).
+    void importesIgualesBitABitQueConDouble()
+    {
+        QRandomGenerator azar(747);
+        const QString reducciones[] = {QString(), QStringLiteral("X"), QStringLiteral("Y"),
+                                       QStringLiteral("Z")};
+        cDecDatos& d = DecDatos();
+        for (int i = 0; i < 20000; ++i) {
+            const double base = i % 97 == 0 ? azar.generateDouble() * 1e15
+                                            : std::round(azar.generateDouble() * 1e9);
+            const double tipo = i % 89 == 0 ? azar.generateDouble() * 100
+                                            : int(azar.bounded(10000)) / 100.0;
+            const double deduccion = i % 3 == 0 ? std::round(azar.generateDouble() * 1e7) : 0;
+            const QString& reduccion = reducciones[azar.bounded(4)];
+            d.BASEI = Importe(base);
+            d.TIPOIMP = tipo;
+            d.REDUCCION = reduccion;
+            d.DEDUCCION = Importe(deduccion);
+            CalcularValores();
+
+            double reducida = 0;
+            double cuota = 0;
+            if (reduccion.isEmpty()) {
+                cuota = Redondear(tipo * base / 100, 2);
+            } else {
+                const double factor = reduccion == QLatin1String("X") ? 0.5
+                    : reduccion == QLatin1String("Y")                 ? 0.7
+                                                                      : 0.2;
+                reducida = base * factor;
+                cuota = Redondear(tipo * reducida / 100, 2);
+            }
+            double total = cuota - deduccion;
+            if (total < 0)
+                total = 0;
+            const auto bits = [](double v) { return std::bit_cast<std::uint64_t>(v); };
+            QCOMPARE(bits(d.BASEIREDUCIDA.centimos()), bits(reducida));
+            QCOMPARE(bits(d.CUOTA.centimos()), bits(cuota));
+            QCOMPARE(bits(d.TOTAL.centimos()), bits(total));
+            QCOMPARE(bits(d.BASEI.centimos()), bits(base));
+        }
     }
 
     void tasaEnTexto()

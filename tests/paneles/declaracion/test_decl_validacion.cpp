@@ -1,5 +1,5 @@
-// The whole-return check as the declaration form runs it: the 33 values, the message and the
-// control that takes the focus for each rule, the check of the parties' tax numbers, and the
+// The whole-return check as the declaration form runs it: what the store judges, the message
+// and the control that takes the focus for each rule, the check of the parties' tax numbers, and the
 // date of accrual with what a new date does to the operation, in both languages.
 #include "comun/DeclaracionPrueba.h"
 
@@ -51,50 +51,49 @@ private slots:
 
     // --- The array ---------------------------------------------------------------------------
 
-    void arregloDeTreintaYTresValores()
+    void datosQueJuzgaElAlmacen()
     {
         cDecDatos& d = DecDatos();
         d.CODPROVSP = QStringLiteral("1");
         d.CODPOSSP = QStringLiteral("1001");
         d.CODPROVTR = QStringLiteral("8");
         d.CODPOSTR = QStringLiteral("8001");
-        const Arreglo a = DatosValidacion(true);
-        QCOMPARE(a.size(), 33);
-        QCOMPARE(a[0].toString(), d.MARCA);
-        QCOMPARE(a[1].toString(), d.MODELO);
-        QCOMPARE(a[2].toString(), d.TIPO);
-        QCOMPARE(a[3].toString(), d.BASTIDOR);
-        QCOMPARE(a[4].toInt(), 1000);
-        QCOMPARE(a[5].toInt(), 1598);
-        QCOMPARE(a[6].toString(), QStringLiteral("T2"));
-        QCOMPARE(a[7].toDouble(), 1500000.0);
-        QCOMPARE(a[8].toDouble(), 4.75);
-        QCOMPARE(a[9].toDouble(), 0.0);
-        QCOMPARE(a[12].toString(), d.DNISP);
-        QCOMPARE(a[16].toString(), QStringLiteral("01"));
-        QCOMPARE(a[17].toString(), QStringLiteral("01001"));
-        QCOMPARE(a[20].toString(), QStringLiteral("O"));
-        QCOMPARE(a[25].toString(), QStringLiteral("N"));
-        QCOMPARE(a[27].toString(), QStringLiteral("08"));
-        QCOMPARE(a[29].toString(), QStringLiteral("08001"));
-        QCOMPARE(a[32].toString(), QStringLiteral("G"));
+        const DatosValidacion a = DatosDeValidacion(true);
+        QCOMPARE(a.MARCA, d.MARCA);
+        QCOMPARE(a.MODELO, d.MODELO);
+        QCOMPARE(a.TIPO, d.TIPO);
+        QCOMPARE(a.BASTIDOR, d.BASTIDOR);
+        QCOMPARE(a.CLASIFICACION, 1000.0);
+        QCOMPARE(a.CILINDRADA, 1598.0);
+        QCOMPARE(a.OPERACION, QStringLiteral("T2"));
+        QCOMPARE(a.BASEI, 1500000.0);
+        QCOMPARE(a.TIPOIMP, 4.75);
+        QCOMPARE(a.TASA, 0.0);
+        QCOMPARE(a.DNISP, d.DNISP);
+        QCOMPARE(a.CODPROVSP, QStringLiteral("01"));
+        QCOMPARE(a.CODPOSSP, QStringLiteral("01001"));
+        QCOMPARE(a.TIPODNITR, QStringLiteral("O"));
+        QCOMPARE(a.TIPODOMITR, QStringLiteral("N"));
+        QCOMPARE(a.CODPROVTR, QStringLiteral("08"));
+        QCOMPARE(a.CODPOSTR, QStringLiteral("08001"));
+        QCOMPARE(a.MOTOR, QStringLiteral("G"));
         // A foreign address passes its postal code as typed.
         d.TIPODOMITR = QStringLiteral("E");
         d.CODPOSTR = QStringLiteral("8001");
-        QCOMPARE(DatosValidacion(true)[29].toString(), QStringLiteral("8001"));
+        QCOMPARE(DatosDeValidacion(true).CODPOSTR, QStringLiteral("8001"));
         d.CODPOSTR = QStringLiteral("SW1A 1AA");
-        QCOMPARE(DatosValidacion(true)[29].toString(), QStringLiteral("SW1A 1AA"));
+        QCOMPARE(DatosDeValidacion(true).CODPOSTR, QStringLiteral("SW1A 1AA"));
     }
 
     void tipoAbiertoLlevaLaTasaLibre()
     {
         DecDatos().OPERACION = QStringLiteral("TL");
         DecDatos().ObtenerDatosOperacion(false);
-        const Arreglo a = DatosValidacion(false);
-        QVERIFY(EsTasaLibre(a[9].toDouble()));
-        QCOMPARE(a[10].toDouble(), 0.0);
-        QCOMPARE(a[11].toDouble(), 14.75);
-        QCOMPARE(DatosValidacion(true)[9].toDouble(), 0.0);
+        const DatosValidacion a = DatosDeValidacion(false);
+        QVERIFY(EsTasaLibre(a.TASA));
+        QCOMPARE(a.TASAMINIMA, 0.0);
+        QCOMPARE(a.TASAMAXIMA, 14.75);
+        QCOMPARE(DatosDeValidacion(true).TASA, 0.0);
     }
 
     // --- Messages and focus ------------------------------------------------------------------
@@ -139,7 +138,7 @@ private slots:
         QFETCH(int, id);
         QFETCH(QString, control);
         QFETCH(int, pestana);
-        const Veredicto v = VeredictoDeclaracion(static_cast<int16_t>(numero), QString());
+        const Veredicto v = VeredictoDeclaracion(numero, QString());
         QCOMPARE(v.mensaje, Texto(id));
         QCOMPARE(v.control, control);
         QCOMPARE(v.pestana, pestana);
@@ -168,7 +167,7 @@ private slots:
     void numerosSinMensaje()
     {
         for (int n : {0, 41, 57, -1}) {
-            const Veredicto v = VeredictoDeclaracion(static_cast<int16_t>(n), QString());
+            const Veredicto v = VeredictoDeclaracion(n, QString());
             QVERIFY(v.mensaje.isEmpty());
             QVERIFY(v.control.isEmpty());
         }
@@ -176,9 +175,8 @@ private slots:
 
     void declaracionValidaPasaSinMensaje()
     {
-        VeredictoValidacion v;
-        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
-        QCOMPARE(v.numero, int16_t(0));
+        const Veredicto v = ValidarCampos(true, kTitulo, Operacion().DESCRIP);
+        QVERIFY(v.vacio());
         QVERIFY(MensajeSeam::registro().isEmpty());
     }
 
@@ -186,10 +184,10 @@ private slots:
     {
         DecDatos().MARCA.clear();
         DecDatos().DNISP = QStringLiteral("12345678A");
-        const Arreglo antes = DecDatos().DatosGuardar();
-        VeredictoValidacion v;
-        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
-        QCOMPARE(v.numero, int16_t(1));
+        const Declaracion antes = DecDatos().valor();
+        const Veredicto v = ValidarCampos(true, kTitulo, Operacion().DESCRIP);
+        QVERIFY(!v.vacio());
+        QCOMPARE(ReglaDe(v), 1);
         QCOMPARE(v.control, QStringLiteral("txtmarca"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().first();
@@ -197,15 +195,15 @@ private slots:
         QCOMPARE(m.titulo, kTitulo);
         QCOMPARE(m.icono(), int(vb::Information));
         // Nothing in the record changes during validation.
-        QCOMPARE(DecDatos().DatosGuardar(), antes);
+        QVERIFY(DecDatos().valor() == antes);
     }
 
     void reglaDelTransmitenteLlevaSuPestana()
     {
         DecDatos().NOMBRETR.clear();
-        VeredictoValidacion v;
-        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
-        QCOMPARE(v.numero, int16_t(21));
+        const Veredicto v = ValidarCampos(true, kTitulo, Operacion().DESCRIP);
+        QVERIFY(!v.vacio());
+        QCOMPARE(ReglaDe(v), 21);
         QCOMPARE(v.control, QStringLiteral("txtnombretr"));
         QCOMPARE(v.pestana, kPestanaTransmitente);
     }
@@ -215,14 +213,14 @@ private slots:
         DecDatos().OPERACION = QStringLiteral("TL");
         DecDatos().ObtenerDatosOperacion(false);
         DecDatos().TIPOIMP = 15;
-        VeredictoValidacion v;
-        QVERIFY(!ValidarCampos(false, kTitulo, Operacion().DESCRIP, &v));
-        QCOMPARE(v.numero, int16_t(9));
+        const Veredicto v = ValidarCampos(false, kTitulo, Operacion().DESCRIP);
+        QVERIFY(!v.vacio());
+        QCOMPARE(ReglaDe(v), 9);
         QCOMPARE(MensajeSeam::registro().first().texto,
                  QStringLiteral("El Tipo Impositivo no puede ser menor que 0 ni mayor que 14,75\n"));
         // The same return with the box locked does not check the limits.
         MensajeSeam::limpiar();
-        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
+        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP).vacio());
     }
 
     void exentoPasaConTipoCero()
@@ -231,16 +229,16 @@ private slots:
         DecDatos().ObtenerDatosOperacion(false);
         AplicarOperacion();
         QCOMPARE(DecDatos().TIPOIMP, 0.0);
-        QCOMPARE(DatosValidacion(true)[9].toDouble(), 0.0);
-        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP));
+        QCOMPARE(DatosDeValidacion(true).TASA, 0.0);
+        QVERIFY(ValidarCampos(true, kTitulo, Operacion().DESCRIP).vacio());
     }
 
     void operacionQueYaNoRigeSeDetiene()
     {
         DecDatos().OPERACION = QStringLiteral("TN");  // ended in 2007; the return is of 2010
-        VeredictoValidacion v;
-        QVERIFY(!ValidarCampos(true, kTitulo, QString(), &v));
-        QCOMPARE(v.numero, int16_t(7));
+        const Veredicto v = ValidarCampos(true, kTitulo, QString());
+        QVERIFY(!v.vacio());
+        QCOMPARE(ReglaDe(v), 7);
     }
 
     void planDeBajasConMensajeDeLaOperacion()
@@ -251,9 +249,9 @@ private slots:
         d.CILINDRADA = 2998;
         d.ObtenerDatosOperacion(false);
         AplicarOperacion();
-        VeredictoValidacion v;
-        QVERIFY(!ValidarCampos(true, kTitulo, Operacion().DESCRIP, &v));
-        QCOMPARE(v.numero, int16_t(39));
+        const Veredicto v = ValidarCampos(true, kTitulo, Operacion().DESCRIP);
+        QVERIFY(!v.vacio());
+        QCOMPARE(ReglaDe(v), 39);
         QCOMPARE(MensajeSeam::registro().first().texto,
                  Texto(356) + Operacion().DESCRIP + Texto(357));
     }
@@ -374,7 +372,7 @@ private slots:
         QCOMPARE(lista.size(), 14);
         QCOMPARE(DecDatos().OPERACION, QStringLiteral("T2"));
         QCOMPARE(DecDatos().TIPOIMP, 4.75);
-        QCOMPARE(DecDatos().CUOTA, 71250.0);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 71250.0);
         QVERIFY(EntradaDeLista(lista, Operacion().DESCRIP) >= 0);
     }
 
@@ -384,10 +382,10 @@ private slots:
         const QStringList lista = ActualizarOperacionPorFecha(true);
         QCOMPARE(lista.size(), 15);
         QVERIFY(DecDatos().OPERACION.isEmpty());
-        QCOMPARE(DecDatos().BASEI, 0.0);  // a new return loses its base too
+        QCOMPARE(DecDatos().BASEI.centimos(), 0.0);  // a new return loses its base too
         QCOMPARE(DecDatos().TIPOIMP, 0.0);
-        QCOMPARE(DecDatos().CUOTA, 0.0);
-        QCOMPARE(DecDatos().TOTAL, 0.0);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 0.0);
+        QCOMPARE(DecDatos().TOTAL.centimos(), 0.0);
         QVERIFY(Operacion().DESCRIP.isEmpty());
     }
 
@@ -397,8 +395,8 @@ private slots:
         DecDatos().FECHAD = 20050101;
         ActualizarOperacionPorFecha(true);
         QVERIFY(DecDatos().OPERACION.isEmpty());
-        QCOMPARE(DecDatos().BASEI, 1500000.0);
-        QCOMPARE(DecDatos().TOTAL, 0.0);
+        QCOMPARE(DecDatos().BASEI.centimos(), 1500000.0);
+        QCOMPARE(DecDatos().TOTAL.centimos(), 0.0);
     }
 
     void tasaLibreConLosLimitesDeLaNuevaFecha()
@@ -430,7 +428,7 @@ private slots:
         d.FECHAD = 20110101;
         ActualizarOperacionPorFecha(true);
         QCOMPARE(d.REDUCCION, QStringLiteral("X"));
-        QCOMPARE(d.BASEIREDUCIDA, 750000.0);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 750000.0);
     }
 
     void entradaDeLista()

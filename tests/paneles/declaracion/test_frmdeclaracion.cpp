@@ -14,7 +14,6 @@
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/nucleo/CEntrada.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cDeclaSvr.h"
 
 #include <QAction>
@@ -93,7 +92,7 @@ private slots:
         QVERIFY(cerrado(n("txttipoimp")));
         QCOMPARE(n("txttipoimp")->text(), QStringLiteral("4,75"));
         EscribirYSalir(n("txtbasei"), QStringLiteral("15000"));
-        QCOMPARE(DecDatos().BASEI, 1500000.0);
+        QCOMPARE(DecDatos().BASEI.centimos(), 1500000.0);
         QCOMPARE(n("txtbasei")->text(), QStringLiteral("15.000,00"));
         QCOMPARE(n("txtcuota")->text(), QStringLiteral("712,50"));
         QCOMPARE(n("txttotal")->text(), QStringLiteral("712,50"));
@@ -119,7 +118,7 @@ private slots:
         QCOMPARE(DecDatos().OPERACION, QString());
         QCOMPARE(t("txtoperacion")->text(), QString());
         QCOMPARE(cmb()->currentIndex(), -1);
-        QCOMPARE(DecDatos().BASEI, 0.0);
+        QCOMPARE(DecDatos().BASEI.centimos(), 0.0);
         QCOMPARE(n("txtcuota")->text(), QStringLiteral("0,00"));
     }
 
@@ -214,8 +213,8 @@ private slots:
         clicCasilla(k("chkexento"));
         QCOMPARE(DecDatos().EXENTO, QStringLiteral("X"));
         QCOMPARE(DecDatos().TIPOIMP, 0.0);
-        QCOMPARE(DecDatos().CUOTA, 0.0);
-        QCOMPARE(DecDatos().BASEI, 100000.0);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 0.0);
+        QCOMPARE(DecDatos().BASEI.centimos(), 100000.0);
         QVERIFY(!k("chkReduccion1")->isEnabled());
         // Not subject takes the place of exempt.
         clicCasilla(k("chknosujeto"));
@@ -466,15 +465,12 @@ private slots:
         abrirGuardada(csde);
         QVERIFY(m_panel);
         QVERIFY(EnOtraConexion([csde] {
-            namespace G = PosGuardarDeclaracion;
-            Arreglo carga;
-            Almacen<cDeclaSvr>().CargarDeclaracion(csde, carga);
-            Arreglo datos(G::Tamano);
-            for (int i = 0; i < G::Tamano; ++i)
-                datos[i] = carga[PosicionDeCarga(i)];
-            datos[G::CSDE] = csde;
-            datos[G::REFERENCIA] = QStringLiteral("OTRA");
-            if (Almacen<cDeclaSvr>().GuardarDeclaracion(datos) != csde)
+            std::optional<Declaracion> otra = Almacen<cDeclaSvr>().CargarDeclaracion(csde);
+            if (!otra)
+                throw std::runtime_error("no cargada");
+            otra->REFERENCIA = QStringLiteral("OTRA");
+            const Resultado<Declaracion> r = Almacen<cDeclaSvr>().GuardarDeclaracion(*otra);
+            if (!r || r->CSDE != csde)
                 throw std::runtime_error("no guardada");
         }));
         EscribirYSalir(t("txtreferencia"), QStringLiteral("MIA"));

@@ -127,14 +127,14 @@ private slots:
         EscribirFecha(t("txtfechad"), QStringLiteral("15062011"));
         QCOMPARE(DecDatos().FECHAD, 20110615);
         QCOMPARE(DecDatos().REDUCCION, reduccion);
-        QCOMPARE(DecDatos().BASEIREDUCIDA, 1500000.0 * factor);
+        QCOMPARE(DecDatos().BASEIREDUCIDA.centimos(), 1500000.0 * factor);
         QCOMPARE(k("chkReduccion1")->isChecked(), primera);
         QCOMPARE(k("chkReduccion2")->isChecked(), segunda);
         // Another operation: the same.
         EscribirYSalir(t("txtoperacion"), QStringLiteral("T3"));
         QCOMPARE(DecDatos().TIPOIMP, 9.75);
         QCOMPARE(DecDatos().REDUCCION, reduccion);
-        QCOMPARE(DecDatos().CUOTA, 9.75 * 1500000.0 * factor / 100);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 9.75 * 1500000.0 * factor / 100);
         // Saved so.
         Clic(b("cmdAceptar"));
         QCOMPARE(mensajes(), QStringList());
@@ -153,12 +153,12 @@ private slots:
         abrirGuardada(sin);
         EscribirFecha(t("txtfechad"), QStringLiteral("15062011"));
         QCOMPARE(DecDatos().REDUCCION, QString());
-        QCOMPARE(DecDatos().CUOTA, 71250.0);
+        QCOMPARE(DecDatos().CUOTA.centimos(), 71250.0);
         Clic(b("cmdCancelar"));
         abrirGuardada(conReduccion, QStringLiteral("D"));
         EscribirYSalir(t("txtoperacion"), QStringLiteral("T4"));
         QCOMPARE(DecDatos().REDUCCION, QStringLiteral("X"));
-        QCOMPARE(DecDatos().BASEIREDUCIDA, 750000.0);
+        QCOMPARE(DecDatos().BASEIREDUCIDA.centimos(), 750000.0);
     }
 
     // ----- The tab strip -----

@@ -28,12 +28,12 @@ int32_t DeclaracionLlena()
     d.MOTOR = QStringLiteral("D");
     d.CILINDRADA = 99998;
     d.REDUCCION = QStringLiteral("Y");
-    d.BASEI = 99999999999.0;
-    d.BASEIREDUCIDA = 123450;
+    d.BASEI = Importe(99999999999.0);
+    d.BASEIREDUCIDA = Importe(123450);
     d.TIPOIMP = 12;
-    d.CUOTA = 100000;
-    d.DEDUCCION = 5;
-    d.TOTAL = 99995;
+    d.CUOTA = Importe(100000);
+    d.DEDUCCION = Importe(5);
+    d.TOTAL = Importe(99995);
     d.DNISP = Dni(22222222);
     d.NOMBRESP = QStringLiteral("NNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNNN");
     d.DOMICILIOSP = QStringLiteral("DDDDDDDDDDDDDDDDDDDD");
@@ -60,8 +60,7 @@ int32_t DeclaracionLlena()
     d.CODPOSTR = QStringLiteral("99999");
     d.CODMUNTR = QString();
     d.NOMMUNTR = QStringLiteral("UUUUUUUUUUUUUUUUUUUUUUUUU");
-    int32_t codigo = 0;
-    d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+    const int32_t codigo = d.GuardarDeclaracion() ? d.CSDE : 0;
     if (codigo <= 0 || !CargarParaImprimir(codigo))
         qFatal("Declaracion de prueba no guardada");
     ImOf().FECHAPRE = 20040311;

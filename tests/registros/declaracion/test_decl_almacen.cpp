@@ -1,22 +1,16 @@
 // The store of returns: every field saved and loaded back, new rows and updates, copies,
 // deletion, the counters of the parties after saves and deletions, the recent returns, the
-// parties as a return takes them, and bad arrays refused with nothing written.
+// parties as a return takes them.
 #include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "registros/declaracion/cDecDatos.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cPresenSvr.h"
 
 #include <QTest>
-
-namespace C = PosContribuyente;
-namespace G = PosGuardarDeclaracion;
-namespace L = PosCargarDeclaracion;
 
 namespace {
 
@@ -30,8 +24,7 @@ cDeclaSvr servidor()
 
 int32_t guardar()
 {
-    int32_t codigo = 0;
-    DecDatos().GuardarDeclaracion(DecDatos().DatosGuardar(), codigo);
+    const int32_t codigo = DecDatos().GuardarDeclaracion() ? DecDatos().CSDE : 0;
     return codigo;
 }
 
@@ -73,12 +66,12 @@ void rellenarTodo(int32_t cspr, int32_t cssu, int32_t cstra)
     d.NOSUJETO = QStringLiteral("X");
     d.EXENTO = QStringLiteral("X");
     d.REDUCCION = QStringLiteral("Y");
-    d.BASEI = 2345678;
-    d.BASEIREDUCIDA = 1641974.6;
+    d.BASEI = Importe(2345678);
+    d.BASEIREDUCIDA = Importe(1641974.6);
     d.TIPOIMP = 7;
-    d.CUOTA = 114938.22;
-    d.DEDUCCION = 72121;
-    d.TOTAL = 42817.22;
+    d.CUOTA = Importe(114938.22);
+    d.DEDUCCION = Importe(72121);
+    d.TOTAL = Importe(42817.22);
     d.DNISP = QStringLiteral("SP1");
     d.NOMBRESP = QStringLiteral("SUJETO ÑANDÚ");
     d.VIASP = QStringLiteral("AV");
@@ -129,7 +122,7 @@ private slots:
         const int32_t sp = NuevoContribuyente(Dni(22222222), QStringLiteral("SUJETO"));
         const int32_t tr = NuevoContribuyente(Dni(33333333), QStringLiteral("TRANS"));
         rellenarTodo(pr, sp, tr);
-        const Arreglo guardado = DecDatos().DatosGuardar();
+        Declaracion guardado = DecDatos().valor();
         const int32_t codigo = guardar();
         QVERIFY(codigo > 0);
 
@@ -139,16 +132,16 @@ private slots:
         DecDatos().CargarDeclaracion();
         const cDecDatos& d = DecDatos();
         QCOMPARE(d.CSDE, codigo);
-        Arreglo leido = d.DatosGuardar();
-        leido[G::CSDE] = 0;
-        QCOMPARE(leido.size(), guardado.size());
-        for (int i = 0; i < guardado.size(); ++i)
-            QVERIFY2(leido[i].toString() == guardado[i].toString(),
-                     qPrintable(QStringLiteral("%1: %2 / %3")
-                                    .arg(i)
-                                    .arg(leido[i].toString(), guardado[i].toString())));
-        QCOMPARE(d.BASEIREDUCIDA, 1641974.6);
-        QCOMPARE(d.CUOTA, 114938.22);
+        QVERIFY(d.VERSION != 0);
+        // Every stored field comes back as it went; what is not stored is read beside it.
+        guardado.CSDE = codigo;
+        guardado.VERSION = d.VERSION;
+        guardado.DNIPR = d.DNIPR;
+        guardado.NOMBREPR = d.NOMBREPR;
+        guardado.DECLASP = d.DECLASP;
+        QVERIFY(d.valor() == guardado);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 1641974.6);
+        QCOMPARE(d.CUOTA.centimos(), 114938.22);
         QCOMPARE(d.NOMBRESP, QStringLiteral("SUJETO ÑANDÚ"));
         // The presenter's number and name come from the presenter.
         QCOMPARE(d.DNIPR, Dni(11111111));
@@ -157,26 +150,78 @@ private slots:
         QCOMPARE(d.DECLASP, 0.0);
     }
 
-    void arregloDeCargaCompleto()
+    // Each field of the return is stored in its own column (the load reads the same columns
+    // into the same fields, which the round trip above checks).
+    void cadaCampoEnSuColumna()
+    {
+        const int32_t pr = NuevoPresentador(Dni(11111111), QStringLiteral("GESTORIA UNO"));
+        const int32_t sp = NuevoContribuyente(Dni(22222222), QStringLiteral("SUJETO"));
+        const int32_t tr = NuevoContribuyente(Dni(33333333), QStringLiteral("TRANS"));
+        rellenarTodo(pr, sp, tr);
+        DecDatos().NOMPROVSP = QStringLiteral("ALAVA");  // never stored
+        const int32_t codigo = guardar();
+        const QList<QPair<const char*, QString>> esperado{
+            {"REFERENCIA", QStringLiteral("REF-0042")}, {"CSPR", QString::number(pr)},
+            {"CSSU", QString::number(sp)}, {"CSTRA", QString::number(tr)},
+            {"FECHAD", QStringLiteral("20061115")}, {"ADQUIRIDO", QStringLiteral("X")},
+            {"MARCA", QStringLiteral("AUDI")}, {"TIPO", QStringLiteral("8P")},
+            {"MODELO", QStringLiteral("A3 SPORTBACK")},
+            {"BASTIDOR", QStringLiteral("WAUZZZ8P07A123456")},
+            {"CLASIFICACION", QStringLiteral("1010")}, {"MOTOR", QStringLiteral("D")},
+            {"CILINDRADA", QStringLiteral("1968")}, {"OPERACION", QStringLiteral("P7B")},
+            {"NOSUJETO", QStringLiteral("X")}, {"EXENTO", QStringLiteral("X")},
+            {"REDUCCION", QStringLiteral("Y")}, {"BASEI", QStringLiteral("2345678")},
+            {"BASEIREDUCIDA", QStringLiteral("1641974.6")}, {"TIPOIMP", QStringLiteral("7")},
+            {"CUOTA", QStringLiteral("114938.22")}, {"DEDUCCION", QStringLiteral("72121")},
+            {"TOTAL", QStringLiteral("42817.22")}, {"DNISP", QStringLiteral("SP1")},
+            {"NOMBRESP", QStringLiteral("SUJETO ÑANDÚ")}, {"VIASP", QStringLiteral("AV")},
+            {"DOMICILIOSP", QStringLiteral("GASTEIZ")}, {"NUMEROSP", QStringLiteral("12345")},
+            {"LETRASP", QStringLiteral("BI")}, {"ESCALERASP", QStringLiteral("E2")},
+            {"PISOSP", QStringLiteral("3")}, {"MANOSP", QStringLiteral("IZQ")},
+            {"CODPROVSP", QStringLiteral("77")}, {"NOMPROVSP", QString()},
+            {"CODPOSSP", QStringLiteral("77008")}, {"CODMUNSP", QStringLiteral("008")},
+            {"NOMMUNSP", QStringLiteral("MUNI SP")}, {"TIPODNITR", QStringLiteral("N")},
+            {"DNITR", QStringLiteral("TR1")}, {"NOMBRETR", QStringLiteral("TRANSMITENTE")},
+            {"VIATR", QStringLiteral("PZ")}, {"DOMICILIOTR", QStringLiteral("RUE")},
+            {"NUMEROTR", QStringLiteral("99")}, {"LETRATR", QStringLiteral("C")},
+            {"ESCALERATR", QStringLiteral("D")}, {"PISOTR", QStringLiteral("10")},
+            {"MANOTR", QStringLiteral("DCH")}, {"TIPODOMITR", QStringLiteral("E")},
+            {"PAISTR", QStringLiteral("FRANCIA")}, {"CODPROVTR", QStringLiteral("00")},
+            {"NOMPROVTR", QStringLiteral("ILE DE FRANCE")}, {"CODPOSTR", QStringLiteral("F-75")},
+            {"CODMUNTR", QStringLiteral("000")}, {"NOMMUNTR", QStringLiteral("PARIS")},
+        };
+        for (const auto& [columna, valor] : esperado)
+            QVERIFY2(ValorAlmacenado(QStringLiteral("SELECT %1 FROM DECLARACIONES WHERE CSDE = ?")
+                                         .arg(QLatin1String(columna)),
+                                     {codigo})
+                             .toString()
+                         == valor,
+                     columna);
+    }
+
+    void cargaCompleta()
     {
         rellenarTodo(0, 0, 0);
+        DecDatos().NOMPROVSP = QStringLiteral("ALAVA");  // never stored
         const int32_t codigo = guardar();
-        Arreglo a;
-        servidor().CargarDeclaracion(codigo, a);
-        QCOMPARE(a.size(), 58);
-        QCOMPARE(a[L::CSDE].toInt(), codigo);
-        QCOMPARE(a[L::DNIPR].toString(), QString());
-        QCOMPARE(a[L::NOMBREPR].toString(), QString());
-        QCOMPARE(a[L::DNISP].toString(), QStringLiteral("SP1"));
-        QCOMPARE(a[L::NOMPROVSP].toString(), QString());
-        QCOMPARE(a[L::NOMMUNTR].toString(), QStringLiteral("PARIS"));
-        QCOMPARE(a[L::DECLASP].toDouble(), 0.0);
-        // An unknown code gives an empty return.
-        Arreglo nada;
-        servidor().CargarDeclaracion(codigo + 100, nada);
-        QCOMPARE(nada.size(), 58);
-        QCOMPARE(nada[L::CSDE].toInt(), 0);
-        QCOMPARE(nada[L::MARCA].toString(), QString());
+        const std::optional<Declaracion> a = servidor().CargarDeclaracion(codigo);
+        QVERIFY(a.has_value());
+        QCOMPARE(a->CSDE, codigo);
+        QCOMPARE(a->DNIPR, QString());
+        QCOMPARE(a->NOMBREPR, QString());
+        QCOMPARE(a->DNISP, QStringLiteral("SP1"));
+        QCOMPARE(a->NOMPROVSP, QString());
+        QCOMPARE(a->NOMMUNTR, QStringLiteral("PARIS"));
+        QCOMPARE(a->DECLASP, 0.0);
+        QCOMPARE(a->VERSION, DecDatos().VERSION);
+        // An unknown code gives nothing; the record then holds an empty return.
+        QVERIFY(!servidor().CargarDeclaracion(codigo + 100).has_value());
+        DecDatos().CSDE = codigo + 100;
+        DecDatos().CargarDeclaracion();
+        QCOMPARE(DecDatos().CSDE, codigo + 100);
+        QCOMPARE(DecDatos().MARCA, QString());
+        QCOMPARE(DecDatos().MOTOR, QString());
+        QCOMPARE(DecDatos().VERSION, int64_t(0));
     }
 
     void numeroDeDeclaracionesComoSujetoDelTransmitente()
@@ -218,7 +263,7 @@ private slots:
         DecDatos().CSDE = original;
         DecDatos().setMODO(QStringLiteral("D"));
         DecDatos().CargarDeclaracion();
-        const Arreglo antes = DecDatos().DatosGuardar();
+        const Declaracion antes = DecDatos().valor();
         DecDatos().CSDE = 0;  // what the form does to a copy
         DecDatos().REFERENCIA = QStringLiteral("COPIA");
         const int32_t copia = guardar();
@@ -226,7 +271,7 @@ private slots:
         QCOMPARE(FilasDeclaraciones(), 2);
         DecDatos().CSDE = original;
         DecDatos().CargarDeclaracion();
-        QCOMPARE(DecDatos().DatosGuardar(), antes);
+        QVERIFY(DecDatos().valor() == antes);
         DecDatos().CSDE = copia;
         DecDatos().CargarDeclaracion();
         QCOMPARE(DecDatos().REFERENCIA, QStringLiteral("COPIA"));
@@ -243,12 +288,17 @@ private slots:
         QVERIFY(DecDatos().VERSION > 0);
         QVERIFY(servidor().BorrarDeclaracion(codigo));
         DecDatos().CSDE = codigo;
-        const int32_t respuesta = guardar();
-        QCOMPARE(respuesta, cDeclaSvr::kBorrada);
-        QCOMPARE(VigenciaGuardado(respuesta), Vigencia::Borrada);
+        const Resultado<void> respuesta = DecDatos().GuardarDeclaracion();
+        QVERIFY(!respuesta);
+        QCOMPARE(respuesta.veredicto().vigencia, Vigencia::Borrada);
+        QVERIFY(respuesta.veredicto().vacio());
+        QCOMPARE(DecDatos().CSDE, codigo);
         QCOMPARE(FilasDeclaraciones(), 0);
 
-        const int32_t nuevo = servidor().GuardarDeclaracion(DecDatos().DatosGuardar());
+        const Resultado<Declaracion> otra =
+            servidor().GuardarDeclaracion(DecDatos().valor(), ComprobarVersion::No);
+        QVERIFY(otra.aceptado());
+        const int32_t nuevo = otra->CSDE;
         QVERIFY(nuevo > 0);
         QVERIFY(nuevo != codigo);  // codes are never given twice
         QCOMPARE(FilasDeclaraciones(), 1);
@@ -268,33 +318,6 @@ private slots:
         QCOMPARE(DecDatos().CSTRA, 0);
         QCOMPARE(DecDatos().CSPR, 0);
         QCOMPARE(DecDatos().NOMBRESP, QStringLiteral("GARCIA LOPEZ JUAN"));
-    }
-
-    void arregloMalFormadoNoEscribeNada()
-    {
-        DeclaracionValida();
-        guardar();
-        Arreglo corto = DecDatos().DatosGuardar();
-        corto.removeLast();
-        int32_t codigo = 0;
-        QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(corto, codigo));
-        Arreglo malo = DecDatos().DatosGuardar();
-        malo[G::CILINDRADA] = QStringLiteral("MUCHA");  // the capacity is a number
-        QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(malo, codigo));
-        Arreglo importe = DecDatos().DatosGuardar();
-        importe[G::CSDE] = 1;
-        importe[G::BASEI] = QStringLiteral("1.234,50");
-        QVERIFY_THROWS_EXCEPTION(cFallo, DecDatos().GuardarDeclaracion(importe, codigo));
-        QCOMPARE(FilasDeclaraciones(), 1);
-        DecDatos().CSDE = 1;
-        DecDatos().CargarDeclaracion();
-        QCOMPARE(DecDatos().BASEI, 1500000.0);
-        // A number given as text is taken.
-        Arreglo texto = DecDatos().DatosGuardar();
-        texto[G::CSDE] = 0;
-        texto[G::CILINDRADA] = QStringLiteral(" 1598 ");
-        DecDatos().GuardarDeclaracion(texto, codigo);
-        QVERIFY(codigo > 1);
     }
 
     void borrar()
@@ -359,9 +382,7 @@ private slots:
 
     void ultimasDeclaraciones()
     {
-        Arreglo2D lista;
-        DecDatos().ObtenerUltimasDeclaraciones(lista);
-        QVERIFY(lista.isEmpty());
+        QVERIFY(DecDatos().ObtenerUltimasDeclaraciones().isEmpty());
         QList<int32_t> codigos;
         for (int i = 1; i <= 6; ++i) {
             DeclaracionValida();
@@ -370,21 +391,21 @@ private slots:
                 DecDatos().REFERENCIA.clear();
             codigos << guardar();
         }
-        DecDatos().ObtenerUltimasDeclaraciones(lista);
+        QList<UltimaDeclaracion> lista = DecDatos().ObtenerUltimasDeclaraciones();
         QCOMPARE(lista.size(), 4);
-        QCOMPARE(lista[0][0].toInt(), codigos[5]);
-        QCOMPARE(lista[0][1].toString(), QStringLiteral("R6"));
-        QCOMPARE(lista[1][0].toInt(), codigos[4]);
-        QCOMPARE(lista[1][1].toString(), QStringLiteral("GARCIA LOPEZ JUAN"));
-        QCOMPARE(lista[3][0].toInt(), codigos[2]);
+        QCOMPARE(lista[0].CSDE, codigos[5]);
+        QCOMPARE(lista[0].descripcion, QStringLiteral("R6"));
+        QCOMPARE(lista[1].CSDE, codigos[4]);
+        QCOMPARE(lista[1].descripcion, QStringLiteral("GARCIA LOPEZ JUAN"));
+        QCOMPARE(lista[3].CSDE, codigos[2]);
         // Saving an older return again makes it the most recent.
         DecDatos().CSDE = codigos[0];
         DecDatos().CargarDeclaracion();
         guardar();
-        DecDatos().ObtenerUltimasDeclaraciones(lista);
-        QCOMPARE(lista[0][0].toInt(), codigos[0]);
-        QCOMPARE(lista[0][1].toString(), QStringLiteral("R1"));
-        QCOMPARE(lista[1][0].toInt(), codigos[5]);
+        lista = DecDatos().ObtenerUltimasDeclaraciones();
+        QCOMPARE(lista[0].CSDE, codigos[0]);
+        QCOMPARE(lista[0].descripcion, QStringLiteral("R1"));
+        QCOMPARE(lista[1].CSDE, codigos[5]);
     }
 
     void existeContribuyente()
@@ -393,32 +414,25 @@ private slots:
         DeclaracionValida();
         DecDatos().CSSU = a;
         guardar();
-        Arreglo datos;
-        bool hay = false;
-        DecDatos().ExisteContribuyente(Dni(20000001), datos, hay);
-        QVERIFY(hay);
-        QCOMPARE(datos.size(), 19);
-        QCOMPARE(datos[C::CSCO].toInt(), a);
-        QCOMPARE(datos[C::TIPODNI].toString(), QStringLiteral("O"));
-        QCOMPARE(datos[C::DNIC].toString(), Dni(20000001));
-        QCOMPARE(datos[C::NOMBREC].toString(), QStringLiteral("ANA"));
-        QCOMPARE(datos[C::VIAC].toString(), QStringLiteral("CL"));
-        QCOMPARE(datos[C::DOMICILIOC].toString(), QStringLiteral("MAYOR"));
-        QCOMPARE(datos[C::NUMEROC].toInt(), 7);
-        QCOMPARE(datos[C::TIPODOMI].toString(), QStringLiteral("N"));
-        QCOMPARE(datos[C::CODPROVC].toString(), QStringLiteral("77"));
-        QCOMPARE(datos[C::CODPOSC].toString(), QStringLiteral("77001"));
-        QCOMPARE(datos[C::CODMUNC].toString(), QStringLiteral("001"));
-        QCOMPARE(datos[C::NUMSP].toDouble(), 1.0);
+        const std::optional<Contribuyente> datos = DecDatos().ExisteContribuyente(Dni(20000001));
+        QVERIFY(datos.has_value());
+        QCOMPARE(datos->CSCO, a);
+        QCOMPARE(datos->TIPODNI, QStringLiteral("O"));
+        QCOMPARE(datos->DNIC, Dni(20000001));
+        QCOMPARE(datos->NOMBREC, QStringLiteral("ANA"));
+        QCOMPARE(datos->VIAC, QStringLiteral("CL"));
+        QCOMPARE(datos->DOMICILIOC, QStringLiteral("MAYOR"));
+        QCOMPARE(datos->NUMEROC, 7);
+        QCOMPARE(datos->TIPODOMI, QStringLiteral("N"));
+        QCOMPARE(datos->CODPROVC, QStringLiteral("77"));
+        QCOMPARE(datos->CODPOSC, QStringLiteral("77001"));
+        QCOMPARE(datos->CODMUNC, QStringLiteral("001"));
+        QCOMPARE(datos->NUMSP, 1.0);
 
-        // An unknown number: an array that clears the party.
-        DecDatos().ExisteContribuyente(Dni(20000002), datos, hay);
-        QVERIFY(!hay);
-        QCOMPARE(datos.size(), 19);
-        QCOMPARE(datos[C::CSCO].toInt(), 0);
-        for (int i = C::TIPODNI; i <= C::NOMMUNC; ++i)
-            QVERIFY(datos[i].toString().isEmpty() || datos[i].toString() == QLatin1String("0"));
-        DecDatos().CargarSujetoPasivo(datos);
+        // An unknown number: nothing; an empty contributor clears the party.
+        QVERIFY(!DecDatos().ExisteContribuyente(Dni(20000002)).has_value());
+        QVERIFY(!DecDatos().ExisteContribuyente(QStringLiteral("   ")).has_value());
+        DecDatos().CargarSujetoPasivo(Contribuyente());
         QCOMPARE(DecDatos().CSSU, 0);
         QVERIFY(DecDatos().DNISP.isEmpty() && DecDatos().NOMBRESP.isEmpty());
     }

@@ -27,17 +27,40 @@ struct Fila {
     QString operacion;
 };
 
-// Criteria with no condition: numbers 0 for the numeric slots, empty texts for the others.
-Arreglo sinCriterios()
+// Conditions with no condition.
+CondicionesDeclaracion sinCriterios()
 {
-    return {0, QString(), 0, 0, QString()};
+    return {};
 }
 
-QList<int> codigos(const Arreglo2D& r)
+// One condition, by the column of the list it searches (0 code, 1 reference, 2 date, 3 total,
+// 4 operation), with the value as the search box gives it.
+void poner(CondicionesDeclaracion& c, int hueco, const QVariant& valor)
+{
+    switch (hueco) {
+    case 0:
+        c.CSDE = valor.toString();
+        break;
+    case 1:
+        c.REFERENCIA = valor.toString();
+        break;
+    case 2:
+        c.FECHAD = valor.toInt();
+        break;
+    case 3:
+        c.TOTAL = valor.toString();
+        break;
+    default:
+        c.OPERACION = valor.toString();
+        break;
+    }
+}
+
+QList<int> codigos(const QList<FilaDeclaracion>& r)
 {
     QList<int> c;
-    for (const QVariant& v : r.value(0))
-        c << v.toInt();
+    for (const FilaDeclaracion& f : r)
+        c << f.CSDE;
     return c;
 }
 
@@ -58,23 +81,18 @@ private:
         d.REFERENCIA = f.referencia;
         d.FECHAD = f.fecha;
         d.OPERACION = f.operacion;
-        d.TOTAL = f.total;
+        d.TOTAL = Importe(f.total);
         d.CSSU = cssu;
         d.CSTRA = cstra;
         d.CSPR = cspr;
-        int32_t codigo = 0;
-        d.GuardarDeclaracion(d.DatosGuardar(), codigo);
+        const int32_t codigo = d.GuardarDeclaracion() ? d.CSDE : 0;
         return codigo;
     }
 
-    Arreglo2D buscar(const Arreglo& criterios, uint8_t orden, const QString& tipo,
-                     int16_t offset = 0)
+    QList<FilaDeclaracion> buscar(const CondicionesDeclaracion& criterios, uint8_t orden,
+                                  const QString& tipo, int16_t offset = 0)
     {
-        Arreglo2D r;
-        const int32_t n = servidor().dameResultadoBusqueda(r, criterios, orden, tipo, offset);
-        if (n != r.value(0).size())
-            qFatal("La cuenta no coincide con las filas");
-        return r;
+        return servidor().dameResultadoBusqueda(criterios, orden, tipo, offset);
     }
 
 private slots:
@@ -102,23 +120,23 @@ private slots:
 
     void todasPorCodigoDescendente()
     {
-        const Arreglo2D r = buscar(sinCriterios(), 1, QStringLiteral("DESC"));
-        QCOMPARE(r.size(), 6);
+        const QList<FilaDeclaracion> r = buscar(sinCriterios(), 1, QStringLiteral("DESC"));
         QCOMPARE(codigos(r), (QList<int>{m_codigos[4], m_codigos[3], m_codigos[2], m_codigos[1],
                                          m_codigos[0]}));
         // The columns of the first row: code, reference, date, total, operation, description.
-        QCOMPARE(r[1][0].toString(), QString());
-        QCOMPARE(r[2][0].toInt(), 20080101);
-        QCOMPARE(r[3][0].toDouble(), 500.0);
-        QCOMPARE(r[4][0].toString(), QStringLiteral("TL"));
-        QCOMPARE(r[5][0].toString(), QStringLiteral("Tipo a declarar, entre el 0 % y el 14,75 %"));
+        QCOMPARE(r[0].REFERENCIA, QString());
+        QCOMPARE(r[0].FECHAD, 20080101);
+        QCOMPARE(r[0].TOTAL.centimos(), 500.0);
+        QCOMPARE(r[0].OPERACION, QStringLiteral("TL"));
+        QCOMPARE(r[0].DESCRIPCION, QStringLiteral("Tipo a declarar, entre el 0 % y el 14,75 %"));
+        QVERIFY(r[0].PARTE.isEmpty());
     }
 
     void descripcionSegunFechaEIdioma()
     {
-        const Arreglo2D r = buscar(sinCriterios(), 1, QStringLiteral("ASC"), 10000);
-        QCOMPARE(r[5][0].toString(), QStringLiteral("Tasa orokorra: % 12"));
-        QCOMPARE(r[5][2].toString(), QStringLiteral("Salbuetsia: salbuespenaren beste kasu batzuk"));
+        const QList<FilaDeclaracion> r = buscar(sinCriterios(), 1, QStringLiteral("ASC"), 10000);
+        QCOMPARE(r[0].DESCRIPCION, QStringLiteral("Tasa orokorra: % 12"));
+        QCOMPARE(r[2].DESCRIPCION, QStringLiteral("Salbuetsia: salbuespenaren beste kasu batzuk"));
     }
 
     void ordenes_data()
@@ -157,7 +175,7 @@ private slots:
                                        << QList<int>{0, 1, 3};
         QTest::newRow("referencia abc") << 1 << QVariant(QStringLiteral("abc"))
                                         << QList<int>{0, 3};
-        QTest::newRow("referencia 0") << 1 << QVariant(0) << QList<int>{0, 1, 2, 3, 4};
+        QTest::newRow("referencia vacia") << 1 << QVariant(QString()) << QList<int>{0, 1, 2, 3, 4};
         QTest::newRow("referencia que no hay") << 1 << QVariant(QStringLiteral("Q"))
                                                << QList<int>{};
         QTest::newRow("fecha") << 2 << QVariant(20080101) << QList<int>{1, 3, 4};
@@ -176,8 +194,8 @@ private slots:
         QFETCH(int, hueco);
         QFETCH(QVariant, valor);
         QFETCH(QList<int>, indices);
-        Arreglo c = sinCriterios();
-        c[hueco] = valor;
+        CondicionesDeclaracion c = sinCriterios();
+        poner(c, hueco, valor);
         QList<int> esperado;
         for (int i : indices)
             esperado << m_codigos[i];
@@ -186,68 +204,62 @@ private slots:
 
     void criterioDeCodigo()
     {
-        Arreglo c = sinCriterios();
-        c[0] = m_codigos[3];
+        CondicionesDeclaracion c = sinCriterios();
+        c.CSDE = QString::number(m_codigos[3]);
         QCOMPARE(codigos(buscar(c, 1, QStringLiteral("ASC"))),
                  (QList<int>{m_codigos[3], m_codigos[4]}));
-        c[0] = QString::number(m_codigos[4]);
+        c.CSDE = QString::number(m_codigos[4]);
         QCOMPARE(codigos(buscar(c, 1, QStringLiteral("ASC"))), (QList<int>{m_codigos[4]}));
     }
 
     void variosCriteriosA_la_vez()
     {
-        Arreglo c = sinCriterios();
-        c[1] = QStringLiteral("AB");
-        c[2] = 20060101;
+        CondicionesDeclaracion c = sinCriterios();
+        c.REFERENCIA = QStringLiteral("AB");
+        c.FECHAD = 20060101;
         QCOMPARE(codigos(buscar(c, 1, QStringLiteral("ASC"))),
                  (QList<int>{m_codigos[1], m_codigos[3]}));
     }
 
-    void sinResultadosDaColumnasVacias()
+    void sinResultadosDaListaVacia()
     {
-        Arreglo c = sinCriterios();
-        c[2] = 20990101;
-        Arreglo2D r;
-        QCOMPARE(servidor().dameResultadoBusqueda(r, c, 1, QStringLiteral("DESC"), 0), 0);
-        QCOMPARE(r.size(), 6);
-        QVERIFY(r[0].isEmpty());
+        CondicionesDeclaracion c = sinCriterios();
+        c.FECHAD = 20990101;
+        QVERIFY(servidor().dameResultadoBusqueda(c, 1, QStringLiteral("DESC"), 0).isEmpty());
     }
 
     void declaracionesDeUnContribuyente()
     {
-        Arreglo2D r;
-        const int32_t n = servidor().dameDeclaracionesContribuyente(
-            sinCriterios(), r, m_ana, 1, QStringLiteral("ASC"), 0);
-        QCOMPARE(n, 3);
-        QCOMPARE(r.size(), 7);
+        QList<FilaDeclaracion> r = servidor().dameDeclaracionesContribuyente(
+            sinCriterios(), m_ana, 1, QStringLiteral("ASC"), 0);
+        QCOMPARE(r.size(), 3);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[0], m_codigos[1], m_codigos[2]}));
-        QCOMPARE(r[6][0].toString(), QStringLiteral("S"));
-        QCOMPARE(r[6][1].toString(), QStringLiteral("T"));
-        QCOMPARE(r[6][2].toString(), QStringLiteral("S-T"));
+        QCOMPARE(r[0].PARTE, QStringLiteral("S"));
+        QCOMPARE(r[1].PARTE, QStringLiteral("T"));
+        QCOMPARE(r[2].PARTE, QStringLiteral("S-T"));
         // With a criterion and another order.
-        Arreglo c = sinCriterios();
-        c[4] = QStringLiteral("T");
-        QCOMPARE(servidor().dameDeclaracionesContribuyente(c, r, m_ana, 3, QStringLiteral("DESC"),
-                                                           0),
-                 3);
+        CondicionesDeclaracion c = sinCriterios();
+        c.OPERACION = QStringLiteral("T");
+        r = servidor().dameDeclaracionesContribuyente(c, m_ana, 3, QStringLiteral("DESC"), 0);
+        QCOMPARE(r.size(), 3);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[1], m_codigos[2], m_codigos[0]}));
-        QCOMPARE(servidor().dameDeclaracionesContribuyente(sinCriterios(), r, 0, 1,
-                                                           QStringLiteral("ASC"), 0),
-                 0);
+        QVERIFY(servidor()
+                    .dameDeclaracionesContribuyente(sinCriterios(), 0, 1, QStringLiteral("ASC"), 0)
+                    .isEmpty());
     }
 
     void declaracionesDeUnPresentador()
     {
-        Arreglo2D r;
-        const int32_t n = servidor().dameDeclaracionesPresentador(
-            sinCriterios(), r, m_gestor, 1, QStringLiteral("DESC"), 0);
-        QCOMPARE(n, 2);
-        QCOMPARE(r.size(), 6);
+        const QList<FilaDeclaracion> r = servidor().dameDeclaracionesPresentador(
+            sinCriterios(), m_gestor, 1, QStringLiteral("DESC"), 0);
+        QCOMPARE(r.size(), 2);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[2], m_codigos[0]}));
-        Arreglo c = sinCriterios();
-        c[1] = QStringLiteral("X");
-        QCOMPARE(servidor().dameDeclaracionesPresentador(c, r, m_gestor, 1, QStringLiteral("DESC"),
-                                                         0),
+        QVERIFY(r[0].PARTE.isEmpty());
+        CondicionesDeclaracion c = sinCriterios();
+        c.REFERENCIA = QStringLiteral("X");
+        QCOMPARE(servidor()
+                     .dameDeclaracionesPresentador(c, m_gestor, 1, QStringLiteral("DESC"), 0)
+                     .size(),
                  1);
     }
 };

@@ -18,16 +18,9 @@ cDeclaSvr servidor()
     return svr;
 }
 
-struct Datos {
-    bool existe = false;
-    Arreglo a;
-};
-
-Datos datos(const QString& codigo, int32_t fecha, int16_t offset = 0)
+std::optional<DatosOperacion> datos(const QString& codigo, int32_t fecha, int16_t offset = 0)
 {
-    Datos d;
-    d.existe = servidor().ObtenerDatosOperacion(codigo, fecha, d.a, offset);
-    return d;
+    return servidor().ObtenerDatosOperacion(codigo, fecha, offset);
 }
 }  // namespace
 
@@ -81,61 +74,61 @@ private slots:
         QFETCH(bool, existe);
         QFETCH(double, tipo);
         QFETCH(double, deduccion);
-        const Datos d = datos(codigo, fecha);
-        QCOMPARE(d.existe, existe);
+        const std::optional<DatosOperacion> d = datos(codigo, fecha);
+        QCOMPARE(d.has_value(), existe);
         if (!existe) {
-            QVERIFY(d.a.isEmpty());
             QVERIFY(servidor().ObtenImpresion(fecha, codigo).isEmpty());
             return;
         }
-        QCOMPARE(d.a.size(), 8);
-        QCOMPARE(d.a[4].toDouble(), tipo);
-        QCOMPARE(d.a[7].toDouble(), deduccion);
+        QCOMPARE(d->tipo, tipo);
+        QCOMPARE(d->deduccion, deduccion);
         QVERIFY(!servidor().ObtenImpresion(fecha, codigo).isEmpty());
     }
 
     void tasaLibreYSusLimitesPorFecha()
     {
-        Datos antes = datos(QStringLiteral("TL"), 20071231);
-        QVERIFY(antes.existe);
-        Operacion().ActualizaOperacion(antes.a, false);
+        const auto antes = datos(QStringLiteral("TL"), 20071231);
+        QVERIFY(antes.has_value());
+        Operacion().ActualizaOperacion(*antes, false);
         QVERIFY(EsTasaLibre(Operacion().T_TIP()));
         QCOMPARE(Operacion().T_MIN(), 7.0);
         QCOMPARE(Operacion().T_MAX(), 12.0);
-        Datos despues = datos(QStringLiteral("TL"), 20080101);
-        QVERIFY(despues.existe);
-        Operacion().ActualizaOperacion(despues.a, false);
+        const auto despues = datos(QStringLiteral("TL"), 20080101);
+        QVERIFY(despues.has_value());
+        Operacion().ActualizaOperacion(*despues, false);
         QVERIFY(EsTasaLibre(Operacion().T_TIP()));
         QCOMPARE(Operacion().T_MIN(), 0.0);
         QCOMPARE(Operacion().T_MAX(), 14.75);
         // The value as it comes from the store, unrounded, is already the sentinel.
-        QVERIFY(EsTasaLibre(despues.a[4].toDouble()));
+        QVERIFY(EsTasaLibre(despues->tipo));
     }
 
     void marcasDeNoSujetoYExento()
     {
-        const Datos ns = datos(QStringLiteral("N43"), 20100101);
-        QCOMPARE(ns.a[2].toString(), QStringLiteral("X"));
-        QVERIFY(ns.a[3].toString().isEmpty());
+        const auto ns = datos(QStringLiteral("N43"), 20100101);
+        QVERIFY(ns.has_value());
+        QCOMPARE(ns->nosujeto, QStringLiteral("X"));
+        QVERIFY(ns->exento.isEmpty());
         for (const char* c : {"TE", "E1", "E2", "E3", "E4", "E5", "E6"}) {
-            const Datos ex = datos(QString::fromLatin1(c), 20100101);
-            QVERIFY2(ex.existe, c);
-            QVERIFY(ex.a[2].toString().isEmpty());
-            QCOMPARE(ex.a[3].toString(), QStringLiteral("X"));
-            QCOMPARE(ex.a[4].toDouble(), 0.0);
+            const auto ex = datos(QString::fromLatin1(c), 20100101);
+            QVERIFY2(ex.has_value(), c);
+            QVERIFY(ex->nosujeto.isEmpty());
+            QCOMPARE(ex->exento, QStringLiteral("X"));
+            QCOMPARE(ex->tipo, 0.0);
         }
-        const Datos gravada = datos(QStringLiteral("T3"), 20100101);
-        QVERIFY(gravada.a[2].toString().isEmpty() && gravada.a[3].toString().isEmpty());
+        const auto gravada = datos(QStringLiteral("T3"), 20100101);
+        QVERIFY(gravada.has_value());
+        QVERIFY(gravada->nosujeto.isEmpty() && gravada->exento.isEmpty());
     }
 
     void losCodigosQueNombranLosMensajesExisten()
     {
         const QStringList antes{"N43", "TN", "TE", "T7", "P6", "P7", "P6B", "P7B"};
         for (const QString& c : antes)
-            QVERIFY2(datos(c, 20050101).existe, qPrintable(c));
+            QVERIFY2(datos(c, 20050101).has_value(), qPrintable(c));
         const QStringList despues{"N43", "TE", "T1", "T2", "T3", "T4", "T5"};
         for (const QString& c : despues)
-            QVERIFY2(datos(c, 20100101).existe, qPrintable(c));
+            QVERIFY2(datos(c, 20100101).has_value(), qPrintable(c));
     }
 
     void clavesDeImpresion()
@@ -149,10 +142,9 @@ private slots:
 
     void listaPorFechaEIdioma()
     {
-        Arreglo antes, despues, vasco;
-        servidor().ObtenerOperaciones(20050101, antes, 0);
-        servidor().ObtenerOperaciones(20100101, despues, 0);
-        servidor().ObtenerOperaciones(20100101, vasco, 10000);
+        const QStringList antes = servidor().ObtenerOperaciones(20050101, 0);
+        const QStringList despues = servidor().ObtenerOperaciones(20100101, 0);
+        const QStringList vasco = servidor().ObtenerOperaciones(20100101, 10000);
         QCOMPARE(antes.size(), 15);   // 8 of every period, 6 up to 2007, TL
         QCOMPARE(despues.size(), 14); // 8 of every period, T1 to T5, TL
         QCOMPARE(vasco.size(), despues.size());
@@ -160,9 +152,7 @@ private slots:
         QVERIFY(!despues.contains(QStringLiteral("Tipo general: 12 %")));
         QVERIFY(despues.contains(QStringLiteral("Emisiones de CO2 hasta 120 g/km: tipo 0 %")));
         QVERIFY(vasco.contains(QStringLiteral("CO2 isurpenak 120 g/km arte: % 0ko tasa")));
-        Arreglo ninguna;
-        servidor().ObtenerOperaciones(0, ninguna, 0);
-        QVERIFY(ninguna.isEmpty());
+        QVERIFY(servidor().ObtenerOperaciones(0, 0).isEmpty());
     }
 
     void codigoPorDescripcion()
@@ -184,10 +174,11 @@ private slots:
 
     void descripcionEnElIdiomaDelOffset()
     {
-        const Datos es = datos(QStringLiteral("E6"), 20100101, 0);
-        const Datos eu = datos(QStringLiteral("E6"), 20100101, 10000);
-        QCOMPARE(es.a[0].toString(), QStringLiteral("Exento: traslado de la residencia habitual"));
-        QCOMPARE(eu.a[0].toString(), QStringLiteral("Salbuetsia: ohiko bizilekuaren lekualdaketa"));
+        const auto es = datos(QStringLiteral("E6"), 20100101, 0);
+        const auto eu = datos(QStringLiteral("E6"), 20100101, 10000);
+        QVERIFY(es.has_value() && eu.has_value());
+        QCOMPARE(es->descripcion, QStringLiteral("Exento: traslado de la residencia habitual"));
+        QCOMPARE(eu->descripcion, QStringLiteral("Salbuetsia: ohiko bizilekuaren lekualdaketa"));
     }
 
     void registroCargaOVaciaLaOperacion()
@@ -214,10 +205,9 @@ private slots:
     {
         // On any date, a code has at most one row: the periods of a code do not overlap.
         for (int32_t fecha : {19930101, 19970101, 20000101, 20071231, 20080101, 20271231}) {
-            Arreglo lista;
-            servidor().ObtenerOperaciones(fecha, lista, 0);
+            const QStringList lista = servidor().ObtenerOperaciones(fecha, 0);
             QStringList codigos;
-            for (const QVariant& v : lista)
+            for (const QString& v : lista)
                 codigos << servidor().DameOperacionporDescripcion(v, fecha, 0);
             QCOMPARE(codigos.removeDuplicates(), 0);
             QVERIFY(!codigos.contains(QString()));

@@ -1,17 +1,11 @@
 // The declaration record on its own: the clean new return of MODO "A", the date and amount
-// initialisations, the save and load arrays by index, and the copying of parties.
+// initialisations, the parties taken from stored contributors, and the copying of parties.
 #include "comun/DeclaracionPrueba.h"
 
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
-#include "comun/ArregloPrueba.h"
-#include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesDeclaracion.h"
 
 #include <QTest>
-
-namespace C = PosContribuyente;
-namespace L = PosCargarDeclaracion;
 
 namespace {
 
@@ -36,12 +30,12 @@ void rellenarTodo(cDecDatos& d)
     d.NOSUJETO = QStringLiteral("X");
     d.EXENTO = QStringLiteral("X");
     d.REDUCCION = QStringLiteral("Z");
-    d.BASEI = 1;
-    d.BASEIREDUCIDA = 2;
+    d.BASEI = Importe(1);
+    d.BASEIREDUCIDA = Importe(2);
     d.TIPOIMP = 3;
-    d.CUOTA = 4;
-    d.DEDUCCION = 5;
-    d.TOTAL = 6;
+    d.CUOTA = Importe(4);
+    d.DEDUCCION = Importe(5);
+    d.TOTAL = Importe(6);
     d.DNIPR = QStringLiteral("P");
     d.NOMBREPR = QStringLiteral("NP");
     d.DNISP = QStringLiteral("S");
@@ -92,12 +86,12 @@ void comprobarNueva(const cDecDatos& d)
     QCOMPARE(d.CILINDRADA, 0);
     QVERIFY(d.OPERACION.isEmpty() && d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty()
             && d.REDUCCION.isEmpty());
-    QCOMPARE(d.BASEI, 0.0);
-    QCOMPARE(d.BASEIREDUCIDA, 0.0);
+    QCOMPARE(d.BASEI.centimos(), 0.0);
+    QCOMPARE(d.BASEIREDUCIDA.centimos(), 0.0);
     QCOMPARE(d.TIPOIMP, 0.0);
-    QCOMPARE(d.CUOTA, 0.0);
-    QCOMPARE(d.DEDUCCION, 0.0);
-    QCOMPARE(d.TOTAL, 0.0);
+    QCOMPARE(d.CUOTA.centimos(), 0.0);
+    QCOMPARE(d.DEDUCCION.centimos(), 0.0);
+    QCOMPARE(d.TOTAL.centimos(), 0.0);
     QVERIFY(d.DNIPR.isEmpty() && d.NOMBREPR.isEmpty() && d.DNISP.isEmpty()
             && d.NOMBRESP.isEmpty());
     QCOMPARE(d.VIASP, QStringLiteral("CL"));
@@ -119,33 +113,34 @@ void comprobarNueva(const cDecDatos& d)
     QVERIFY(d.NOMPROVTR.isEmpty() && d.CODPOSTR.isEmpty() && d.CODMUNTR.isEmpty()
             && d.NOMMUNTR.isEmpty());
     QCOMPARE(d.DECLASP, 0.0);
-    // The subject's province name, kept without a property, is saved empty.
-    QCOMPARE(d.DatosGuardar().at(PosGuardarDeclaracion::NOMPROVSP).toString(), QString());
+    QVERIFY(d.NOMPROVSP.isEmpty());
+    QCOMPARE(d.VERSION, int64_t(0));
 }
 
-// A contributor's array as a return takes it: up to the returns that have it as subject.
-constexpr int kParte = C::NUMSP + 1;
-Arreglo parte(const QString& tipoDomi, const QString& prov, const QString& cp)
+// A stored contributor as a return takes it, with the returns that have it as subject.
+Contribuyente parte(const QString& tipoDomi, const QString& prov, const QString& cp)
 {
-    return ArregloPorPosiciones(kParte, {{C::CSCO, 15},
-                                         {C::TIPODNI, QStringLiteral("N")},
-                                         {C::DNIC, QStringLiteral("X1234567L")},
-                                         {C::NOMBREC, QStringLiteral("NOMBRE")},
-                                         {C::VIAC, QStringLiteral("AV")},
-                                         {C::DOMICILIOC, QStringLiteral("CALLE")},
-                                         {C::NUMEROC, 12},
-                                         {C::LETRAC, QStringLiteral("A")},
-                                         {C::ESCALERAC, QStringLiteral("B")},
-                                         {C::PISOC, QStringLiteral("3")},
-                                         {C::MANOC, QStringLiteral("DCH")},
-                                         {C::TIPODOMI, tipoDomi},
-                                         {C::PAIS, QStringLiteral("PAIS")},
-                                         {C::CODPROVC, prov},
-                                         {C::NOMPROVC, QStringLiteral("PROVINCIA")},
-                                         {C::CODPOSC, cp},
-                                         {C::CODMUNC, QStringLiteral("005")},
-                                         {C::NOMMUNC, QStringLiteral("MUNICIPIO")},
-                                         {C::NUMSP, 4.0}});
+    Contribuyente c;
+    c.CSCO = 15;
+    c.TIPODNI = QStringLiteral("N");
+    c.DNIC = QStringLiteral("X1234567L");
+    c.NOMBREC = QStringLiteral("NOMBRE");
+    c.VIAC = QStringLiteral("AV");
+    c.DOMICILIOC = QStringLiteral("CALLE");
+    c.NUMEROC = 12;
+    c.LETRAC = QStringLiteral("A");
+    c.ESCALERAC = QStringLiteral("B");
+    c.PISOC = QStringLiteral("3");
+    c.MANOC = QStringLiteral("DCH");
+    c.TIPODOMI = tipoDomi;
+    c.PAIS = QStringLiteral("PAIS");
+    c.CODPROVC = prov;
+    c.NOMPROVC = QStringLiteral("PROVINCIA");
+    c.CODPOSC = cp;
+    c.CODMUNC = QStringLiteral("005");
+    c.NOMMUNC = QStringLiteral("MUNICIPIO");
+    c.NUMSP = 4.0;
+    return c;
 }
 
 }  // namespace
@@ -178,9 +173,9 @@ private slots:
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
         d.setMODO(QStringLiteral("A"));
-        const Arreglo primera = d.DatosGuardar();
+        const Declaracion primera = d.valor();
         d.setMODO(QStringLiteral("A"));
-        QCOMPARE(d.DatosGuardar(), primera);
+        QVERIFY(d.valor() == primera);
         comprobarNueva(d);
     }
 
@@ -188,13 +183,13 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        const Arreglo antes = d.DatosGuardar();
+        const Declaracion antes = d.valor();
         d.setMODO(QStringLiteral("C"));
         QCOMPARE(d.MODO(), QStringLiteral("C"));
-        QCOMPARE(d.DatosGuardar(), antes);
+        QVERIFY(d.valor() == antes);
         d.setMODO(QStringLiteral("D"));
         QCOMPARE(d.MODO(), QStringLiteral("D"));
-        QCOMPARE(d.DatosGuardar(), antes);
+        QVERIFY(d.valor() == antes);
     }
 
     void inicializaFechaConservaLaBaseDeUnaAbierta()
@@ -204,12 +199,12 @@ private slots:
         d.setMODO(QStringLiteral("C"));
         d.InicializaFecha();
         QVERIFY(d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty() && d.REDUCCION.isEmpty());
-        QCOMPARE(d.BASEI, 1.0);
-        QCOMPARE(d.BASEIREDUCIDA, 0.0);
+        QCOMPARE(d.BASEI.centimos(), 1.0);
+        QCOMPARE(d.BASEIREDUCIDA.centimos(), 0.0);
         QCOMPARE(d.TIPOIMP, 0.0);
-        QCOMPARE(d.CUOTA, 0.0);
-        QCOMPARE(d.DEDUCCION, 0.0);
-        QCOMPARE(d.TOTAL, 0.0);
+        QCOMPARE(d.CUOTA.centimos(), 0.0);
+        QCOMPARE(d.DEDUCCION.centimos(), 0.0);
+        QCOMPARE(d.TOTAL.centimos(), 0.0);
         QCOMPARE(d.OPERACION, QStringLiteral("T2"));
     }
 
@@ -217,110 +212,11 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         d.setMODO(QStringLiteral("A"));
-        d.BASEI = 500;
-        d.TOTAL = 6;
+        d.BASEI = Importe(500);
+        d.TOTAL = Importe(6);
         d.InicializaFecha();
-        QCOMPARE(d.BASEI, 0.0);
-        QCOMPARE(d.TOTAL, 0.0);
-    }
-
-    void arregloDeGuardarEnSuOrden()
-    {
-        cDecDatos& d = DecDatos();
-        rellenarTodo(d);
-        const Arreglo a = d.DatosGuardar();
-        QCOMPARE(a.size(), 55);
-        const QVariantList esperado{
-            41, QStringLiteral("R"), 2, 3, 4, 20100101, QStringLiteral("X"), QStringLiteral("M"),
-            QStringLiteral("T"), QStringLiteral("MO"), QStringLiteral("B"), int16_t(1000),
-            QStringLiteral("D"), 1900, QStringLiteral("T2"), QStringLiteral("X"),
-            QStringLiteral("X"), QStringLiteral("Z"), 1.0, 2.0, 3.0, 4.0, 5.0, 6.0,
-            QStringLiteral("S"), QStringLiteral("NS"), QStringLiteral("AV"), QStringLiteral("D"),
-            9, QStringLiteral("L"), QStringLiteral("E"), QStringLiteral("P"), QStringLiteral("M"),
-            QStringLiteral("48"), QString(), QStringLiteral("48001"), QStringLiteral("001"),
-            QStringLiteral("N"), QStringLiteral("N"), QStringLiteral("T"), QStringLiteral("NT"),
-            QStringLiteral("PZ"), QStringLiteral("DT"), 8, QStringLiteral("LT"),
-            QStringLiteral("ET"), QStringLiteral("PT"), QStringLiteral("MT"), QStringLiteral("E"),
-            QStringLiteral("FR"), QStringLiteral("01"), QStringLiteral("NPT"),
-            QStringLiteral("75"), QStringLiteral("9"), QStringLiteral("NMT")};
-        QCOMPARE(esperado.size(), 55);
-        for (int i = 0; i < 55; ++i)
-            QVERIFY2(a[i].toString() == esperado[i].toString(), qPrintable(QString::number(i)));
-    }
-
-    void arregloDeCargaPorIndice()
-    {
-        // Each load index carries its own number as text, or as a number for numeric fields.
-        Arreglo carga;
-        for (int i = 0; i < L::Tamano; ++i)
-            carga << QStringLiteral("v%1").arg(i);
-        for (int i : {L::CSPR, L::CSSU, L::CSTRA, L::FECHAD, L::CLASIFICACION, L::CILINDRADA,
-                      L::BASEI, L::BASEIREDUCIDA, L::TIPOIMP, L::CUOTA, L::DEDUCCION, L::TOTAL,
-                      L::NUMEROSP, L::NUMEROTR, L::DECLASP})
-            carga[i] = 1000 + i;
-        cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("C"));
-        d.CSDE = 7;
-        d.DatosCargados(carga);
-        QCOMPARE(d.CSDE, 7);
-        QCOMPARE(d.REFERENCIA, QStringLiteral("v1"));
-        QCOMPARE(d.CSPR, 1002);
-        QCOMPARE(d.CSSU, 1003);
-        QCOMPARE(d.CSTRA, 1004);
-        QCOMPARE(d.FECHAD, 1005);
-        QCOMPARE(d.ADQUIRIDO, QStringLiteral("v6"));
-        QCOMPARE(d.MARCA, QStringLiteral("v7"));
-        QCOMPARE(d.TIPO, QStringLiteral("v8"));
-        QCOMPARE(d.MODELO, QStringLiteral("v9"));
-        QCOMPARE(d.BASTIDOR, QStringLiteral("v10"));
-        QCOMPARE(d.CLASIFICACION, int16_t(1011));
-        QCOMPARE(d.MOTOR, QStringLiteral("v12"));
-        QCOMPARE(d.CILINDRADA, 1013);
-        QCOMPARE(d.OPERACION, QStringLiteral("v14"));
-        QCOMPARE(d.NOSUJETO, QStringLiteral("v15"));
-        QCOMPARE(d.EXENTO, QStringLiteral("v16"));
-        QCOMPARE(d.REDUCCION, QStringLiteral("v17"));
-        QCOMPARE(d.BASEI, 1018.0);
-        QCOMPARE(d.BASEIREDUCIDA, 1019.0);
-        QCOMPARE(d.TIPOIMP, 1020.0);
-        QCOMPARE(d.CUOTA, 1021.0);
-        QCOMPARE(d.DEDUCCION, 1022.0);
-        QCOMPARE(d.TOTAL, 1023.0);
-        QCOMPARE(d.DNIPR, QStringLiteral("v24"));
-        QCOMPARE(d.NOMBREPR, QStringLiteral("v25"));
-        QCOMPARE(d.DNISP, QStringLiteral("v26"));
-        QCOMPARE(d.NOMBRESP, QStringLiteral("v27"));
-        QCOMPARE(d.VIASP, QStringLiteral("v28"));
-        QCOMPARE(d.DOMICILIOSP, QStringLiteral("v29"));
-        QCOMPARE(d.NUMEROSP, 1030);
-        QCOMPARE(d.LETRASP, QStringLiteral("v31"));
-        QCOMPARE(d.ESCALERASP, QStringLiteral("v32"));
-        QCOMPARE(d.PISOSP, QStringLiteral("v33"));
-        QCOMPARE(d.MANOSP, QStringLiteral("v34"));
-        QCOMPARE(d.CODPROVSP, QStringLiteral("v35"));
-        QCOMPARE(d.CODPOSSP, QStringLiteral("v37"));
-        QCOMPARE(d.CODMUNSP, QStringLiteral("v38"));
-        QCOMPARE(d.NOMMUNSP, QStringLiteral("v39"));
-        QCOMPARE(d.TIPODNITR, QStringLiteral("v40"));
-        QCOMPARE(d.DNITR, QStringLiteral("v41"));
-        QCOMPARE(d.NOMBRETR, QStringLiteral("v42"));
-        QCOMPARE(d.VIATR, QStringLiteral("v43"));
-        QCOMPARE(d.DOMICILIOTR, QStringLiteral("v44"));
-        QCOMPARE(d.NUMEROTR, 1045);
-        QCOMPARE(d.LETRATR, QStringLiteral("v46"));
-        QCOMPARE(d.ESCALERATR, QStringLiteral("v47"));
-        QCOMPARE(d.PISOTR, QStringLiteral("v48"));
-        QCOMPARE(d.MANOTR, QStringLiteral("v49"));
-        QCOMPARE(d.TIPODOMITR, QStringLiteral("v50"));
-        QCOMPARE(d.PAISTR, QStringLiteral("v51"));
-        QCOMPARE(d.CODPROVTR, QStringLiteral("v52"));
-        QCOMPARE(d.NOMPROVTR, QStringLiteral("v53"));
-        QCOMPARE(d.CODPOSTR, QStringLiteral("v54"));
-        QCOMPARE(d.CODMUNTR, QStringLiteral("v55"));
-        QCOMPARE(d.NOMMUNTR, QStringLiteral("v56"));
-        QCOMPARE(d.DECLASP, 1057.0);
-        // The subject's province name (load value 36) is never saved.
-        QCOMPARE(d.DatosGuardar().at(PosGuardarDeclaracion::NOMPROVSP).toString(), QString());
+        QCOMPARE(d.BASEI.centimos(), 0.0);
+        QCOMPARE(d.TOTAL.centimos(), 0.0);
     }
 
     void cargarSujetoNacional()
@@ -363,16 +259,12 @@ private slots:
         QCOMPARE(d.CODPOSSP, QStringLiteral("ABC"));
     }
 
-    void arregloDesconocidoLimpiaLaParte()
+    void contribuyenteVacioLimpiaLaParte()
     {
         cDecDatos& d = DecDatos();
         d.setMODO(QStringLiteral("A"));
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("48"), QStringLiteral("48001")));
-        Arreglo vacia(kParte, QString());
-        vacia[C::CSCO] = 0;
-        vacia[C::NUMEROC] = 0;
-        vacia[C::NUMSP] = 0.0;
-        d.CargarSujetoPasivo(vacia);
+        d.CargarSujetoPasivo(Contribuyente());
         QCOMPARE(d.CSSU, 0);
         QVERIFY(d.DNISP.isEmpty() && d.NOMBRESP.isEmpty() && d.DOMICILIOSP.isEmpty()
                 && d.CODPROVSP.isEmpty() && d.CODPOSSP.isEmpty() && d.CODMUNSP.isEmpty());

@@ -10,35 +10,70 @@
 
 #include <QMap>
 #include <QTest>
+#include <variant>
 
 namespace {
 
-// The validation array of a valid return, with its date and the operation's print key.
+// What the rules judge of a valid return, with its date and the operation's print key.
 struct Caso {
-    Arreglo datos;
+    DatosValidacion datos;
     int32_t fecha = 20100315;
     QString impresion = QStringLiteral("T2");
+};
+
+// The values the cases change, numbered so that changes can be combined and compared below.
+using Texto = QString DatosValidacion::*;
+using Numero = double DatosValidacion::*;
+const std::variant<Texto, Numero> kValores[] = {
+    &DatosValidacion::MARCA, &DatosValidacion::MODELO, &DatosValidacion::TIPO,          // 0-2
+    &DatosValidacion::BASTIDOR, &DatosValidacion::CLASIFICACION,                        // 3-4
+    &DatosValidacion::CILINDRADA, &DatosValidacion::OPERACION, &DatosValidacion::BASEI,  // 5-7
+    &DatosValidacion::TIPOIMP, &DatosValidacion::TASA, &DatosValidacion::TASAMINIMA,    // 8-10
+    &DatosValidacion::TASAMAXIMA, &DatosValidacion::DNISP, &DatosValidacion::NOMBRESP,  // 11-13
+    &DatosValidacion::VIASP, &DatosValidacion::DOMICILIOSP, &DatosValidacion::CODPROVSP,  // 14-16
+    &DatosValidacion::CODPOSSP, &DatosValidacion::CODMUNSP, &DatosValidacion::NOMMUNSP,  // 17-19
+    &DatosValidacion::TIPODNITR, &DatosValidacion::DNITR, &DatosValidacion::NOMBRETR,   // 20-22
+    &DatosValidacion::VIATR, &DatosValidacion::DOMICILIOTR, &DatosValidacion::TIPODOMITR,  // 23-25
+    &DatosValidacion::PAISTR, &DatosValidacion::CODPROVTR, &DatosValidacion::NOMPROVTR,  // 26-28
+    &DatosValidacion::CODPOSTR, &DatosValidacion::CODMUNTR, &DatosValidacion::NOMMUNTR,  // 29-31
+    &DatosValidacion::MOTOR,                                                            // 32
 };
 
 Caso valido()
 {
     Caso c;
-    c.datos = {
-        QStringLiteral("SEAT"), QStringLiteral("IBIZA"), QStringLiteral("6J"),
-        QStringLiteral("VSSZZZ6JZAR000001"), 1000, 1598, QStringLiteral("T2"), 1500000.0, 4.75,
-        0.0, 0.0, 0.0, Dni(12345678), QStringLiteral("GARCIA LOPEZ JUAN"),
-        QStringLiteral("CL"), QStringLiteral("MAYOR"), QStringLiteral("77"),
-        QStringLiteral("77001"), QStringLiteral("001"), QString(), QStringLiteral("O"),
-        Dni(87654321), QStringLiteral("AUTOS VELDO SA"), QStringLiteral("AV"),
-        QStringLiteral("GASTEIZ"), QStringLiteral("N"), QString(), QStringLiteral("77"),
-        QString(), QStringLiteral("77002"), QStringLiteral("002"), QString(),
-        QStringLiteral("G"),
-    };
+    DatosValidacion& d = c.datos;
+    d.MARCA = QStringLiteral("SEAT");
+    d.MODELO = QStringLiteral("IBIZA");
+    d.TIPO = QStringLiteral("6J");
+    d.BASTIDOR = QStringLiteral("VSSZZZ6JZAR000001");
+    d.CLASIFICACION = 1000;
+    d.CILINDRADA = 1598;
+    d.OPERACION = QStringLiteral("T2");
+    d.BASEI = 1500000.0;
+    d.TIPOIMP = 4.75;
+    d.DNISP = Dni(12345678);
+    d.NOMBRESP = QStringLiteral("GARCIA LOPEZ JUAN");
+    d.VIASP = QStringLiteral("CL");
+    d.DOMICILIOSP = QStringLiteral("MAYOR");
+    d.CODPROVSP = QStringLiteral("77");
+    d.CODPOSSP = QStringLiteral("77001");
+    d.CODMUNSP = QStringLiteral("001");
+    d.TIPODNITR = QStringLiteral("O");
+    d.DNITR = Dni(87654321);
+    d.NOMBRETR = QStringLiteral("AUTOS VELDO SA");
+    d.VIATR = QStringLiteral("AV");
+    d.DOMICILIOTR = QStringLiteral("GASTEIZ");
+    d.TIPODOMITR = QStringLiteral("N");
+    d.CODPROVTR = QStringLiteral("77");
+    d.CODPOSTR = QStringLiteral("77002");
+    d.CODMUNTR = QStringLiteral("002");
+    d.MOTOR = QStringLiteral("G");
     return c;
 }
 
-// A change to the valid return: values by index, and perhaps another date and print key.
-// The keys -1 and -2 stand for the date and the print key.
+// A change to the valid return: values by their number in kValores, and perhaps another date
+// and print key. The keys -1 and -2 stand for the date and the print key.
 using Cambio = QMap<int, QVariant>;
 constexpr int kFecha = -1;
 constexpr int kImpresion = -2;
@@ -47,19 +82,26 @@ Caso aplicar(const Cambio& cambio)
 {
     Caso c = valido();
     for (auto it = cambio.cbegin(); it != cambio.cend(); ++it) {
-        if (it.key() == kFecha)
+        if (it.key() == kFecha) {
             c.fecha = it.value().toInt();
-        else if (it.key() == kImpresion)
+        } else if (it.key() == kImpresion) {
             c.impresion = it.value().toString();
-        else
-            c.datos[it.key()] = it.value();
+        } else {
+            const auto& valor = kValores[it.key()];
+            if (std::holds_alternative<Texto>(valor))
+                c.datos.*std::get<Texto>(valor) = it.value().toString();
+            else
+                c.datos.*std::get<Numero>(valor) = it.value().toDouble();
+        }
     }
     return c;
 }
 
-int16_t validar(const Caso& c)
+// The number of the first rule the case breaks, 0 when none.
+int validar(const Caso& c)
 {
-    return cDeclaSvr().ValidarDatosDeclaraciones(c.datos, c.impresion, c.fecha);
+    const Resultado<void> r = cDeclaSvr().ValidarDatosDeclaraciones(c.datos, c.impresion, c.fecha);
+    return r ? 0 : ReglaDe(r.veredicto());
 }
 
 const QString s(const char* t) { return QString::fromUtf8(t); }
@@ -143,7 +185,7 @@ private slots:
 
     void laDeclaracionValidaPasa()
     {
-        QCOMPARE(validar(valido()), int16_t(0));
+        QCOMPARE(validar(valido()), 0);
     }
 
     void cadaReglaSola_data()
@@ -185,9 +227,10 @@ private slots:
     void losDatosNoCambianAlValidar()
     {
         const Caso c = aplicar(rupturas()[17]);
-        const Arreglo copia = c.datos;
+        const Caso copia = c;
         validar(c);
-        QCOMPARE(c.datos, copia);
+        QCOMPARE(c.datos.CODPOSSP, copia.datos.CODPOSSP);
+        QCOMPARE(c.datos.CODPROVSP, copia.datos.CODPROVSP);
     }
 
     void numeroDelSujetoErroneoAntesQueVacio()
@@ -303,10 +346,10 @@ private slots:
         // The operation of the car's rate carries that rate in the table.
         cDeclaSvr svr;
         svr.mdblec = mdblec;
-        Arreglo datos;
-        QVERIFY(svr.ObtenerDatosOperacion(siete ? QStringLiteral("T7") : QStringLiteral("TN"),
-                                          20060301, datos, 0));
-        QCOMPARE(datos[4].toDouble(), *tipo);
+        const std::optional<DatosOperacion> datos =
+            svr.ObtenerDatosOperacion(siete ? QStringLiteral("T7") : QStringLiteral("TN"), 20060301, 0);
+        QVERIFY(datos.has_value());
+        QCOMPARE(datos->tipo, *tipo);
     }
 
     void otrasClasificacionesAntesDe2008()

@@ -9,7 +9,6 @@
 #include "registros/declaracion/Validacion.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "servicios/ImporteGuardable.h"
-#include "servicios/PosicionesDeclaracion.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/cDeclaSvr.h"
 
@@ -81,8 +80,8 @@ private slots:
         QFETCH(int, pestana);
         AlmacenDePrueba almacen;
         DeclaracionValida();
-        const int32_t guardada = GuardarDatosDeclaracion();
-        QVERIFY(guardada > 0);
+        QVERIFY(DecDatos().GuardarDeclaracion().aceptado());
+        const int32_t guardada = DecDatos().CSDE;
         const QStringList antes = Contenido(almacen);
 
         // The same return changed (an update) and as a new one (an insert).
@@ -96,8 +95,9 @@ private slots:
                 : campo == QLatin1String("txtdomiciliotr")               ? &d.DOMICILIOTR
                                                                          : &d.NOMBRETR;
             *destino = valor;
-            Veredicto rechazo;
-            QCOMPARE(GuardarDatosDeclaracion(&rechazo), 0);
+            const Resultado<void> r = d.GuardarDeclaracion();
+            QVERIFY(!r);
+            const Veredicto& rechazo = r.veredicto();
             QCOMPARE(rechazo.mensaje, mensaje);
             QCOMPARE(rechazo.control, campo);
             QCOMPARE(rechazo.pestana, pestana);
@@ -107,60 +107,65 @@ private slots:
 
     void importeNoFinito_data()
     {
-        QTest::addColumn<int>("posicion");
-        QTest::addColumn<QVariant>("valor");
+        QTest::addColumn<QString>("campo");
+        QTest::addColumn<double>("valor");
         QTest::addColumn<QString>("mensaje");
         QTest::addColumn<QString>("control");
-        namespace G = PosGuardarDeclaracion;
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        QTest::newRow("base NaN") << int(G::BASEI) << QVariant(nan)
+        QTest::newRow("base NaN") << "BASEI" << nan
                                   << QStringLiteral("La casilla Base Imponible no contiene un importe válido")
                                   << QStringLiteral("txtbasei");
-        QTest::newRow("cuota infinita") << int(G::CUOTA) << QVariant(inf)
+        QTest::newRow("cuota infinita") << "CUOTA" << inf
                                         << QStringLiteral("La casilla Cuota no contiene un importe válido")
                                         << QStringLiteral("txtcuota");
-        QTest::newRow("total menos infinito") << int(G::TOTAL) << QVariant(-inf)
+        QTest::newRow("total menos infinito") << "TOTAL" << -inf
                                               << QStringLiteral("La casilla Total Ingresar no contiene un importe válido")
                                               << QStringLiteral("txttotal");
-        QTest::newRow("tipo \"nan\"") << int(G::TIPOIMP) << QVariant(QStringLiteral("nan"))
-                                      << QStringLiteral("La casilla Tipo Impositivo no contiene un importe válido")
-                                      << QStringLiteral("txttipoimp");
-        QTest::newRow("deducción \"inf\"") << int(G::DEDUCCION) << QVariant(QStringLiteral("inf"))
-                                            << QStringLiteral("La casilla Deducción no contiene un importe válido")
-                                            << QStringLiteral("txtdeduccion");
-        QTest::newRow("base reducida \"-inf\"") << int(G::BASEIREDUCIDA)
-                                                 << QVariant(QStringLiteral(" -inf "))
-                                                 << QStringLiteral("La casilla Base Imp Reducida no contiene un importe válido")
-                                                 << QStringLiteral("txtBaseIReducida");
+        QTest::newRow("tipo NaN") << "TIPOIMP" << nan
+                                  << QStringLiteral("La casilla Tipo Impositivo no contiene un importe válido")
+                                  << QStringLiteral("txttipoimp");
+        QTest::newRow("deducción infinita") << "DEDUCCION" << inf
+                                             << QStringLiteral("La casilla Deducción no contiene un importe válido")
+                                             << QStringLiteral("txtdeduccion");
+        QTest::newRow("base reducida menos infinito") << "BASEIREDUCIDA" << -inf
+                                                       << QStringLiteral("La casilla Base Imp Reducida no contiene un importe válido")
+                                                       << QStringLiteral("txtBaseIReducida");
     }
 
     void importeNoFinito()
     {
         // An amount that is not a finite number is refused at the store's door with the
         // program's message, never a raw NOT NULL failure nor an infinity kept.
-        QFETCH(int, posicion);
-        QFETCH(QVariant, valor);
+        QFETCH(QString, campo);
+        QFETCH(double, valor);
         QFETCH(QString, mensaje);
         QFETCH(QString, control);
         AlmacenDePrueba almacen;
         DeclaracionValida();
-        const int32_t guardada = GuardarDatosDeclaracion();
-        QVERIFY(guardada > 0);
+        QVERIFY(DecDatos().GuardarDeclaracion().aceptado());
+        const Declaracion guardada = DecDatos().valor();
         const QStringList antes = Contenido(almacen);
         cDeclaSvr svr;
         svr.mdbmod = mdbmod;
         svr.mdblec = mdblec;
-        for (const int32_t codigo : {guardada, 0}) {
-            DeclaracionValida();
-            DecDatos().CSDE = codigo;
-            Arreglo datos = DecDatos().DatosGuardar();
-            datos[posicion] = valor;
-            Veredicto rechazo;
-            QCOMPARE(svr.GuardarDeclaracion(datos, &rechazo), 0);
-            QCOMPARE(rechazo.id, kIdImporteNoValido);
-            QCOMPARE(rechazo.mensaje, mensaje);
-            QCOMPARE(rechazo.control, control);
+        for (const int32_t codigo : {guardada.CSDE, 0}) {
+            Declaracion d = guardada;
+            d.CSDE = codigo;
+            if (campo == QLatin1String("TIPOIMP"))
+                d.TIPOIMP = valor;
+            else
+                (campo == QLatin1String("BASEI")           ? d.BASEI
+                 : campo == QLatin1String("BASEIREDUCIDA") ? d.BASEIREDUCIDA
+                 : campo == QLatin1String("CUOTA")         ? d.CUOTA
+                 : campo == QLatin1String("DEDUCCION")     ? d.DEDUCCION
+                                                           : d.TOTAL) = Importe(valor);
+            const Resultado<Declaracion> r = svr.GuardarDeclaracion(d);
+            QVERIFY(!r);
+            QCOMPARE(r.veredicto().id, kIdImporteNoValido);
+            QCOMPARE(r.veredicto().mensaje, mensaje);
+            QCOMPARE(r.veredicto().control, control);
+            QCOMPARE(r.veredicto().vigencia, Vigencia::Vigente);
             QCOMPARE(Contenido(almacen), antes);
         }
     }
@@ -172,8 +177,8 @@ private slots:
         DeclaracionValida();
         DecDatos().NOMBRESP = QStringLiteral("ÑANDÚ ") + QString::fromUcs4(U"\U0001F697", 1);
         DecDatos().REFERENCIA = QStringLiteral(" ç-1 ");
-        const int32_t c = GuardarDatosDeclaracion();
-        QVERIFY(c > 0);
+        QVERIFY(DecDatos().GuardarDeclaracion().aceptado());
+        const int32_t c = DecDatos().CSDE;
         DecDatos().setMODO(QStringLiteral("A"));
         DecDatos().CSDE = c;
         DecDatos().CargarDeclaracion();
@@ -187,17 +192,17 @@ private slots:
         for (const char* referencia : {"AÑO-1", "año-2", "ANO-3", "ÇA-4"}) {
             DeclaracionValida();
             DecDatos().REFERENCIA = QString::fromUtf8(referencia);
-            QVERIFY(GuardarDatosDeclaracion() > 0);
+            QVERIFY(DecDatos().GuardarDeclaracion().aceptado());
         }
         cDeclaSvr svr;
         svr.mdbmod = mdbmod;
         svr.mdblec = mdblec;
         const auto buscar = [&svr](const QString& prefijo) {
-            Arreglo2D r;
-            svr.dameResultadoBusqueda(r, {0, prefijo, 0, 0, QString()}, 2, QStringLiteral("ASC"), 0);
+            CondicionesDeclaracion c;
+            c.REFERENCIA = prefijo;
             QStringList refs;
-            for (const QVariant& v : r.value(1))
-                refs << v.toString();
+            for (const FilaDeclaracion& f : svr.dameResultadoBusqueda(c, 2, QStringLiteral("ASC"), 0))
+                refs << f.REFERENCIA;
             refs.sort();
             return refs;
         };

@@ -73,8 +73,8 @@ private slots:
     void reglaRotaConSuTituloYFoco()
     {
         DecDatos().NOMBRETR.clear();
-        const VeredictoValidacion v = VeredictoCampos(true, kTitulo, Operacion().DESCRIP);
-        QCOMPARE(v.numero, int16_t(21));
+        const Veredicto v = VeredictoCampos(true, kTitulo, Operacion().DESCRIP);
+        QCOMPARE(ReglaDe(v), 21);
         QCOMPARE(v.id, 153);
         QCOMPARE(v.mensaje, Texto(153));
         QCOMPARE(v.botones, int(vb::Information));
@@ -82,8 +82,7 @@ private slots:
         QCOMPARE(v.control, QStringLiteral("txtnombretr"));
         QCOMPARE(v.pestana, kPestanaTransmitente);
         DecDatos().NOMBRETR = QStringLiteral("X");
-        const VeredictoValidacion bueno = VeredictoCampos(true, kTitulo, Operacion().DESCRIP);
-        QCOMPARE(bueno.numero, int16_t(0));
+        const Veredicto bueno = VeredictoCampos(true, kTitulo, Operacion().DESCRIP);
         QVERIFY(bueno.vacio());
     }
 
