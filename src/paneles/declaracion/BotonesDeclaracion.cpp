@@ -22,15 +22,6 @@
 #include <QPushButton>
 #include <QTimer>
 
-namespace {
-
-// The lists that open the form, by the first letter of LISTA.
-const QString kDesdeDecLista = QStringLiteral("D");
-const QString kDesdeContribuyente = QStringLiteral("C");
-const QString kDesdePresentador = QStringLiteral("P");
-
-}  // namespace
-
 bool FrmDeclaracion::ValidarCampos()
 {
     VeredictoValidacion v;
@@ -64,8 +55,7 @@ bool FrmDeclaracion::Guardar()
             CargarGuardada();
         return false;
     }
-    const QString modo = DecDatos().MODO();
-    if (modo == QLatin1String("A") || modo == QLatin1String("D"))
+    if (m_ruta.modo == Navegacion::Modo::Nuevo || m_ruta.modo == Navegacion::Modo::Copia)
         AnotarEnLista(codigo);
     DecDatos().CSDE = codigo;
     return true;
@@ -85,13 +75,19 @@ void FrmDeclaracion::CargarGuardada()
 void FrmDeclaracion::AnotarEnLista(int32_t codigo)
 {
     // The list that opened the form comes back with the new return selected.
-    const QString origen = DecDatos().LISTA.left(1);
-    if (origen == kDesdeDecLista)
+    switch (m_ruta.lista.origen()) {
+    case Navegacion::Origen::ListaDeclaraciones:
         DecLista().CSDE = codigo;
-    else if (origen == kDesdeContribuyente)
+        break;
+    case Navegacion::Origen::DeclaracionesContribuyente:
         ConDeclaraciones().CSDE = codigo;
-    else if (origen == kDesdePresentador)
+        break;
+    case Navegacion::Origen::DeclaracionesPresentador:
         PreDeclaraciones().CSDE = codigo;
+        break;
+    case Navegacion::Origen::Menu:
+        break;
+    }
 }
 
 void FrmDeclaracion::Aceptar()
@@ -126,10 +122,10 @@ void FrmDeclaracion::Imprimir()
             return;
         if (!Guardar())
             return;
-        d.setMODO(QStringLiteral("C"));
+        // Stored now: from here on the form works on the stored return.
+        m_ruta.modo = Navegacion::Modo::Abrir;
         d.MODIFICADO = false;
     }
-    d.LISTA += QStringLiteral("I");
     emit pideImpresion(d.CSDE);
 }
 
@@ -146,13 +142,5 @@ void FrmDeclaracion::closeEvent(QCloseEvent* evento)
         return;
     m_cerrado = true;
     m_cerrando = true;
-    // The list the form came from is drawn again from the store when it comes back.
-    const QString origen = DecDatos().LISTA.left(1);
-    if (origen == kDesdeDecLista)
-        DecLista().ENTRADA = QStringLiteral("P");
-    else if (origen == kDesdeContribuyente)
-        ConDeclaraciones().ENTRADA = QStringLiteral("P");
-    else if (origen == kDesdePresentador)
-        PreDeclaraciones().ENTRADA = QStringLiteral("P");
     Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -6,7 +6,6 @@
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/partes/cConSeleccion.h"
 
-#include <QCloseEvent>
 
 namespace {
 
@@ -74,13 +73,6 @@ DisenoLista DisenoPresentadores()
     return d;
 }
 
-// The form's LISTA loses the trip's letter: the first letter stays, or nothing.
-void VolverAlFormulario()
-{
-    cDecDatos& d = DecDatos();
-    d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
-}
-
 }  // namespace
 
 // ----- Contributor -----
@@ -95,8 +87,7 @@ void FrmConSeleccion::Elegido()
 {
     cConSeleccion& s = ConSeleccion();
     cDecDatos& d = DecDatos();
-    d.ENTRADA = s.ENTRADA;
-    if (s.ENTRADA == QLatin1String("S")) {
+    if (s.ENTRADA == Navegacion::Entrada::Sujeto) {
         // A subject is official and national.
         if (!s.ValidarTipoDniDomicilio()) {
             Mensaje(Texto(90), vb::Information, windowTitle());
@@ -112,19 +103,6 @@ void FrmConSeleccion::Elegido()
     }
     m_seleccionHecha = true;
     Cerrar();
-}
-
-void FrmConSeleccion::closeEvent(QCloseEvent* evento)
-{
-    if (!m_devuelto) {
-        m_devuelto = true;
-        cDecDatos& d = DecDatos();
-        if (!m_seleccionHecha)
-            d.ENTRADA = QStringLiteral("P");
-        VolverAlFormulario();
-        d.CRITERIO = ConSeleccion().CRITERIO;
-    }
-    PanelLista::closeEvent(evento);
 }
 
 // ----- Presenter -----
@@ -148,14 +126,4 @@ void FrmPreSeleccion::Elegido()
     d.NOMBREPR = Grid()->TextMatrix(fila, kColumnaNombre);
     d.DNIPR = Grid()->TextMatrix(fila, kColumnaDni);
     Cerrar();
-}
-
-void FrmPreSeleccion::closeEvent(QCloseEvent* evento)
-{
-    if (!m_devuelto) {
-        m_devuelto = true;
-        DecDatos().ENTRADA = QStringLiteral("P");
-        VolverAlFormulario();
-    }
-    PanelLista::closeEvent(evento);
 }

@@ -198,8 +198,8 @@ void PanelDeclaraciones::Conectar()
     connect(txtBusqueda, &QLineEdit::returnPressed, this, [this] { focusNextPrevChild(true); });
     connect(cmdAceptar, &QPushButton::clicked, this, protegido([this] { Aceptar(); }));
     connect(cmdCancelar, &QPushButton::clicked, this, [this] { Cerrar(); });
-    connect(cmdNuevo, &QPushButton::clicked, this, [this] { emit pideDeclaracion(QStringLiteral("A")); });
-    connect(cmdCopiar, &QPushButton::clicked, this, [this] { emit pideDeclaracion(QStringLiteral("D")); });
+    connect(cmdNuevo, &QPushButton::clicked, this, [this] { emit pideDeclaracion(Navegacion::Modo::Nuevo); });
+    connect(cmdCopiar, &QPushButton::clicked, this, [this] { emit pideDeclaracion(Navegacion::Modo::Copia); });
     connect(cmdImprimir, &QPushButton::clicked, this, [this] { emit pideImpresion(estado().CSDE); });
     connect(cmdEliminar, &QPushButton::clicked, this, protegido([this] { Eliminar(); }));
     connect(cmdBuscar, &QPushButton::clicked, this, protegido([this] { Buscar(); }));
@@ -503,7 +503,7 @@ void PanelDeclaraciones::Todos()
 
 void PanelDeclaraciones::Aceptar()
 {
-    emit pideDeclaracion(QStringLiteral("C"));
+    emit pideDeclaracion(Navegacion::Modo::Abrir);
 }
 
 void PanelDeclaraciones::EliminarSeleccionada(int idEntre)

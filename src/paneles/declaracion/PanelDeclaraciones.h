@@ -11,6 +11,7 @@
 // finds its order, conditions and selection again.
 #include "paneles/controles/cUtilidadesGrid.h"
 #include "servicios/Arreglos.h"
+#include "valores/EstadoNavegacion.h"
 
 #include <QLineEdit>
 #include <QList>
@@ -50,8 +51,8 @@ public:
     void Cerrar();
 
 signals:
-    // A return on the declaration form: "C" the selected one, "D" its copy, "A" a new one.
-    void pideDeclaracion(const QString& modo);
+    // A return on the declaration form: the selected one (Abrir), its copy, or a new one.
+    void pideDeclaracion(Navegacion::Modo modo);
     // The selected return printed.
     void pideImpresion(int32_t csde);
     void cerrado();

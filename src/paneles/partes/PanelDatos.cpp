@@ -13,7 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-PanelDatos::PanelDatos(const QString& nombre, QWidget* parent) : QWidget(parent)
+PanelDatos::PanelDatos(const QString& nombre, const Navegacion::RutaParte& ruta, QWidget* parent)
+    : QWidget(parent), m_ruta(ruta)
 {
     setObjectName(nombre);
     setAttribute(Qt::WA_DeleteOnClose);

@@ -8,6 +8,7 @@
 // Each panel works straight on its own shared record and says what is its own: its fields,
 // captions, loading and drawing, the store's verdicts, and the list it hands back to.
 #include "paneles/dialogos/Ventanas.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Vigencia.h"
 
 #include <QWidget>
@@ -37,8 +38,8 @@ signals:
 
 protected:
     // Makes the two frames; the panel then makes its fields and its address block in fraDatos
-    // and calls Pie().
-    PanelDatos(const QString& nombre, QWidget* parent);
+    // and calls Pie(). `ruta` is how the navigator opened it; it outlives the panel.
+    PanelDatos(const QString& nombre, const Navegacion::RutaParte& ruta, QWidget* parent);
 
     // The buttons under the fields, the panel's layout of the two frames, and the address
     // pickers over them.
@@ -50,9 +51,9 @@ protected:
     // Builds a panel, opens it (Iniciar), shows it in the main window and gives the focus to
     // its first field.
     template <class Panel, class Campo>
-    static Panel* Mostrar(Campo* Panel::*primerCampo)
+    static Panel* Mostrar(const Navegacion::RutaParte& ruta, Campo* Panel::*primerCampo)
     {
-        auto panel = std::make_unique<Panel>();
+        auto panel = std::make_unique<Panel>(ruta);
         panel->Iniciar();
         Panel* abierto = panel.release();
         AbrirPanel(abierto);
@@ -95,6 +96,14 @@ protected:
     QLabel* PicCan = nullptr;
     BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
     SalidaCampos* m_salidas = nullptr;
+    // A stored party (loaded by its code) or a new one, opened from the menu or its list.
+    const Navegacion::RutaParte& m_ruta;
+    bool Consulta() const { return m_ruta.modo == Navegacion::Modo::Abrir; }
+    // A new party made from its list, which on coming back selects it.
+    bool NuevoDesdeLista() const
+    {
+        return m_ruta.modo == Navegacion::Modo::Nuevo && m_ruta.origen == Navegacion::OrigenParte::Lista;
+    }
 
 private:
     void Aceptar();

@@ -684,7 +684,7 @@ void PanelLista::Aceptar()
 
 void PanelLista::Elegido()
 {
-    emit pideDatos(QStringLiteral("C"));
+    emit pideDatos(Navegacion::Modo::Abrir);
 }
 
 void PanelLista::Buscar()
@@ -703,7 +703,7 @@ void PanelLista::Todos()
 
 void PanelLista::Nuevo()
 {
-    emit pideDatos(QStringLiteral("A"));
+    emit pideDatos(Navegacion::Modo::Nuevo);
 }
 
 void PanelLista::Declaraciones()

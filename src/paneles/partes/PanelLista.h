@@ -10,6 +10,7 @@
 // side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
 // to the store; the panel keeps nothing of its own between openings.
 #include "registros/partes/cListaParte.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/cCriterio.h"
 #include "paneles/controles/cUtilidadesGrid.h"
 #include "servicios/Arreglos.h"
@@ -107,8 +108,8 @@ public:
 
 signals:
     // What the user asked for; the navigator answers by closing this panel and opening the next.
-    // A new party ("A") or the selected one ("C") on the data panel:
-    void pideDatos(const QString& modo);
+    // A new party (Nuevo) or the selected one (Abrir) on the data panel:
+    void pideDatos(Navegacion::Modo modo);
     // The declarations of the selected party:
     void pideDeclaraciones(const QString& nombre, const QString& dni);
     // The panel has closed (once, whatever closed it).

@@ -24,19 +24,10 @@ double real(const Arreglo& a, int i) { return a.value(i).toDouble(); }
 
 }  // namespace
 
-void cDecDatos::setMODO(const QString& modo)
+void cDecDatos::IniciarNuevo()
 {
-    m_modo = modo;
-    if (modo != QLatin1String("A"))
-        return;
-    // Every field of the return to its value for a new one; the routing fields stay.
-    const QString entrada = ENTRADA, lista = LISTA, criterio = CRITERIO;
     const bool modificado = MODIFICADO;
     *this = cDecDatos();
-    m_modo = modo;
-    ENTRADA = entrada;
-    LISTA = lista;
-    CRITERIO = criterio;
     MODIFICADO = modificado;
     Operacion().Inicializa();
     InicializaImportes();
@@ -58,7 +49,7 @@ void cDecDatos::InicializaImportes()
     DEDUCCION = 0;
     TOTAL = 0;
     // On an open return a change of date keeps the base that was typed.
-    if (m_modo == QLatin1String("A"))
+    if (Navegacion::RutaDec().modo == Navegacion::Modo::Nuevo)
         BASEI = 0;
 }
 
@@ -323,11 +314,11 @@ void cDecDatos::ExisteContribuyente(const QString& dni, Arreglo& datos, bool& re
     resultado = Almacen<cDeclaSvr>().ExisteContribuyente(dni, datos);
 }
 
-void cDecDatos::CargarContribuyente()
+void cDecDatos::CargarContribuyente(Navegacion::Entrada entrada)
 {
     const cDeclaSvr svr = Almacen<cDeclaSvr>();
     Arreglo datos;
-    if (ENTRADA == QLatin1String("S")) {
+    if (entrada == Navegacion::Entrada::Sujeto) {
         svr.CargarContribuyente(CSSU, datos);
         CargarSujetoPasivo(datos);
     } else {

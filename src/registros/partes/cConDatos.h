@@ -1,8 +1,8 @@
 #pragma once
 // The program's working copy of one contributor, shared by the contributor panel, the list and
-// the import (one instance, ConDatos()). A plain record: every field is public and unchecked,
-// except MODO, whose setting to "A" resets the record to a new contributor's defaults. The
-// operations each make a store object for one call.
+// the import (one instance, ConDatos()). A plain record: every field is public and unchecked;
+// IniciarNuevo() gives it a new contributor's defaults. The operations each make a store
+// object for one call.
 #include "servicios/Arreglos.h"
 #include "valores/Veredicto.h"
 #include "valores/Vigencia.h"
@@ -12,12 +12,9 @@
 
 class cConDatos {
 public:
-    // "A" new contributor, "C" existing one. Setting "A" resets every field below to its
-    // default, but LISTA and CSCO; setting anything else changes MODO only.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
+    // A new contributor: every field below to its default, but CSCO, which the opener sets.
+    void IniciarNuevo();
 
-    QString LISTA;          // "S" opened from the list, "" from the main menu
     int32_t CSCO = 0;       // code in the store, 0 not yet saved
     QString TIPODNI;        // "O" official, "N" foreign document
     QString DOMICILIOC;
@@ -45,7 +42,7 @@ public:
     // Deletes the contributor CSCO; the store refuses one named in a declaration, and a code
     // it no longer has is not reported.
     void BorrarContribuyente() const;
-    // Fills the record from the store; MODO, LISTA and CSCO keep their values. The province
+    // Fills the record from the store; CSCO keeps its value. The province
     // code is given its two digits ("1" reads "01"). A code the store does not have leaves the
     // record as it was.
     void CargarContribuyente(int32_t codigo);
@@ -72,9 +69,6 @@ public:
     static Vigencia VigenciaGuardar(int16_t veredicto);
     // The catalogue id of an error code of the import, 0 for a code outside the table.
     static int IdMensajeImportar(int codigo);
-
-private:
-    QString m_modo;
 };
 
 cConDatos& ConDatos();

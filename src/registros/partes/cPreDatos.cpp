@@ -25,11 +25,8 @@ constexpr std::array<int, 12> kIdsValidacion = {0, 330, 30, 31, 40, 38, 36, 33, 
 
 }  // namespace
 
-void cPreDatos::setMODO(const QString& modo)
+void cPreDatos::IniciarNuevo()
 {
-    m_modo = modo;
-    if (modo != QLatin1String("A"))
-        return;
     DNIP.clear();
     NOMBREP.clear();
     VIAP = QStringLiteral("CL");

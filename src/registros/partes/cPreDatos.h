@@ -1,6 +1,6 @@
 #pragma once
 // The program's working copy of one presenter (one instance, PreDatos()): a plain record like
-// the contributor's, with the same reset on MODO "A", and operations that each make a store
+// the contributor's, with the same reset for a new one, and operations that each make a store
 // object for one call. A presenter is always national and official: no kind of document or
 // domicile, no country, no typed province, no counters; a telephone.
 #include "servicios/Arreglos.h"
@@ -14,7 +14,7 @@ class cPreDatos {
 public:
     // Declarations that name the presenter CSPR (16-bit; no panel calls it).
     int16_t NDeclaPresentador() const;
-    // Fills the record from the store; MODO, LISTA and CSPR keep their values. The province is
+    // Fills the record from the store; CSPR keeps its value. The province is
     // given two digits and the postal code five; a telephone of value 0 reads empty. A code
     // the store does not have leaves the record as it was.
     void CargarPresentador(int32_t codigo);
@@ -29,10 +29,8 @@ public:
     void BorrarPresentador() const;
 
     QString CODPROVP;
-    // "A" new presenter, "C" existing one; "A" resets every field but LISTA and CSPR.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
-    QString LISTA;
+    // A new presenter: every field to its default, but CSPR, which the opener sets.
+    void IniciarNuevo();
     QString CODPOSP;
     QString CODMUNP;
     QString NOMMUNP;
@@ -63,9 +61,6 @@ public:
     static int IdMensajeGuardar(int16_t veredicto);
     // Whether a verdict of the save tells of a stored presenter other than the one loaded.
     static Vigencia VigenciaGuardar(int16_t veredicto);
-
-private:
-    QString m_modo;
 };
 
 cPreDatos& PreDatos();

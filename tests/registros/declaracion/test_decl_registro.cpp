@@ -158,28 +158,31 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.ENTRADA = QStringLiteral("A");
-        d.LISTA = QStringLiteral("D");
+        Navegacion::RutaDec().entrada = Navegacion::Entrada::Inicio;
+        Navegacion::RutaDec().lista = Navegacion::ListaOrigen(Navegacion::Origen::ListaDeclaraciones);
         Operacion().ActualizaOperacion({QStringLiteral("D"), QStringLiteral("K"), QString(),
                                         QString(), 12, 0, 0, 5},
                                        false);
-        d.setMODO(QStringLiteral("A"));
-        QCOMPARE(d.MODO(), QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("A"));
         comprobarNueva(d);
         QVERIFY(Operacion().DESCRIP.isEmpty());
         QCOMPARE(Operacion().T_TIP(), 0.0);
         // The routing of the form is not part of the return.
-        QCOMPARE(d.ENTRADA, QStringLiteral("A"));
-        QCOMPARE(d.LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("A"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
     }
 
     void modoAltaDosVecesDaLoMismo()
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         const Arreglo primera = d.DatosGuardar();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         QCOMPARE(d.DatosGuardar(), primera);
         comprobarNueva(d);
     }
@@ -189,11 +192,11 @@ private slots:
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
         const Arreglo antes = d.DatosGuardar();
-        d.setMODO(QStringLiteral("C"));
-        QCOMPARE(d.MODO(), QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QCOMPARE(d.DatosGuardar(), antes);
-        d.setMODO(QStringLiteral("D"));
-        QCOMPARE(d.MODO(), QStringLiteral("D"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Copia;
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("D"));
         QCOMPARE(d.DatosGuardar(), antes);
     }
 
@@ -201,7 +204,7 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.setMODO(QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
         d.InicializaFecha();
         QVERIFY(d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty() && d.REDUCCION.isEmpty());
         QCOMPARE(d.BASEI, 1.0);
@@ -216,7 +219,8 @@ private slots:
     void inicializaFechaBorraLaBaseDeUnaNueva()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.BASEI = 500;
         d.TOTAL = 6;
         d.InicializaFecha();
@@ -259,7 +263,7 @@ private slots:
                       L::NUMEROSP, L::NUMEROTR, L::DECLASP})
             carga[i] = 1000 + i;
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
         d.CSDE = 7;
         d.DatosCargados(carga);
         QCOMPARE(d.CSDE, 7);
@@ -326,7 +330,8 @@ private slots:
     void cargarSujetoNacional()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("1"), QStringLiteral("1001")));
         QCOMPARE(d.CSSU, 15);
         QCOMPARE(d.DNISP, QStringLiteral("X1234567L"));
@@ -350,7 +355,8 @@ private slots:
     void cargarSujetoExtranjero()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("E"), QStringLiteral("00"), QStringLiteral("7500")));
         // Province and municipality stay those of the return; the postal code is five digits.
         QCOMPARE(d.CODPROVSP, QStringLiteral("77"));
@@ -366,7 +372,8 @@ private slots:
     void arregloDesconocidoLimpiaLaParte()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("48"), QStringLiteral("48001")));
         Arreglo vacia(kParte, QString());
         vacia[C::CSCO] = 0;
@@ -382,7 +389,8 @@ private slots:
     void cargarTransmitente()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarTransmitente(parte(QStringLiteral("E"), QStringLiteral("9"), QStringLiteral("75002")));
         QCOMPARE(d.CSTRA, 15);
         QCOMPARE(d.TIPODNITR, QStringLiteral("N"));
@@ -473,3 +481,4 @@ private slots:
 
 QTEST_MAIN(TestRegistro)
 #include "test_decl_registro.moc"
+#include "valores/EstadoNavegacion.h"

@@ -173,7 +173,8 @@ private slots:
         DecDatos().REFERENCIA = QStringLiteral(" ç-1 ");
         const int32_t c = GuardarDatosDeclaracion();
         QVERIFY(c > 0);
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         DecDatos().CSDE = c;
         DecDatos().CargarDeclaracion();
         QCOMPARE(DecDatos().NOMBRESP, QStringLiteral("ÑANDÚ ") + QString::fromUcs4(U"\U0001F697", 1));
@@ -210,3 +211,4 @@ private slots:
 
 QTEST_GUILESS_MAIN(TestDeclTextos)
 #include "test_decl_textos.moc"
+#include "valores/EstadoNavegacion.h"
