@@ -16,7 +16,6 @@
 #include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConDeclaraciones.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QPushButton>
@@ -133,14 +132,4 @@ void FrmDeclaracion::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void FrmDeclaracion::closeEvent(QCloseEvent* evento)
-{
-    QWidget::closeEvent(evento);
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    m_cerrando = true;
-    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -75,7 +75,7 @@ FrmDeclaracion* FrmDeclaracion::Abrir(Navegacion::RutaDeclaracion& ruta)
 }
 
 FrmDeclaracion::FrmDeclaracion(Navegacion::RutaDeclaracion& ruta, QWidget* parent)
-    : QWidget(parent), m_ruta(ruta)
+    : PanelNavegado(parent), m_ruta(ruta)
 {
     setObjectName(QStringLiteral("FrmDeclaracion"));
     setAttribute(Qt::WA_DeleteOnClose);

@@ -11,9 +11,9 @@
 // list, the print) through its signals, and the navigator marks the side trip on the form's
 // route, closes it and opens the next panel. The route (how the form is entered, what the
 // record is to hold, where it came from) is the navigator's, handed to the panel when it opens.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "valores/EstadoNavegacion.h"
 
-#include <QWidget>
 #include <cstdint>
 
 class BloqueDomicilio;
@@ -32,7 +32,7 @@ class SalidaCampos;
 // Which list a party is chosen from.
 enum class EleccionParte { Sujeto, Transmitente, Presentador };
 
-class FrmDeclaracion final : public QWidget {
+class FrmDeclaracion final : public PanelNavegado {
     Q_OBJECT
 public:
     // Builds the panel for DecDatos() as `ruta` and its CSDE stand, opens it and shows it in
@@ -66,11 +66,9 @@ signals:
     void pideEleccion(EleccionParte parte);
     // The return (saved, CSDE its code) is to be printed. The panel is still open.
     void pideImpresion(int32_t csde);
-    // The panel has closed (once, whatever closed it).
-    void cerrado();
 
 protected:
-    void closeEvent(QCloseEvent* evento) override;
+    void AlCerrar() override { m_cerrando = true; }
     void showEvent(QShowEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
@@ -208,7 +206,6 @@ private:
     bool m_presentandoDatos = false;
     bool m_cargandoOperaciones = false;
     bool m_mostrandoPestana = false;  // the panel itself selects a tab
-    bool m_cerrado = false;
     bool m_cerrando = false;
     bool m_activado = false;
 };

@@ -3,6 +3,7 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/partes/ColumnasContribuyentes.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/partes/cConSeleccion.h"
 
@@ -17,15 +18,7 @@ DisenoLista DisenoContribuyentes()
     DisenoLista d;
     d.nombrePanel = QStringLiteral("FrmConSeleccion");
     d.nombreGrid = QStringLiteral("flxContribuyentes");
-    d.columnas = {
-        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
-        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2700, Qt::AlignLeft},
-        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
-        {{0, "Calle", "Helbidea"}, 2000, Qt::AlignLeft},
-        {{0, "Municipio", "Udalerria"}, 2000, Qt::AlignLeft},
-        {{0, "S.P.", "S.P."}, 600, Qt::AlignRight},
-        {{0, "Tr.", "Tr."}, 600, Qt::AlignRight},
-    };
+    d.columnas = ColumnasContribuyentes::Todas();
     d.idTituloAbrir = 87;
     d.idTituloEliminar = 87;
     d.tipDatos = {88};

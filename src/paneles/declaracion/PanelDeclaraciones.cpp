@@ -20,7 +20,7 @@
 #include "valores/cFecha.h"
 #include "valores/cListaDeclaraciones.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -65,7 +65,7 @@ W* Control(QWidget* padre, const char* nombre)
 
 PanelDeclaraciones::PanelDeclaraciones(const QString& nombre, QList<ColumnaDeclaraciones> columnas,
                                        QWidget* parent)
-    : QWidget(parent)
+    : PanelNavegado(parent)
 {
     setObjectName(nombre);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -532,14 +532,4 @@ void PanelDeclaraciones::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void PanelDeclaraciones::closeEvent(QCloseEvent* evento)
-{
-    evento->accept();
-    m_cerrando = true;
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -20,7 +20,6 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QDate>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -60,7 +59,7 @@ FrmImprimir* FrmImprimir::Abrir()
     return panel;
 }
 
-FrmImprimir::FrmImprimir(QWidget* parent) : QWidget(parent)
+FrmImprimir::FrmImprimir(QWidget* parent) : PanelNavegado(parent)
 {
     setObjectName(QStringLiteral("FrmImprimir"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -368,12 +367,3 @@ void FrmImprimir::GuardarPdf()
 }
 
 void FrmImprimir::OpcionesImpresora() { ImpresoraSistema::Dialogo(this); }
-
-void FrmImprimir::closeEvent(QCloseEvent* e)
-{
-    QWidget::closeEvent(e);
-    if (!m_cerrado) {
-        m_cerrado = true;
-        emit cerrado();
-    }
-}

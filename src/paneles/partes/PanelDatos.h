@@ -7,11 +7,11 @@
 //
 // Each panel works straight on its own shared record and says what is its own: its fields,
 // captions, loading and drawing, the store's verdicts, and the list it hands back to.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "valores/EstadoNavegacion.h"
 #include "valores/Vigencia.h"
 
-#include <QWidget>
 #include <cstdint>
 #include <memory>
 
@@ -21,7 +21,7 @@ class QLabel;
 class QPushButton;
 class SalidaCampos;
 
-class PanelDatos : public QWidget {
+class PanelDatos : public PanelNavegado {
     Q_OBJECT
 public:
     // Asks the store whether the record is valid; shows the verdict's message and puts the
@@ -31,12 +31,8 @@ public:
     bool Modificado() const { return m_modificado; }
     bool SaltarValidacion() const { return m_saltarValidacion; }
 
-signals:
-    // The panel has closed (once, whatever closed it); the navigator refreshes the main window
-    // and goes back to the party's list when the panel came from it.
-    void cerrado();
-
 protected:
+    void AlCerrar() override { m_cerrando = true; }
     // Makes the two frames; the panel then makes its fields and its address block in fraDatos
     // and calls Pie(). `ruta` is how the navigator opened it; it outlives the panel.
     PanelDatos(const QString& nombre, const Navegacion::RutaParte& ruta, QWidget* parent);
@@ -85,7 +81,6 @@ protected:
     void MarcarModificado() { m_modificado = true; }
     bool Saltando() const { return m_saltarValidacion; }
 
-    void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     QFrame* fraDatos = nullptr;
@@ -112,5 +107,4 @@ private:
     bool m_modificado = false;
     bool m_saltarValidacion = false;
     bool m_cerrando = false;
-    bool m_cerrado = false;
 };
