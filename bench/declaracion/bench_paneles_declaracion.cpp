@@ -17,6 +17,7 @@
 #include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConLista.h"
 #include "servicios/Conexion.h"
+#include "valores/EstadoNavegacion.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -165,9 +166,9 @@ int main(int argc, char** argv)
 
     bien &= informe("FrmDeclaracion: abrir una guardada", repetir(7, [] {
         cDecDatos& d = DecDatos();
-        d.ENTRADA = QStringLiteral("A");
-        d.setMODO(QStringLiteral("C"));
-        d.LISTA.clear();
+        Navegacion::RutaDec().entrada = Navegacion::Entrada::Inicio;
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
+        Navegacion::RutaDec().lista = {};
         d.CSDE = kDeclaraciones / 2;
         QElapsedTimer r;
         r.start();
@@ -180,9 +181,9 @@ int main(int argc, char** argv)
 
     {
         cDecDatos& d = DecDatos();
-        d.ENTRADA = QStringLiteral("A");
-        d.setMODO(QStringLiteral("C"));
-        d.LISTA.clear();
+        Navegacion::RutaDec().entrada = Navegacion::Entrada::Inicio;
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
+        Navegacion::RutaDec().lista = {};
         d.CSDE = kDeclaraciones / 2;
         FrmDeclaracion* form = Navegacion::AbrirDeclaracion();
         // The fields take the focus only in the active window.

@@ -20,10 +20,13 @@
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
+#include "registros/partes/cConSeleccion.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
+#include "valores/EstadoNavegacion.h"
 
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -54,11 +57,11 @@ void alCerrar()
 using AbridorDeclaraciones = void (*)(const QString& nombre, const QString& dni);
 
 template <typename Lista, typename Datos>
-void conectarLista(Lista* lista, const std::function<void(const QString& modo)>& prepararDatos,
+void conectarLista(Lista* lista, const std::function<void(Navegacion::Modo modo)>& prepararDatos,
                    Datos* (*abrirDatos)(), AbridorDeclaraciones declaraciones)
 {
     QObject::connect(lista, &PanelLista::cerrado, lista, [] { alCerrar(); });
-    QObject::connect(lista, &PanelLista::pideDatos, lista, [lista, prepararDatos, abrirDatos](const QString& modo) {
+    QObject::connect(lista, &PanelLista::pideDatos, lista, [lista, prepararDatos, abrirDatos](Navegacion::Modo modo) {
         Proceso::Protegido([&] {
             prepararDatos(modo);
             lista->Cerrar();
@@ -85,11 +88,13 @@ FrmConLista* AbrirConLista(const QString& entrada)
     FrmConLista* lista = FrmConLista::Abrir();
     conectarLista<FrmConLista, FrmConDatos>(
         lista,
-        [](const QString& modo) {
+        [](Modo modo) {
+            // Nuevo: a new contributor; Abrir: the one selected in the list.
             cConDatos& c = ConDatos();
-            c.setMODO(modo);
-            c.LISTA = QStringLiteral("S");
-            c.CSCO = modo == QLatin1String("A") ? 0 : ConLista().CSCO;
+            if (modo == Modo::Nuevo)
+                c.IniciarNuevo();
+            c.CSCO = modo == Modo::Nuevo ? 0 : ConLista().CSCO;
+            RutaCon() = {{modo, OrigenParte::Lista}};
         },
         &AbrirConDatos, [](const QString& nombre, const QString& dni) {
             AbrirConDeclaraciones(QStringLiteral("A"), nombre, dni);
@@ -104,11 +109,12 @@ FrmPreLista* AbrirPreLista(const QString& entrada)
     FrmPreLista* lista = FrmPreLista::Abrir();
     conectarLista<FrmPreLista, FrmPreDatos>(
         lista,
-        [](const QString& modo) {
+        [](Modo modo) {
             cPreDatos& p = PreDatos();
-            p.setMODO(modo);
-            p.LISTA = QStringLiteral("S");
-            p.CSPR = modo == QLatin1String("A") ? 0 : PreLista().CSPR;
+            if (modo == Modo::Nuevo)
+                p.IniciarNuevo();
+            p.CSPR = modo == Modo::Nuevo ? 0 : PreLista().CSPR;
+            RutaPre() = {{modo, OrigenParte::Lista}};
         },
         &AbrirPreDatos, [](const QString& nombre, const QString& dni) {
             AbrirPreDeclaraciones(QStringLiteral("A"), nombre, dni);
@@ -119,11 +125,11 @@ FrmPreLista* AbrirPreLista(const QString& entrada)
 FrmConDatos* AbrirConDatos()
 {
     alAbrir();
-    FrmConDatos* datos = FrmConDatos::Abrir();
+    FrmConDatos* datos = FrmConDatos::Abrir(RutaCon());
     QObject::connect(datos, &PanelDatos::cerrado, datos, [] {
         alCerrar();
         // Back to the list the contributor was opened from.
-        if (ConDatos().LISTA == QLatin1String("S"))
+        if (RutaCon().origen == OrigenParte::Lista)
             AbrirConLista(QStringLiteral("P"));
     });
     return datos;
@@ -132,10 +138,10 @@ FrmConDatos* AbrirConDatos()
 FrmPreDatos* AbrirPreDatos()
 {
     alAbrir();
-    FrmPreDatos* datos = FrmPreDatos::Abrir();
+    FrmPreDatos* datos = FrmPreDatos::Abrir(RutaPre());
     QObject::connect(datos, &PanelDatos::cerrado, datos, [] {
         alCerrar();
-        if (PreDatos().LISTA == QLatin1String("S"))
+        if (RutaPre().origen == OrigenParte::Lista)
             AbrirPreLista(QStringLiteral("P"));
     });
     return datos;
@@ -160,43 +166,67 @@ FrmImportar* AbrirImportar()
 FrmConDatos* NuevoContribuyente()
 {
     cConDatos& c = ConDatos();
-    c.setMODO(QStringLiteral("A"));
-    c.LISTA.clear();
+    c.IniciarNuevo();
     c.CSCO = 0;
+    RutaCon() = {{Modo::Nuevo, OrigenParte::Menu}};
     return AbrirConDatos();
 }
 
 FrmPreDatos* NuevoPresentador()
 {
     cPreDatos& p = PreDatos();
-    p.setMODO(QStringLiteral("A"));
-    p.LISTA.clear();
+    p.IniciarNuevo();
     p.CSPR = 0;
+    RutaPre() = {{Modo::Nuevo, OrigenParte::Menu}};
     return AbrirPreDatos();
 }
 
-// The return a list hands to the form: "A" a new one, "C" the selected one, "D" its copy.
-static void prepararDeclaracion(const QString& modo, const QString& lista, int32_t csde)
+// The form entered afresh from `origen` on a return: a new one, the stored `csde`, or its copy.
+static void prepararDeclaracion(Modo modo, Origen origen, int32_t csde)
 {
     cDecDatos& d = DecDatos();
-    d.ENTRADA = QStringLiteral("A");
-    d.setMODO(modo);
-    d.LISTA = lista;
-    if (modo != QLatin1String("A"))
+    RutaDeclaracion& ruta = RutaDec();
+    ruta.entrada = Entrada::Inicio;
+    ruta.modo = modo;
+    ruta.lista = ListaOrigen(origen);
+    if (modo == Modo::Nuevo)
+        d.IniciarNuevo();
+    else
         d.CSDE = csde;
 }
 
-// A list to choose a party for the return being edited: on closing, either way, the form
-// comes back and reads in DecDatos() what happened.
-static void abrirSeleccion(PanelLista* seleccion)
+// A list to choose a party for the return being edited, a side trip of the form. On closing,
+// either way, the form comes back: `vuelta` tells how it is entered again.
+static void abrirSeleccion(PanelLista* seleccion, std::function<Entrada()> vuelta)
 {
     alAbrir();
     AbrirPanel(seleccion);
-    QObject::connect(seleccion, &PanelLista::cerrado, seleccion, [] {
+    QObject::connect(seleccion, &PanelLista::cerrado, seleccion, [vuelta] {
         alCerrar();
+        RutaDeclaracion& ruta = RutaDec();
+        ruta.entrada = vuelta();
+        ruta.lista.volverDeViaje();
         AbrirDeclaracion();
     });
     seleccion->Iniciar();
+}
+
+// The list the form came from is drawn again from the store when it next opens.
+static void marcarListaDeOrigen(Origen origen)
+{
+    switch (origen) {
+    case Origen::ListaDeclaraciones:
+        DecLista().ENTRADA = QStringLiteral("P");
+        break;
+    case Origen::DeclaracionesContribuyente:
+        ConDeclaraciones().ENTRADA = QStringLiteral("P");
+        break;
+    case Origen::DeclaracionesPresentador:
+        PreDeclaraciones().ENTRADA = QStringLiteral("P");
+        break;
+    case Origen::Menu:
+        break;
+    }
 }
 
 FrmDecLista* AbrirDecLista(const QString& entrada)
@@ -206,9 +236,9 @@ FrmDecLista* AbrirDecLista(const QString& entrada)
     auto* lista = new FrmDecLista;
     AbrirPanel(lista);
     QObject::connect(lista, &PanelDeclaraciones::cerrado, lista, [] { alCerrar(); });
-    QObject::connect(lista, &PanelDeclaraciones::pideDeclaracion, lista, [lista](const QString& modo) {
+    QObject::connect(lista, &PanelDeclaraciones::pideDeclaracion, lista, [lista](Modo modo) {
         Proceso::Protegido([&] {
-            prepararDeclaracion(modo, QStringLiteral("D"), DecLista().CSDE);
+            prepararDeclaracion(modo, Origen::ListaDeclaraciones, DecLista().CSDE);
             lista->Cerrar();
             AbrirDeclaracion();
         });
@@ -230,32 +260,47 @@ FrmDecLista* AbrirDecLista(const QString& entrada)
 FrmDeclaracion* AbrirDeclaracion()
 {
     alAbrir();
-    FrmDeclaracion* form = FrmDeclaracion::Abrir();
+    FrmDeclaracion* form = FrmDeclaracion::Abrir(RutaDec());
     QObject::connect(form, &FrmDeclaracion::cerrado, form, [] {
         alCerrar();
-        // A side trip (a selection panel, the print) is under way when LISTA has two letters,
-        // or one that names no list: the trip's own panel takes over.
-        const QString lista = DecDatos().LISTA;
-        if (lista.size() != 1)
-            return;
-        if (lista == QLatin1String("D"))
+        const ListaOrigen& lista = RutaDec().lista;
+        marcarListaDeOrigen(lista.origen());
+        // During a side trip (a selection panel, the print) the trip's own panel takes over;
+        // from the menu there is no list to go back to.
+        const std::optional<Origen> vuelta = lista.listaDeVuelta();
+        if (vuelta == Origen::ListaDeclaraciones)
             AbrirDecLista(QStringLiteral("P"));
-        else if (lista == QLatin1String("C"))
+        else if (vuelta == Origen::DeclaracionesContribuyente)
             AbrirConDeclaraciones(QStringLiteral("P"));
-        else if (lista == QLatin1String("P"))
+        else if (vuelta == Origen::DeclaracionesPresentador)
             AbrirPreDeclaraciones(QStringLiteral("P"));
     });
     QObject::connect(form, &FrmDeclaracion::pideEleccion, form, [form](EleccionParte parte) {
         Proceso::Protegido([&] {
+            RutaDeclaracion& ruta = RutaDec();
+            ruta.lista.salirDeViaje(Viaje::Seleccion);
+            if (parte == EleccionParte::Presentador) {
+                form->Cerrar();
+                // The presenter chosen is written by the list itself: nothing to load.
+                abrirSeleccion(new FrmPreSeleccion, [] { return Entrada::Vuelta; });
+                return;
+            }
+            // The contributor's list chooses for the subject or the transmitter, and keeps its
+            // criteria for the next visit while the form's route says so.
+            cConSeleccion& s = ConSeleccion();
+            s.ENTRADA = parte == EleccionParte::Sujeto ? Entrada::Sujeto : Entrada::Transmitente;
+            s.CRITERIO = ruta.criterio;
             form->Cerrar();
-            if (parte == EleccionParte::Presentador)
-                abrirSeleccion(new FrmPreSeleccion);
-            else
-                abrirSeleccion(new FrmConSeleccion);
+            auto* seleccion = new FrmConSeleccion;
+            abrirSeleccion(seleccion, [seleccion] {
+                RutaDec().criterio = ConSeleccion().CRITERIO;
+                return seleccion->SeleccionHecha() ? ConSeleccion().ENTRADA : Entrada::Vuelta;
+            });
         });
     });
     QObject::connect(form, &FrmDeclaracion::pideImpresion, form, [form](int32_t csde) {
         Proceso::Protegido([&] {
+            RutaDec().lista.salirDeViaje(Viaje::Impresion);
             form->Cerrar();
             AbrirImprimir(csde, QStringLiteral("D"));
         });
@@ -265,27 +310,20 @@ FrmDeclaracion* AbrirDeclaracion()
 
 FrmDeclaracion* NuevaDeclaracion()
 {
-    cDecDatos& d = DecDatos();
-    d.ENTRADA = QStringLiteral("A");
-    d.setMODO(QStringLiteral("A"));
-    d.LISTA.clear();
+    prepararDeclaracion(Modo::Nuevo, Origen::Menu, 0);
     return AbrirDeclaracion();
 }
 
 FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde)
 {
-    cDecDatos& d = DecDatos();
-    d.ENTRADA = QStringLiteral("A");
-    d.setMODO(QStringLiteral("C"));
-    d.LISTA.clear();
-    d.CSDE = csde;
+    prepararDeclaracion(Modo::Abrir, Origen::Menu, csde);
     return AbrirDeclaracion();
 }
 
 // The returns of a party: the panel, its state and its doorways. `lista` is the form's LISTA
 // from it, `imprimir` the print's letter, `volver` the party's list on closing.
 template <typename Panel, typename Estado>
-Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*volver)())
+Panel* abrirDeclaracionesDeParte(Estado& estado, Origen origen, const QString& letra, void (*volver)())
 {
     alAbrir();
     auto* panel = new Panel;
@@ -300,9 +338,9 @@ Panel* abrirDeclaracionesDeParte(Estado& estado, const QString& letra, void (*vo
             volver();
     });
     QObject::connect(panel, &PanelDeclaraciones::pideDeclaracion, panel,
-                     [panel, &estado, letra, deViaje](const QString& modo) {
+                     [panel, &estado, origen, deViaje](Modo modo) {
                          Proceso::Protegido([&] {
-                             prepararDeclaracion(modo, letra, estado.CSDE);
+                             prepararDeclaracion(modo, origen, estado.CSDE);
                              estado.ENTRADA += QStringLiteral("D");
                              *deViaje = true;
                              panel->Cerrar();
@@ -335,7 +373,7 @@ FrmConDeclaraciones* AbrirConDeclaraciones(const QString& entrada, const QString
         e.LBLCONTRI = nombre;
         e.lbldni = dni;
     }
-    return abrirDeclaracionesDeParte<FrmConDeclaraciones>(e, QStringLiteral("C"), [] {
+    return abrirDeclaracionesDeParte<FrmConDeclaraciones>(e, Origen::DeclaracionesContribuyente, QStringLiteral("C"), [] {
         AbrirConLista(QStringLiteral("P"));
     });
 }
@@ -349,7 +387,7 @@ FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString
         e.LBLPRESEN = nombre;
         e.lbldni = dni;
     }
-    return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(e, QStringLiteral("P"), [] {
+    return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(e, Origen::DeclaracionesPresentador, QStringLiteral("P"), [] {
         AbrirPreLista(QStringLiteral("P"));
     });
 }
@@ -365,9 +403,9 @@ FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada)
         const QString letra = letraDeVuelta(ImOf().ENTRADA);
         if (letra == QLatin1String("D")) {
             // The side trip to printing is over: the form keeps only where it came from.
-            cDecDatos& d = DecDatos();
-            d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
-            d.ENTRADA = QStringLiteral("P");
+            RutaDeclaracion& ruta = RutaDec();
+            ruta.lista.volverDeViaje();
+            ruta.entrada = Entrada::Vuelta;
         }
         Proceso::Protegido([&letra] {
             if (letra == QLatin1String("D"))

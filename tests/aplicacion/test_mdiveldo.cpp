@@ -214,11 +214,12 @@ private slots:
     {
         const QList<int32_t> codigos = guardarDeclaraciones(2);
         m_ventana->ActualizarMenus();
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         accion("d2")->trigger();
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("A"));
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("C"));
-        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("A"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QString());
         QCOMPARE(DecDatos().CSDE, codigos[0]);
     }
 
@@ -469,3 +470,4 @@ private slots:
 
 QTEST_MAIN(TestMDIVeldo)
 #include "test_mdiveldo.moc"
+#include "valores/EstadoNavegacion.h"

@@ -101,13 +101,13 @@ private slots:
         // form back with LISTA "D" only, and the form's Cancelar the list.
         Clic(b("cmdAceptar"));
         irA("FrmDeclaracion");
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
         alImprimir(QStringLiteral("D"));
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("DI"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("DI"));
         Clic(b("cmdCancelar"));
         irA("FrmDeclaracion");
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
         QCOMPARE(FinesDeDocumento(m_hojas), 4);
         Clic(b("cmdCancelar"));
         irA("FrmDecLista");
@@ -231,3 +231,4 @@ private slots:
 
 QTEST_MAIN(TestNavegarImprimir)
 #include "test_navegar_imprimir.moc"
+#include "valores/EstadoNavegacion.h"

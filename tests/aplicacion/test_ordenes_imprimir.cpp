@@ -36,8 +36,10 @@ private slots:
     {
         m_almacen = std::make_unique<AlmacenDePrueba>();
         m_codigo = DeclaracionLlena();
-        DecDatos().setMODO(QStringLiteral("A"));
-        PreDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
+        Navegacion::RutaPre().modo = Navegacion::Modo::Nuevo;
+        PreDatos().IniciarNuevo();
     }
     void cleanup() { m_almacen.reset(); }
 
@@ -209,3 +211,4 @@ private slots:
 
 QTEST_MAIN(TestOrdenesImprimir)
 #include "test_ordenes_imprimir.moc"
+#include "valores/EstadoNavegacion.h"

@@ -84,8 +84,10 @@ private slots:
             if (i == 20)
                 m_mala = m_codigos.last();
         }
-        DecDatos().setMODO(QStringLiteral("A"));
-        PreDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
+        Navegacion::RutaPre().modo = Navegacion::Modo::Nuevo;
+        PreDatos().IniciarNuevo();
     }
     void cleanupTestCase() { m_almacen.reset(); }
 
@@ -328,3 +330,4 @@ private slots:
 
 QTEST_MAIN(TestOrdenesLote)
 #include "test_ordenes_lote.moc"
+#include "valores/EstadoNavegacion.h"

@@ -4,11 +4,13 @@
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
 #include "servicios/cDeclaSvr.h"
+#include "valores/EstadoNavegacion.h"
 
 void DeclaracionValida()
 {
     cDecDatos& d = DecDatos();
-    d.setMODO(QStringLiteral("A"));
+    Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+    d.IniciarNuevo();
     d.FECHAD = 20100315;
     d.REFERENCIA = QStringLiteral("REF-1");
     d.MARCA = QStringLiteral("SEAT");

@@ -16,20 +16,10 @@
 #include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConDeclaraciones.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QPushButton>
 #include <QTimer>
-
-namespace {
-
-// The lists that open the form, by the first letter of LISTA.
-const QString kDesdeDecLista = QStringLiteral("D");
-const QString kDesdeContribuyente = QStringLiteral("C");
-const QString kDesdePresentador = QStringLiteral("P");
-
-}  // namespace
 
 bool FrmDeclaracion::ValidarCampos()
 {
@@ -66,8 +56,7 @@ bool FrmDeclaracion::Guardar()
             CargarGuardada();
         return false;
     }
-    const QString modo = d.MODO();
-    if (modo == QLatin1String("A") || modo == QLatin1String("D"))
+    if (m_ruta.modo == Navegacion::Modo::Nuevo || m_ruta.modo == Navegacion::Modo::Copia)
         AnotarEnLista(d.CSDE);
     return true;
 }
@@ -86,13 +75,19 @@ void FrmDeclaracion::CargarGuardada()
 void FrmDeclaracion::AnotarEnLista(int32_t codigo)
 {
     // The list that opened the form comes back with the new return selected.
-    const QString origen = DecDatos().LISTA.left(1);
-    if (origen == kDesdeDecLista)
+    switch (m_ruta.lista.origen()) {
+    case Navegacion::Origen::ListaDeclaraciones:
         DecLista().CSDE = codigo;
-    else if (origen == kDesdeContribuyente)
+        break;
+    case Navegacion::Origen::DeclaracionesContribuyente:
         ConDeclaraciones().CSDE = codigo;
-    else if (origen == kDesdePresentador)
+        break;
+    case Navegacion::Origen::DeclaracionesPresentador:
         PreDeclaraciones().CSDE = codigo;
+        break;
+    case Navegacion::Origen::Menu:
+        break;
+    }
 }
 
 void FrmDeclaracion::Aceptar()
@@ -127,10 +122,10 @@ void FrmDeclaracion::Imprimir()
             return;
         if (!Guardar())
             return;
-        d.setMODO(QStringLiteral("C"));
+        // Stored now: from here on the form works on the stored return.
+        m_ruta.modo = Navegacion::Modo::Abrir;
         d.MODIFICADO = false;
     }
-    d.LISTA += QStringLiteral("I");
     emit pideImpresion(d.CSDE);
 }
 
@@ -138,22 +133,4 @@ void FrmDeclaracion::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void FrmDeclaracion::closeEvent(QCloseEvent* evento)
-{
-    QWidget::closeEvent(evento);
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    m_cerrando = true;
-    // The list the form came from is drawn again from the store when it comes back.
-    const QString origen = DecDatos().LISTA.left(1);
-    if (origen == kDesdeDecLista)
-        DecLista().ENTRADA = QStringLiteral("P");
-    else if (origen == kDesdeContribuyente)
-        ConDeclaraciones().ENTRADA = QStringLiteral("P");
-    else if (origen == kDesdePresentador)
-        PreDeclaraciones().ENTRADA = QStringLiteral("P");
-    Proceso::Protegido([this] { emit cerrado(); });
 }

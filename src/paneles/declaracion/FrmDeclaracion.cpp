@@ -66,16 +66,17 @@ QLineEdit* Muestra(QWidget* padre, const char* nombre, int limite)
 
 }  // namespace
 
-FrmDeclaracion* FrmDeclaracion::Abrir()
+FrmDeclaracion* FrmDeclaracion::Abrir(Navegacion::RutaDeclaracion& ruta)
 {
-    auto* panel = new FrmDeclaracion;
+    auto* panel = new FrmDeclaracion(ruta);
     panel->Iniciar();
     AbrirPanel(panel);
     panel->txtfechad->setFocus(Qt::OtherFocusReason);
     return panel;
 }
 
-FrmDeclaracion::FrmDeclaracion(QWidget* parent) : QWidget(parent)
+FrmDeclaracion::FrmDeclaracion(Navegacion::RutaDeclaracion& ruta, QWidget* parent)
+    : PanelNavegado(parent), m_ruta(ruta)
 {
     setObjectName(QStringLiteral("FrmDeclaracion"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -403,29 +404,31 @@ void FrmDeclaracion::CargarDatosFormulario()
     cDecDatos& d = DecDatos();
     FormatearImportes();
     FormatosFecha();
-    if (d.ENTRADA == QLatin1String("A")) {
+    using Navegacion::Entrada;
+    using Navegacion::Modo;
+    if (m_ruta.entrada == Entrada::Inicio) {
         d.MODIFICADO = false;
-        d.CRITERIO.clear();
-        if (d.MODO() == QLatin1String("A")) {
+        m_ruta.criterio.clear();
+        if (m_ruta.modo == Modo::Nuevo) {
             // A clean new return: the operations wait for a date.
             CargarNombres();
             return;
         }
-        if (d.MODO() == QLatin1String("D"))
+        if (m_ruta.modo == Modo::Copia)
             d.MODIFICADO = true;
         d.CargarDeclaracion();
         SeleccionarOperacion();
-        if (d.MODO() == QLatin1String("D"))
+        if (m_ruta.modo == Modo::Copia)
             d.CSDE = 0;  // a copy is saved as a new row
         CargarNombres();
         return;
     }
-    if (d.ENTRADA == QLatin1String("S")) {
-        d.CargarContribuyente();
+    if (m_ruta.entrada == Entrada::Sujeto) {
+        d.CargarContribuyente(m_ruta.entrada);
         if (MismaParte())
             d.VolcarSpTR();
-    } else if (d.ENTRADA == QLatin1String("T")) {
-        d.CargarContribuyente();
+    } else if (m_ruta.entrada == Entrada::Transmitente) {
+        d.CargarContribuyente(m_ruta.entrada);
         if (MismaParte())
             d.VolcarTrSp();
     }
@@ -460,7 +463,7 @@ void FrmDeclaracion::showEvent(QShowEvent* evento)
         return;
     m_activado = true;
     // Back from choosing a transmitter: its tab comes up, the focus on the date.
-    if (DecDatos().ENTRADA == QLatin1String("T")) {
+    if (m_ruta.entrada == Navegacion::Entrada::Transmitente) {
         MostrarPestana(1);
         txtfechad->setFocus(Qt::OtherFocusReason);
     }

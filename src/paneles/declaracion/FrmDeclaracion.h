@@ -8,9 +8,12 @@
 // cmdAceptar, cmdCancelar and cmdImprimir.
 //
 // The panel never opens another one: it says what the user asked for (a party chosen from a
-// list, the print) through its signals, after it has set the routing fields of the record, and
-// the navigator closes it and opens the next panel.
-#include <QWidget>
+// list, the print) through its signals, and the navigator marks the side trip on the form's
+// route, closes it and opens the next panel. The route (how the form is entered, what the
+// record is to hold, where it came from) is the navigator's, handed to the panel when it opens.
+#include "paneles/dialogos/PanelNavegado.h"
+#include "valores/EstadoNavegacion.h"
+
 #include <cstdint>
 
 class BloqueDomicilio;
@@ -29,14 +32,14 @@ class SalidaCampos;
 // Which list a party is chosen from.
 enum class EleccionParte { Sujeto, Transmitente, Presentador };
 
-class FrmDeclaracion final : public QWidget {
+class FrmDeclaracion final : public PanelNavegado {
     Q_OBJECT
 public:
-    // Builds the panel for DecDatos() as its ENTRADA, MODO, LISTA and CSDE stand, opens it
-    // and shows it in the main window with the focus on the date of accrual.
-    static FrmDeclaracion* Abrir();
+    // Builds the panel for DecDatos() as `ruta` and its CSDE stand, opens it and shows it in
+    // the main window with the focus on the date of accrual. The route outlives the panel.
+    static FrmDeclaracion* Abrir(Navegacion::RutaDeclaracion& ruta);
 
-    explicit FrmDeclaracion(QWidget* parent = nullptr);
+    explicit FrmDeclaracion(Navegacion::RutaDeclaracion& ruta, QWidget* parent = nullptr);
 
     // Opening, in its order: captions, pickers, record, drawing, selectors.
     void Iniciar();
@@ -55,16 +58,13 @@ public:
     void Cerrar();
 
 signals:
-    // A party is to be chosen from a list: LISTA carries its "T" and, for a contributor,
-    // ConSeleccion's ENTRADA and CRITERIO are set. The panel is still open.
+    // A party is to be chosen from a list. The panel is still open.
     void pideEleccion(EleccionParte parte);
-    // The return (saved, CSDE its code) is to be printed: LISTA carries its "I".
+    // The return (saved, CSDE its code) is to be printed. The panel is still open.
     void pideImpresion(int32_t csde);
-    // The panel has closed (once, whatever closed it).
-    void cerrado();
 
 protected:
-    void closeEvent(QCloseEvent* evento) override;
+    void AlCerrar() override { m_cerrando = true; }
     void showEvent(QShowEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
@@ -196,12 +196,12 @@ private:
     QList<QPair<QLabel*, int>> m_etiquetas;
 
     SalidaCampos* m_salidas = nullptr;
+    Navegacion::RutaDeclaracion& m_ruta;
 
     bool m_saltarValidacion = false;
     bool m_presentandoDatos = false;
     bool m_cargandoOperaciones = false;
     bool m_mostrandoPestana = false;  // the panel itself selects a tab
-    bool m_cerrado = false;
     bool m_cerrando = false;
     bool m_activado = false;
 };

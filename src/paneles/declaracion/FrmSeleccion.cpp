@@ -3,10 +3,10 @@
 #include "catalogo/Catalogo.h"
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/dialogos/Mensaje.h"
+#include "paneles/partes/ColumnasContribuyentes.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/partes/cConSeleccion.h"
 
-#include <QCloseEvent>
 
 namespace {
 
@@ -18,15 +18,7 @@ DisenoLista DisenoContribuyentes()
     DisenoLista d;
     d.nombrePanel = QStringLiteral("FrmConSeleccion");
     d.nombreGrid = QStringLiteral("flxContribuyentes");
-    d.columnas = {
-        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
-        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2700, Qt::AlignLeft},
-        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
-        {{0, "Calle", "Helbidea"}, 2000, Qt::AlignLeft},
-        {{0, "Municipio", "Udalerria"}, 2000, Qt::AlignLeft},
-        {{0, "S.P.", "S.P."}, 600, Qt::AlignRight},
-        {{0, "Tr.", "Tr."}, 600, Qt::AlignRight},
-    };
+    d.columnas = ColumnasContribuyentes::Todas();
     d.idTituloAbrir = 87;
     d.idTituloEliminar = 87;
     d.tipDatos = {88};
@@ -74,13 +66,6 @@ DisenoLista DisenoPresentadores()
     return d;
 }
 
-// The form's LISTA loses the trip's letter: the first letter stays, or nothing.
-void VolverAlFormulario()
-{
-    cDecDatos& d = DecDatos();
-    d.LISTA = d.LISTA.size() >= 2 ? d.LISTA.left(1) : QString();
-}
-
 }  // namespace
 
 // ----- Contributor -----
@@ -95,8 +80,7 @@ void FrmConSeleccion::Elegido()
 {
     cConSeleccion& s = ConSeleccion();
     cDecDatos& d = DecDatos();
-    d.ENTRADA = s.ENTRADA;
-    if (s.ENTRADA == QLatin1String("S")) {
+    if (s.ENTRADA == Navegacion::Entrada::Sujeto) {
         // A subject is official and national.
         if (!s.ValidarTipoDniDomicilio()) {
             Mensaje(Texto(90), vb::Information, windowTitle());
@@ -112,19 +96,6 @@ void FrmConSeleccion::Elegido()
     }
     m_seleccionHecha = true;
     Cerrar();
-}
-
-void FrmConSeleccion::closeEvent(QCloseEvent* evento)
-{
-    if (!m_devuelto) {
-        m_devuelto = true;
-        cDecDatos& d = DecDatos();
-        if (!m_seleccionHecha)
-            d.ENTRADA = QStringLiteral("P");
-        VolverAlFormulario();
-        d.CRITERIO = ConSeleccion().CRITERIO;
-    }
-    PanelLista::closeEvent(evento);
 }
 
 // ----- Presenter -----
@@ -148,14 +119,4 @@ void FrmPreSeleccion::Elegido()
     d.NOMBREPR = Grid()->TextMatrix(fila, kColumnaNombre);
     d.DNIPR = Grid()->TextMatrix(fila, kColumnaDni);
     Cerrar();
-}
-
-void FrmPreSeleccion::closeEvent(QCloseEvent* evento)
-{
-    if (!m_devuelto) {
-        m_devuelto = true;
-        DecDatos().ENTRADA = QStringLiteral("P");
-        VolverAlFormulario();
-    }
-    PanelLista::closeEvent(evento);
 }

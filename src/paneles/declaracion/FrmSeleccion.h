@@ -2,9 +2,8 @@
 // The lists from which a party is chosen while a return is being edited: a contributor as
 // subject or transmitter (FrmConSeleccion), a presenter (FrmPreSeleccion). They are the
 // parties' lists with a smaller task: no new party, no delete, no declarations. The choice
-// goes straight into DecDatos(); on closing, either way, they hand back to the declaration
-// form through DecDatos().ENTRADA ("S"/"T" load the party, "P" draw what is there) and LISTA
-// (the trip's letter taken off).
+// goes straight into DecDatos(); on closing, either way, the navigator hands back to the
+// declaration form, entered by whether a contributor was chosen (SeleccionHecha).
 #include "paneles/partes/PanelLista.h"
 
 class FrmConSeleccion final : public PanelLista {
@@ -15,11 +14,9 @@ public:
 protected:
     void Borrar(int32_t) override {}
     void Elegido() override;
-    void closeEvent(QCloseEvent* evento) override;
 
 private:
     bool m_seleccionHecha = false;
-    bool m_devuelto = false;
 };
 
 class FrmPreSeleccion final : public PanelLista {
@@ -30,8 +27,4 @@ public:
 protected:
     void Borrar(int32_t) override {}
     void Elegido() override;
-    void closeEvent(QCloseEvent* evento) override;
-
-private:
-    bool m_devuelto = false;
 };

@@ -21,7 +21,7 @@
 #include "valores/cFecha.h"
 #include "valores/cListaDeclaraciones.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -68,7 +68,7 @@ W* Control(QWidget* padre, const char* nombre)
 
 PanelDeclaraciones::PanelDeclaraciones(const QString& nombre, QList<ColumnaDeclaraciones> columnas,
                                        QWidget* parent)
-    : QWidget(parent)
+    : PanelNavegado(parent)
 {
     setObjectName(nombre);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -201,8 +201,8 @@ void PanelDeclaraciones::Conectar()
     connect(txtBusqueda, &QLineEdit::returnPressed, this, [this] { focusNextPrevChild(true); });
     connect(cmdAceptar, &QPushButton::clicked, this, protegido([this] { Aceptar(); }));
     connect(cmdCancelar, &QPushButton::clicked, this, [this] { Cerrar(); });
-    connect(cmdNuevo, &QPushButton::clicked, this, [this] { emit pideDeclaracion(QStringLiteral("A")); });
-    connect(cmdCopiar, &QPushButton::clicked, this, [this] { emit pideDeclaracion(QStringLiteral("D")); });
+    connect(cmdNuevo, &QPushButton::clicked, this, [this] { emit pideDeclaracion(Navegacion::Modo::Nuevo); });
+    connect(cmdCopiar, &QPushButton::clicked, this, [this] { emit pideDeclaracion(Navegacion::Modo::Copia); });
     connect(cmdImprimir, &QPushButton::clicked, this, [this] { emit pideImpresion(estado().CSDE); });
     connect(cmdEliminar, &QPushButton::clicked, this, protegido([this] { Eliminar(); }));
     connect(cmdBuscar, &QPushButton::clicked, this, protegido([this] { Buscar(); }));
@@ -503,7 +503,7 @@ void PanelDeclaraciones::Todos()
 
 void PanelDeclaraciones::Aceptar()
 {
-    emit pideDeclaracion(QStringLiteral("C"));
+    emit pideDeclaracion(Navegacion::Modo::Abrir);
 }
 
 void PanelDeclaraciones::EliminarSeleccionada(int idEntre)
@@ -532,14 +532,4 @@ void PanelDeclaraciones::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void PanelDeclaraciones::closeEvent(QCloseEvent* evento)
-{
-    evento->accept();
-    m_cerrando = true;
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -9,13 +9,14 @@
 //
 // The state object of each list outlives the panel: a list that comes back from the form
 // finds its order, conditions and selection again.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "paneles/controles/cUtilidadesGrid.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/FilaDeclaracion.h"
 
 #include <QLineEdit>
 #include <QList>
 #include <QString>
-#include <QWidget>
 #include <cstdint>
 
 class QHBoxLayout;
@@ -32,7 +33,7 @@ struct ColumnaDeclaraciones {
     Qt::Alignment alineacion;
 };
 
-class PanelDeclaraciones : public QWidget {
+class PanelDeclaraciones : public PanelNavegado {
     Q_OBJECT
 public:
     // The number of rows of a page of the grid.
@@ -50,13 +51,13 @@ public:
     void Cerrar();
 
 signals:
-    // A return on the declaration form: "C" the selected one, "D" its copy, "A" a new one.
-    void pideDeclaracion(const QString& modo);
+    // A return on the declaration form: the selected one (Abrir), its copy, or a new one.
+    void pideDeclaracion(Navegacion::Modo modo);
     // The selected return printed.
     void pideImpresion(int32_t csde);
-    void cerrado();
 
 protected:
+    void AlCerrar() override { m_cerrando = true; }
     PanelDeclaraciones(const QString& nombre, QList<ColumnaDeclaraciones> columnas, QWidget* parent);
 
     // What each list says and does of its own.
@@ -81,7 +82,6 @@ protected:
     // The texts of the conditions in force, joined by ", ".
     QString TextoCriterios() const;
 
-    void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     // Space above the grid for the header of a party's lists.
@@ -138,5 +138,4 @@ private:
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;
     bool m_cerrando = false;
-    bool m_cerrado = false;
 };

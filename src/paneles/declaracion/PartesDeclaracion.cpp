@@ -10,7 +10,6 @@
 #include "paneles/partes/BloqueDomicilio.h"
 #include "paneles/partes/SalidaCampos.h"
 #include "registros/declaracion/cDecDatos.h"
-#include "registros/partes/cConSeleccion.h"
 
 #include <QCheckBox>
 #include <QFrame>
@@ -303,11 +302,5 @@ void FrmDeclaracion::ClicPestana(int pestana)
 
 void FrmDeclaracion::Elegir(EleccionParte parte)
 {
-    cDecDatos& d = DecDatos();
-    d.LISTA += QStringLiteral("T");
-    if (parte != EleccionParte::Presentador) {
-        ConSeleccion().ENTRADA = parte == EleccionParte::Sujeto ? QStringLiteral("S") : QStringLiteral("T");
-        ConSeleccion().CRITERIO = d.CRITERIO;
-    }
     emit pideEleccion(parte);
 }

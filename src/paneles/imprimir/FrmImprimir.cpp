@@ -21,7 +21,6 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QDate>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -61,7 +60,7 @@ FrmImprimir* FrmImprimir::Abrir()
     return panel;
 }
 
-FrmImprimir::FrmImprimir(QWidget* parent) : QWidget(parent)
+FrmImprimir::FrmImprimir(QWidget* parent) : PanelNavegado(parent)
 {
     setObjectName(QStringLiteral("FrmImprimir"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -369,12 +368,3 @@ void FrmImprimir::GuardarPdf()
 }
 
 void FrmImprimir::OpcionesImpresora() { ImpresoraSistema::Dialogo(this); }
-
-void FrmImprimir::closeEvent(QCloseEvent* e)
-{
-    QWidget::closeEvent(e);
-    if (!m_cerrado) {
-        m_cerrado = true;
-        emit cerrado();
-    }
-}

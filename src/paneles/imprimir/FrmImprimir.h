@@ -3,8 +3,9 @@
 // with or without the presenter, which copies, and the date of presentation. Aceptar prints
 // the copies in their fixed order, each a print document of its own, and closes; "Vista
 // previa" shows exactly those copies and "PDF" writes them to a file. The options live in
-// ImOf(); the data come from DecDatos(), Operacion() and PreDatos().
-#include <QWidget>
+// ImOf(); the data come from DecDatos(), Operacion() and PreDatos(). When it closes, the
+// navigator goes back as ImOf().ENTRADA says.
+#include "paneles/dialogos/PanelNavegado.h"
 
 class QButtonGroup;
 class QCheckBox;
@@ -14,7 +15,7 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
-class FrmImprimir : public QWidget {
+class FrmImprimir : public PanelNavegado {
     Q_OBJECT
 public:
     explicit FrmImprimir(QWidget* parent = nullptr);
@@ -22,13 +23,6 @@ public:
     static FrmImprimir* Abrir();
 
     void Anadir_captions();
-
-signals:
-    // The panel has closed, whichever way: the navigator goes back as ImOf().ENTRADA says.
-    void cerrado();
-
-protected:
-    void closeEvent(QCloseEvent* e) override;
 
 private:
     void crearControles();
@@ -49,7 +43,6 @@ private:
     bool conPresentador() const;
 
     bool Cargado = false;
-    bool m_cerrado = false;
 
     QGroupBox* frameTipoImpreso = nullptr;
     QButtonGroup* optTipoImpreso = nullptr;

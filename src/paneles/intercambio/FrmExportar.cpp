@@ -15,10 +15,11 @@
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/intercambio/ControlNombrado.h"
 #include "registros/partes/CriteriosLista.h"
+#include "paneles/partes/ColumnasContribuyentes.h"
 #include "paneles/partes/PanelLista.h"
 #include "registros/intercambio/cExportar.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -44,10 +45,8 @@ QString TituloColumna(int columna)
 {
     switch (columna) {
     case kColumnaCodigo: return QStringLiteral("NºCon.");
-    case kColumnaNombre:
-        return TextoSegunIdioma(QStringLiteral("Apellidos y Nombre"),
-                                QStringLiteral("Deiturak eta izena"));
-    default: return TextoSegunIdioma(QStringLiteral("DNI"), QStringLiteral("NA"));
+    case kColumnaNombre: return ColumnasContribuyentes::Titulo(ColumnasContribuyentes::kNombre);
+    default: return ColumnasContribuyentes::Titulo(ColumnasContribuyentes::kDni);
     }
 }
 
@@ -102,7 +101,7 @@ FrmExportar* FrmExportar::Abrir()
     return panel;
 }
 
-FrmExportar::FrmExportar(QWidget* parent) : QWidget(parent)
+FrmExportar::FrmExportar(QWidget* parent) : PanelNavegado(parent)
 {
     setObjectName(QStringLiteral("FrmExportar"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -557,15 +556,4 @@ void FrmExportar::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void FrmExportar::closeEvent(QCloseEvent* evento)
-{
-    evento->accept();
-    m_cerrando = true;
-    // The frame in the main window and the panel may both report the closing.
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    emit cerrado();
 }

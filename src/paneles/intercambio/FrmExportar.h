@@ -3,16 +3,16 @@
 // the party lists), the ones chosen for the file in a second grid, and the file they go to.
 // Its state and both tables live in Exportar(); the checks and the writing of the file are
 // Exportar()'s, and this panel shows what they answer.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "paneles/controles/cUtilidadesGrid.h"
 
 #include <QLineEdit>  // held by the grid utilities through a QPointer
-#include <QWidget>
 
 class QLabel;
 class QPushButton;
 class cFlexGrid;
 
-class FrmExportar final : public QWidget {
+class FrmExportar final : public PanelNavegado {
     Q_OBJECT
 public:
     // Builds the panel with the start values of an opening, loads the contributors and shows it
@@ -29,13 +29,8 @@ public:
 
     static constexpr int kFilasPorPagina = 13;
 
-signals:
-    // The panel has closed (once, whatever closed it); the navigator brings the main window's
-    // commands back.
-    void cerrado();
-
 protected:
-    void closeEvent(QCloseEvent* evento) override;
+    void AlCerrar() override { m_cerrando = true; }
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
@@ -74,7 +69,6 @@ private:
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;
     bool m_cerrando = false;
-    bool m_cerrado = false;
 
     QLabel* lblTitulo = nullptr;
     QLabel* lblayuda = nullptr;

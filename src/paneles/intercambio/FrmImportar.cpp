@@ -10,7 +10,6 @@
 #include "registros/intercambio/cImportar.h"
 
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -34,7 +33,7 @@ FrmImportar* FrmImportar::Abrir()
     return panel;
 }
 
-FrmImportar::FrmImportar(QWidget* parent) : QWidget(parent)
+FrmImportar::FrmImportar(QWidget* parent) : PanelNavegado(parent)
 {
     setObjectName(QStringLiteral("FrmImportar"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -242,14 +241,4 @@ void FrmImportar::Aceptar()
 void FrmImportar::Cerrar()
 {
     CerrarPanel(this);
-}
-
-void FrmImportar::closeEvent(QCloseEvent* evento)
-{
-    evento->accept();
-    // The frame in the main window and the panel may both report the closing.
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    emit cerrado();
 }

@@ -3,7 +3,7 @@
 // run, its four counters and where the error file is. Its state lives in Importar(); the
 // import itself is Importar().Ejecutar(), which this panel drives and whose questions and
 // closing message it shows.
-#include <QWidget>
+#include "paneles/dialogos/PanelNavegado.h"
 
 class QCheckBox;
 class QGroupBox;
@@ -11,7 +11,7 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-class FrmImportar final : public QWidget {
+class FrmImportar final : public PanelNavegado {
     Q_OBJECT
 public:
     // Builds the panel with the start values of an opening and shows it in the main window.
@@ -22,14 +22,6 @@ public:
     void Anadir_captions();
     void MostrarDatos();
     void MostrarBotones();
-
-signals:
-    // The panel has closed (once, whatever closed it); the navigator brings the main window's
-    // commands back.
-    void cerrado();
-
-protected:
-    void closeEvent(QCloseEvent* evento) override;
 
 private:
     void Construir();
@@ -63,5 +55,4 @@ private:
 
     double m_paso = 0;       // progress of one line
     double m_valor = 0;      // the bar's value, unrounded
-    bool m_cerrado = false;
 };

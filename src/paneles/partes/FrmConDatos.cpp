@@ -17,12 +17,13 @@
 #include <QVBoxLayout>
 #include <utility>
 
-FrmConDatos* FrmConDatos::Abrir()
+FrmConDatos* FrmConDatos::Abrir(const Navegacion::RutaParte& ruta)
 {
-    return Mostrar(&FrmConDatos::txtdnic);
+    return Mostrar(ruta, &FrmConDatos::txtdnic);
 }
 
-FrmConDatos::FrmConDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmConDatos"), parent)
+FrmConDatos::FrmConDatos(const Navegacion::RutaParte& ruta, QWidget* parent)
+    : PanelDatos(QStringLiteral("FrmConDatos"), ruta, parent)
 {
     Construir();
     OrdenDeTabulacion();
@@ -123,7 +124,7 @@ void FrmConDatos::Anadir_captions()
 void FrmConDatos::CargarDatosContribuyente()
 {
     cConDatos& c = ConDatos();
-    const bool consulta = c.MODO() == QLatin1String("C");
+    const bool consulta = Consulta();
     if (consulta)
         c.CargarContribuyente(c.CSCO);
     m_domicilio->CargarNombres(consulta);
@@ -234,7 +235,7 @@ void FrmConDatos::AnotarEnLista()
 {
     // The list comes back with the new contributor selected.
     cConDatos& c = ConDatos();
-    if (c.MODO() == QLatin1String("A") && c.LISTA == QLatin1String("S"))
+    if (NuevoDesdeLista())
         ConLista().CSCO = c.ObtenerCodigoContribuyente(c.DNIC);
 }
 

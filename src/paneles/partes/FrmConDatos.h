@@ -3,8 +3,8 @@
 // record ConDatos(): each field writes into the record when it is left, and the panel then
 // redraws itself from the record (PresentarContribuyente), which alone decides which fields
 // are open. Aceptar validates through the store and saves; Cancelar just closes. Opened from
-// the main menu or from the list of contributors (ConDatos().LISTA "S"), to which it hands
-// back on closing.
+// the main menu or from the list of contributors, to which the navigator hands back on
+// closing.
 //
 // Its own beside the presenter's: the kinds of document and domicile (a foreign domicile has a
 // country and a typed province), the counters of declarations, and a change that counts as
@@ -18,10 +18,10 @@ class QLineEdit;
 class FrmConDatos final : public PanelDatos {
     Q_OBJECT
 public:
-    // Builds the panel for ConDatos() as its MODO, LISTA and CSCO stand, and shows it.
-    static FrmConDatos* Abrir();
+    // Builds the panel for ConDatos() as `ruta` and CSCO stand, and shows it.
+    static FrmConDatos* Abrir(const Navegacion::RutaParte& ruta);
 
-    explicit FrmConDatos(QWidget* parent = nullptr);
+    explicit FrmConDatos(const Navegacion::RutaParte& ruta, QWidget* parent = nullptr);
 
     bool ValidarCampos() override;
     // Saves the record; shows the message of a refusal. Answers whether it was saved.

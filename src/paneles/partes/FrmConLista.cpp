@@ -1,6 +1,7 @@
 #include "paneles/partes/FrmConLista.h"
 
 #include "paneles/dialogos/Ventanas.h"
+#include "paneles/partes/ColumnasContribuyentes.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConLista.h"
 
@@ -11,16 +12,8 @@ DisenoLista Diseno()
     DisenoLista d;
     d.nombrePanel = QStringLiteral("FrmConLista");
     d.nombreGrid = QStringLiteral("flxContribuyentes");
-    d.columnas = {
-        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
-        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2700, Qt::AlignLeft},
-        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
-        {{0, "Calle", "Helbidea"}, 2000, Qt::AlignLeft},
-        {{0, "Municipio", "Udalerria"}, 2000, Qt::AlignLeft},
-        {{0, "S.P.", "S.P."}, 600, Qt::AlignRight},
-        {{0, "Tr.", "Tr."}, 600, Qt::AlignRight},
-    };
-    d.columnasContadores = {5, 6};
+    d.columnas = ColumnasContribuyentes::Todas();
+    d.columnasContadores = {ColumnasContribuyentes::kComoSujeto, ColumnasContribuyentes::kComoTransmitente};
     d.idTituloAbrir = 72;
     d.idTituloEliminar = 85;
     d.tipDatos = {3};

@@ -16,12 +16,13 @@
 #include <QVBoxLayout>
 #include <utility>
 
-FrmPreDatos* FrmPreDatos::Abrir()
+FrmPreDatos* FrmPreDatos::Abrir(const Navegacion::RutaParte& ruta)
 {
-    return Mostrar(&FrmPreDatos::txtdnip);
+    return Mostrar(ruta, &FrmPreDatos::txtdnip);
 }
 
-FrmPreDatos::FrmPreDatos(QWidget* parent) : PanelDatos(QStringLiteral("FrmPreDatos"), parent)
+FrmPreDatos::FrmPreDatos(const Navegacion::RutaParte& ruta, QWidget* parent)
+    : PanelDatos(QStringLiteral("FrmPreDatos"), ruta, parent)
 {
     Construir();
     OrdenDeTabulacion();
@@ -103,7 +104,7 @@ void FrmPreDatos::Anadir_captions()
 void FrmPreDatos::CargarDatosPresentador()
 {
     cPreDatos& p = PreDatos();
-    const bool consulta = p.MODO() == QLatin1String("C");
+    const bool consulta = Consulta();
     if (consulta)
         p.CargarPresentador(p.CSPR);
     m_domicilio->CargarNombres(consulta);
@@ -157,7 +158,7 @@ void FrmPreDatos::AnotarEnLista()
 {
     // The list comes back with the new presenter selected.
     cPreDatos& p = PreDatos();
-    if (p.MODO() == QLatin1String("A") && p.LISTA == QLatin1String("S"))
+    if (NuevoDesdeLista())
         PreLista().CSPR = p.ObtenerCodigoPresentador(p.DNIP);
 }
 

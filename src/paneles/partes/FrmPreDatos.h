@@ -4,8 +4,8 @@
 // typed province or counters, and with a telephone. It works straight on the shared record
 // PreDatos(): a field left with a text other than the record's writes it there (and only that
 // marks the presenter as changed), and the panel redraws itself from the record
-// (PresentarPresentador). Opened from the main menu or from the list of presenters
-// (PreDatos().LISTA "S"), to which it hands back on closing.
+// (PresentarPresentador). Opened from the main menu or from the list of presenters, to which
+// the navigator hands back on closing.
 #include "paneles/partes/PanelDatos.h"
 
 class QLineEdit;
@@ -13,10 +13,10 @@ class QLineEdit;
 class FrmPreDatos final : public PanelDatos {
     Q_OBJECT
 public:
-    // Builds the panel for PreDatos() as its MODO, LISTA and CSPR stand, and shows it.
-    static FrmPreDatos* Abrir();
+    // Builds the panel for PreDatos() as `ruta` and CSPR stand, and shows it.
+    static FrmPreDatos* Abrir(const Navegacion::RutaParte& ruta);
 
-    explicit FrmPreDatos(QWidget* parent = nullptr);
+    explicit FrmPreDatos(const Navegacion::RutaParte& ruta, QWidget* parent = nullptr);
 
     bool ValidarCampos() override;
     // Saves the record; shows the message of a refusal. Answers whether it was saved.

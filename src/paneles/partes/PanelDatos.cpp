@@ -8,12 +8,13 @@
 #include "paneles/partes/CamposDatos.h"
 #include "paneles/partes/SalidaCampos.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
 
-PanelDatos::PanelDatos(const QString& nombre, QWidget* parent) : QWidget(parent)
+PanelDatos::PanelDatos(const QString& nombre, const Navegacion::RutaParte& ruta, QWidget* parent)
+    : PanelNavegado(parent), m_ruta(ruta)
 {
     setObjectName(nombre);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -101,14 +102,4 @@ void PanelDatos::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void PanelDatos::closeEvent(QCloseEvent* evento)
-{
-    QWidget::closeEvent(evento);
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    m_cerrando = true;
-    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -7,10 +7,11 @@
 //
 // Each panel works straight on its own shared record and says what is its own: its fields,
 // captions, loading and drawing, the store's verdicts, and the list it hands back to.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "paneles/dialogos/Ventanas.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Vigencia.h"
 
-#include <QWidget>
 #include <cstdint>
 #include <memory>
 
@@ -20,7 +21,7 @@ class QLabel;
 class QPushButton;
 class SalidaCampos;
 
-class PanelDatos : public QWidget {
+class PanelDatos : public PanelNavegado {
     Q_OBJECT
 public:
     // Asks the store whether the record is valid; shows the verdict's message and puts the
@@ -30,15 +31,11 @@ public:
     bool Modificado() const { return m_modificado; }
     bool SaltarValidacion() const { return m_saltarValidacion; }
 
-signals:
-    // The panel has closed (once, whatever closed it); the navigator refreshes the main window
-    // and goes back to the party's list when the panel came from it.
-    void cerrado();
-
 protected:
+    void AlCerrar() override { m_cerrando = true; }
     // Makes the two frames; the panel then makes its fields and its address block in fraDatos
-    // and calls Pie().
-    PanelDatos(const QString& nombre, QWidget* parent);
+    // and calls Pie(). `ruta` is how the navigator opened it; it outlives the panel.
+    PanelDatos(const QString& nombre, const Navegacion::RutaParte& ruta, QWidget* parent);
 
     // The buttons under the fields, the panel's layout of the two frames, and the address
     // pickers over them.
@@ -50,9 +47,9 @@ protected:
     // Builds a panel, opens it (Iniciar), shows it in the main window and gives the focus to
     // its first field.
     template <class Panel, class Campo>
-    static Panel* Mostrar(Campo* Panel::*primerCampo)
+    static Panel* Mostrar(const Navegacion::RutaParte& ruta, Campo* Panel::*primerCampo)
     {
-        auto panel = std::make_unique<Panel>();
+        auto panel = std::make_unique<Panel>(ruta);
         panel->Iniciar();
         Panel* abierto = panel.release();
         AbrirPanel(abierto);
@@ -84,7 +81,6 @@ protected:
     void MarcarModificado() { m_modificado = true; }
     bool Saltando() const { return m_saltarValidacion; }
 
-    void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
     QFrame* fraDatos = nullptr;
@@ -95,6 +91,14 @@ protected:
     QLabel* PicCan = nullptr;
     BloqueDomicilio* m_domicilio = nullptr;  // street type to municipality, with the pickers
     SalidaCampos* m_salidas = nullptr;
+    // A stored party (loaded by its code) or a new one, opened from the menu or its list.
+    const Navegacion::RutaParte& m_ruta;
+    bool Consulta() const { return m_ruta.modo == Navegacion::Modo::Abrir; }
+    // A new party made from its list, which on coming back selects it.
+    bool NuevoDesdeLista() const
+    {
+        return m_ruta.modo == Navegacion::Modo::Nuevo && m_ruta.origen == Navegacion::OrigenParte::Lista;
+    }
 
 private:
     void Aceptar();
@@ -103,5 +107,4 @@ private:
     bool m_modificado = false;
     bool m_saltarValidacion = false;
     bool m_cerrando = false;
-    bool m_cerrado = false;
 };

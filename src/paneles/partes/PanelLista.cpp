@@ -15,7 +15,7 @@
 #include "paneles/controles/cFlexGrid.h"
 #include "registros/partes/CriteriosLista.h"
 
-#include <QCloseEvent>
+#include <QEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QLabel>
@@ -139,7 +139,7 @@ QString RotuloLista::texto() const
 }
 
 PanelLista::PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent)
-    : QWidget(parent), m_diseno(std::move(diseno)), m_estado(estado)
+    : PanelNavegado(parent), m_diseno(std::move(diseno)), m_estado(estado)
 {
     setObjectName(m_diseno.nombrePanel);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -684,7 +684,7 @@ void PanelLista::Aceptar()
 
 void PanelLista::Elegido()
 {
-    emit pideDatos(QStringLiteral("C"));
+    emit pideDatos(Navegacion::Modo::Abrir);
 }
 
 void PanelLista::Buscar()
@@ -703,7 +703,7 @@ void PanelLista::Todos()
 
 void PanelLista::Nuevo()
 {
-    emit pideDatos(QStringLiteral("A"));
+    emit pideDatos(Navegacion::Modo::Nuevo);
 }
 
 void PanelLista::Declaraciones()
@@ -717,15 +717,4 @@ void PanelLista::Cerrar()
 {
     m_cerrando = true;
     CerrarPanel(this);
-}
-
-void PanelLista::closeEvent(QCloseEvent* evento)
-{
-    evento->accept();
-    m_cerrando = true;
-    // The frame in the main window and the panel may both report the closing.
-    if (m_cerrado)
-        return;
-    m_cerrado = true;
-    Proceso::Protegido([this] { emit cerrado(); });
 }

@@ -9,7 +9,9 @@
 // The state object of each list outlives the panel, so that a list that comes back after a
 // side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
 // to the store; the panel keeps nothing of its own between openings.
+#include "paneles/dialogos/PanelNavegado.h"
 #include "registros/partes/cListaParte.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/cCriterio.h"
 #include "paneles/controles/cUtilidadesGrid.h"
 #include "servicios/Arreglos.h"
@@ -17,7 +19,6 @@
 #include <QLineEdit>  // held by the grid utilities through a QPointer
 #include <QList>
 #include <QString>
-#include <QWidget>
 #include <cstdint>
 #include <optional>
 
@@ -70,7 +71,7 @@ struct DisenoLista {
     bool seleccion = false;
 };
 
-class PanelLista : public QWidget {
+class PanelLista : public PanelNavegado {
     Q_OBJECT
 public:
     ~PanelLista() override;
@@ -107,14 +108,13 @@ public:
 
 signals:
     // What the user asked for; the navigator answers by closing this panel and opening the next.
-    // A new party ("A") or the selected one ("C") on the data panel:
-    void pideDatos(const QString& modo);
+    // A new party (Nuevo) or the selected one (Abrir) on the data panel:
+    void pideDatos(Navegacion::Modo modo);
     // The declarations of the selected party:
     void pideDeclaraciones(const QString& nombre, const QString& dni);
-    // The panel has closed (once, whatever closed it).
-    void cerrado();
 
 protected:
+    void AlCerrar() override { m_cerrando = true; }
     PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent);
 
     // Asks the store for the rows of the criteria in force, in ORDEN.
@@ -129,7 +129,6 @@ protected:
     // The grid, for a selection list that reads the chosen row.
     const cFlexGrid* Grid() const { return m_grid; }
 
-    void closeEvent(QCloseEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
@@ -171,7 +170,6 @@ private:
     bool ClicEnCabecera = false;
     bool CambioFilaActivo = false;
     bool m_cerrando = false;   // closing: a field left on the way out does nothing
-    bool m_cerrado = false;
 
     cFlexGrid* m_grid = nullptr;
     QLineEdit* txtBusqueda = nullptr;

@@ -27,12 +27,10 @@ Declaracion sinDatos(int32_t csde)
 
 }  // namespace
 
-void cDecDatos::setMODO(const QString& modo)
+void cDecDatos::IniciarNuevo()
 {
-    m_modo = modo;
-    if (modo != QLatin1String("A"))
-        return;
-    // Every field of the return to its value for a new one; the routing fields stay.
+    // Every field of the return to its value for a new one; whether it differs from what is
+    // stored stays.
     static_cast<Declaracion&>(*this) = Declaracion();
     Operacion().Inicializa();
     InicializaImportes();
@@ -54,7 +52,7 @@ void cDecDatos::InicializaImportes()
     DEDUCCION = Importe();
     TOTAL = Importe();
     // On an open return a change of date keeps the base that was typed.
-    if (m_modo == QLatin1String("A"))
+    if (Navegacion::RutaDec().modo == Navegacion::Modo::Nuevo)
         BASEI = Importe();
 }
 
@@ -200,11 +198,11 @@ std::optional<Contribuyente> cDecDatos::ExisteContribuyente(const QString& dni) 
     return Almacen<cDeclaSvr>().ExisteContribuyente(dni);
 }
 
-void cDecDatos::CargarContribuyente()
+void cDecDatos::CargarContribuyente(Navegacion::Entrada entrada)
 {
     const cDeclaSvr svr = Almacen<cDeclaSvr>();
     // An unknown code clears the party.
-    if (ENTRADA == QLatin1String("S"))
+    if (entrada == Navegacion::Entrada::Sujeto)
         CargarSujetoPasivo(svr.CargarContribuyente(CSSU).value_or(Contribuyente()));
     else
         CargarTransmitente(svr.CargarContribuyente(CSTRA).value_or(Contribuyente()));

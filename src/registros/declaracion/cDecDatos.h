@@ -1,11 +1,13 @@
 #pragma once
 // The return being edited: one shared record, DecDatos(), that the declaration form edits in
-// place, that the lists and selection panels route through, and that printing reads. Its
-// fields are plain properties; only MODO has a side effect ("A" makes a clean new return).
+// place, that the lists and selection panels hand over, and that printing reads. Its fields
+// are plain properties; IniciarNuevo() makes a clean new return. How the form is entered and
+// where it goes back to are the navigator's (Navegacion::RutaDec()), not the record's.
 // The operations open a cDeclaSvr for one call each.
 #include "servicios/cDeclaSvr.h"
 #include "valores/Contribuyente.h"
 #include "valores/Declaracion.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Resultado.h"
 #include "valores/Veredicto.h"
 #include "valores/Vigencia.h"
@@ -15,24 +17,20 @@
 #include <cstdint>
 
 // The return's fields are those of Declaracion, which is what goes to the store and what
-// printing reads; the record adds the routing of the panels and the state of the form.
+// printing reads; the record adds the state of the form.
 class cDecDatos : public Declaracion {
 public:
-    // --- Routing -------------------------------------------------------------------------------
-    QString CRITERIO;            // search text handed to the selection panels
-    QString ENTRADA;             // how the form is entered: "A", "S", "T", "P", "R"
-    QString LISTA;               // where the form was opened from, and the side trips
     bool MODIFICADO = false;     // the record differs from what is stored
 
-    // "A" sets every field of the return to its value for a new one, clears the operation and
-    // the amounts; "C" (open) and "D" (copy) only keep the letter.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
+    // A new return: every field to its value for a new one (MODIFICADO stays), the operation
+    // and the amounts cleared.
+    void IniciarNuevo();
 
     // --- Local operations ----------------------------------------------------------------------
     // A new date: the marks and the reduction are cleared, then the amounts.
     void InicializaFecha();
-    // The computed amounts to 0; the base too, but only on a new return.
+    // The computed amounts to 0; the base too, but only on a new return (the form's route in
+    // Modo::Nuevo): on a stored one a change of date keeps the base that was typed.
     void InicializaImportes();
     // A stored contributor into the subject's or the transmitter's fields; an empty
     // Contribuyente clears the party.
@@ -59,8 +57,9 @@ public:
     QList<UltimaDeclaracion> ObtenerUltimasDeclaraciones() const;
     // The stored contributor with this number, if any.
     std::optional<Contribuyente> ExisteContribuyente(const QString& dni) const;
-    // By ENTRADA: "S" loads the contributor CSSU as subject, anything else CSTRA as transmitter.
-    void CargarContribuyente();
+    // Back from a choice of party: Entrada::Sujeto loads the contributor CSSU as subject,
+    // anything else CSTRA as transmitter.
+    void CargarContribuyente(Navegacion::Entrada entrada);
     void ValidarDniOficial(const QString& dni, bool& resultado) const;
     // The descriptions of the operations that apply on FECHAD, for the form's list.
     QStringList CargarListaOperaciones() const;
@@ -68,9 +67,6 @@ public:
     QString DameOperacionporDescripcion(const QString& descripcion) const;
     // Loads Operacion() with the operation OPERACION on FECHAD, or empties it.
     void ObtenerDatosOperacion(bool sinReduccion) const;
-
-private:
-    QString m_modo;
 };
 
 cDecDatos& DecDatos();

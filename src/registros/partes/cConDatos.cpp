@@ -19,11 +19,8 @@ constexpr std::array<int, 31> kIdsImportar = {0,   330, 293, 294, 295, 296, 33, 
 
 }  // namespace
 
-void cConDatos::setMODO(const QString& modo)
+void cConDatos::IniciarNuevo()
 {
-    m_modo = modo;
-    if (modo != QLatin1String("A"))
-        return;
     TIPODNI = QStringLiteral("O");
     DNIC.clear();
     NOMBREC.clear();

@@ -1,8 +1,8 @@
 #pragma once
 // The program's working copy of one contributor, shared by the contributor panel, the list and
 // the import (one instance, ConDatos()). It holds one Contribuyente, whose fields are public
-// and unchecked, and how it was opened: MODO, whose setting to "A" resets the record to a new contributor's defaults. The
-// operations each make a store object for one call.
+// and unchecked; IniciarNuevo() gives it a new contributor's defaults. The operations each make
+// a store object for one call.
 #include "servicios/Arreglos.h"
 #include "valores/Contribuyente.h"
 #include "valores/Resultado.h"
@@ -12,12 +12,8 @@
 
 class cConDatos : public Contribuyente {
 public:
-    // "A" new contributor, "C" existing one. Setting "A" resets every field of the value to
-    // its default, but CSCO; LISTA stays too. Setting anything else changes MODO only.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
-
-    QString LISTA;          // "S" opened from the list, "" from the main menu
+    // A new contributor: every field to its default, but CSCO, which the opener sets.
+    void IniciarNuevo();
 
     // The contributor the record holds, as the store takes it.
     const Contribuyente& valor() const { return *this; }
@@ -25,7 +21,7 @@ public:
     // Deletes the contributor CSCO; the store refuses one named in a declaration, and a code
     // it no longer has is not reported.
     void BorrarContribuyente() const;
-    // Fills the record from the store; MODO, LISTA and CSCO keep their values. The province
+    // Fills the record from the store; CSCO keeps its value. The province
     // code is given its two digits ("1" reads "01"). A code the store does not have leaves the
     // record as it was.
     void CargarContribuyente(int32_t codigo);
@@ -41,9 +37,6 @@ public:
 
     // The catalogue id of an error code of the import, 0 for a code outside the table.
     static int IdMensajeImportar(int codigo);
-
-private:
-    QString m_modo;
 };
 
 cConDatos& ConDatos();

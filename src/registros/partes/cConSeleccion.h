@@ -1,10 +1,11 @@
 #pragma once
 // The states of the lists from which, while a return is being edited, a contributor is chosen
 // as subject or transmitter (ConSeleccion()) and a presenter is chosen (PreSeleccion()). They
-// are party lists (criteria, search, order) that only choose. The declaration form sets
+// are party lists (criteria, search, order) that only choose. The navigator sets
 // ConSeleccion's ENTRADA and CRITERIO before the list opens; the contributor's criteria of one
 // visit survive to the next while CRITERIO is "S", the presenter's never do.
 #include "registros/partes/cListaParte.h"
+#include "valores/EstadoNavegacion.h"
 
 class cConSeleccion final : public cListaParte {
 public:
@@ -14,9 +15,10 @@ public:
     int32_t CSCO = 0;            // the selected contributor
     int32_t NUMCONTRISEL = 0;    // contributors found
     QString CRITERIO;            // "S" the criteria survive the trip back to the form
-    // "S" choosing the subject, "T" the transmitter. Kept apart from the list's own way in
-    // (cListaParte::ENTRADA), which the list's moves empty.
-    QString ENTRADA;
+    // Sujeto choosing the subject, Transmitente the transmitter: the way the form is entered
+    // again after a choice. Kept apart from the list's own way in (cListaParte::ENTRADA),
+    // which the list's moves empty.
+    Navegacion::Entrada ENTRADA = Navegacion::Entrada::Transmitente;
 
     // The start: the result state with nothing selected; the criteria and order of the last
     // visit only while CRITERIO is "S".

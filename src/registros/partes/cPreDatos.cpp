@@ -19,11 +19,8 @@ cPresenSvr servidor()
 
 }  // namespace
 
-void cPreDatos::setMODO(const QString& modo)
+void cPreDatos::IniciarNuevo()
 {
-    m_modo = modo;
-    if (modo != QLatin1String("A"))
-        return;
     DNIP.clear();
     NOMBREP.clear();
     VIAP = QStringLiteral("CL");

@@ -1,8 +1,8 @@
 #pragma once
-// The program's working copy of one presenter (one instance, PreDatos()): one Presentador and
-// how it was opened, like the contributor's record, with the same reset on MODO "A", and
-// operations that each make a store object for one call. A presenter is always national and official: no kind of document or
-// domicile, no country, no typed province, no counters; a telephone.
+// The program's working copy of one presenter (one instance, PreDatos()): one Presentador,
+// like the contributor's record, with the same reset for a new one, and operations that each
+// make a store object for one call. A presenter is always national and official: no kind of
+// document or domicile, no country, no typed province, no counters; a telephone.
 #include "valores/Presentador.h"
 #include "valores/Resultado.h"
 
@@ -11,17 +11,15 @@
 
 class cPreDatos : public Presentador {
 public:
-    // "A" new presenter, "C" existing one; "A" resets every field of the value but CSPR.
-    const QString& MODO() const { return m_modo; }
-    void setMODO(const QString& modo);
-    QString LISTA;
+    // A new presenter: every field to its default, but CSPR, which the opener sets.
+    void IniciarNuevo();
 
     // The presenter the record holds, as the store takes it.
     const Presentador& valor() const { return *this; }
 
     // Declarations that name the presenter CSPR (16-bit; no panel calls it).
     int16_t NDeclaPresentador() const;
-    // Fills the record from the store; MODO, LISTA and CSPR keep their values. The province is
+    // Fills the record from the store; CSPR keeps its value. The province is
     // given two digits and the postal code five; a telephone of value 0 reads empty. A code
     // the store does not have leaves the record as it was.
     void CargarPresentador(int32_t codigo);
@@ -34,9 +32,6 @@ public:
     // Deletes the presenter CSPR; the store refuses one named in a declaration.
     void BorrarPresentador() const;
     int32_t ObtenerCodigoPresentador(const QString& dni) const;
-
-private:
-    QString m_modo;
 };
 
 cPreDatos& PreDatos();

@@ -169,9 +169,10 @@ void ControlesDeDeclaracion::nueva()
 void ControlesDeDeclaracion::abrirGuardada(int32_t csde, const QString& modo)
 {
     cDecDatos& d = DecDatos();
-    d.ENTRADA = QStringLiteral("A");
-    d.setMODO(modo);
-    d.LISTA.clear();
+    Navegacion::RutaDeclaracion& ruta = Navegacion::RutaDec();
+    ruta.entrada = Navegacion::Entrada::Inicio;
+    ruta.modo = modo == QLatin1String("D") ? Navegacion::Modo::Copia : Navegacion::Modo::Abrir;
+    ruta.lista = {};
     d.CSDE = csde;
     Navegacion::AbrirDeclaracion();
     Procesar();

@@ -12,6 +12,7 @@
 #include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreLista.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Twips.h"
 
 #include <QLabel>
@@ -81,7 +82,7 @@ private slots:
         QCOMPARE(ConDeclaraciones().ENTRADA, QStringLiteral("AD"));
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("C"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("C"));
         EscribirFecha(t("txtfechad"), QStringLiteral("15032010"));
         EscribirYSalir(t("txtoperacion"), QStringLiteral("T2"));
         EscribirYSalir(t("txtmarca"), QStringLiteral("SEAT"));

@@ -9,6 +9,7 @@
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Formato.h"
 #include "valores/Redondeo.h"
 
@@ -37,7 +38,8 @@ private slots:
     {
         GrabarSeams();
         MensajeSeam::limpiar();
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         Operacion().Inicializa();
     }
 

@@ -14,6 +14,7 @@
 #include "registros/declaracion/Validacion.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/cFecha.h"
 
 #include <QTest>
@@ -391,7 +392,7 @@ private slots:
 
     void operacionQueDejaDeRegirEnUnaAbierta()
     {
-        DecDatos().setMODO(QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
         DecDatos().FECHAD = 20050101;
         ActualizarOperacionPorFecha(true);
         QVERIFY(DecDatos().OPERACION.isEmpty());

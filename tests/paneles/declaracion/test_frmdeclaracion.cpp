@@ -49,9 +49,9 @@ private slots:
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmDeclaracion")});
         QVERIFY(MenuApagado(*m_prog, "mnuDeclaracion"));
         QCOMPARE(m_panel->windowTitle(), QStringLiteral("Datos Declaración"));
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("A"));
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("A"));
-        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("A"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("A"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QString());
         QCOMPARE(t("txtfechad")->displayText(), QStringLiteral("__/__/____"));
         QCOMPARE(cmb()->count(), 0);
         QCOMPARE(Foco(), t("txtfechad"));
@@ -385,7 +385,7 @@ private slots:
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
         QCOMPARE(DecDatos().CSDE, csde);
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QVERIFY(!DecDatos().MODIFICADO);
         QCOMPARE(t("txtfechad")->text(), QStringLiteral("15/03/2010"));
         QCOMPARE(t("txtreferencia")->text(), QStringLiteral("REF-1"));
@@ -546,3 +546,4 @@ private slots:
 
 QTEST_MAIN(TestFrmDeclaracion)
 #include "test_frmdeclaracion.moc"
+#include "valores/EstadoNavegacion.h"

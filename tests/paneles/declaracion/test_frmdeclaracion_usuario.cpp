@@ -69,7 +69,7 @@ private slots:
         QTRY_VERIFY(m_prog->panel(QStringLiteral("FrmImprimir")));
         QCOMPARE(almacenado("MARCA"), QStringLiteral("RENAULT"));
         QCOMPARE(ImOf().CSDE, csde);
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QVERIFY(!DecDatos().MODIFICADO);
     }
 
@@ -502,7 +502,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().first().titulo, QStringLiteral("Datos Declaración"));
         QCOMPARE(Foco(), b("cmdImprimir"));
         QCOMPARE(Declaraciones(), 0);
-        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QString());
         // A transmitter's number gone bad under the form and a vehicle still missing: Print
         // reports the number, Aceptar the vehicle.
         DecDatos().DNITR = QStringLiteral("87654321A");
@@ -536,10 +536,11 @@ private slots:
         QVERIFY(DecDatos().CSDE > csde);
         QCOMPARE(ImOf().CSDE, DecDatos().CSDE);
         QCOMPARE(ImOf().ENTRADA, QStringLiteral("D"));
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QVERIFY(!DecDatos().MODIFICADO);
     }
 };
 
 QTEST_MAIN(TestFrmDeclaracionUsuario)
 #include "test_frmdeclaracion_usuario.moc"
+#include "valores/EstadoNavegacion.h"

@@ -182,8 +182,8 @@ private slots:
         Clic(b("cmdNuevo"));
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("A"));
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("A"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
     }
 
     // The first click on the code, the date or the amount orders descending, on the reference
@@ -274,8 +274,8 @@ private slots:
         Clic(b("cmdNuevo"));
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
-        QCOMPARE(DecDatos().MODO(), QStringLiteral("A"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("A"));
         EscribirFecha(t("txtfechad"), QStringLiteral("15032010"));
         EscribirYSalir(t("txtoperacion"), QStringLiteral("T2"));
         EscribirYSalir(t("txtreferencia"), QStringLiteral("NUEVA"));
@@ -356,3 +356,4 @@ private slots:
 
 QTEST_MAIN(TestFrmDecLista)
 #include "test_frmdeclista.moc"
+#include "valores/EstadoNavegacion.h"

@@ -116,15 +116,15 @@ private slots:
         QCOMPARE(b("cmdAceptar")->text(), Texto(6));
         QCOMPARE(b("cmdCancelar")->toolTip(), Texto(89));
         QVERIFY(!b("cmdNuevo")->isVisible());
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("T"));
-        QCOMPARE(ConSeleccion().ENTRADA, QStringLiteral("S"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("T"));
+        QCOMPARE(Navegacion::Letras(ConSeleccion().ENTRADA), QStringLiteral("S"));
         cFlexGrid* g = grid("flxContribuyentes");
         clicFila(g, filaDe(g, QStringLiteral("AGIRRE ZUBIA MIREN")));
         Clic(b("cmdAceptar"));
         volver();
         QVERIFY(m_panel);
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("S"));
-        QCOMPARE(DecDatos().LISTA, QString());
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("S"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QString());
         QCOMPARE(DecDatos().CSSU, m_nacional);
         QVERIFY(DecDatos().MODIFICADO);
         QCOMPARE(t("txtdnisp")->text(), Dni(22222222));
@@ -136,7 +136,7 @@ private slots:
         clicFila(g, filaDe(g, QStringLiteral("AGIRRE ZUBIA MIREN")));
         Clic(b("cmdAceptar"));
         QVERIFY(!DecDatos().MODIFICADO);
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("S"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("S"));
     }
 
     void extranjeroRechazadoComoSujetoAceptadoComoTransmitente()
@@ -154,10 +154,10 @@ private slots:
         QCOMPARE(DecDatos().CSSU, 0);
         Clic(b("cmdCancelar"));
         volver();
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
         // As transmitter: taken, with its tab up.
         ir("cmdTransmitente", "FrmConSeleccion");
-        QCOMPARE(ConSeleccion().ENTRADA, QStringLiteral("T"));
+        QCOMPARE(Navegacion::Letras(ConSeleccion().ENTRADA), QStringLiteral("T"));
         g = grid("flxContribuyentes");
         clicFila(g, filaDe(g, QStringLiteral("DUPONT JEAN")));
         Clic(b("cmdAceptar"));
@@ -176,15 +176,15 @@ private slots:
         Comando(*m_prog, "mnuAbrirDeclaracion");
         Clic(Control<QPushButton>(m_prog->panel(QStringLiteral("FrmDecLista")), "cmdAceptar"));
         volver();
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
         const QString dni = DecDatos().DNISP;
         ir("cmdTransmitente", "FrmConSeleccion");
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("DT"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("DT"));
         Clic(b("cmdCancelar"));
         volver();
         QVERIFY(m_panel);
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
-        QCOMPARE(DecDatos().LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
         QCOMPARE(DecDatos().DNISP, dni);
         QVERIFY(!DecDatos().MODIFICADO);
         // Back to the list from the form.
@@ -206,7 +206,7 @@ private slots:
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
         Clic(b("cmdAceptar"));
         volver();
-        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
+        QCOMPARE(Navegacion::RutaDec().criterio, QStringLiteral("S"));
         ir("cmdTransmitente", "FrmConSeleccion");
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
         QCOMPARE(grid("flxContribuyentes")->TextMatrix(1, 1), QStringLiteral("AGIRRE ZUBIA MIREN"));
@@ -231,8 +231,8 @@ private slots:
         buscarAG();
         Clic(b("cmdCancelar"));
         volver();
-        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::RutaDec().criterio, QStringLiteral("S"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
         ir("cmdTransmitente", "FrmConSeleccion");
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 1);
         Clic(b("cmdTodos"));
@@ -240,18 +240,18 @@ private slots:
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
         Clic(b("cmdCancelar"));
         volver();
-        QCOMPARE(DecDatos().CRITERIO, QString());
+        QCOMPARE(Navegacion::RutaDec().criterio, QString());
         ir("cmdSujetoPasivo", "FrmConSeleccion");
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
         buscarAG();
         Clic(b("cmdCancelar"));
         volver();
-        QCOMPARE(DecDatos().CRITERIO, QStringLiteral("S"));
+        QCOMPARE(Navegacion::RutaDec().criterio, QStringLiteral("S"));
         // The form closed and a new return: no criteria on the next trip.
         Clic(b("cmdCancelar"));
         QVERIFY(m_prog->paneles().isEmpty());
         nueva();
-        QCOMPARE(DecDatos().CRITERIO, QString());
+        QCOMPARE(Navegacion::RutaDec().criterio, QString());
         ir("cmdSujetoPasivo", "FrmConSeleccion");
         QCOMPARE(ConSeleccion().NUMCONTRISEL, 2);
         Clic(b("cmdCancelar"));
@@ -273,7 +273,7 @@ private slots:
         for (const auto& [boton, lista, rejilla] :
              {std::tuple{"cmdSujetoPasivo", "FrmConSeleccion", "flxContribuyentes"},
               std::tuple{"CmdPresentador", "FrmPreSeleccion", "flxPresentadores"}}) {
-            const QString antes = DecDatos().LISTA;
+            const QString antes = Navegacion::RutaDec().lista.letras();
             // The form back from the first trip counts the presenter still there.
             if (QByteArrayView(lista) == "FrmPreSeleccion")
                 QVERIFY(Almacen<cPresenSvr>().BorrarPresentador(cspr));
@@ -289,8 +289,8 @@ private slots:
             Clic(b("cmdCancelar"));
             volver();
             QVERIFY(m_panel);
-            QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
-            QCOMPARE(DecDatos().LISTA, antes);
+            QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
+            QCOMPARE(Navegacion::RutaDec().lista.letras(), antes);
             QCOMPARE(DecDatos().CSSU, 0);
             QCOMPARE(DecDatos().CSPR, 0);
         }
@@ -308,7 +308,7 @@ private slots:
         QCOMPARE(grid("flxPresentadores")->Cols(), 5);
         Clic(b("cmdAceptar"));
         volver();
-        QCOMPARE(DecDatos().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("P"));
         QCOMPARE(DecDatos().CSPR, cspr);
         QCOMPARE(t("txtnombrepr")->text(), QStringLiteral("GESTORIA ARBELIA"));
         QCOMPARE(t("txtdnipr")->text(), QStringLiteral("87654321X"));
@@ -348,3 +348,4 @@ private slots:
 
 QTEST_MAIN(TestSeleccion)
 #include "test_seleccion.moc"
+#include "valores/EstadoNavegacion.h"

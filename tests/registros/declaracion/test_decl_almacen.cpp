@@ -48,7 +48,8 @@ int declaracionesDe(int32_t cspr)
 void rellenarTodo(int32_t cspr, int32_t cssu, int32_t cstra)
 {
     cDecDatos& d = DecDatos();
-    d.setMODO(QStringLiteral("A"));
+    Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+    d.IniciarNuevo();
     d.REFERENCIA = QStringLiteral("REF-0042");
     d.CSPR = cspr;
     d.CSSU = cssu;
@@ -126,9 +127,11 @@ private slots:
         const int32_t codigo = guardar();
         QVERIFY(codigo > 0);
 
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+
+        DecDatos().IniciarNuevo();
         DecDatos().CSDE = codigo;
-        DecDatos().setMODO(QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
         DecDatos().CargarDeclaracion();
         const cDecDatos& d = DecDatos();
         QCOMPARE(d.CSDE, codigo);
@@ -249,7 +252,8 @@ private slots:
         DecDatos().MARCA = QStringLiteral("CUPRA");
         QCOMPARE(guardar(), primera);
         QCOMPARE(FilasDeclaraciones(), 1);
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         DecDatos().CSDE = primera;
         DecDatos().CargarDeclaracion();
         QCOMPARE(DecDatos().MARCA, QStringLiteral("CUPRA"));
@@ -259,9 +263,10 @@ private slots:
     {
         DeclaracionValida();
         const int32_t original = guardar();
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         DecDatos().CSDE = original;
-        DecDatos().setMODO(QStringLiteral("D"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Copia;
         DecDatos().CargarDeclaracion();
         const Declaracion antes = DecDatos().valor();
         DecDatos().CSDE = 0;  // what the form does to a copy
@@ -443,15 +448,14 @@ private slots:
         const int32_t tr = NuevoContribuyenteExtranjero(QStringLiteral("P998877"),
                                                          QStringLiteral("TRA"));
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CSSU = sp;
         d.CSTRA = tr;
-        d.ENTRADA = QStringLiteral("S");
-        d.CargarContribuyente();
+        d.CargarContribuyente(Navegacion::Entrada::Sujeto);
         QCOMPARE(d.NOMBRESP, QStringLiteral("SUJ"));
         QVERIFY(d.NOMBRETR.isEmpty());
-        d.ENTRADA = QStringLiteral("T");
-        d.CargarContribuyente();
+        d.CargarContribuyente(Navegacion::Entrada::Transmitente);
         QCOMPARE(d.NOMBRETR, QStringLiteral("TRA"));
         QCOMPARE(d.TIPODOMITR, QStringLiteral("E"));
         QCOMPARE(d.PAISTR, QStringLiteral("FRANCIA"));
@@ -470,3 +474,4 @@ private slots:
 
 QTEST_MAIN(TestAlmacen)
 #include "test_decl_almacen.moc"
+#include "valores/EstadoNavegacion.h"

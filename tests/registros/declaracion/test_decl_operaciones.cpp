@@ -184,7 +184,8 @@ private slots:
     void registroCargaOVaciaLaOperacion()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.FECHAD = 20050101;
         d.OPERACION = QStringLiteral("P7B");
         d.ObtenerDatosOperacion(false);
@@ -217,3 +218,4 @@ private slots:
 
 QTEST_MAIN(TestOperaciones)
 #include "test_decl_operaciones.moc"
+#include "valores/EstadoNavegacion.h"

@@ -153,28 +153,31 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.ENTRADA = QStringLiteral("A");
-        d.LISTA = QStringLiteral("D");
+        Navegacion::RutaDec().entrada = Navegacion::Entrada::Inicio;
+        Navegacion::RutaDec().lista = Navegacion::ListaOrigen(Navegacion::Origen::ListaDeclaraciones);
         Operacion().ActualizaOperacion({QStringLiteral("D"), QStringLiteral("K"), QString(),
                                         QString(), 12, 0, 0, 5},
                                        false);
-        d.setMODO(QStringLiteral("A"));
-        QCOMPARE(d.MODO(), QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("A"));
         comprobarNueva(d);
         QVERIFY(Operacion().DESCRIP.isEmpty());
         QCOMPARE(Operacion().T_TIP(), 0.0);
         // The routing of the form is not part of the return.
-        QCOMPARE(d.ENTRADA, QStringLiteral("A"));
-        QCOMPARE(d.LISTA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().entrada), QStringLiteral("A"));
+        QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("D"));
     }
 
     void modoAltaDosVecesDaLoMismo()
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         const Declaracion primera = d.valor();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         QVERIFY(d.valor() == primera);
         comprobarNueva(d);
     }
@@ -184,11 +187,11 @@ private slots:
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
         const Declaracion antes = d.valor();
-        d.setMODO(QStringLiteral("C"));
-        QCOMPARE(d.MODO(), QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QVERIFY(d.valor() == antes);
-        d.setMODO(QStringLiteral("D"));
-        QCOMPARE(d.MODO(), QStringLiteral("D"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Copia;
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("D"));
         QVERIFY(d.valor() == antes);
     }
 
@@ -196,7 +199,7 @@ private slots:
     {
         cDecDatos& d = DecDatos();
         rellenarTodo(d);
-        d.setMODO(QStringLiteral("C"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Abrir;
         d.InicializaFecha();
         QVERIFY(d.NOSUJETO.isEmpty() && d.EXENTO.isEmpty() && d.REDUCCION.isEmpty());
         QCOMPARE(d.BASEI.centimos(), 1.0);
@@ -211,7 +214,8 @@ private slots:
     void inicializaFechaBorraLaBaseDeUnaNueva()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.BASEI = Importe(500);
         d.TOTAL = Importe(6);
         d.InicializaFecha();
@@ -222,7 +226,8 @@ private slots:
     void cargarSujetoNacional()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("1"), QStringLiteral("1001")));
         QCOMPARE(d.CSSU, 15);
         QCOMPARE(d.DNISP, QStringLiteral("X1234567L"));
@@ -246,7 +251,8 @@ private slots:
     void cargarSujetoExtranjero()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("E"), QStringLiteral("00"), QStringLiteral("7500")));
         // Province and municipality stay those of the return; the postal code is five digits.
         QCOMPARE(d.CODPROVSP, QStringLiteral("77"));
@@ -262,7 +268,8 @@ private slots:
     void contribuyenteVacioLimpiaLaParte()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarSujetoPasivo(parte(QStringLiteral("N"), QStringLiteral("48"), QStringLiteral("48001")));
         d.CargarSujetoPasivo(Contribuyente());
         QCOMPARE(d.CSSU, 0);
@@ -274,7 +281,8 @@ private slots:
     void cargarTransmitente()
     {
         cDecDatos& d = DecDatos();
-        d.setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        d.IniciarNuevo();
         d.CargarTransmitente(parte(QStringLiteral("E"), QStringLiteral("9"), QStringLiteral("75002")));
         QCOMPARE(d.CSTRA, 15);
         QCOMPARE(d.TIPODNITR, QStringLiteral("N"));
@@ -365,3 +373,4 @@ private slots:
 
 QTEST_MAIN(TestRegistro)
 #include "test_decl_registro.moc"
+#include "valores/EstadoNavegacion.h"

@@ -179,7 +179,8 @@ private slots:
         DecDatos().REFERENCIA = QStringLiteral(" ç-1 ");
         QVERIFY(DecDatos().GuardarDeclaracion().aceptado());
         const int32_t c = DecDatos().CSDE;
-        DecDatos().setMODO(QStringLiteral("A"));
+        Navegacion::RutaDec().modo = Navegacion::Modo::Nuevo;
+        DecDatos().IniciarNuevo();
         DecDatos().CSDE = c;
         DecDatos().CargarDeclaracion();
         QCOMPARE(DecDatos().NOMBRESP, QStringLiteral("ÑANDÚ ") + QString::fromUcs4(U"\U0001F697", 1));
@@ -216,3 +217,4 @@ private slots:
 
 QTEST_GUILESS_MAIN(TestDeclTextos)
 #include "test_decl_textos.moc"
+#include "valores/EstadoNavegacion.h"

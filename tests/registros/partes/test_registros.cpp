@@ -1,5 +1,5 @@
-// The program's records of a contributor and a presenter (their defaults, the reset of MODO
-// "A", loading, and the values they give the store) and the state of the two party lists.
+// The program's records of a contributor and a presenter (their defaults, the reset of a new
+// one, loading, and the values they give the store) and the state of the two party lists.
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -69,33 +69,23 @@ class TestRegistros : public QObject {
 
 private slots:
     // --- cConDatos ---------------------------------------------------------------------
-    void modoAReiniciaSalvoCodigoYLista()
+    void nuevoReiniciaSalvoCodigo()
     {
         cConDatos c;
         LlenarContribuyente(c);
         c.CSCO = 42;
-        c.LISTA = "S";
-        c.setMODO("A");
-        QCOMPARE(c.MODO(), QStringLiteral("A"));
+        c.IniciarNuevo();
         ComprobarDefectos(c);
         QCOMPARE(c.CSCO, 42);
-        QCOMPARE(c.LISTA, QStringLiteral("S"));
     }
 
     void modoADosVecesYLuegoC()
     {
         cConDatos c;
-        c.setMODO("A");
+        c.IniciarNuevo();
         c.NOMBREC = "ESCRITO";
-        c.setMODO("A");
+        c.IniciarNuevo();
         ComprobarDefectos(c);
-        // "C" after "A" changes nothing but MODO.
-        c.setMODO("C");
-        QCOMPARE(c.MODO(), QStringLiteral("C"));
-        ComprobarDefectos(c);
-        LlenarContribuyente(c);
-        c.setMODO("C");
-        QCOMPARE(c.NOMBREC, QStringLiteral("VIEJO"));
     }
 
     void instanciaCompartida()
@@ -112,7 +102,7 @@ private slots:
     {
         AlmacenDePrueba almacen;
         cConDatos c;
-        c.setMODO("A");
+        c.IniciarNuevo();
         c.CSCO = 0;
         c.DNIC = Dni(123);
         c.NOMBREC = "REGISTRO";
@@ -132,12 +122,8 @@ private slots:
         QCOMPARE(c.CSCO, 0);
 
         cConDatos l;
-        l.setMODO("C");
-        l.LISTA = "S";
         l.CSCO = csco;
         l.CargarContribuyente(csco);
-        QCOMPARE(l.MODO(), QStringLiteral("C"));
-        QCOMPARE(l.LISTA, QStringLiteral("S"));
         QCOMPARE(l.DNIC, Dni(123));
         QCOMPARE(l.NOMBREC, QStringLiteral("REGISTRO"));
         QCOMPARE(l.NUMEROC, 4);
@@ -173,7 +159,6 @@ private slots:
             "CODPOSC, CODMUNC, NOMMUNC) VALUES (7, 'O', '12345678Z', 'ALAVES', 'N', '1', '1001', "
             "'5', 'VITORIA')"));
         cConDatos c;
-        c.setMODO("C");
         c.CSCO = 7;
         c.CargarContribuyente(7);
         QCOMPARE(c.CODPROVC, QStringLiteral("01"));
@@ -208,7 +193,7 @@ private slots:
     {
         AlmacenDePrueba almacen;
         cConDatos c;
-        c.setMODO("A");
+        c.IniciarNuevo();
         c.DNIC = Dni(124);
         c.NOMBREC = "BORRAR";
         c.DOMICILIOC = "X";
@@ -224,7 +209,7 @@ private slots:
     {
         // The first rule broken, with its message and the field to focus.
         cConDatos c;
-        c.setMODO("A");
+        c.IniciarNuevo();
         c.DNIC = Dni(125);
         c.NOMBREC = "VALIDAR";
         c.DOMICILIOC = "MAYOR";
@@ -272,8 +257,6 @@ private slots:
         cConDatos c;
         LlenarContribuyente(c);
         c.CSCO = 9;
-        c.LISTA = "S";
-        c.setMODO("C");
         Contribuyente v;
         v.CSCO = 9;
         v.TIPODNI = "N";
@@ -303,23 +286,18 @@ private slots:
     {
         cPreDatos p;
         p.CSPR = 5;
-        p.LISTA = "S";
         p.DNIP = "X";
         p.TELEFONOP = "945000000";
         p.CODPROVP = "48";
         p.VIAP = "AV";
         p.NUMEROP = 3;
-        p.setMODO("A");
+        p.IniciarNuevo();
         QCOMPARE(p.DNIP, QString());
         QCOMPARE(p.TELEFONOP, QString());
         QCOMPARE(p.CODPROVP, QStringLiteral("77"));
         QCOMPARE(p.VIAP, QStringLiteral("CL"));
         QCOMPARE(p.NUMEROP, 0);
         QCOMPARE(p.CSPR, 5);
-        QCOMPARE(p.LISTA, QStringLiteral("S"));
-        p.DNIP = "Y";
-        p.setMODO("C");
-        QCOMPARE(p.DNIP, QStringLiteral("Y"));
     }
 
     void presentadorCargarFormatos()
@@ -329,7 +307,6 @@ private slots:
             "INSERT INTO PRESENTADORES (CSPR, DNIP, NOMBREP, CODPROVP, CODPOSP, CODMUNP, NOMMUNP, "
             "TELEFONOP) VALUES (3, '12345678Z', 'P', '1', '1001', '', 'VITORIA', '0')"));
         cPreDatos p;
-        p.setMODO("C");
         p.TELEFONOP = "ANTES";
         p.CargarPresentador(3);
         QCOMPARE(p.CODPROVP, QStringLiteral("01"));
@@ -342,7 +319,7 @@ private slots:
     {
         AlmacenDePrueba almacen;
         cPreDatos p;
-        p.setMODO("A");
+        p.IniciarNuevo();
         p.CSPR = 0;
         p.DNIP = Dni(150);
         p.NOMBREP = "GESTOR";
@@ -534,7 +511,7 @@ private slots:
     {
         AlmacenDePrueba almacen;
         cPreDatos p;
-        p.setMODO("A");
+        p.IniciarNuevo();
         p.DNIP = Dni(300);
         p.NOMBREP = "GESTORA";
         p.DOMICILIOP = "X";

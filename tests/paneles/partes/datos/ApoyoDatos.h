@@ -51,13 +51,20 @@ protected:
 // Opens a data panel through the program's navigator, as the main window does.
 inline QWidget* AbrirPanelDatos(FrmConDatos*) { return Navegacion::AbrirConDatos(); }
 inline QWidget* AbrirPanelDatos(FrmPreDatos*) { return Navegacion::AbrirPreDatos(); }
+inline Navegacion::RutaParte& RutaDe(FrmConDatos*) { return Navegacion::RutaCon(); }
+inline Navegacion::RutaParte& RutaDe(FrmPreDatos*) { return Navegacion::RutaPre(); }
 
 template <class Panel, class Registro>
 QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, const QString& lista,
                     int32_t valor)
 {
-    registro.setMODO(modo);
-    registro.LISTA = lista;
+    using Navegacion::Modo;
+    using Navegacion::OrigenParte;
+    const bool nuevo = modo == QLatin1String("A");
+    if (nuevo)
+        registro.IniciarNuevo();
+    RutaDe(static_cast<Panel*>(nullptr)) = {nuevo ? Modo::Nuevo : Modo::Abrir,
+                                            lista == QLatin1String("S") ? OrigenParte::Lista : OrigenParte::Menu};
     codigo = valor;
     QWidget* panel = AbrirPanelDatos(static_cast<Panel*>(nullptr));
     Procesar();
@@ -67,7 +74,7 @@ QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, co
 template <class Panel, class Registro>
 QWidget* AbrirConRegistro(Registro& registro)
 {
-    registro.LISTA.clear();
+    RutaDe(static_cast<Panel*>(nullptr)).origen = Navegacion::OrigenParte::Menu;
     QWidget* panel = AbrirPanelDatos(static_cast<Panel*>(nullptr));
     Procesar();
     return panel;

@@ -138,8 +138,8 @@ private slots:
     void desdeElMenuPrincipal()
     {
         // What the list left behind does not count: the command opens a new one.
-        ConDatos().setMODO(QStringLiteral("C"));
-        ConDatos().LISTA = QStringLiteral("S");
+        Navegacion::RutaCon().modo = Navegacion::Modo::Abrir;
+        Navegacion::RutaCon().origen = Navegacion::OrigenParte::Lista;
         ConDatos().DNIC = QStringLiteral("12345678Z");
         QAction* nuevo = m_prog->ventana()->findChild<QAction*>(QStringLiteral("mnuNuevoContribuyente"));
         QVERIFY(nuevo && nuevo->isEnabled());
@@ -147,8 +147,8 @@ private slots:
         Procesar();
         m_panel = m_prog->panel(QStringLiteral("FrmConDatos"));
         QVERIFY(m_panel);
-        QCOMPARE(ConDatos().MODO(), QStringLiteral("A"));
-        QVERIFY(ConDatos().LISTA.isEmpty());
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaCon().modo), QStringLiteral("A"));
+        QVERIFY(Navegacion::Letras(Navegacion::RutaCon().origen).isEmpty());
         QVERIFY(ConDatos().DNIC.isEmpty());
         QVERIFY(menusApagados());
         Clic(b("cmdCancelar"));
@@ -619,7 +619,7 @@ private slots:
         QFETCH(int, id);
         QFETCH(QString, foco);
         cConDatos& r = ConDatos();
-        r.setMODO(QStringLiteral("A"));
+        r.IniciarNuevo();
         r.CSCO = 0;
         RegistroValido(r);
         const auto extranjero = [&r] {
@@ -776,8 +776,9 @@ private slots:
     void vueltaALaListaConElNuevoSeleccionado()
     {
         RegistroValido(ConDatos());
-        ConDatos().setMODO(QStringLiteral("A"));
-        ConDatos().LISTA = QStringLiteral("S");
+        Navegacion::RutaCon().modo = Navegacion::Modo::Nuevo;
+        ConDatos().IniciarNuevo();
+        Navegacion::RutaCon().origen = Navegacion::OrigenParte::Lista;
         ConDatos().CSCO = 0;
         m_panel = Navegacion::AbrirConDatos();
         Procesar();
@@ -945,3 +946,4 @@ private slots:
 
 QTEST_MAIN(TestFrmConDatos)
 #include "test_frmcondatos.moc"
+#include "valores/EstadoNavegacion.h"

@@ -107,8 +107,8 @@ private slots:
     void desdeElMenuPrincipal()
     {
         // What the list left behind does not count: the command opens a new one.
-        PreDatos().setMODO(QStringLiteral("C"));
-        PreDatos().LISTA = QStringLiteral("S");
+        Navegacion::RutaPre().modo = Navegacion::Modo::Abrir;
+        Navegacion::RutaPre().origen = Navegacion::OrigenParte::Lista;
         PreDatos().DNIP = QStringLiteral("12345678Z");
         QAction* nuevo = m_prog->ventana()->findChild<QAction*>(QStringLiteral("mnuNuevoPresentador"));
         QVERIFY(nuevo && nuevo->isEnabled());
@@ -116,8 +116,8 @@ private slots:
         Procesar();
         m_panel = m_prog->panel(QStringLiteral("FrmPreDatos"));
         QVERIFY(m_panel);
-        QCOMPARE(PreDatos().MODO(), QStringLiteral("A"));
-        QVERIFY(PreDatos().LISTA.isEmpty());
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaPre().modo), QStringLiteral("A"));
+        QVERIFY(Navegacion::Letras(Navegacion::RutaPre().origen).isEmpty());
         QVERIFY(PreDatos().DNIP.isEmpty());
         QVERIFY(menusApagados());
         Clic(b("cmdCancelar"));
@@ -325,7 +325,7 @@ private slots:
         QFETCH(int, id);
         QFETCH(QString, foco);
         cPreDatos& r = PreDatos();
-        r.setMODO(QStringLiteral("A"));
+        r.IniciarNuevo();
         r.CSPR = 0;
         RegistroValido(r);
         switch (caso) {
@@ -387,8 +387,9 @@ private slots:
     void nuevoDesdeLaListaVuelveSeleccionado()
     {
         RegistroValido(PreDatos());
-        PreDatos().setMODO(QStringLiteral("A"));
-        PreDatos().LISTA = QStringLiteral("S");
+        Navegacion::RutaPre().modo = Navegacion::Modo::Nuevo;
+        PreDatos().IniciarNuevo();
+        Navegacion::RutaPre().origen = Navegacion::OrigenParte::Lista;
         PreDatos().CSPR = 0;
         m_panel = Navegacion::AbrirPreDatos();
         Procesar();
@@ -478,3 +479,4 @@ private slots:
 
 QTEST_MAIN(TestFrmPreDatos)
 #include "test_frmpredatos.moc"
+#include "valores/EstadoNavegacion.h"

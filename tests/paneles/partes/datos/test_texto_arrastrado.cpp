@@ -16,7 +16,7 @@ namespace {
 
 void ContribuyenteValido(cConDatos& c)
 {
-    c.setMODO(QStringLiteral("A"));
+    c.IniciarNuevo();
     c.DNIC = QStringLiteral("12345678Z");
     c.NOMBREC.clear();
     c.DOMICILIOC = QStringLiteral("MAYOR");

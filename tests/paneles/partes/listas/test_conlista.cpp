@@ -9,6 +9,7 @@
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Twips.h"
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/controles/cUtilidadesGrid.h"
@@ -301,8 +302,8 @@ private slots:
         QTest::keyClick(g, Qt::Key_Return);
         QVERIFY(!Panel());
         QVERIFY(PanelAbierto("FrmConDatos"));
-        QCOMPARE(ConDatos().MODO(), QStringLiteral("C"));
-        QCOMPARE(ConDatos().LISTA, QStringLiteral("S"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaCon().modo), QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaCon().origen), QStringLiteral("S"));
         QCOMPARE(ConDatos().CSCO, m_garcia);
     }
 
@@ -560,8 +561,8 @@ private slots:
         QTest::mouseClick(Etiqueta(p, "PicNuevo"), Qt::LeftButton);
         QVERIFY(!Panel());
         QVERIFY(PanelAbierto("FrmConDatos"));
-        QCOMPARE(ConDatos().MODO(), QStringLiteral("A"));
-        QCOMPARE(ConDatos().LISTA, QStringLiteral("S"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaCon().modo), QStringLiteral("A"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaCon().origen), QStringLiteral("S"));
         QCOMPARE(ConDatos().CSCO, 0);
     }
 

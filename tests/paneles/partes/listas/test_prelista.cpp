@@ -8,6 +8,7 @@
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "catalogo/Catalogo.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/Twips.h"
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/partes/FrmPreDatos.h"
@@ -270,8 +271,8 @@ private slots:
         QVERIFY(!Panel());
         QWidget* datos = PanelAbierto("FrmPreDatos");
         QVERIFY(datos);
-        QCOMPARE(PreDatos().MODO(), QStringLiteral("C"));
-        QCOMPARE(PreDatos().LISTA, QStringLiteral("S"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaPre().modo), QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaPre().origen), QStringLiteral("S"));
         QCOMPARE(PreDatos().CSPR, m_goiri);
         QTest::mouseClick(datos->findChild<QPushButton*>("cmdCancelar"), Qt::LeftButton);
         p = Panel();
@@ -283,7 +284,7 @@ private slots:
 
         QTest::mouseClick(Boton(p, "cmdNuevo"), Qt::LeftButton);
         QVERIFY(PanelAbierto("FrmPreDatos"));
-        QCOMPARE(PreDatos().MODO(), QStringLiteral("A"));
+        QCOMPARE(Navegacion::Letras(Navegacion::RutaPre().modo), QStringLiteral("A"));
         QCOMPARE(PreDatos().CSPR, 0);
     }
 

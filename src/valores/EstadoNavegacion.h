@@ -1,0 +1,108 @@
+#pragma once
+// The hand-over between panels, as types. Before the navigator (aplicacion/Navegacion) opens a
+// data panel or the declaration form it says how the panel is entered (Entrada), what its
+// record is to hold (Modo) and where the panel came from, with the side trip under way
+// (ListaOrigen, OrigenParte); when the panel closes the navigator reads them to choose the way
+// back. Each value is the one letter these hand-overs have always used (letras() gives them
+// back as text), so a route reads in words and compares with its letter.
+//
+// The routes live here, apart from the records, so that a record holds its data and nothing
+// else; they are shared state like the records (created at first use, reset with them).
+#include <QList>
+#include <QString>
+#include <optional>
+
+namespace Navegacion {
+
+// How the declaration form is entered (ENTRADA).
+enum class Entrada : char {
+    Inicio = 'A',        // afresh: Modo decides what is loaded
+    Sujeto = 'S',        // back from choosing the subject: the contributor CSSU is loaded
+    Transmitente = 'T',  // back from choosing the transmitter: CSTRA is loaded, its tab shows
+    Vuelta = 'P',        // back from choosing a presenter or from a cancelled choice: no change
+    SinCarga = 'R',      // back with nothing to load
+};
+
+// What the record of a data panel or of the form holds when it opens (MODO).
+enum class Modo : char {
+    Nuevo = 'A',  // a new party or return: the opener resets the record first
+    Abrir = 'C',  // the stored one of the record's code
+    Copia = 'D',  // a copy of a stored return, saved as a new row (the form only)
+};
+
+// The list the declaration form was opened from (first letter of LISTA).
+enum class Origen : char {
+    Menu = 0,                          // the main window: no list to go back to
+    ListaDeclaraciones = 'D',          // FrmDecLista
+    DeclaracionesContribuyente = 'C',  // FrmConDeclaraciones
+    DeclaracionesPresentador = 'P',    // FrmPreDeclaraciones
+};
+
+// A side trip of the form: it closes, the trip's panel opens, and that panel brings it back.
+enum class Viaje : char {
+    Seleccion = 'T',  // a selection panel, to choose a party
+    Impresion = 'I',  // the print panel
+};
+
+// Where the form came from and the trips under way (LISTA): an origin and a stack of trips.
+class ListaOrigen {
+public:
+    ListaOrigen() = default;
+    explicit ListaOrigen(Origen origen) : m_origen(origen) {}
+
+    Origen origen() const { return m_origen; }
+    bool enViaje() const { return !m_viajes.isEmpty(); }
+    // The form leaves for a side trip.
+    void salirDeViaje(Viaje viaje) { m_viajes.append(viaje); }
+    // The trip's panel hands back: only the origin stays. A form that was on no trip has no
+    // list to go back to any more.
+    void volverDeViaje();
+    // The list the form goes back to when it closes: none during a trip or from the menu.
+    std::optional<Origen> listaDeVuelta() const;
+    // The route as its letters: "" from the menu, "D", "DT", "CI", "T", ...
+    QString letras() const;
+
+    bool operator==(const ListaOrigen&) const = default;
+
+private:
+    Origen m_origen = Origen::Menu;
+    QList<Viaje> m_viajes;
+};
+
+// Where a party's data panel was opened from (LISTA of a contributor or a presenter).
+enum class OrigenParte : char {
+    Menu = 0,     // the main menu: nothing to go back to
+    Lista = 'S',  // the party's list, which opens again when the panel closes
+};
+
+// The route of the declaration form.
+struct RutaDeclaracion {
+    Entrada entrada = Entrada::Vuelta;
+    Modo modo = Modo::Abrir;
+    ListaOrigen lista;
+    // "S" while the contributor's search criteria are to survive the trip back to the form.
+    QString criterio;
+};
+
+// The route of a party's data panel: a contributor's or a presenter's.
+struct RutaParte {
+    Modo modo = Modo::Nuevo;
+    OrigenParte origen = OrigenParte::Menu;
+};
+struct RutaContribuyente : RutaParte {};
+struct RutaPresentador : RutaParte {};
+
+// The one route of each kind of panel.
+RutaDeclaracion& RutaDec();
+RutaContribuyente& RutaCon();
+RutaPresentador& RutaPre();
+
+// A value's letter as text ("" for none), for messages and tests.
+template <typename Letra>
+QString Letras(Letra valor)
+{
+    const char c = static_cast<char>(valor);
+    return c ? QString(QLatin1Char(c)) : QString();
+}
+
+}  // namespace Navegacion
