@@ -169,12 +169,12 @@ private slots:
 
     void elNombreLeeSuTexto()
     {
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(Texto(kIdBotonCancelar), QStringLiteral("&Cancelar"));
         QCOMPARE(Texto(kIdDniCifErroneo), QStringLiteral("El campo DNI-CIF es erróneo"));
-        OffsetIdioma = 10000;
+        EstablecerIdiomaPrograma(Idioma::Euskera);
         QCOMPARE(Texto(kIdBotonCancelar), QStringLiteral("&Utzi"));
-        OffsetIdioma = 0;
+        EstablecerIdiomaPrograma(Idioma::Castellano);
     }
 
     void generaUnaConstantePorFila()
@@ -241,3 +241,4 @@ private slots:
 
 QTEST_GUILESS_MAIN(TestIdsCatalogo)
 #include "test_ids_catalogo.moc"
+#include "plataforma/Idioma.h"
