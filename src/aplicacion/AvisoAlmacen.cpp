@@ -1,6 +1,7 @@
 #include "aplicacion/AvisoAlmacen.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -16,7 +17,7 @@ struct Aviso {
 // The name of the Utilities menu in one language, without its access key.
 QString menuUtilidades(bool euskera)
 {
-    return TextoFila(239 + (euskera ? 10000 : 0)).remove(QLatin1Char('&'));
+    return TextoFila(kIdMenuUtilidades + (euskera ? 10000 : 0)).remove(QLatin1Char('&'));
 }
 
 // Renaming the file lets the program start on a new, empty database, where a backup can be

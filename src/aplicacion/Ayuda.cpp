@@ -1,5 +1,6 @@
 #include "aplicacion/Ayuda.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
@@ -33,7 +34,7 @@ void MostrarAyudaHtml(const QString& tema, QWidget* propietario)
     }
     auto* pagina = visor->findChild<QTextBrowser*>(QStringLiteral("txtAyuda"));
     pagina->setSource(QUrl::fromLocalFile(RutaAyuda(tema)));
-    visor->setWindowTitle(Texto(219) + QStringLiteral(" - ") + Texto(218));
+    visor->setWindowTitle(Texto(kIdAyuda) + QStringLiteral(" - ") + Texto(kIdVeldoria));
     visor->show();
     visor->raise();
     visor->activateWindow();

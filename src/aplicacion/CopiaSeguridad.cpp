@@ -1,6 +1,7 @@
 #include "aplicacion/CopiaSeguridad.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/General.h"
@@ -115,7 +116,7 @@ bool CopiaSeguridad::avisarRechazo(cSaveAsRestore::Examen examen) const
 {
     if (examen == cSaveAsRestore::Examen::Valida)
         return true;
-    Mensaje(TextoRechazo(examen), vb::Exclamation, texto(341));
+    Mensaje(TextoRechazo(examen), vb::Exclamation, texto(kIdRestaurarBaseDatos));
     return false;
 }
 
@@ -123,14 +124,14 @@ bool CopiaSeguridad::CrearBackup() const
 {
     const cSaveAsRestore s = almacen();
     if (s.ExisteDestino()
-        && Mensaje(texto(337), vb::Question | vb::YesNo | vb::DefaultButton2, texto(349))
-            != vb::Yes)
+        && Mensaje(texto(kIdCopiaSeguridadExistente), vb::Question | vb::YesNo | vb::DefaultButton2,
+                   texto(kIdCopiaSeguridad)) != vb::Yes)
         return false;
     if (!s.Copiar()) {
-        Mensaje(texto(338), vb::Critical, texto(339));
+        Mensaje(texto(kIdErrorCopiaSeguridad), vb::Critical, texto(kIdCopiaSeguridadFallida));
         return false;
     }
-    Mensaje(textoBackupHecho(), vb::Information, texto(349));
+    Mensaje(textoBackupHecho(), vb::Information, texto(kIdCopiaSeguridad));
     return true;
 }
 
@@ -140,7 +141,7 @@ bool CopiaSeguridad::CrearRestore() const
     QString origen = s.Origen();
     if (!QFileInfo(origen).isFile()) {
         // No backup where this program keeps it: the user may point at a copy kept elsewhere.
-        origen = DialogoAbrirFichero(Parent, texto(359), RutaOrigen,
+        origen = DialogoAbrirFichero(Parent, texto(kIdRestaurarCopiaSeguridad), RutaOrigen,
                                      cSaveAsRestore::FiltroDialogo(Filtro));
         if (origen.isEmpty())
             return false;
@@ -149,7 +150,8 @@ bool CopiaSeguridad::CrearRestore() const
     if (!avisarRechazo(s.Examinar(origen)))
         return false;
 
-    if (Mensaje(texto(340), vb::Question | vb::YesNo | vb::DefaultButton2, texto(341)) != vb::Yes)
+    if (Mensaje(texto(kIdPreguntaRestaurar), vb::Question | vb::YesNo | vb::DefaultButton2,
+                texto(kIdRestaurarBaseDatos)) != vb::Yes)
         return false;
 
     const cSaveAsRestore::Restauracion r = s.Restaurar(origen);
@@ -157,17 +159,18 @@ bool CopiaSeguridad::CrearRestore() const
         // Rows that break the program's rules are found only while they are carried over.
         if (!avisarRechazo(r.examen))
             return false;
-        Mensaje(textoRestoreFallido(), vb::Critical, texto(341));
+        Mensaje(textoRestoreFallido(), vb::Critical, texto(kIdRestaurarBaseDatos));
         return false;
     }
-    Mensaje(textoRestoreHecho(), vb::Information, texto(341));
+    Mensaje(textoRestoreHecho(), vb::Information, texto(kIdRestaurarBaseDatos));
     return true;
 }
 
 CopiaSeguridad::Resultado CopiaSeguridad::HacerBackup() const
 {
     if (!almacen().Copiar())
-        return {false, texto(338) + QLatin1Char(' ') + texto(339), {}};
+        return {false, texto(kIdErrorCopiaSeguridad) + QLatin1Char(' ')
+                + texto(kIdCopiaSeguridadFallida), {}};
     return {true, textoBackupHecho(), almacen().Destino()};
 }
 

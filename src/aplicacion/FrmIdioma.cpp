@@ -1,5 +1,6 @@
 #include "aplicacion/FrmIdioma.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/MDIVeldo.h"
@@ -67,10 +68,13 @@ FrmIdioma::FrmIdioma(QWidget* parent) : QDialog(parent)
 void FrmIdioma::Anadir_captions()
 {
     // The inverted rows 315 to 318 give the other language, so both always show.
-    setWindowTitle(Texto(214) + QStringLiteral("/") + Texto(315));
-    Frame1->setTitle(Texto(215) + QStringLiteral("/") + Texto(316));
-    cmdcastellano->setText(Texto(216) + QStringLiteral("\n\n") + Texto(317));
-    cmdeuskera->setText(Texto(217) + QStringLiteral("\n\n") + Texto(318));
+    setWindowTitle(Texto(kIdSeleccionIdioma) + QStringLiteral("/")
+                   + Texto(kIdSeleccionIdiomaEnOtraLengua));
+    Frame1->setTitle(Texto(kIdIdioma) + QStringLiteral("/") + Texto(kIdIdiomaEnOtraLengua));
+    cmdcastellano->setText(Texto(kIdBotonCastellano) + QStringLiteral("\n\n")
+                           + Texto(kIdCastellanoEnOtraLengua));
+    cmdeuskera->setText(Texto(kIdBotonEuskera) + QStringLiteral("\n\n")
+                        + Texto(kIdEuskeraEnOtraLengua));
 }
 
 void FrmIdioma::showEvent(QShowEvent* e)

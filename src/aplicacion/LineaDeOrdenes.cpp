@@ -4,6 +4,7 @@
 #include "aplicacion/OrdenesImprimir.h"
 #include "aplicacion/OrdenesIntercambio.h"
 #include "aplicacion/OrdenesListar.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
@@ -216,10 +217,10 @@ int MostrarVersion(const Llamada& llamada)
     // The record of the program's file, as start-up reads it; 218 is the program's title.
     const auto version = LeerRegistroVersion(CarpetaPrograma() + QStringLiteral("/Veldo"));
     if (!version) {
-        llamada.errores << Texto(342) << Qt::endl;
+        llamada.errores << Texto(kIdSinInformacionVersion) << Qt::endl;
         return 1;
     }
-    llamada.salida << Texto(218) << QLatin1Char(' ') << VersionDelPrograma(version->fichero)
+    llamada.salida << Texto(kIdVeldoria) << QLatin1Char(' ') << VersionDelPrograma(version->fichero)
                    << Qt::endl;
     return 0;
 }

@@ -8,6 +8,7 @@
 #include "aplicacion/CopiaSeguridad.h"
 #include "aplicacion/Navegacion.h"
 #include "aplicacion/TraduccionesQt.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
 #include "plataforma/General.h"
@@ -40,15 +41,24 @@ struct Rotulo {
     int id;
 };
 constexpr Rotulo kRotulos[] = {
-    {"mnuDeclaracion", 221}, {"mnuNuevaDeclaracion", 222}, {"mnuAbrirDeclaracion", 223},
-    {"mnuEliminarDeclaracion", 224}, {"separa2", 225}, {"d1", 226}, {"d2", 227}, {"d3", 228},
-    {"d4", 229}, {"sepa2", 225}, {"mnuSalir", 230}, {"mnuContribuyente", 231},
-    {"mnuNuevoContribuyente", 232}, {"mnuAbrirContribuyente", 233},
-    {"mnuEliminarContribuyente", 234}, {"mnuPresentador", 235}, {"mnuNuevoPresentador", 236},
-    {"mnuAbrirPresentador", 237}, {"mnuEliminarPresentador", 238}, {"mnuUtilidades", 239},
-    {"mnuExport", 240}, {"mnuImport", 241}, {"mnuBackup", 358}, {"mnuRestore", 359},
-    {"mnuPreferencias", 332}, {"mnuAsistenciaOnline", 360}, {"mnuDescripAsisOnline", 361},
-    {"mnuAsisOnline", 360}, {"mnuAyuda", 243}, {"mnucontind", 333}, {"mnuacerca", 334},
+    {"mnuDeclaracion", kIdMenuDeclaracion}, {"mnuNuevaDeclaracion", kIdMenuNuevaDeclaracion},
+    {"mnuAbrirDeclaracion", kIdMenuAbrirDeclaracion},
+    {"mnuEliminarDeclaracion", kIdMenuEliminarDeclaracion}, {"separa2", kIdMenuSeparador},
+    {"d1", kIdMarcadorD1}, {"d2", kIdMarcadorD2}, {"d3", kIdMarcadorD3},
+    {"d4", kIdMarcadorD4}, {"sepa2", kIdMenuSeparador}, {"mnuSalir", kIdMenuSalir},
+    {"mnuContribuyente", kIdMenuContribuyente},
+    {"mnuNuevoContribuyente", kIdMenuNuevoContribuyente},
+    {"mnuAbrirContribuyente", kIdMenuAbrirContribuyente},
+    {"mnuEliminarContribuyente", kIdMenuEliminarContribuyente},
+    {"mnuPresentador", kIdMenuPresentador}, {"mnuNuevoPresentador", kIdMenuNuevoPresentador},
+    {"mnuAbrirPresentador", kIdMenuAbrirPresentador},
+    {"mnuEliminarPresentador", kIdMenuEliminarPresentador}, {"mnuUtilidades", kIdMenuUtilidades},
+    {"mnuExport", kIdMenuExportarContribuyentes}, {"mnuImport", kIdMenuImportarContribuyentes},
+    {"mnuBackup", kIdCrearCopiaSeguridad}, {"mnuRestore", kIdRestaurarCopiaSeguridad},
+    {"mnuPreferencias", kIdMenuPreferencias}, {"mnuAsistenciaOnline", kIdAsistenciaOnline},
+    {"mnuDescripAsisOnline", kIdDescripcionServicio},
+    {"mnuAsisOnline", kIdAsistenciaOnline}, {"mnuAyuda", kIdMenuAyuda},
+    {"mnucontind", kIdMenuContenidoIndice}, {"mnuacerca", kIdMenuAcercaDe},
 };
 
 // Toolbar buttons: tag, tool tip id, icon.
@@ -58,11 +68,11 @@ struct Boton {
     QStyle::StandardPixmap icono;
 };
 constexpr Boton kBotones[] = {
-    {"nuedec", 51, QStyle::SP_FileIcon},
-    {"abrdec", 174, QStyle::SP_DialogOpenButton},
-    {"elidec", 59, QStyle::SP_TrashIcon},
-    {"ayu", 219, QStyle::SP_DialogHelpButton},
-    {"salir", 220, QStyle::SP_DialogCloseButton},
+    {"nuedec", kIdNuevaDeclaracion, QStyle::SP_FileIcon},
+    {"abrdec", kIdAbrirDeclaracion, QStyle::SP_DialogOpenButton},
+    {"elidec", kIdEliminarDeclaracion, QStyle::SP_TrashIcon},
+    {"ayu", kIdAyuda, QStyle::SP_DialogHelpButton},
+    {"salir", kIdSalirAplicacion, QStyle::SP_DialogCloseButton},
 };
 }
 
@@ -231,7 +241,7 @@ void MDIVeldo::botonBarra(const QString& etiqueta)
 void MDIVeldo::Anadir_captions()
 {
     CargarTraduccionesQt();
-    setWindowTitle(Texto(218));
+    setWindowTitle(Texto(kIdVeldoria));
     for (const Rotulo& r : kRotulos) {
         const QString nombre = QString::fromLatin1(r.nombre);
         if (auto* m = findChild<QMenu*>(nombre)) {

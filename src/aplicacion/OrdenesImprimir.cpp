@@ -4,6 +4,7 @@
 #include "aplicacion/FechaSeleccion.h"
 #include "aplicacion/PdfEnParalelo.h"
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/imprimir/cSuperficieGrabadora.h"
 #include "paneles/imprimir/cSuperficieImpresora.h"
 #include "paneles/imprimir/cSuperficiePdf.h"
@@ -293,7 +294,7 @@ int imprimirPdf(const PeticionPdf& p)
 void elegirImpresora(const PeticionPdf& p, QPrinter& impresora)
 {
     if (cSuperficieImpresora::NumeroImpresoras() == 0)
-        throw Rechazo{Texto(191)};
+        throw Rechazo{Texto(kIdSinImpresoras)};
     const QPrinterInfo info = p.nombreImpresora.isEmpty()
                                   ? QPrinterInfo::defaultPrinter()
                                   : QPrinterInfo::printerInfo(p.nombreImpresora);
@@ -327,7 +328,7 @@ int imprimirEnImpresora(const PeticionPdf& p, QPrinter* dada)
 // of its parties, then the rules of the whole return. The message of the first one it fails.
 std::optional<QString> reglasIncumplidas()
 {
-    const QString titulo = Texto(53);
+    const QString titulo = Texto(kIdImprimirDeclaracion);
     if (const Veredicto v = VeredictoNifIntervinientes(titulo); !v.vacio())
         return v.mensaje;
     const bool tipoBloqueado = !EsTasaLibre(Operacion().T_TIP());

@@ -3,6 +3,7 @@
 #include "aplicacion/Arranque.h"
 #include "aplicacion/AvisoAlmacen.h"
 #include "aplicacion/LineaDeOrdenes.h"
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
@@ -75,15 +76,15 @@ int HacerImportacion(const LineaDeOrdenes::Llamada& llamada)
         errores << aviso.texto() << Qt::endl;
         return Imposible;
     }
-    salida << Texto(257) << ' ' << i.LineasLeidas << '\n'
-           << Texto(258) << ' ' << i.NUMEROIMP << '\n'
-           << Texto(259) << ' ' << i.NUMEROINC << '\n'
-           << Texto(260) << ' ' << i.NUMEROSUS << '\n'
-           << Texto(291) << ' ' << i.NUMEROIGN << '\n';
+    salida << Texto(kIdEtiquetaTotal) << ' ' << i.LineasLeidas << '\n'
+           << Texto(kIdEtiquetaImportados) << ' ' << i.NUMEROIMP << '\n'
+           << Texto(kIdEtiquetaIncorrectos) << ' ' << i.NUMEROINC << '\n'
+           << Texto(kIdEtiquetaSustituidos) << ' ' << i.NUMEROSUS << '\n'
+           << Texto(kIdEtiquetaIgnorados) << ' ' << i.NUMEROIGN << '\n';
     if (aviso)
         salida << aviso.texto() << '\n';
     if (i.NUMEROINC > 0) {
-        salida << Texto(263) << i.FICHEROERRORES << Qt::endl;
+        salida << Texto(kIdConsulteFicheroErrores) << i.FICHEROERRORES << Qt::endl;
         return Refusado;
     }
     salida.flush();
@@ -140,8 +141,9 @@ int HacerExportacion(const LineaDeOrdenes::Llamada& llamada)
             return Imposible;
         }
     }
-    llamada.salida << e.NUMCONTRIEXP << Texto(247).trimmed().prepend(QLatin1Char(' ')) << ": "
-                   << e.FICHEROAEXPORTAR << Qt::endl;
+    llamada.salida << e.NUMCONTRIEXP
+                   << Texto(kIdContribuyentesParaExportar).trimmed().prepend(QLatin1Char(' '))
+                   << ": " << e.FICHEROAEXPORTAR << Qt::endl;
     return Hecho;
 }
 

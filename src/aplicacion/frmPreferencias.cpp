@@ -1,5 +1,6 @@
 #include "aplicacion/frmPreferencias.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "aplicacion/MDIVeldo.h"
@@ -63,13 +64,13 @@ frmPreferencias::frmPreferencias(QWidget* parent) : QDialog(parent)
 
 void frmPreferencias::Anadir_captions()
 {
-    setWindowTitle(Texto(350));
-    lblIdioma->setText(Texto(215));
-    lblActualizaciones->setText(Texto(348));
-    chkActOnline->setText(Texto(343));
-    lblActAhora->setText(Texto(344));
-    cmdAceptar->setText(Texto(6));
-    cmdCancelar->setText(Texto(4));
+    setWindowTitle(Texto(kIdPreferencias));
+    lblIdioma->setText(Texto(kIdIdioma));
+    lblActualizaciones->setText(Texto(kIdActualizaciones));
+    chkActOnline->setText(Texto(kIdActivarActualizaciones));
+    lblActAhora->setText(Texto(kIdActualizarAhora));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
 }
 
 void frmPreferencias::reflejarAjustes()

@@ -1,5 +1,6 @@
 #include "aplicacion/frmVeldoInicio.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "plataforma/General.h"
@@ -56,7 +57,8 @@ void frmVeldoInicio::Mostrar()
     if (const QScreen* pantalla = QApplication::primaryScreen())
         move(pantalla->availableGeometry().center() - rect().center());
     show();
-    lblTitulo1->setText(TextoFila(10347) + QStringLiteral("/") + Texto(347));
+    lblTitulo1->setText(TextoFila(kIdImpuestoVeldoriacion + 10000) + QStringLiteral("/")
+                        + Texto(kIdImpuestoVeldoriacion));
     lblVersion->setText(QStringLiteral("Bertsioa/Versión") + VersionPrograma);
     QApplication::processEvents();
 

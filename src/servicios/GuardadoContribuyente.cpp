@@ -1,5 +1,6 @@
 #include "servicios/GuardadoContribuyente.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesContribuyente.h"
@@ -17,20 +18,20 @@ namespace {
 // names its field, the field, and for the number and the name, which must hold a value, the
 // record's own message for an empty one.
 constexpr ColumnaTexto kTextos[] = {
-    {P::DNIC, 9, 26, "txtdnic", 29},
-    {P::NOMBREC, 40, 27, "txtnombrec", 30},
-    {P::VIAC, 2, 13, "txtviac"},
-    {P::DOMICILIOC, 20, 19, "txtdomicilioc"},
-    {P::LETRAC, 2, 21, "txtletrac"},
-    {P::ESCALERAC, 2, 20, "txtescalerac"},
-    {P::PISOC, 2, 23, "txtpisoc"},
-    {P::MANOC, 3, 24, "txtmanoc"},
-    {P::PAIS, 20, 18, "txtpais"},
-    {P::CODPROVC, kAnchoDeCifras, 10, "txtcodprovc"},
-    {P::NOMPROVC, 20, 15, "txtnomprovc"},
-    {P::CODPOSC, kAnchoDeCifras, 25, "txtcodposc"},
-    {P::CODMUNC, kAnchoDeCifras, 12, "txtcodmunc"},
-    {P::NOMMUNC, 25, 14, "txtnommunc"},
+    {P::DNIC, 9, kIdDniCif, "txtdnic", kIdDniVacio},
+    {P::NOMBREC, 40, kIdEtiquetaApellidosNombre, "txtnombrec", kIdNombreVacio},
+    {P::VIAC, 2, kIdVia, "txtviac"},
+    {P::DOMICILIOC, 20, kIdDomicilio, "txtdomicilioc"},
+    {P::LETRAC, 2, kIdLetra, "txtletrac"},
+    {P::ESCALERAC, 2, kIdEscalera, "txtescalerac"},
+    {P::PISOC, 2, kIdPiso, "txtpisoc"},
+    {P::MANOC, 3, kIdMano, "txtmanoc"},
+    {P::PAIS, 20, kIdEtiquetaPais, "txtpais"},
+    {P::CODPROVC, kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovc"},
+    {P::NOMPROVC, 20, kIdEtiquetaNombreProvincia, "txtnomprovc"},
+    {P::CODPOSC, kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposc"},
+    {P::CODMUNC, kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunc"},
+    {P::NOMMUNC, 25, kIdEtiquetaNombreMunicipio, "txtnommunc"},
 };
 
 // The store's door for the texts of a save array: the verdict TextoRechazado, with its message

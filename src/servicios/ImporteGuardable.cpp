@@ -1,6 +1,7 @@
 #include "servicios/ImporteGuardable.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/TextoGuardable.h"
 
 #include <cmath>
@@ -10,8 +11,8 @@ Veredicto ComprobarImporte(double valor, const ColumnaImporte& columna)
     if (std::isfinite(valor))
         return {};
     Veredicto v;
-    v.id = kIdImporteNoValido;
-    v.mensaje = Texto(kIdImporteNoValido).arg(NombreDeCampo(columna.idEtiqueta));
+    v.id = kIdCasillaImporteNoValido;
+    v.mensaje = Texto(kIdCasillaImporteNoValido).arg(NombreDeCampo(columna.idEtiqueta));
     v.botones = vb::OKOnly + vb::Information;
     v.control = QLatin1String(columna.control);
     return v;

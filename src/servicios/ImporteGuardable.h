@@ -12,9 +12,6 @@ struct ColumnaImporte {
     const char* control;  // objectName of the field that shows the value
 };
 
-// Catalogue id of the message of a refused amount: %1 the field's name.
-inline constexpr int kIdImporteNoValido = 366;
-
 // The verdict on an amount of `columna` that is not a finite number; an empty verdict for a
 // finite one.
 Veredicto ComprobarImporte(double valor, const ColumnaImporte& columna);

@@ -1,6 +1,7 @@
 #include "servicios/TextoGuardable.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 
 namespace {
 
@@ -90,11 +91,12 @@ Veredicto ComprobarTexto(const QString& texto, const ColumnaTexto& c, Blancos bl
     case DefectoTexto::Vacio:
         return veredicto(c.idVacio, Texto(c.idVacio), c);
     case DefectoTexto::Caracteres:
-        return veredicto(kIdTextoCaracteres,
-                         Texto(kIdTextoCaracteres).arg(NombreDeCampo(c.idEtiqueta)), c);
+        return veredicto(kIdCasillaCaracteresNoGuardables,
+                         Texto(kIdCasillaCaracteresNoGuardables).arg(NombreDeCampo(c.idEtiqueta)),
+                         c);
     case DefectoTexto::Largo:
-        return veredicto(kIdTextoLargo,
-                         Texto(kIdTextoLargo).arg(NombreDeCampo(c.idEtiqueta),
+        return veredicto(kIdCasillaDemasiadoLarga,
+                         Texto(kIdCasillaDemasiadoLarga).arg(NombreDeCampo(c.idEtiqueta),
                                                     QString::number(c.ancho)),
                          c);
     }

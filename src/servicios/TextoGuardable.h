@@ -43,10 +43,6 @@ struct ColumnaTexto {
 // characters are.
 inline constexpr int kAnchoDeCifras = -1;
 
-// Catalogue ids of the messages of a refused text: %1 the field's name, %2 the width.
-inline constexpr int kIdTextoCaracteres = 364;
-inline constexpr int kIdTextoLargo = 365;
-
 // How the blanks around a text are taken: the stores of parties keep a text without them, the
 // store of returns keeps it as given.
 enum class Blancos { Recortados, Conservados };

@@ -1,6 +1,7 @@
 #include "servicios/VeredictosPartes.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "valores/BotonesMensaje.h"
 
 #include <array>
@@ -15,35 +16,35 @@ struct Regla {
 // Indexed by the rule's number; rule 0 is "valid".
 constexpr std::array<Regla, 15> kContribuyente = {{
     {0, ""},
-    {330, "txtdnic"},        // number badly formed
-    {29, "txtdnic"},         // number empty
-    {30, "txtnombrec"},
-    {31, "txtdomicilioc"},
-    {32, "txtpais"},
-    {33, "txtcodposc"},      // postal code of another province
-    {34, "txtcodposc"},      // not of five digits
-    {35, "txtcodposc"},      // ends in 000
-    {36, "txtcodposc"},      // zero
-    {37, "txtnomprovc"},
-    {38, "txtnommunc"},
-    {39, "txtcodprovc"},
-    {40, "txtcodmunc"},
-    {329, "txtdnic"},        // wrong check character
+    {kIdDniCifErroneoODigitoControl, "txtdnic"},  // number badly formed
+    {kIdDniVacio, "txtdnic"},                     // number empty
+    {kIdNombreVacio, "txtnombrec"},
+    {kIdDomicilioVacio, "txtdomicilioc"},
+    {kIdPaisVacio, "txtpais"},
+    {kIdProvinciaYCodigoPostalNoCoinciden, "txtcodposc"},  // postal code of another province
+    {kIdCodigoPostalCincoCifras, "txtcodposc"},            // not of five digits
+    {kIdCodigoPostalTresUltimosCero, "txtcodposc"},        // ends in 000
+    {kIdCodigoPostalCero, "txtcodposc"},                   // zero
+    {kIdProvinciaVacia, "txtnomprovc"},
+    {kIdMunicipioVacio, "txtnommunc"},
+    {kIdCodigoProvinciaVacio, "txtcodprovc"},
+    {kIdCodigoMunicipioVacio, "txtcodmunc"},
+    {kIdNifSinDigitoControl, "txtdnic"},        // wrong check character
 }};
 
 constexpr std::array<Regla, 12> kPresentador = {{
     {0, ""},
-    {330, "txtdnip"},
-    {30, "txtnombrep"},
-    {31, "txtdomiciliop"},
-    {40, "txtcodmunp"},
-    {38, "txtnommunp"},
-    {36, "txtcodposp"},
-    {33, "txtcodposp"},
-    {35, "txtcodposp"},
-    {198, "txttelefonop"},   // not of nine digits
-    {199, "txttelefonop"},   // empty
-    {329, "txtdnip"},
+    {kIdDniCifErroneoODigitoControl, "txtdnip"},
+    {kIdNombreVacio, "txtnombrep"},
+    {kIdDomicilioVacio, "txtdomiciliop"},
+    {kIdCodigoMunicipioVacio, "txtcodmunp"},
+    {kIdMunicipioVacio, "txtnommunp"},
+    {kIdCodigoPostalCero, "txtcodposp"},
+    {kIdProvinciaYCodigoPostalNoCoinciden, "txtcodposp"},
+    {kIdCodigoPostalTresUltimosCero, "txtcodposp"},
+    {kIdTelefonoNueveCifras, "txttelefonop"},  // not of nine digits
+    {kIdTelefonoVacio, "txttelefonop"},        // empty
+    {kIdNifSinDigitoControl, "txtdnip"},
 }};
 
 template <size_t N>

@@ -1,5 +1,6 @@
 #include "servicios/cContribSvr.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesContribuyente.h"
@@ -162,9 +163,9 @@ Resultado<Contribuyente> cContribSvr::guardar(const Contribuyente& c, Modo modo,
     case Guardado:
         break;
     case DniExistente:
-        return VeredictosPartes::Informacion(41);
+        return VeredictosPartes::Informacion(kIdAltaContribuyenteDniExistente);
     case DniDeOtro:
-        return VeredictosPartes::Informacion(42);
+        return VeredictosPartes::Informacion(kIdModificarContribuyenteDniExistente);
     case Cambiado:
         return VeredictosPartes::NoVigente(Vigencia::Cambiada);
     case Borrado:

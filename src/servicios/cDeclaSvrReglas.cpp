@@ -28,6 +28,7 @@
 //        39    the scrapping-plan codes are not admitted after 2006 above 2499 cc;
 //        40    from 2008 a classification other than a passenger car takes N43, T1-T5 or TE
 //  37    the subject's number given
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/cDeclaSvr.h"
 
 #include "catalogo/Catalogo.h"
@@ -55,46 +56,46 @@ struct Regla {
 // Rule number n is entry n - 1. The messages of rules 9 and 39 are completed by whoever shows
 // them (the operation's limits, the operation's text).
 constexpr std::array<Regla, cDeclaSvr::kUltimaRegla> kReglas{{
-    {132, "txtmarca", kNinguna},          // 1
-    {133, "txtmodelo", kNinguna},         // 2
-    {134, "txttipo", kNinguna},           // 3
-    {135, "txtbastidor", kNinguna},       // 4
-    {136, "txtclasificacion", kNinguna},  // 5
-    {137, "txtcilindrada", kNinguna},     // 6
-    {138, "txtoperacion", kNinguna},      // 7
-    {139, "txtbasei", kNinguna},          // 8
-    {140, "txttipoimp", kNinguna},        // 9, with 141
-    {330, "txtdnisp", kSujeto},           // 10
-    {143, "txtnombresp", kSujeto},        // 11
-    {144, "txtviasp", kSujeto},           // 12
-    {145, "txtdomiciliosp", kSujeto},     // 13
-    {146, "txtcodmunsp", kSujeto},        // 14
-    {147, "txtnommunsp", kSujeto},        // 15
-    {148, "txtcodpossp", kSujeto},        // 16
-    {149, "txtcodpossp", kSujeto},        // 17
-    {150, "txtcodpossp", kSujeto},        // 18
-    {151, "txtdnitr", kTransmitente},     // 19
-    {152, "txtdnitr", kTransmitente},     // 20
-    {153, "txtnombretr", kTransmitente},  // 21
-    {154, "txtviatr", kTransmitente},     // 22
-    {155, "txtdomiciliotr", kTransmitente},  // 23
-    {156, "txtpaistr", kTransmitente},    // 24
-    {157, "txtcodpostr", kTransmitente},  // 25
-    {158, "txtcodpostr", kTransmitente},  // 26
-    {159, "txtcodpostr", kTransmitente},  // 27
-    {160, "txtcodpostr", kTransmitente},  // 28
-    {161, "txtnomprovtr", kTransmitente},  // 29
-    {162, "txtnommuntr", kTransmitente},  // 30
-    {163, "txtcodprovtr", kTransmitente},  // 31
-    {164, "txtcodmuntr", kTransmitente},  // 32
-    {283, "txtcilindrada", kNinguna},     // 33
-    {284, "txtcilindrada", kNinguna},     // 34
-    {281, "txtcilindrada", kNinguna},     // 35
-    {282, "txtcilindrada", kNinguna},     // 36
-    {323, "txtdnisp", kSujeto},           // 37
-    {324, "txtoperacion", kNinguna},      // 38
-    {356, "txtoperacion", kNinguna},      // 39, with the operation and 357
-    {362, "txtoperacion", kNinguna},      // 40
+    {kIdMarcaVacia, "txtmarca", kNinguna},                                             // 1
+    {kIdModeloVacio, "txtmodelo", kNinguna},                                           // 2
+    {kIdTipoVacio, "txttipo", kNinguna},                                               // 3
+    {kIdBastidorVacio, "txtbastidor", kNinguna},                                       // 4
+    {kIdClasificacionVacia, "txtclasificacion", kNinguna},                             // 5
+    {kIdCilindradaVacia, "txtcilindrada", kNinguna},                                   // 6
+    {kIdOperacionVacia, "txtoperacion", kNinguna},                                     // 7
+    {kIdBaseImponibleVacia, "txtbasei", kNinguna},                                     // 8
+    {kIdTipoImpositivoMenorQue, "txttipoimp", kNinguna},  // 9, with 141
+    {kIdDniCifErroneoODigitoControl, "txtdnisp", kSujeto},                             // 10
+    {kIdNombreSujetoPasivoVacio, "txtnombresp", kSujeto},                              // 11
+    {kIdSiglasSujetoPasivoVacias, "txtviasp", kSujeto},                                // 12
+    {kIdDomicilioSujetoPasivoVacio, "txtdomiciliosp", kSujeto},                        // 13
+    {kIdCodigoMunicipioSujetoPasivoVacio, "txtcodmunsp", kSujeto},                     // 14
+    {kIdMunicipioSujetoPasivoVacio, "txtnommunsp", kSujeto},                           // 15
+    {kIdCodigoPostalSujetoPasivoCero, "txtcodpossp", kSujeto},                         // 16
+    {kIdProvinciaYCodigoPostalSujetoPasivoNoCoinciden, "txtcodpossp", kSujeto},        // 17
+    {kIdCodigoPostalSujetoPasivoTresUltimosCero, "txtcodpossp", kSujeto},              // 18
+    {kIdDniCifTransmitenteErroneo, "txtdnitr", kTransmitente},                         // 19
+    {kIdDniTransmitenteVacio, "txtdnitr", kTransmitente},                              // 20
+    {kIdNombreTransmitenteVacio, "txtnombretr", kTransmitente},                        // 21
+    {kIdSiglasTransmitenteVacias, "txtviatr", kTransmitente},                          // 22
+    {kIdDomicilioTransmitenteVacio, "txtdomiciliotr", kTransmitente},                  // 23
+    {kIdPaisTransmitenteVacio, "txtpaistr", kTransmitente},                            // 24
+    {kIdProvinciaYCodigoPostalTransmitenteNoCoinciden, "txtcodpostr", kTransmitente},  // 25
+    {kIdCodigoPostalTransmitenteCincoCifras, "txtcodpostr", kTransmitente},            // 26
+    {kIdCodigoPostalTransmitenteTresUltimosCero, "txtcodpostr", kTransmitente},        // 27
+    {kIdCodigoPostalTransmitenteCero, "txtcodpostr", kTransmitente},                   // 28
+    {kIdProvinciaTransmitenteVacia, "txtnomprovtr", kTransmitente},                    // 29
+    {kIdMunicipioTransmitenteVacio, "txtnommuntr", kTransmitente},                     // 30
+    {kIdCodigoProvinciaTransmitenteVacio, "txtcodprovtr", kTransmitente},              // 31
+    {kIdCodigoMunicipioTransmitenteVacio, "txtcodmuntr", kTransmitente},               // 32
+    {kIdOperacionNoP6P7, "txtcilindrada", kNinguna},                                   // 33
+    {kIdOperacionNoP6P7Duplicada, "txtcilindrada", kNinguna},                          // 34
+    {kIdOperacionNoP6BP7B, "txtcilindrada", kNinguna},                                 // 35
+    {kIdOperacionNoP6BP7BDuplicada, "txtcilindrada", kNinguna},                        // 36
+    {kIdDniSujetoPasivoVacio, "txtdnisp", kSujeto},                                    // 37
+    {kIdOperacionN43TnTe, "txtoperacion", kNinguna},                                   // 38
+    {kIdOperacionNoPuedeSer, "txtoperacion", kNinguna},  // 39, with the operation and 357
+    {kIdOperacionN43T1aT5Te, "txtoperacion", kNinguna},                                // 40
 }};
 
 // The rate with no fixed value, recognised by its bits as everywhere in the program.

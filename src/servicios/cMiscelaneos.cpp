@@ -1,6 +1,7 @@
 #include "servicios/cMiscelaneos.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include <QUrlQuery>
 
@@ -26,10 +27,12 @@ Veredicto cMiscelaneos::AccesoAyuOnline(const std::function<bool(const QUrl&)>& 
     if (abrir && abrir(DireccionAyuOnline(Idioma)))
         return {};
     Veredicto v;
-    v.id = 335;
-    v.mensaje = TextoFila(euskera(Idioma) ? 10335 : 335);
+    v.id = kIdNavegadorNoEncontradoMensaje;
+    v.mensaje = TextoFila(euskera(Idioma) ? kIdNavegadorNoEncontradoMensaje + 10000
+                          : kIdNavegadorNoEncontradoMensaje);
     v.botones = vb::Exclamation;
-    v.titulo = TextoFila(euskera(Idioma) ? 10336 : 336);
+    v.titulo = TextoFila(euskera(Idioma) ? kIdNavegadorNoEncontrado + 10000
+                         : kIdNavegadorNoEncontrado);
     return v;
 }
 
@@ -53,7 +56,7 @@ Veredicto cMiscelaneos::MostrarOnlineInfo() const
     Veredicto v;
     v.mensaje = texto;
     v.botones = vb::Information;
-    v.titulo = TextoFila(euskera(Idioma) ? 10361 : 361);
+    v.titulo = TextoFila(euskera(Idioma) ? kIdDescripcionServicio + 10000 : kIdDescripcionServicio);
     return v;
 }
 

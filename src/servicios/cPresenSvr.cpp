@@ -1,5 +1,6 @@
 #include "servicios/cPresenSvr.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/ArreglosPartes.h"
 #include "servicios/PosicionesPresentador.h"
 #include "servicios/Conexion.h"
@@ -59,19 +60,19 @@ QVariantList filaGuardada(const Arreglo& a, const QString& org)
 // The texts of a save array, as the store keeps them (see the contributor's store). An empty
 // number is, for a presenter, a wrong one.
 constexpr ColumnaTexto kTextos[] = {
-    {P::DNIP, 9, 26, "txtdnip", 330},
-    {P::NOMBREP, 40, 27, "txtnombrep", 30},
-    {P::VIAP, 2, 13, "txtviap"},
-    {P::DOMICILIOP, 20, 19, "txtdomiciliop"},
-    {P::LETRAP, 2, 21, "txtletrap"},
-    {P::ESCALERAP, 2, 20, "txtescalerap"},
-    {P::PISOP, 2, 23, "txtpisop"},
-    {P::MANOP, 3, 24, "txtmanop"},
-    {P::CODPROVP, kAnchoDeCifras, 10, "txtcodprovp"},
-    {P::CODPOSP, kAnchoDeCifras, 25, "txtcodposp"},
-    {P::CODMUNP, kAnchoDeCifras, 12, "txtcodmunp"},
-    {P::NOMMUNP, 25, 14, "txtnommunp"},
-    {P::TELEFONOP, 9, 194, "txttelefonop"},
+    {P::DNIP, 9, kIdDniCif, "txtdnip", kIdDniCifErroneoODigitoControl},
+    {P::NOMBREP, 40, kIdEtiquetaApellidosNombre, "txtnombrep", kIdNombreVacio},
+    {P::VIAP, 2, kIdVia, "txtviap"},
+    {P::DOMICILIOP, 20, kIdDomicilio, "txtdomiciliop"},
+    {P::LETRAP, 2, kIdLetra, "txtletrap"},
+    {P::ESCALERAP, 2, kIdEscalera, "txtescalerap"},
+    {P::PISOP, 2, kIdPiso, "txtpisop"},
+    {P::MANOP, 3, kIdMano, "txtmanop"},
+    {P::CODPROVP, kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovp"},
+    {P::CODPOSP, kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposp"},
+    {P::CODMUNP, kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunp"},
+    {P::NOMMUNP, 25, kIdEtiquetaNombreMunicipio, "txtnommunp"},
+    {P::TELEFONOP, 9, kIdEtiquetaTelefono, "txttelefonop"},
 };
 
 // The save array of a value, in the order of PosPresentador.
@@ -130,11 +131,11 @@ Resultado<Presentador> cPresenSvr::GuardarPresentador(const Presentador& p,
     const int64_t nueva = VersionFila::Nueva();
     if (cspr == 0) {
         if (titular != 0)
-            return VeredictosPartes::Informacion(195);
+            return VeredictosPartes::Informacion(kIdAltaPresentadorDniExistente);
         tabla().Insertar(db, 0, fila, nueva, org);
     } else {
         if (titular != 0 && titular != cspr)
-            return VeredictosPartes::Informacion(196);
+            return VeredictosPartes::Informacion(kIdModificarPresentadorDniExistente);
         QSqlQuery actual = Ejecutar(db, QStringLiteral("SELECT DNIP FROM PRESENTADORES WHERE CSPR = ?"),
                                     {cspr}, org);
         if (!actual.next()) {
@@ -147,7 +148,7 @@ Resultado<Presentador> cPresenSvr::GuardarPresentador(const Presentador& p,
             const bool otroDni =
                 actual.value(0).toString().compare(dni, Qt::CaseInsensitive) != 0;
             if (otroDni && ContadoresPartes::ComoPresentador(db, cspr, org) > 0)
-                return VeredictosPartes::Informacion(197);
+                return VeredictosPartes::Informacion(kIdDniPresentadorEnDeclaraciones);
             if (!vigilada) {
                 tabla().Actualizar(db, cspr, fila, nueva, org);
             } else if (const Vigencia v =

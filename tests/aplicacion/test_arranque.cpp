@@ -1,5 +1,6 @@
 // Start-up end to end on a temporary program folder: the paths, the first run with the
 // language chooser, a later run, and the ways start-up stops.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
@@ -152,7 +153,7 @@ private slots:
         QVERIFY(arrancar());
         QVERIFY(QFile::exists(carpeta.tablas() + "VELDOMOD.mdb"));
         // Without a version record in the program's folder, id 342 shows before any window.
-        QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(342));
+        QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(kIdSinInformacionVersion));
         QCOMPARE(RelojSeam::esperas().size(), 1);
         QVERIFY(EsperaDe(RelojSeam::esperas()[0], 3000));
         QVERIFY(VentanaMDI() && VentanaMDI()->isVisible());

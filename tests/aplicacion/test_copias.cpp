@@ -3,6 +3,7 @@
 // database is open and in WAL mode, the question before replacing a backup, the failures that leave everything as it
 // was, and the restore of a good file, of files that are not backups of this program, and one
 // answered No.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
@@ -156,7 +157,7 @@ private slots:
         // No question when there was no backup; the user is told it is done.
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Information));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, Texto(349));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, Texto(kIdCopiaSeguridad));
         // The live database goes on working.
         general().CambiarIdioma(QStringLiteral("C"));
         QCOMPARE(general().ObtenerIdioma(), QStringLiteral("C"));
@@ -197,8 +198,8 @@ private slots:
         QVERIFY(paraCopia().CrearBackup());
         QCOMPARE(MensajeSeam::registro().size(), 2);
         const auto& pregunta = MensajeSeam::registro()[0];
-        QCOMPARE(pregunta.texto, Texto(337));
-        QCOMPARE(pregunta.titulo, Texto(349));
+        QCOMPARE(pregunta.texto, Texto(kIdCopiaSeguridadExistente));
+        QCOMPARE(pregunta.titulo, Texto(kIdCopiaSeguridad));
         QCOMPARE(pregunta.botones, kPregunta);
         QCOMPARE(general(copia()).ObtenerIdioma(), QStringLiteral("E"));
         Conexion::Cerrar(copia());
@@ -235,8 +236,8 @@ private slots:
         c.Idioma = 10000;
         MensajeSeam::setNextAnswer(vb::No);
         c.CrearBackup();
-        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(10337));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(10349));
+        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(kIdCopiaSeguridadExistente + 10000));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdCopiaSeguridad + 10000));
     }
 
     // When the backup cannot be written the user gets ids 338 and 339, and nothing changes.
@@ -246,8 +247,8 @@ private slots:
         const QString antes = Volcado(mdbmod);
         QCOMPARE(paraCopia().CrearBackup(), false);
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(338));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, Texto(339));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdErrorCopiaSeguridad));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, Texto(kIdCopiaSeguridadFallida));
         QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Critical));
         QCOMPARE(Volcado(mdbmod), antes);
         QCOMPARE(Bytes(CarpetaPrograma() + QStringLiteral("/backups")), QByteArray("no soy una carpeta"));
@@ -262,7 +263,7 @@ private slots:
         CopiaSeguridad c = paraCopia();
         c.ArchivoOrigen = QStringLiteral("NO_EXISTE.mdb");
         QCOMPARE(c.CrearBackup(), false);
-        QCOMPARE(MensajeSeam::registro().last().texto, Texto(338));
+        QCOMPARE(MensajeSeam::registro().last().texto, Texto(kIdErrorCopiaSeguridad));
         QCOMPARE(Bytes(copia()), primera);
         QCOMPARE(restos(carpetaCopias(), {QStringLiteral("VELDOMod_bak.mdb")}), QStringList());
     }
@@ -282,8 +283,8 @@ private slots:
         MensajeSeam::setNextAnswer(vb::Yes);
         QCOMPARE(paraRestaurar().CrearRestore(), true);
         const auto& pregunta = MensajeSeam::registro()[0];
-        QCOMPARE(pregunta.texto, Texto(340));
-        QCOMPARE(pregunta.titulo, Texto(341));
+        QCOMPARE(pregunta.texto, Texto(kIdPreguntaRestaurar));
+        QCOMPARE(pregunta.titulo, Texto(kIdRestaurarBaseDatos));
         QCOMPARE(pregunta.botones, kPregunta);
 
         QCOMPARE(Volcado(mdbmod), enLaCopia);
@@ -337,7 +338,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);
         QCOMPARE(paraRestaurar().CrearRestore(), false);
         QCOMPARE(MensajeSeam::registro().size(), 2);
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(341));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdRestaurarBaseDatos));
         QVERIFY2(MensajeSeam::registro()[1].texto.contains(
                      QStringLiteral("no es una copia de seguridad de la base de datos de este programa")),
                  qPrintable(MensajeSeam::registro()[1].texto));
@@ -387,9 +388,9 @@ private slots:
         QCOMPARE(paraRestaurar().CrearRestore(), false);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& aviso = MensajeSeam::registro()[0];
-        QVERIFY(aviso.texto != Texto(340));
+        QVERIFY(aviso.texto != Texto(kIdPreguntaRestaurar));
         QVERIFY(aviso.texto.contains(QLatin1String("no es una copia de seguridad")));
-        QCOMPARE(aviso.titulo, Texto(341));
+        QCOMPARE(aviso.titulo, Texto(kIdRestaurarBaseDatos));
         QCOMPARE(Volcado(mdbmod), antes);
         QCOMPARE(Bytes(mdbmod), bytesAntes);
         QCOMPARE(restos(m_carpeta->tablas(), {QStringLiteral("VELDOMOD.mdb"), QStringLiteral("VELDOLEC.mdb")}),
@@ -403,7 +404,7 @@ private slots:
         c.Idioma = 10000;
         QCOMPARE(c.CrearRestore(), false);
         QVERIFY(MensajeSeam::registro()[0].texto.contains(QLatin1String("ez da programa honen")));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(10341));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdRestaurarBaseDatos + 10000));
     }
 
     // A backup of a newer program cannot be used by this one: refused, with its own reason.
@@ -442,7 +443,7 @@ private slots:
         QCOMPARE(dialogo.guardar, false);
         QCOMPARE(dialogo.filtro, QStringLiteral("archivos mdb (*.mdb)"));
         QCOMPARE(dialogo.carpeta, carpetaCopias());
-        QCOMPARE(dialogo.titulo, Texto(359));
+        QCOMPARE(dialogo.titulo, Texto(kIdRestaurarCopiaSeguridad));
         QVERIFY(MensajeSeam::registro().isEmpty());
 
         // A copy kept elsewhere.

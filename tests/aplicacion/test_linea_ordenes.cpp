@@ -1,5 +1,6 @@
 // The command line: what starts the program as usual, what is done without a window, what is
 // refused, in the language of the locale.
+#include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/FormatoRegistroVersion.h"
 #include "aplicacion/LineaDeOrdenes.h"
 #include "plataforma/General.h"
@@ -108,7 +109,7 @@ private slots:
         const Resultado r = Llamar({"--version"});
         QCOMPARE(r.estado, std::optional(1));
         QVERIFY(r.salida.isEmpty());
-        QCOMPARE(r.errores, TextoFila(342) + "\n");
+        QCOMPARE(r.errores, TextoFila(kIdSinInformacionVersion) + "\n");
     }
 
     void ayudaListaLasOpciones()

@@ -1,5 +1,6 @@
 // The main window: menus and toolbar in both languages, the enabling rules with the counters,
 // the recent declarations, the ways out, help, backup and restore from the menu.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
@@ -294,7 +295,7 @@ private slots:
         accion("mnuNuevoContribuyente")->trigger();
         auto* panel = m_ventana->findChild<QWidget*>("FrmConDatos");
         QVERIFY(panel);
-        QCOMPARE(panel->windowTitle(), Texto(3));
+        QCOMPARE(panel->windowTitle(), Texto(kIdDatosContribuyente));
         QVERIFY(!menu("mnuDeclaracion")->menuAction()->isEnabled());
         panel->close();
         QTRY_VERIFY(!m_ventana->findChild<QWidget*>("FrmConDatos"));
@@ -340,13 +341,13 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         accion("mnuAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
+        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(kIdNavegadorNoEncontradoMensaje));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdNavegadorNoEncontrado));
         QCOMPARE(MensajeSeam::registro()[0].icono(), int(vb::Exclamation));
         MensajeSeam::setNextAnswer(vb::OK);  // the description of the service
         accion("mnuDescripAsisOnline")->trigger();
         QCOMPARE(MensajeSeam::registro().size(), 2);
-        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(361));
+        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(kIdDescripcionServicio));
         QCOMPARE(MensajeSeam::registro()[1].icono(), int(vb::Information));
         QCOMPARE(NavegadorSeam::registro().size(), 2);
     }
@@ -359,14 +360,14 @@ private slots:
         QVERIFY(QFile::exists(copia));
         // No question the first time: at most the notice that the copy was made.
         for (const auto& m : MensajeSeam::registro())
-            QVERIFY(m.texto != Texto(337));
+            QVERIFY(m.texto != Texto(kIdCopiaSeguridadExistente));
         // A second backup replaces the first, after the question of id 337.
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::Yes);
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that the copy was made
         accion("mnuBackup")->trigger();
         QVERIFY(!MensajeSeam::registro().isEmpty());
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(337));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdCopiaSeguridadExistente));
     }
 
     // A restore of a copy with fewer returns leaves no entry of a return that is gone.
@@ -414,7 +415,7 @@ private slots:
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::No);
         accion("mnuRestore")->trigger();
-        QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(340));
+        QCOMPARE(MensajeSeam::registro().value(0).texto, Texto(kIdPreguntaRestaurar));
         QCOMPARE(Entrada().IDI(), QStringLiteral("E"));
         QCOMPARE(m_ventana->windowTitle(), QStringLiteral("Veldoriak"));
         // Answered Yes: the copy, in Spanish, comes back with its language.

@@ -4,6 +4,7 @@
 // checks is named on stderr and the others are printed, the status counting the failures. And
 // --listar: the returns as a CSV table, read back with Python's csv module and compared with
 // the store.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 #include "SalidaOrdenes.h"
@@ -100,7 +101,7 @@ private slots:
                                       QStringLiteral("--fecha"), QStringLiteral("11/03/2004")},
                                      m_dir.path());
         QCOMPARE(r.estado, std::optional<int>(1));
-        QVERIFY2(r.error.contains(QStringLiteral("Declaración %1: %2").arg(m_mala).arg(Texto(132).trimmed())),
+        QVERIFY2(r.error.contains(QStringLiteral("Declaración %1: %2").arg(m_mala).arg(Texto(kIdMarcaVacia).trimmed())),
                  qPrintable(r.error));
         // Progress: one line per return.
         QVERIFY(r.error.contains(QStringLiteral("Declaración %1 (50/50)").arg(m_codigos.last())));

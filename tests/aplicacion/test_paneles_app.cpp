@@ -1,4 +1,5 @@
 // The small panels of the core: the first-run language chooser, the preferences and the splash.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/ProgramaPrueba.h"
 #include "registros/actualizacion/cActOnline.h"
 #include "registros/nucleo/CEntrada.h"
@@ -77,9 +78,9 @@ private slots:
         QCOMPARE(idioma.windowTitle(), QStringLiteral("Selección de Idioma/Hizkuntzaren hautapena"));
         QCOMPARE(idioma.findChild<QGroupBox*>("Frame1")->title(), QStringLiteral("Idioma/Hizkuntza"));
         QCOMPARE(idioma.findChild<QPushButton*>("cmdcastellano")->text(),
-                 QStringLiteral("&Castellano\n\n") + TextoFila(317));
+                 QStringLiteral("&Castellano\n\n") + TextoFila(kIdCastellanoEnOtraLengua));
         QCOMPARE(idioma.findChild<QPushButton*>("cmdeuskera")->text(),
-                 QStringLiteral("&Euskera\n\n") + TextoFila(318));
+                 QStringLiteral("&Euskera\n\n") + TextoFila(kIdEuskeraEnOtraLengua));
         Entrada().CambiarIdioma(Idioma::Euskera);
         FrmIdioma vasco(VentanaMDI());
         QCOMPARE(vasco.windowTitle(), QStringLiteral("Hizkuntzaren hautapena/Selección de idioma"));

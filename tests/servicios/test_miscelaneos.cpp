@@ -3,6 +3,7 @@
 // and the message box, is tested in tests/paneles/dialogos/test_asistencia_online.cpp), and the
 // department's name for the form.
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/cMiscelaneos.h"
 #include "valores/BotonesMensaje.h"
 
@@ -24,10 +25,10 @@ private slots:
         QVERIFY(abierto.vacio());
         QCOMPARE(pedida, cMiscelaneos::DireccionAyuOnline(0));
         const Veredicto cerrado = m.AccesoAyuOnline([](const QUrl&) { return false; });
-        QCOMPARE(cerrado.id, 335);
-        QCOMPARE(cerrado.mensaje, TextoFila(335));
+        QCOMPARE(cerrado.id, kIdNavegadorNoEncontradoMensaje);
+        QCOMPARE(cerrado.mensaje, TextoFila(kIdNavegadorNoEncontradoMensaje));
         QCOMPARE(cerrado.botones, int(vb::Exclamation));
-        QCOMPARE(cerrado.titulo, TextoFila(336));
+        QCOMPARE(cerrado.titulo, TextoFila(kIdNavegadorNoEncontrado));
         QCOMPARE(m.MostrarOnlineInfo().botones, int(vb::Information));
     }
 

@@ -3,6 +3,7 @@
 // contributors and presenters with the program's own message and the field to focus, and the
 // store stays as it was; nothing is changed silently. And the searches of the lists find names
 // whatever the case of their letters beyond ASCII.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -73,22 +74,22 @@ QList<Caso> NombresImposibles()
 {
     return {
         {"blancos", QStringLiteral("     "), 30, QStringLiteral("La casilla Nombre debe tener algún valor")},
-        {"NUL delante", QString(kNul) + QStringLiteral("GARCIA"), kIdTextoCaracteres,
+        {"NUL delante", QString(kNul) + QStringLiteral("GARCIA"), kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"solo NUL", QString(kNul), kIdTextoCaracteres,
+        {"solo NUL", QString(kNul), kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
         {"mitad alta sola", QStringLiteral("GAR") + kMitadAlta + QStringLiteral("CIA"),
-         kIdTextoCaracteres,
+         kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"mitad baja sola", QStringLiteral("GARCIA") + kMitadBaja, kIdTextoCaracteres,
+        {"mitad baja sola", QStringLiteral("GARCIA") + kMitadBaja, kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"U+FFFE", QStringLiteral("GARCIA\uFFFE"), kIdTextoCaracteres,
+        {"U+FFFE", QStringLiteral("GARCIA\uFFFE"), kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"U+FFFF", QStringLiteral("GAR\uFFFFCIA"), kIdTextoCaracteres,
+        {"U+FFFF", QStringLiteral("GAR\uFFFFCIA"), kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"tabulador", QStringLiteral("GARCIA\tLOPEZ"), kIdTextoCaracteres,
+        {"tabulador", QStringLiteral("GARCIA\tLOPEZ"), kIdCasillaCaracteresNoGuardables,
          QStringLiteral("La casilla Apellidos y Nombre contiene caracteres que no se pueden guardar")},
-        {"41 letras", QString(41, QLatin1Char('N')), kIdTextoLargo,
+        {"41 letras", QString(41, QLatin1Char('N')), kIdCasillaDemasiadoLarga,
          QStringLiteral("La casilla Apellidos y Nombre no puede tener más de 40 caracteres")},
     };
 }
@@ -206,11 +207,11 @@ private slots:
     void mensajeEnEuskera()
     {
         EstablecerIdiomaPrograma(Idioma::Euskera);
-        const ColumnaTexto c[] = {{P::NOMBREC, 40, 27, "txtnombrec"}};
+        const ColumnaTexto c[] = {{P::NOMBREC, 40, kIdEtiquetaApellidosNombre, "txtnombrec"}};
         Arreglo datos(P::Tamano);
         datos[P::NOMBREC] = QString(41, QLatin1Char('N'));
         const Veredicto v = ComprobarTextos(datos, c, Blancos::Recortados);
-        QCOMPARE(v.id, kIdTextoLargo);
+        QCOMPARE(v.id, kIdCasillaDemasiadoLarga);
         QCOMPARE(v.mensaje,
                  QStringLiteral("Deiturak eta izena laukiak ezin ditu 40 karaktere baino gehiago izan"));
         QCOMPARE(v.control, QStringLiteral("txtnombrec"));
@@ -364,7 +365,7 @@ private slots:
             Rechazo(Presentadores().GuardarPresentador(
                      PresentadorValido(QStringLiteral("         "), QStringLiteral("GESTORIA")), Sobrescritura::CualquierVersion));
         QVERIFY(!rechazo.vacio());
-        QCOMPARE(rechazo.id, 330);
+        QCOMPARE(rechazo.id, kIdDniCifErroneoODigitoControl);
         QCOMPARE(rechazo.control, QStringLiteral("txtdnip"));
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 0);
     }

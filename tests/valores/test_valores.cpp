@@ -1,5 +1,6 @@
 // The small value types the layers exchange: an amount keeps plain double arithmetic to the
 // last bit, and an answer is either its value or its verdict.
+#include "catalogo/IdsCatalogo.h"
 #include "valores/Contribuyente.h"
 #include "valores/Declaracion.h"
 #include "valores/Importe.h"
@@ -29,11 +30,11 @@ private slots:
         QVERIFY(bien.aceptado());
         QCOMPARE(*bien, 7);
         Veredicto v;
-        v.id = 12;
+        v.id = kIdMunicipioPuntos;
         v.mensaje = QStringLiteral("x");
         Resultado<int> mal(v);
         QVERIFY(!mal);
-        QCOMPARE(mal.veredicto().id, 12);
+        QCOMPARE(mal.veredicto().id, kIdMunicipioPuntos);
         Resultado<void> hecho;
         QVERIFY(hecho.aceptado());
         QVERIFY(!Resultado<void>(v).aceptado());

@@ -1,5 +1,6 @@
 #include "paneles/actualizacion/FrmSinConexion.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/cActOnline.h"
 
 #include "plataforma/Proceso.h"
@@ -55,10 +56,13 @@ void FrmSinConexion::rellenar()
 {
     // Rows are taken as they are, whatever the language, so both languages always show.
     const bool sinConexion = ActOnline().SitAct == SitActualizacion::SinConexion;
-    setWindowTitle(sinConexion ? TextoFila(354) + QStringLiteral(" / ") + TextoFila(10354)
-                               : TextoFila(355) + QStringLiteral(" / ") + TextoFila(10355));
-    lblTituloC->setText(TextoFila(sinConexion ? 351 : 353));
-    lblTituloE->setText(TextoFila(sinConexion ? 10351 : 10353));
+    setWindowTitle(sinConexion ? TextoFila(kIdFalloConexion) + QStringLiteral(" / ")
+                   + TextoFila(kIdFalloConexion + 10000) : TextoFila(kIdDatosErroneos)
+                   + QStringLiteral(" / ") + TextoFila(kIdDatosErroneos + 10000));
+    lblTituloC->setText(TextoFila(sinConexion ? kIdSinConexionInternet
+                                  : kIdErrorDatosActualizacion));
+    lblTituloE->setText(TextoFila(sinConexion ? kIdSinConexionInternet + 10000
+                                  : kIdErrorDatosActualizacion + 10000));
     // The box shows the setting as it stands; only the user's changes store it.
     ChkNoPreg->setChecked(ActOnline().ActOnline == 0);
     connect(ChkNoPreg, &QCheckBox::toggled, this, [this](bool marcado) { ChkNoPreg_Click(marcado); });

@@ -1,5 +1,6 @@
 #include "paneles/actualizacion/LanzarExplorador.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -86,5 +87,6 @@ void LanzarExplorador(QWidget* /*owner*/, const QString& url)
     escribirPagina(ruta, url);
     // The page stays in place after the browser opens it; the next call deletes it.
     if (!AbrirEnNavegador(QUrl::fromLocalFile(ruta)))
-        Mensaje(Texto(335), vb::Exclamation, Texto(336));
+        Mensaje(Texto(kIdNavegadorNoEncontradoMensaje), vb::Exclamation,
+                Texto(kIdNavegadorNoEncontrado));
 }

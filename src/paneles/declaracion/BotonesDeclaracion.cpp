@@ -1,6 +1,7 @@
 // The buttons of the declaration form: Aceptar (validate, save when changed, close), Cancelar
 // (close without a question), Imprimir (save first when changed, then ask for the print), and
 // the closing that marks the list the form came from for a reload.
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 
 #include "catalogo/Catalogo.h"
@@ -110,7 +111,8 @@ void FrmDeclaracion::Imprimir()
 {
     cDecDatos& d = DecDatos();
     if (d.MODIFICADO) {
-        const QString pregunta = Texto(165) + QStringLiteral("\n") + Texto(166);
+        const QString pregunta = Texto(kIdGuardarAntesDeImprimir) + QStringLiteral("\n")
+            + Texto(kIdPreguntaGuardarDeclaracion);
         if (Mensaje(pregunta, vb::YesNo + vb::Information, windowTitle()) != vb::Yes) {
             cmdImprimir->setFocus(Qt::OtherFocusReason);
             return;

@@ -1,5 +1,6 @@
 // The fields of the return on the declaration form: what leaving each one, or clicking a mark,
 // writes into DecDatos() before the panel is drawn again.
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 
 #include "catalogo/Catalogo.h"
@@ -171,7 +172,8 @@ void FrmDeclaracion::ElegirOperacion(bool alSalir)
     if (m_cargandoOperaciones || m_saltarValidacion || d.FECHAD == 0)
         return;
     if (cmbOperacion->currentIndex() < 0) {
-        Mensaje(Texto(130), vb::Exclamation, Texto(131));
+        Mensaje(Texto(kIdSeleccionarCodigoLista), vb::Exclamation,
+                Texto(kIdErrorIntroduccionDatos));
         txtoperacion->clear();
         d.OPERACION.clear();
         if (alSalir)

@@ -1,6 +1,7 @@
 #include "paneles/declaracion/FrmConDeclaraciones.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/partes/cConDeclaraciones.h"
 
 #include <QGridLayout>
@@ -37,20 +38,20 @@ void BotonesDeParte(QPushButton* aceptar, QPushButton* cancelar, QPushButton* nu
                     QPushButton* copiar, int idCopiar, QPushButton* imprimir, QPushButton* eliminar,
                     QPushButton* buscar, QPushButton* todos)
 {
-    aceptar->setText(Texto(54));
-    aceptar->setToolTip(Texto(55));
-    cancelar->setText(Texto(56));
-    cancelar->setToolTip(Texto(57));
-    nuevo->setText(Texto(50));
-    nuevo->setToolTip(Texto(51));
+    aceptar->setText(Texto(kIdBotonDatosDeclaracion));
+    aceptar->setToolTip(Texto(kIdDatosDeLaDeclaracion));
+    cancelar->setText(Texto(kIdBotonAtrasDeclaraciones));
+    cancelar->setToolTip(Texto(kIdVolverPanelAnterior));
+    nuevo->setText(Texto(kIdBotonNuevaDeclaracion));
+    nuevo->setToolTip(Texto(kIdNuevaDeclaracion));
     copiar->setText(Texto(idCopiar));
-    copiar->setToolTip(Texto(49));
-    imprimir->setText(Texto(52));
-    imprimir->setToolTip(Texto(53));
-    eliminar->setText(Texto(58));
-    eliminar->setToolTip(Texto(59));
-    buscar->setText(Texto(61));
-    todos->setText(Texto(62));
+    copiar->setToolTip(Texto(kIdCopiarDeclaracion));
+    imprimir->setText(Texto(kIdBotonImprimirDeclaracion));
+    imprimir->setToolTip(Texto(kIdImprimirDeclaracion));
+    eliminar->setText(Texto(kIdBotonEliminarDeclaracion));
+    eliminar->setToolTip(Texto(kIdEliminarDeclaracion));
+    buscar->setText(Texto(kIdBusqueda));
+    todos->setText(Texto(kIdTodos));
 }
 
 }  // namespace
@@ -94,8 +95,10 @@ FrmConDeclaraciones::FrmConDeclaraciones(QWidget* parent)
     lblnumsp = Rotulo(this, "lblnumsp");
     lblnumtr = Rotulo(this, "lblnumtr");
     const QList<std::tuple<const char*, int, QLabel*>> filas = {
-        {"lblcontribuyente", 46, lbldcontribuyente}, {"lbldni", 47, lblddni},
-        {"lblsp", 45, lblnumsp}, {"lbltr", 44, lblnumtr}};
+        {"lblcontribuyente", kIdEtiquetaContribuyente, lbldcontribuyente},
+        {"lbldni", kIdEtiquetaDni, lblddni},
+        {"lblsp", kIdEtiquetaContadorSujetoPasivo, lblnumsp},
+        {"lbltr", kIdEtiquetaContadorTransmitente, lblnumtr}};
     int fila = 0;
     for (const auto& [nombre, id, valor] : filas) {
         QLabel* rotulo = Rotulo(this, nombre);
@@ -129,11 +132,11 @@ QString FrmConDeclaraciones::TextoCriterio(int campo, const QString& valor) cons
 
 void FrmConDeclaraciones::Anadir_captions()
 {
-    setWindowTitle(Texto(43));
+    setWindowTitle(Texto(kIdDeclaracionesDeContribuyente));
     for (const auto& [rotulo, id] : m_rotulos)
         rotulo->setText(Texto(id));
-    BotonesDeParte(cmdAceptar, cmdCancelar, cmdNuevo, cmdCopiar, 48, cmdImprimir, cmdEliminar,
-                   cmdBuscar, cmdTodos);
+    BotonesDeParte(cmdAceptar, cmdCancelar, cmdNuevo, cmdCopiar, kIdBotonCopiarDeclaracion,
+                   cmdImprimir, cmdEliminar, cmdBuscar, cmdTodos);
 }
 
 // The counters are asked again each time: a return may have come or gone on a side trip.
@@ -149,7 +152,7 @@ void FrmConDeclaraciones::PresentaCabecera()
 
 void FrmConDeclaraciones::Eliminar()
 {
-    EliminarSeleccionada(67);
+    EliminarSeleccionada(kIdGuionEliminarDeclaracion);
     // A party without returns has nothing to show here.
     if (ConDeclaraciones().NUMDECLASEL == 0)
         Cerrar();
@@ -167,8 +170,9 @@ FrmPreDeclaraciones::FrmPreDeclaraciones(QWidget* parent)
     lblddni = Rotulo(this, "lblddni");
     lblnumdecla = Rotulo(this, "lblnumdecla");
     const QList<std::tuple<const char*, int, QLabel*>> filas = {
-        {"lblpresentador", 201, lbldpresentador}, {"lbldni", 47, lblddni},
-        {"lblnum", 202, lblnumdecla}};
+        {"lblpresentador", kIdEtiquetaPresentador, lbldpresentador},
+        {"lbldni", kIdEtiquetaDni, lblddni},
+        {"lblnum", kIdEtiquetaContadorDeclaraciones, lblnumdecla}};
     int fila = 0;
     for (const auto& [nombre, id, valor] : filas) {
         QLabel* rotulo = Rotulo(this, nombre);
@@ -202,11 +206,11 @@ QString FrmPreDeclaraciones::TextoCriterio(int campo, const QString& valor) cons
 
 void FrmPreDeclaraciones::Anadir_captions()
 {
-    setWindowTitle(Texto(200));
+    setWindowTitle(Texto(kIdDeclaracionesDePresentador));
     for (const auto& [rotulo, id] : m_rotulos)
         rotulo->setText(Texto(id));
-    BotonesDeParte(cmdAceptar, cmdCancelar, cmdNuevo, cmdCopiar, 175, cmdImprimir, cmdEliminar,
-                   cmdBuscar, cmdTodos);
+    BotonesDeParte(cmdAceptar, cmdCancelar, cmdNuevo, cmdCopiar, kIdBotonCopiar, cmdImprimir,
+                   cmdEliminar, cmdBuscar, cmdTodos);
 }
 
 void FrmPreDeclaraciones::PresentaCabecera()
@@ -219,7 +223,7 @@ void FrmPreDeclaraciones::PresentaCabecera()
 
 void FrmPreDeclaraciones::Eliminar()
 {
-    EliminarSeleccionada(67);
+    EliminarSeleccionada(kIdGuionEliminarDeclaracion);
     if (PreDeclaraciones().NUMDECLASEL == 0)
         Cerrar();
 }

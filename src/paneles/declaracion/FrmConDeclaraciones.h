@@ -4,6 +4,7 @@
 // CmdDeclaraciones; they show the party's name, number and counters above the grid, and lead
 // to the form (open, copy, new), to the print and to the deletion of a return. Their states
 // live in ConDeclaraciones() and PreDeclaraciones().
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/PanelDeclaraciones.h"
 
 class QLabel;
@@ -19,8 +20,8 @@ protected:
     void IniciarEstado() override;
     QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
-    int idAyudaResultado() const override { return 64; }
-    int idAyudaBusqueda() const override { return 319; }
+    int idAyudaResultado() const override { return kIdAyudaOrdenarDeclaraciones; }
+    int idAyudaBusqueda() const override { return kIdAyudaCriterioDeclaraciones; }
     void PresentaCabecera() override;
     void Eliminar() override;
 
@@ -43,8 +44,8 @@ protected:
     void IniciarEstado() override;
     QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
-    int idAyudaResultado() const override { return 320; }
-    int idAyudaBusqueda() const override { return 321; }
+    int idAyudaResultado() const override { return kIdAyudaOrdenarDeclaracionesLista; }
+    int idAyudaBusqueda() const override { return kIdAyudaCriterioDescripcionOperacion; }
     void PresentaCabecera() override;
     void Eliminar() override;
 

@@ -1,6 +1,7 @@
 #include "paneles/declaracion/FrmDecLista.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/declaracion/cDecLista.h"
 
 #include <QMdiSubWindow>
@@ -46,31 +47,31 @@ bool FrmDecLista::ModoEliminar() const
 
 void FrmDecLista::Anadir_captions()
 {
-    setWindowTitle(Texto(174));
-    cmdAceptar->setText(Texto(75));
+    setWindowTitle(Texto(kIdAbrirDeclaracion));
+    cmdAceptar->setText(Texto(kIdBotonDatos));
     cmdAceptar->setToolTip(TextoSegunIdioma(QStringLiteral("Datos de la declaración"),
                                             QStringLiteral("Aitorpenaren datuak")));
-    cmdCancelar->setText(Texto(76));
-    cmdCancelar->setToolTip(Texto(77));
-    cmdNuevo->setText(Texto(176));
-    cmdNuevo->setToolTip(Texto(51));
-    cmdCopiar->setText(Texto(175));
-    cmdCopiar->setToolTip(Texto(49));
-    cmdImprimir->setText(Texto(103));
-    cmdImprimir->setToolTip(Texto(177));
-    cmdBuscar->setText(Texto(61));
-    cmdTodos->setText(Texto(62));
+    cmdCancelar->setText(Texto(kIdBotonAtras));
+    cmdCancelar->setToolTip(Texto(kIdVolverMenuPrincipal));
+    cmdNuevo->setText(Texto(kIdBotonNueva));
+    cmdNuevo->setToolTip(Texto(kIdNuevaDeclaracion));
+    cmdCopiar->setText(Texto(kIdBotonCopiar));
+    cmdCopiar->setToolTip(Texto(kIdCopiarDeclaracion));
+    cmdImprimir->setText(Texto(kIdBotonImprimir));
+    cmdImprimir->setToolTip(Texto(kIdImprimirDeclaracionConsejo));
+    cmdBuscar->setText(Texto(kIdBusqueda));
+    cmdTodos->setText(Texto(kIdTodos));
 }
 
 // The title and cmdAceptar follow the mode.
 void FrmDecLista::PresentaCabecera()
 {
     const bool eliminar = ModoEliminar();
-    const QString titulo = Texto(eliminar ? 59 : 174);
+    const QString titulo = Texto(eliminar ? kIdEliminarDeclaracion : kIdAbrirDeclaracion);
     setWindowTitle(titulo);
     if (auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget()))
         marco->setWindowTitle(titulo);
-    cmdAceptar->setText(Texto(eliminar ? 86 : 75));
+    cmdAceptar->setText(Texto(eliminar ? kIdBotonEliminar : kIdBotonDatos));
     cmdAceptar->setToolTip(eliminar ? TextoSegunIdioma(QStringLiteral("Eliminar la declaración seleccionada"),
                                                        QStringLiteral("Deuseztatu hautatutako aitorpena"))
                                     : TextoSegunIdioma(QStringLiteral("Datos de la declaración"),
@@ -115,7 +116,7 @@ QString FrmDecLista::TextoCriterio(int campo, const QString& valor) const
 void FrmDecLista::Aceptar()
 {
     if (ModoEliminar()) {
-        EliminarSeleccionada(178);
+        EliminarSeleccionada(kIdGuionEliminarDeclaracionLista);
         return;
     }
     PanelDeclaraciones::Aceptar();

@@ -3,6 +3,7 @@
 // print, or a new one) or, in the delete mode, to its deletion. Its state lives in DecLista(),
 // whose ENTRADA the navigator sets before opening it ("A" open, "E" delete, "P" back from the
 // declaration form), shows it in the main window and then calls Iniciar().
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/PanelDeclaraciones.h"
 
 class FrmDecLista final : public PanelDeclaraciones {
@@ -18,8 +19,8 @@ protected:
     QList<FilaDeclaracion> CargarDatos() override;
     QString TextoCriterio(int campo, const QString& valor) const override;
     QString ResultadoVacio() const override;
-    int idAyudaResultado() const override { return 320; }
-    int idAyudaBusqueda() const override { return 321; }
+    int idAyudaResultado() const override { return kIdAyudaOrdenarDeclaracionesLista; }
+    int idAyudaBusqueda() const override { return kIdAyudaCriterioDescripcionOperacion; }
     bool ModoEliminar() const override;
     void PresentaCabecera() override;
     void Aceptar() override;

@@ -5,6 +5,7 @@
 #include "paneles/declaracion/FrmDeclaracion.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/controles/EnterComoTab.h"
 #include "paneles/controles/Listas.h"
@@ -221,39 +222,53 @@ void FrmDeclaracion::Disponer()
     };
     QWidget* d = FraDeclaracion;
     auto* lineas = new QVBoxLayout(d);
-    LineaDePanel(lineas, {etiqueta(d, "lblfechad", 121), txtfechad, etiqueta(d, "lbloperacion", 122),
-                          txtoperacion, cmbOperacion});
-    LineaDePanel(lineas, {etiqueta(d, "lblreferencia", 114), txtreferencia, chkAdquirido});
-    LineaDePanel(lineas, {etiqueta(d, "lblmarca", 120), txtmarca, etiqueta(d, "lbltipo", 118), txttipo,
-                          etiqueta(d, "lblmodelo", 119), txtmodelo});
-    LineaDePanel(lineas, {etiqueta(d, "lblbastidor", 117), txtbastidor,
-                          etiqueta(d, "lblclasificacion", 116), txtclasificacion,
-                          etiqueta(d, "lblcilindrada", 115), txtcilindrada, optmotor});
-    LineaDePanel(lineas, {etiqueta(d, "lblreduccion", 326), chkReduccion1, chkReduccion2, chkexento,
-                          chknosujeto});
-    LineaDePanel(lineas, {etiqueta(d, "lblbasei", 124), txtbasei, etiqueta(d, "lblBaseIReducida", 325),
-                          txtBaseIReducida, etiqueta(d, "lbltipoimp", 125), txttipoimp});
-    LineaDePanel(lineas, {etiqueta(d, "lblcuota", 126), txtcuota, etiqueta(d, "lbldeduccion", 127),
-                          txtdeduccion, etiqueta(d, "lbltotal", 123), txttotal});
+    LineaDePanel(lineas, {etiqueta(d, "lblfechad", kIdEtiquetaFechaDevengo), txtfechad,
+                          etiqueta(d, "lbloperacion", kIdEtiquetaCodigoOperacion), txtoperacion,
+                          cmbOperacion});
+    LineaDePanel(lineas, {etiqueta(d, "lblreferencia", kIdEtiquetaReferencia), txtreferencia,
+                          chkAdquirido});
+    LineaDePanel(lineas,
+                 {etiqueta(d, "lblmarca", kIdEtiquetaMarca), txtmarca,
+                  etiqueta(d, "lbltipo", kIdEtiquetaTipo), txttipo,
+                  etiqueta(d, "lblmodelo", kIdEtiquetaModelo), txtmodelo});
+    LineaDePanel(lineas, {etiqueta(d, "lblbastidor", kIdEtiquetaBastidor), txtbastidor,
+                          etiqueta(d, "lblclasificacion", kIdEtiquetaClasificacion),
+                          txtclasificacion, etiqueta(d, "lblcilindrada", kIdEtiquetaCilindrada),
+                          txtcilindrada, optmotor});
+    LineaDePanel(lineas, {etiqueta(d, "lblreduccion", kIdReduccion), chkReduccion1, chkReduccion2,
+                          chkexento, chknosujeto});
+    LineaDePanel(lineas,
+                 {etiqueta(d, "lblbasei", kIdBaseImponible), txtbasei,
+                  etiqueta(d, "lblBaseIReducida", kIdBaseImponibleReducida), txtBaseIReducida,
+                  etiqueta(d, "lbltipoimp", kIdTipoImpositivo), txttipoimp});
+    LineaDePanel(lineas,
+                 {etiqueta(d, "lblcuota", kIdCuota), txtcuota,
+                  etiqueta(d, "lbldeduccion", kIdDeduccion), txtdeduccion,
+                  etiqueta(d, "lbltotal", kIdTotalIngresar), txttotal});
 
     QWidget* p = FraPresentador;
     auto* pre = new QVBoxLayout(p);
-    LineaDePanel(pre, {CmdPresentador, chkConPresentador, etiqueta(p, "lbldnipr", 26), txtdnipr,
-                       etiqueta(p, "lblnombrepr", 27), txtnombrepr});
+    LineaDePanel(pre, {CmdPresentador, chkConPresentador, etiqueta(p, "lbldnipr", kIdDniCif),
+                       txtdnipr, etiqueta(p, "lblnombrepr", kIdEtiquetaApellidosNombre),
+                       txtnombrepr});
 
     QWidget* s = FraSujetoPasivo;
     auto* sp = new QVBoxLayout(s);
     LineaDePanel(sp, {cmdSujetoPasivo});
-    LineaDePanel(sp, {etiqueta(s, "lbldnisp", 26), txtdnisp, etiqueta(s, "lblnombresp", 27), txtnombresp});
+    LineaDePanel(sp,
+                 {etiqueta(s, "lbldnisp", kIdDniCif), txtdnisp,
+                  etiqueta(s, "lblnombresp", kIdEtiquetaApellidosNombre), txtnombresp});
     m_domSp->Lineas(sp);
     m_domSp->Anchos();
 
     QWidget* t = FraTransmitente;
     auto* tr = new QVBoxLayout(t);
     LineaDePanel(tr, {cmdTransmitente, chktipodnitr, chktipodomitr});
-    LineaDePanel(tr, {etiqueta(t, "lbldnitr", 26), txtdnitr, etiqueta(t, "lblnombretr", 27), txtnombretr});
+    LineaDePanel(tr,
+                 {etiqueta(t, "lbldnitr", kIdDniCif), txtdnitr,
+                  etiqueta(t, "lblnombretr", kIdEtiquetaApellidosNombre), txtnombretr});
     m_domTr->Lineas(tr);
-    LineaDePanel(tr, {etiqueta(t, "lblpaistr", 18), txtpaistr});
+    LineaDePanel(tr, {etiqueta(t, "lblpaistr", kIdEtiquetaPais), txtpaistr});
     m_domTr->Anchos();
 
     for (auto [campo, caracteres] :
@@ -323,33 +338,33 @@ void FrmDeclaracion::Conectar()
 
 void FrmDeclaracion::Anadir_captions()
 {
-    setWindowTitle(Texto(91));
+    setWindowTitle(Texto(kIdDatosDeclaracion));
     for (const auto& [etiqueta, id] : m_etiquetas)
         etiqueta->setText(Texto(id));
-    tabTerceros->setTabText(0, Texto(100));
-    tabTerceros->setTabText(1, Texto(101));
-    cmdSujetoPasivo->setText(Texto(92));
-    cmdTransmitente->setText(Texto(99));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(102));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(5));
-    cmdImprimir->setText(Texto(103));
-    cmdImprimir->setToolTip(Texto(177));
-    chkAdquirido->setText(Texto(104));
-    chkexento->setText(Texto(105));
-    optDiesel->setText(Texto(109));
-    optDiesel->setToolTip(Texto(110));
-    optGasolina->setText(Texto(111));
-    optGasolina->setToolTip(Texto(112));
-    chknosujeto->setText(Texto(113));
+    tabTerceros->setTabText(0, Texto(kIdBotonSujetoPasivo));
+    tabTerceros->setTabText(1, Texto(kIdBotonTransmitente));
+    cmdSujetoPasivo->setText(Texto(kIdBotonSeleccionSujetoPasivo));
+    cmdTransmitente->setText(Texto(kIdBotonSeleccionTransmitente));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdGrabarDeclaracion));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdCancelar));
+    cmdImprimir->setText(Texto(kIdBotonImprimir));
+    cmdImprimir->setToolTip(Texto(kIdImprimirDeclaracionConsejo));
+    chkAdquirido->setText(Texto(kIdAdquiridoFueraEspana));
+    chkexento->setText(Texto(kIdExento));
+    optDiesel->setText(Texto(kIdDiesel));
+    optDiesel->setToolTip(Texto(kIdMotorDiesel));
+    optGasolina->setText(Texto(kIdGasolina));
+    optGasolina->setToolTip(Texto(kIdMotorGasolina));
+    chknosujeto->setText(Texto(kIdNoSujeto));
     // The two reductions of the base are shown by their percentage, the same in both languages.
     chkReduccion1->setText(QStringLiteral("50 %"));
     chkReduccion2->setText(QStringLiteral("30 %"));
-    CmdPresentador->setText(Texto(128));
-    chkConPresentador->setText(Texto(129));
-    chktipodnitr->setText(Texto(9));
-    chktipodomitr->setText(Texto(8));
+    CmdPresentador->setText(Texto(kIdBotonPresentador));
+    chkConPresentador->setText(Texto(kIdConPresentador));
+    chktipodnitr->setText(Texto(kIdDniExtranjero));
+    chktipodomitr->setText(Texto(kIdDomicilioExtranjero));
     m_domSp->Anadir_captions();
     m_domTr->Anadir_captions();
 }

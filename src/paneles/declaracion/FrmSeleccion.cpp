@@ -1,6 +1,7 @@
 #include "paneles/declaracion/FrmSeleccion.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/ColumnasContribuyentes.h"
@@ -19,20 +20,20 @@ DisenoLista DisenoContribuyentes()
     d.nombrePanel = QStringLiteral("FrmConSeleccion");
     d.nombreGrid = QStringLiteral("flxContribuyentes");
     d.columnas = ColumnasContribuyentes::Todas();
-    d.idTituloAbrir = 87;
-    d.idTituloEliminar = 87;
-    d.tipDatos = {88};
+    d.idTituloAbrir = kIdListaSeleccionContribuyente;
+    d.idTituloEliminar = kIdListaSeleccionContribuyente;
+    d.tipDatos = {kIdSeleccionarContribuyente};
     d.resultado = {0, " contribuyente(s) seleccionado(s) ", " hautatutako zergaduna(k) "};
     d.resultadoCriterios = {0, " contribuyente(s) seleccionado(s). ", " hautatutako zergaduna(k). "};
     d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
     d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
-    d.idAceptar = 6;
-    d.idCancelar = 4;
-    d.idTipCancelar = 89;
+    d.idAceptar = kIdBotonAceptar;
+    d.idCancelar = kIdBotonCancelar;
+    d.idTipCancelar = kIdVolverDatosDeclaracion;
     d.seleccion = true;
     // The doorways a selection list does not show keep the captions of the party lists.
-    d.idDeclaraciones = 73;
-    d.idTipNuevo = 79;
+    d.idDeclaraciones = kIdBotonDeclaraciones;
+    d.idTipNuevo = kIdNuevoContribuyente;
     return d;
 }
 
@@ -49,20 +50,20 @@ DisenoLista DisenoPresentadores()
         {{0, "Calle", "Helbidea"}, 2515, Qt::AlignLeft},
         {{0, "Municipio", "Udalerria"}, 2500, Qt::AlignLeft},
     };
-    d.idTituloAbrir = 212;
-    d.idTituloEliminar = 212;
-    d.tipDatos = {213};
+    d.idTituloAbrir = kIdListaSeleccionPresentador;
+    d.idTituloEliminar = kIdListaSeleccionPresentador;
+    d.tipDatos = {kIdSeleccionarPresentador};
     d.resultado = {0, " presentador(es) seleccionado(s) ", " hautatutako aurkezlea(k) "};
     d.resultadoCriterios = {0, " presentador(es) seleccionado(s). ", " hautatutako aurkezlea(k). "};
     d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
     d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
-    d.idAceptar = 6;
-    d.idCancelar = 4;
-    d.idTipCancelar = 89;
+    d.idAceptar = kIdBotonAceptar;
+    d.idCancelar = kIdBotonCancelar;
+    d.idTipCancelar = kIdVolverDatosDeclaracion;
     d.seleccion = true;
     // The doorways a selection list does not show keep the captions of the party lists.
-    d.idDeclaraciones = 73;
-    d.idTipNuevo = 79;
+    d.idDeclaraciones = kIdBotonDeclaraciones;
+    d.idTipNuevo = kIdNuevoContribuyente;
     return d;
 }
 
@@ -83,7 +84,7 @@ void FrmConSeleccion::Elegido()
     if (s.ENTRADA == Navegacion::Entrada::Sujeto) {
         // A subject is official and national.
         if (!s.ValidarTipoDniDomicilio()) {
-            Mensaje(Texto(90), vb::Information, windowTitle());
+            Mensaje(Texto(kIdSujetoPasivoNoOficialNacional), vb::Information, windowTitle());
             return;
         }
         if (d.CSSU != s.CSCO)

@@ -1,5 +1,6 @@
 #include "paneles/declaracion/PanelDeclaraciones.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Ventanas.h"
 
 #include "catalogo/Catalogo.h"
@@ -240,7 +241,7 @@ void PanelDeclaraciones::CargarFlxDeclaraciones()
         return;
     }
     LimpiarGrid();
-    lblResultado->setText(Texto(63));
+    lblResultado->setText(Texto(kIdSinDatosCondicion));
     cmdAceptar->setFocus(Qt::OtherFocusReason);
 }
 
@@ -353,7 +354,7 @@ void PanelDeclaraciones::MostrarAyudaAlPie(const QString& texto)
 
 QString PanelDeclaraciones::ResultadoVacio() const
 {
-    return TextoCriterios() + Texto(63);
+    return TextoCriterios() + Texto(kIdSinDatosCondicion);
 }
 
 QString PanelDeclaraciones::TextoCriterios() const
@@ -398,7 +399,7 @@ void PanelDeclaraciones::PresentaBotones()
         w->setVisible(!eliminar);
     PicEliminar->setVisible(eliminar);
     PicCancelar->setVisible(eliminar);
-    cmdBuscar->setText(Texto(resultado ? 61 : 65));
+    cmdBuscar->setText(Texto(resultado ? kIdBusqueda : kIdResultado));
     cmdTodos->setEnabled(!resultado || e.HayCriterios());
 }
 
@@ -477,7 +478,7 @@ void PanelDeclaraciones::BusquedaAbandonada()
     const QString texto = txtBusqueda->text();
     if (e.SELECCIONACTUAL.toInt() == CriteriosDeclaracion::kFecha && !texto.isEmpty()
         && !cFecha::EsFecha(texto, IdiomaPrograma())) {
-        Mensaje(Texto(70), vb::Exclamation, Texto(71));
+        Mensaje(Texto(kIdFechaNoValida), vb::Exclamation, Texto(kIdErrorIntroduccionFecha));
         return;
     }
     e.AnotarBusqueda(texto);
@@ -510,9 +511,12 @@ void PanelDeclaraciones::EliminarSeleccionada(int idEntre)
 {
     cListaDeclaraciones& e = estado();
     const int fila = flxDeclaraciones->RowSel();
-    const QString pregunta = Texto(66) + flxDeclaraciones->TextMatrix(fila, kCodigo) + Texto(idEntre)
-        + flxDeclaraciones->TextMatrix(fila, kReferencia) + Texto(68);
-    if (Mensaje(pregunta, vb::YesNo + vb::Question + vb::DefaultButton2, Texto(69)) != vb::Yes) {
+    const QString pregunta = Texto(kIdPreguntaEliminarDeclaracion)
+        + flxDeclaraciones->TextMatrix(fila, kCodigo) + Texto(idEntre)
+        + flxDeclaraciones->TextMatrix(fila, kReferencia)
+        + Texto(kIdInterrogacionEliminarDeclaracion);
+    if (Mensaje(pregunta, vb::YesNo + vb::Question + vb::DefaultButton2,
+                Texto(kIdBorradoDeclaracion)) != vb::Yes) {
         flxDeclaraciones->setFocus();
         return;
     }
@@ -522,7 +526,7 @@ void PanelDeclaraciones::EliminarSeleccionada(int idEntre)
     PresentaDatos();
     PresentaBotones();
     if (e.NUMDECLASEL == 0)
-        lblResultado->setText(Texto(63));
+        lblResultado->setText(Texto(kIdSinDatosCondicion));
     flxDeclaraciones->setFocus();
 }
 

@@ -2,6 +2,7 @@
 // (looked up among the contributors), their addresses with the pickers, the mirroring of the
 // address when one party stands on both sides, the transmitter's national or foreign boxes,
 // the tab strip, and the way to choose a party from a list.
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/FrmDeclaracion.h"
 
 #include "catalogo/Catalogo.h"
@@ -93,7 +94,7 @@ void FrmDeclaracion::SalirDniSujeto()
     bool bueno = false;
     d.ValidarDniOficial(texto, bueno);
     if (!bueno) {
-        Mensaje(Texto(330), vb::Information, windowTitle());
+        Mensaje(Texto(kIdDniCifErroneoODigitoControl), vb::Information, windowTitle());
         PresentarDeclaracion();
         MostrarPestana(0);
         txtdnisp->setFocus(Qt::OtherFocusReason);
@@ -102,7 +103,7 @@ void FrmDeclaracion::SalirDniSujeto()
     const std::optional<Contribuyente> parte = d.ExisteContribuyente(texto);
     if (parte) {
         if (!SirveDeSujeto(*parte)) {
-            Mensaje(Texto(167), vb::Information, windowTitle());
+            Mensaje(Texto(kIdDniOficialDomicilioNacional), vb::Information, windowTitle());
             PresentarDeclaracion();
             txtdnisp->setFocus(Qt::OtherFocusReason);
             return;
@@ -113,7 +114,8 @@ void FrmDeclaracion::SalirDniSujeto()
             d.VolcarSpTR();
     } else if (d.CSSU != 0) {
         // The return shows another stored contributor: the user says whether to drop it.
-        if (Mensaje(Texto(168), vb::YesNo + vb::Question + vb::DefaultButton2, windowTitle()) != vb::Yes) {
+        if (Mensaje(Texto(kIdPreguntaCargarNuevoContribuyente), vb::YesNo + vb::Question
+                    + vb::DefaultButton2, windowTitle()) != vb::Yes) {
             PresentarDeclaracion();
             return;
         }
@@ -156,7 +158,7 @@ void FrmDeclaracion::SalirDniTransmitente()
             bool bueno = false;
             d.ValidarDniOficial(texto, bueno);
             if (!bueno) {
-                Mensaje(Texto(330), vb::Information, windowTitle());
+                Mensaje(Texto(kIdDniCifErroneoODigitoControl), vb::Information, windowTitle());
                 PresentarDeclaracion();
                 MostrarPestana(1);
                 txtdnitr->setFocus(Qt::OtherFocusReason);
@@ -164,8 +166,8 @@ void FrmDeclaracion::SalirDniTransmitente()
             }
         }
         if (d.CSTRA != 0) {
-            if (Mensaje(Texto(168), vb::YesNo + vb::Question + vb::DefaultButton2, windowTitle())
-                != vb::Yes) {
+            if (Mensaje(Texto(kIdPreguntaCargarNuevoContribuyente), vb::YesNo + vb::Question
+                        + vb::DefaultButton2, windowTitle()) != vb::Yes) {
                 PresentarDeclaracion();
                 return;
             }

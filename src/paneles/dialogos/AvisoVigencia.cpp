@@ -1,13 +1,8 @@
 #include "paneles/dialogos/AvisoVigencia.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Mensaje.h"
-
-namespace {
-constexpr int kIdCambiado = 367;
-constexpr int kIdCargarGuardado = 368;
-constexpr int kIdBorrado = 369;
-}  // namespace
 
 bool AvisarVigencia(Vigencia vigencia, const QString& titulo)
 {
@@ -15,11 +10,12 @@ bool AvisarVigencia(Vigencia vigencia, const QString& titulo)
     case Vigencia::Vigente:
         return false;
     case Vigencia::Borrada:
-        Mensaje(Texto(kIdBorrado), vb::OKOnly + vb::Information, titulo);
+        Mensaje(Texto(kIdDatosBorradosDesdeApertura), vb::OKOnly + vb::Information, titulo);
         return false;
     case Vigencia::Cambiada:
         break;
     }
-    const QString pregunta = Texto(kIdCambiado) + QStringLiteral("\n") + Texto(kIdCargarGuardado);
+    const QString pregunta = Texto(kIdDatosCambiadosDesdeApertura) + QStringLiteral("\n")
+        + Texto(kIdPreguntaCargarDatosGuardados);
     return Mensaje(pregunta, vb::YesNo + vb::Question + vb::DefaultButton2, titulo) == vb::Yes;
 }

@@ -1,6 +1,7 @@
 #include "paneles/imprimir/FrmImprimir.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/dialogos/MostrarVeredicto.h"
@@ -189,23 +190,23 @@ void FrmImprimir::conectar()
 
 void FrmImprimir::Anadir_captions()
 {
-    setWindowTitle(Texto(53));
-    frameTipoImpreso->setTitle(Texto(186));
-    opcion(optTipoImpreso, 0)->setText(Texto(187));
-    opcion(optTipoImpreso, 1)->setText(Texto(188));
-    framePresentador->setTitle(Texto(189));
-    opcion(optPresentador, 0)->setText(Texto(129));
-    opcion(optPresentador, 1)->setText(Texto(190));
-    chkCopiaBanco->setText(Texto(182));
-    chkCopiaAdministracion->setText(Texto(183));
-    chkCopiaInteresado->setText(Texto(184));
-    chkCopiaInformatica->setText(Texto(185));
-    lblFechaPresentacion->setText(Texto(363));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(53));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(57));
-    btnOpcionesImpresora->setText(Texto(181));
+    setWindowTitle(Texto(kIdImprimirDeclaracion));
+    frameTipoImpreso->setTitle(Texto(kIdTipoImpreso));
+    opcion(optTipoImpreso, 0)->setText(Texto(kIdOficial));
+    opcion(optTipoImpreso, 1)->setText(Texto(kIdBorrador));
+    framePresentador->setTitle(Texto(kIdPresentador));
+    opcion(optPresentador, 0)->setText(Texto(kIdConPresentador));
+    opcion(optPresentador, 1)->setText(Texto(kIdSinPresentador));
+    chkCopiaBanco->setText(Texto(kIdCopiaBanco));
+    chkCopiaAdministracion->setText(Texto(kIdCopiaAdministracion));
+    chkCopiaInteresado->setText(Texto(kIdCopiaInteresado));
+    chkCopiaInformatica->setText(Texto(kIdCopiaTrafico));
+    lblFechaPresentacion->setText(Texto(kIdFechaPresentacion));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdImprimirDeclaracion));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdVolverPanelAnterior));
+    btnOpcionesImpresora->setText(Texto(kIdBotonOpcionesImpresora));
     btnOpcionesImpresora->setToolTip(
         TextoSegunIdioma(QStringLiteral("Opciones impresora"), QStringLiteral("Inprimagailuaren aukerak")));
     cmdVistaPrevia->setText(TextoSegunIdioma(QStringLiteral("Vista previa"), QStringLiteral("Aurrebista")));
@@ -305,7 +306,7 @@ bool FrmImprimir::conPresentador() const { return opcion(optPresentador, 0)->isC
 void FrmImprimir::Aceptar()
 {
     if (ImpresoraSistema::NumeroImpresoras() == 0) {
-        Mensaje(Texto(191), vb::OKOnly | vb::Information, windowTitle());
+        Mensaje(Texto(kIdSinImpresoras), vb::OKOnly | vb::Information, windowTitle());
         return;
     }
     if (ValidarFechaPresentacion())

@@ -1,5 +1,6 @@
 #include "paneles/intercambio/FrmExportar.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/Proceso.h"
@@ -256,15 +257,15 @@ void FrmExportar::DefinirColumnas(cFlexGrid* grid)
 
 void FrmExportar::Anadir_captions()
 {
-    setWindowTitle(Texto(252));
-    lblTitulo->setText(Texto(253));
-    cmdBuscar->setText(Texto(61));
-    cmdTodos->setText(Texto(62));
-    CmdModificar->setText(Texto(322));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(280));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(77));
+    setWindowTitle(Texto(kIdExportacionContribuyentes));
+    lblTitulo->setText(Texto(kIdAyudaSeleccionExportar));
+    cmdBuscar->setText(Texto(kIdBusqueda));
+    cmdTodos->setText(Texto(kIdTodos));
+    CmdModificar->setText(Texto(kIdModificarFichero));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdExportarSeleccionados));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdVolverMenuPrincipal));
     for (cFlexGrid* grid : {flxDeclaraciones, FlxSeleccionados})
         for (int c = 0; c < 3; ++c)
             grid->setTextMatrix(0, c, TituloColumna(c));
@@ -300,7 +301,7 @@ void FrmExportar::PresentaResultado(bool recargar)
     Utilidades.SeleccionarGrid(Resaltado(), flxDeclaraciones->ForeColor(), fila);
     e.CSCO = CodigoDeFila(flxDeclaraciones, fila);
 
-    e.lblayuda = Texto(244);
+    e.lblayuda = Texto(kIdAyudaOrdenarLista);
     const QString cuantos = QString::number(e.NUMCONTRISEL);
     const QString criterios = CriteriosLista::Texto(
         e.TABLASELECCION,
@@ -308,11 +309,11 @@ void FrmExportar::PresentaResultado(bool recargar)
                          QStringLiteral("Izenaren hasierako letra")),
         TextoSegunIdioma(QStringLiteral("DNI empieza por"), QStringLiteral("NAren hasierako zifra")));
     if (e.NUMCONTRISEL == 0)
-        e.lblResultado1 = criterios + Texto(63);
+        e.lblResultado1 = criterios + Texto(kIdSinDatosCondicion);
     else if (e.HayCriterios())
-        e.lblResultado1 = criterios + cuantos + Texto(248);
+        e.lblResultado1 = criterios + cuantos + Texto(kIdContribuyentesSeleccionados);
     else
-        e.lblResultado1 = cuantos + Texto(245);
+        e.lblResultado1 = cuantos + Texto(kIdContribuyentesEnLista);
     MostrarAyuda(lblayuda, e.lblayuda, flxDeclaraciones->width());
     lblResultado1->setText(e.lblResultado1);
     txtBusqueda->setEnabled(false);
@@ -325,7 +326,7 @@ void FrmExportar::PresentaBusqueda()
 {
     cExportar& e = Exportar();
     picasc->hide();
-    e.lblayuda = Texto(246);
+    e.lblayuda = Texto(kIdAyudaCriterioSeleccion);
     e.lblResultado1.clear();
     MostrarAyuda(lblayuda, e.lblayuda, flxDeclaraciones->width());
     lblResultado1->clear();
@@ -344,7 +345,7 @@ void FrmExportar::PresentaSeleccionados()
         FlxSeleccionados->setTopRow(fila);
     UtilidadesSeleccionados.SeleccionarGrid(Resaltado(), FlxSeleccionados->ForeColor(), fila);
     e.CSCOEXP = CodigoDeFila(FlxSeleccionados, fila);
-    e.LblResultado2 = QString::number(e.NUMCONTRIEXP) + Texto(247);
+    e.LblResultado2 = QString::number(e.NUMCONTRIEXP) + Texto(kIdContribuyentesParaExportar);
     LblResultado2->setText(e.LblResultado2);
 }
 
@@ -367,9 +368,9 @@ void FrmExportar::PresentaBotones()
     cmdCancelar->setEnabled(true);
     if (normal) {
         cmdBuscar->setEnabled(true);
-        cmdBuscar->setText(Texto(61));
+        cmdBuscar->setText(Texto(kIdBusqueda));
     } else {
-        cmdBuscar->setText(Texto(65));
+        cmdBuscar->setText(Texto(kIdResultado));
         cmdBuscar->setEnabled(e.HayCriterios() || Val(e.SELECCIONACTUAL) != 0);
     }
 }
@@ -521,9 +522,9 @@ void FrmExportar::DeselTodos()
 void FrmExportar::Modificar()
 {
     cExportar& e = Exportar();
-    QString elegido = DialogoGuardarFichero(
-        this, Texto(279), RutaFichero(e.FICHEROAEXPORTAR) + NombreFichero(e.FICHEROAEXPORTAR),
-        kFiltro);
+    QString elegido = DialogoGuardarFichero( this, Texto(kIdExportarA),
+                                            RutaFichero(e.FICHEROAEXPORTAR)
+                                            + NombreFichero(e.FICHEROAEXPORTAR), kFiltro);
     if (elegido.isEmpty() || !elegido.contains(QLatin1Char('/')))
         return;
     if (QFileInfo(elegido).suffix().isEmpty())
@@ -546,7 +547,8 @@ void FrmExportar::Aceptar()
     }
     // The answer is not looked at: the file is replaced after either.
     if (e.DestinoExiste())
-        Mensaje(Texto(250), vb::YesNo + vb::Question, Texto(251));
+        Mensaje(Texto(kIdPreguntaReemplazarArchivo), vb::YesNo + vb::Question,
+                Texto(kIdConfirmacion));
     // A failure to write leaves the former file whole; the panel closes as after a success.
     e.EscribirFichero();
     Cerrar();

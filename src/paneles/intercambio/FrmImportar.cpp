@@ -1,5 +1,6 @@
 #include "paneles/intercambio/FrmImportar.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/DialogoFichero.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/Proceso.h"
@@ -120,24 +121,24 @@ void FrmImportar::Conectar()
 
 void FrmImportar::Anadir_captions()
 {
-    setWindowTitle(Texto(254));
-    Frame1->setTitle(Texto(255));
-    CmdModificar->setText(Texto(264));
-    CmdModificar->setToolTip(Texto(322));
-    Frame2->setTitle(Texto(256));
-    Label4->setText(Texto(257));
-    Label1->setText(Texto(258));
-    Label2->setText(Texto(259));
-    Label3->setText(Texto(260));
-    Label6->setText(Texto(291));
+    setWindowTitle(Texto(kIdImportacionContribuyentes));
+    Frame1->setTitle(Texto(kIdFicheroAImportar));
+    CmdModificar->setText(Texto(kIdBotonModificar));
+    CmdModificar->setToolTip(Texto(kIdModificarFichero));
+    Frame2->setTitle(Texto(kIdResultadosImportacion));
+    Label4->setText(Texto(kIdEtiquetaTotal));
+    Label1->setText(Texto(kIdEtiquetaImportados));
+    Label2->setText(Texto(kIdEtiquetaIncorrectos));
+    Label3->setText(Texto(kIdEtiquetaSustituidos));
+    Label6->setText(Texto(kIdEtiquetaIgnorados));
     for (QLabel* valor : {LblTotal, LblImportados, LblIncorrectos, LblSustituidos, lblIgnorados})
-        valor->setText(Texto(262));
-    ChkAutomatico->setText(Texto(261));
-    lblError->setText(Texto(263));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(254));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(77));
+        valor->setText(Texto(kIdContadorCero));
+    ChkAutomatico->setText(Texto(kIdAutomatico));
+    lblError->setText(Texto(kIdConsulteFicheroErrores));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdImportacionContribuyentes));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdVolverMenuPrincipal));
 }
 
 void FrmImportar::MostrarDatos()
@@ -166,10 +167,10 @@ void FrmImportar::MostrarBotones()
     cmdAceptar->setEnabled(lista);
     CmdModificar->setEnabled(lista);
     if (lista) {
-        cmdCancelar->setText(Texto(4));
+        cmdCancelar->setText(Texto(kIdBotonCancelar));
         cmdCancelar->setIcon(style()->standardIcon(QStyle::SP_DialogCancelButton));
     } else {
-        cmdCancelar->setText(Texto(230));
+        cmdCancelar->setText(Texto(kIdMenuSalir));
         cmdCancelar->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
     }
 }
@@ -178,7 +179,7 @@ void FrmImportar::MostrarBotones()
 void FrmImportar::Modificar()
 {
     const QString actual = Importar().FICHEROAIMPORTAR;
-    const QString elegido = DialogoAbrirFichero(this, Texto(278),
+    const QString elegido = DialogoAbrirFichero(this, Texto(kIdArchivoAImportar),
                                                 RutaFichero(actual) + NombreFichero(actual),
                                                 kFiltro);
     if (!elegido.isEmpty())

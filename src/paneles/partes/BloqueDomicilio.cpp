@@ -1,6 +1,7 @@
 #include "paneles/partes/BloqueDomicilio.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "valores/Formato.h"
 #include "valores/Val.h"
@@ -162,19 +163,19 @@ void BloqueDomicilio::VigilarTexto(QLineEdit* campo, QString& valor, bool soloAb
 
 void BloqueDomicilio::Anadir_captions()
 {
-    cmdProvincia->setText(Texto(10));
-    cmdVia->setText(Texto(11));
-    cmdMunicipio->setText(Texto(12));
-    lblvia->setText(Texto(13));
-    lblnommun->setText(Texto(14));
-    lblnomprov->setText(Texto(15));
-    lbldomicilio->setText(Texto(19));
-    lblescalera->setText(Texto(20));
-    lblletra->setText(Texto(21));
-    lblnumero->setText(Texto(22));
-    lblpiso->setText(Texto(23));
-    lblmano->setText(Texto(24));
-    lblcodpos->setText(Texto(25));
+    cmdProvincia->setText(Texto(kIdProvinciaPuntos));
+    cmdVia->setText(Texto(kIdPuntos));
+    cmdMunicipio->setText(Texto(kIdMunicipioPuntos));
+    lblvia->setText(Texto(kIdVia));
+    lblnommun->setText(Texto(kIdEtiquetaNombreMunicipio));
+    lblnomprov->setText(Texto(kIdEtiquetaNombreProvincia));
+    lbldomicilio->setText(Texto(kIdDomicilio));
+    lblescalera->setText(Texto(kIdEscalera));
+    lblletra->setText(Texto(kIdLetra));
+    lblnumero->setText(Texto(kIdNumero));
+    lblpiso->setText(Texto(kIdPiso));
+    lblmano->setText(Texto(kIdMano));
+    lblcodpos->setText(Texto(kIdEtiquetaCodigoPostal));
 }
 
 void BloqueDomicilio::CargarListas()

@@ -1,6 +1,7 @@
 #include "paneles/partes/FrmConDatos.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "valores/Val.h"
 #include "paneles/partes/BloqueDomicilio.h"
@@ -106,19 +107,19 @@ void FrmConDatos::Conectar()
 
 void FrmConDatos::Anadir_captions()
 {
-    setWindowTitle(Texto(3));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(5));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(7));
-    chktipodomi->setText(Texto(8));
-    chktipodni->setText(Texto(9));
+    setWindowTitle(Texto(kIdDatosContribuyente));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdCancelar));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdGuardarDatosContribuyente));
+    chktipodomi->setText(Texto(kIdDomicilioExtranjero));
+    chktipodni->setText(Texto(kIdDniExtranjero));
     m_domicilio->Anadir_captions();
-    lblnumtr->setText(Texto(16));
-    lblnumsp->setText(Texto(17));
-    lblpais->setText(Texto(18));
-    lbldnic->setText(Texto(26));
-    lblnombrec->setText(Texto(27));
+    lblnumtr->setText(Texto(kIdEtiquetaTrasmitentes));
+    lblnumsp->setText(Texto(kIdEtiquetaSujetosPasivos));
+    lblpais->setText(Texto(kIdEtiquetaPais));
+    lbldnic->setText(Texto(kIdDniCif));
+    lblnombrec->setText(Texto(kIdEtiquetaApellidosNombre));
 }
 
 void FrmConDatos::CargarDatosContribuyente()

@@ -1,5 +1,6 @@
 #include "paneles/partes/FrmConLista.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "paneles/partes/ColumnasContribuyentes.h"
 #include "registros/partes/cConDatos.h"
@@ -14,21 +15,21 @@ DisenoLista Diseno()
     d.nombreGrid = QStringLiteral("flxContribuyentes");
     d.columnas = ColumnasContribuyentes::Todas();
     d.columnasContadores = {ColumnasContribuyentes::kComoSujeto, ColumnasContribuyentes::kComoTransmitente};
-    d.idTituloAbrir = 72;
-    d.idTituloEliminar = 85;
-    d.tipDatos = {3};
+    d.idTituloAbrir = kIdAbrirContribuyente;
+    d.idTituloEliminar = kIdEliminarContribuyente;
+    d.tipDatos = {kIdDatosContribuyente};
     d.tipEliminar = {0, "Eliminar el contribuyente seleccionado", "Deuseztatu hautatutako zergaduna"};
-    d.idTipNuevo = 79;
-    d.idDeclaraciones = 73;
+    d.idTipNuevo = kIdNuevoContribuyente;
+    d.idDeclaraciones = kIdBotonDeclaraciones;
     d.resultado = {0, " contribuyente(s) seleccionado(s) ", " hautatutako zergaduna(k) "};
     d.resultadoCriterios = {0, " contribuyente(s) seleccionado(s). ", " hautatutako zergaduna(k). "};
     d.criterioNombre = {0, "Nombre empieza por", "Izenaren hasierako letra"};
     d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
-    d.idTituloBorrado = 80;
-    d.idNoBorrar = 81;
-    d.idPregunta = 82;
-    d.idPreguntaEntre = 83;
-    d.idPreguntaFin = 84;
+    d.idTituloBorrado = kIdBorradoContribuyente;
+    d.idNoBorrar = kIdContribuyenteEnDeclaraciones;
+    d.idPregunta = kIdPreguntaEliminarContribuyente;
+    d.idPreguntaEntre = kIdGuionEliminarContribuyente;
+    d.idPreguntaFin = kIdInterrogacionEliminarContribuyente;
     return d;
 }
 

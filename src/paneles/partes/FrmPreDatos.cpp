@@ -1,6 +1,7 @@
 #include "paneles/partes/FrmPreDatos.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/controles/CajaNum.h"
 #include "valores/Val.h"
 #include "paneles/partes/BloqueDomicilio.h"
@@ -90,15 +91,15 @@ void FrmPreDatos::Conectar()
 
 void FrmPreDatos::Anadir_captions()
 {
-    setWindowTitle(Texto(192));
-    cmdCancelar->setText(Texto(4));
-    cmdCancelar->setToolTip(Texto(5));
-    cmdAceptar->setText(Texto(6));
-    cmdAceptar->setToolTip(Texto(193));
+    setWindowTitle(Texto(kIdDatosPresentador));
+    cmdCancelar->setText(Texto(kIdBotonCancelar));
+    cmdCancelar->setToolTip(Texto(kIdCancelar));
+    cmdAceptar->setText(Texto(kIdBotonAceptar));
+    cmdAceptar->setToolTip(Texto(kIdGuardarDatosPresentador));
     m_domicilio->Anadir_captions();
-    lbldnip->setText(Texto(26));
-    lblnombrep->setText(Texto(27));
-    lbltelefonop->setText(Texto(194));
+    lbldnip->setText(Texto(kIdDniCif));
+    lblnombrep->setText(Texto(kIdEtiquetaApellidosNombre));
+    lbltelefonop->setText(Texto(kIdEtiquetaTelefono));
 }
 
 void FrmPreDatos::CargarDatosPresentador()

@@ -1,5 +1,6 @@
 #include "paneles/partes/FrmPreLista.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Ventanas.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
@@ -20,22 +21,22 @@ DisenoLista Diseno()
         {{0, "Nº Decla", "Aitor.Zk."}, 750, Qt::AlignRight},
     };
     d.columnasContadores = {5};
-    d.idTituloAbrir = 204;
-    d.idTituloEliminar = 211;
+    d.idTituloAbrir = kIdAbrirPresentador;
+    d.idTituloEliminar = kIdEliminarPresentador;
     d.tipDatos = {0, "Datos del presentador", "Aurkezlearen datuak"};
     d.tipEliminar = {0, "Eliminar el presentador seleccionado", "Deuseztatu hautatutako aurkezlea"};
-    d.idTipNuevo = 205;
-    d.idDeclaraciones = 206;
+    d.idTipNuevo = kIdNuevoPresentador;
+    d.idDeclaraciones = kIdBotonDeclaracionesPresentador;
     // The Basque result line has no point after the criteria, unlike the contributors' one.
     d.resultado = {0, " presentador(es) seleccionado(s) ", " hautatutako aurkezlea(k) "};
     d.resultadoCriterios = {0, " presentador(es) seleccionado(s). ", " hautatutako aurkezlea(k) "};
     d.criterioNombre = {0, "Nombre empieza por", "Izzenaren hasierako letra"};
     d.criterioDni = {0, "DNI empieza por", "NAren hasierako zifra"};
-    d.idTituloBorrado = 207;
-    d.idNoBorrar = 208;
-    d.idPregunta = 209;
-    d.idPreguntaEntre = 210;
-    d.idPreguntaFin = 179;
+    d.idTituloBorrado = kIdBorradoPresentador;
+    d.idNoBorrar = kIdPresentadorEnDeclaraciones;
+    d.idPregunta = kIdPreguntaEliminarPresentador;
+    d.idPreguntaEntre = kIdGuionEliminarPresentador;
+    d.idPreguntaFin = kIdInterrogacionEliminarPresentador;
     return d;
 }
 

@@ -1,5 +1,6 @@
 #include "paneles/partes/PanelLista.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "plataforma/Proceso.h"
 #include "paneles/dialogos/Ventanas.h"
@@ -285,17 +286,17 @@ void PanelLista::Anadir_captions()
 {
     PonerTitulo(Texto(m_diseno.idTituloAbrir));
     CmdDeclaraciones->setText(Texto(m_diseno.idDeclaraciones));
-    CmdDeclaraciones->setToolTip(Texto(74));
+    CmdDeclaraciones->setToolTip(Texto(kIdVerDeclaraciones));
     cmdAceptar->setText(Texto(m_diseno.idAceptar));
     cmdAceptar->setToolTip(m_diseno.tipDatos.texto());
     cmdCancelar->setText(Texto(m_diseno.idCancelar));
     cmdCancelar->setToolTip(Texto(m_diseno.idTipCancelar));
-    cmdNuevo->setText(Texto(78));
+    cmdNuevo->setText(Texto(kIdBotonNuevo));
     cmdNuevo->setToolTip(Texto(m_diseno.idTipNuevo));
-    cmdBuscar->setText(Texto(61));
-    cmdTodos->setText(Texto(62));
-    MostrarAyuda(lblayuda, Texto(64), lblResultado->width());
-    lblResultado->setText(Texto(63));
+    cmdBuscar->setText(Texto(kIdBusqueda));
+    cmdTodos->setText(Texto(kIdTodos));
+    MostrarAyuda(lblayuda, Texto(kIdAyudaOrdenarDeclaraciones), lblResultado->width());
+    lblResultado->setText(Texto(kIdSinDatosCondicion));
 }
 
 void PanelLista::DefinirColumnas()
@@ -361,7 +362,7 @@ void PanelLista::RellenarGrid(const Arreglo2D& datos)
     const qsizetype n = datos.isEmpty() ? -1 : datos.first().size() - 1;
     if (n < 0) {
         LimpiarGrid();
-        lblResultado->setText(Texto(63));
+        lblResultado->setText(Texto(kIdSinDatosCondicion));
         cmdAceptar->setEnabled(false);
         Pintar(PicDatos);
         Pintar(PicEliminar);
@@ -421,7 +422,7 @@ void PanelLista::PresentaResultado()
         Utilidades.SeleccionarGrid(QColor::fromRgb(kColorResaltado), m_grid->ForeColor(), fila);
     }
     LeerFila();
-    MostrarAyuda(lblayuda, Texto(313), lblResultado->width());
+    MostrarAyuda(lblayuda, Texto(kIdAyudaOrdenarNombreDni), lblResultado->width());
     const QString cuantos = QString::number(m_estado.Seleccionados());
     if (!criterios) {
         lblResultado->setText(cuantos + m_diseno.resultado.texto());
@@ -431,7 +432,7 @@ void PanelLista::PresentaResultado()
             lblResultado->setText(texto + cuantos + m_diseno.resultadoCriterios.texto());
         } else {
             LimpiarGrid();
-            lblResultado->setText(texto + Texto(63));
+            lblResultado->setText(texto + Texto(kIdSinDatosCondicion));
         }
     }
     txtBusqueda->setEnabled(false);
@@ -443,7 +444,7 @@ void PanelLista::PresentaResultado()
 void PanelLista::PresentaBusqueda()
 {
     picasc->hide();
-    MostrarAyuda(lblayuda, Texto(314), lblResultado->width());
+    MostrarAyuda(lblayuda, Texto(kIdAyudaCriterioNombreDni), lblResultado->width());
     lblResultado->clear();
     MostrarBusqueda(m_grid, txtBusqueda, Utilidades, m_estado.TABLASELECCION,
                     m_estado.SELECCIONACTUAL);
@@ -515,12 +516,12 @@ void PanelLista::PresentaBotones()
     CmdDeclaraciones->setEnabled(resultado && hayFilas && conDeclaraciones);
     if (resultado) {
         cmdBuscar->setEnabled(true);
-        cmdBuscar->setText(Texto(61));
+        cmdBuscar->setText(Texto(kIdBusqueda));
     } else if (!HayCriterios() && Val(m_estado.SELECCIONACTUAL) == 0) {
         cmdBuscar->setEnabled(false);
     } else {
         cmdBuscar->setEnabled(true);
-        cmdBuscar->setText(Texto(65));
+        cmdBuscar->setText(Texto(kIdResultado));
     }
     cmdTodos->setEnabled(!resultado || HayCriterios());
 
@@ -530,7 +531,7 @@ void PanelLista::PresentaBotones()
         cmdAceptar->setToolTip(m_diseno.tipDatos.texto());
     } else {
         PonerTitulo(Texto(m_diseno.idTituloEliminar));
-        cmdAceptar->setText(Texto(86));
+        cmdAceptar->setText(Texto(kIdBotonEliminar));
         cmdAceptar->setToolTip(m_diseno.tipEliminar.texto());
     }
     const bool puertas = abrir && !m_diseno.seleccion;

@@ -9,6 +9,7 @@
 // The state object of each list outlives the panel, so that a list that comes back after a
 // side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
 // to the store; the panel keeps nothing of its own between openings.
+#include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/PanelNavegado.h"
 #include "registros/partes/cListaParte.h"
 #include "valores/EstadoNavegacion.h"
@@ -63,9 +64,9 @@ struct DisenoLista {
     int idPreguntaEntre = 0;               //   between number and name,
     int idPreguntaFin = 0;                 //   after the name
     // cmdAceptar's and cmdCancelar's captions and Cancelar's tip.
-    int idAceptar = 75;
-    int idCancelar = 76;
-    int idTipCancelar = 77;
+    int idAceptar = kIdBotonDatos;
+    int idCancelar = kIdBotonAtras;
+    int idTipCancelar = kIdVolverMenuPrincipal;
     // A list that only chooses a party for the return being edited: no new party, no
     // declarations.
     bool seleccion = false;

@@ -1,5 +1,6 @@
 // The running program's version, read from the version record inside its executable file. The
 // file read is always the program's folder + "/Veldo", whatever name the process runs under.
+#include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/ActualizacionOnline.h"
 #include "registros/actualizacion/FormatoRegistroVersion.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
@@ -15,8 +16,8 @@ Veredicto LeerVersionPrograma()
     const std::optional<RegistroVersion::Version> version = LeerRegistroVersion(act.ActFile);
     if (!version) {
         Veredicto sinVersion;
-        sinVersion.id = 342;
-        sinVersion.mensaje = Texto(342);
+        sinVersion.id = kIdSinInformacionVersion;
+        sinVersion.mensaje = Texto(kIdSinInformacionVersion);
         return sinVersion;
     }
     const RegistroVersion::Numeros& f = version->fichero;

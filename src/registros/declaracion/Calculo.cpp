@@ -1,6 +1,7 @@
 #include "registros/declaracion/Calculo.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
 #include "valores/Formato.h"
@@ -110,11 +111,11 @@ ResultadoTipo AceptarTipoImpositivo(double valor, bool bloqueada, bool saltarVal
         if (valor >= op.T_MIN() && valor <= op.T_MAX()) {
             d.TIPOIMP = valor;
         } else {
-            r.veredicto.id = 140;
-            r.veredicto.mensaje =
-                Texto(140) + TextoTasa(op.T_MIN()) + Texto(141) + TextoTasa(op.T_MAX());
+            r.veredicto.id = kIdTipoImpositivoMenorQue;
+            r.veredicto.mensaje = Texto(kIdTipoImpositivoMenorQue) + TextoTasa(op.T_MIN())
+                + Texto(kIdTipoImpositivoNiMayorQue) + TextoTasa(op.T_MAX());
             r.veredicto.botones = vb::Exclamation;
-            r.veredicto.titulo = Texto(131);
+            r.veredicto.titulo = Texto(kIdErrorIntroduccionDatos);
             r.veredicto.control = QStringLiteral("txttipoimp");
             r.volverAlTipo = true;
         }

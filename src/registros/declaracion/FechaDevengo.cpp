@@ -1,5 +1,6 @@
 #include "registros/declaracion/FechaDevengo.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "registros/nucleo/CEntrada.h"
 #include "catalogo/Catalogo.h"
 #include "registros/declaracion/Calculo.h"
@@ -27,11 +28,11 @@ Veredicto VeredictoFecha(const QString& texto)
 {
     Veredicto v;
     v.botones = vb::Exclamation;
-    v.titulo = Texto(131);
+    v.titulo = Texto(kIdErrorIntroduccionDatos);
     v.control = QStringLiteral("txtfechad");
     if (!cFecha::EsFecha(texto, IdiomaPrograma())) {
-        v.id = 169;
-        v.mensaje = Texto(169);
+        v.id = kIdFechaDevengoIncorrecta;
+        v.mensaje = Texto(kIdFechaDevengoIncorrecta);
         return v;
     }
     const int32_t minima = Entrada().FECMIN;
@@ -39,9 +40,10 @@ Veredicto VeredictoFecha(const QString& texto)
     const int32_t d = cFecha::StringToLong(texto, IdiomaPrograma());
     if (minima <= d && d <= maxima)
         return {};
-    v.id = 170;
-    v.mensaje = Texto(170) + fechaSegunPatron(minima, Texto(171)) + Texto(172)
-        + fechaSegunPatron(maxima, Texto(171)) + QStringLiteral("\n");
+    v.id = kIdFechaDevengoAnteriorA;
+    v.mensaje = Texto(kIdFechaDevengoAnteriorA) + fechaSegunPatron(minima, Texto(kIdPatronFecha))
+        + Texto(kIdFechaNiPosteriorA) + fechaSegunPatron(maxima, Texto(kIdPatronFecha))
+        + QStringLiteral("\n");
     return v;
 }
 

@@ -1,6 +1,7 @@
 #include "registros/declaracion/Validacion.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/declaracion/Calculo.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cOperacion.h"
@@ -79,12 +80,13 @@ namespace {
 // operation (rule 39).
 Veredicto completar(Veredicto v, const QString& textoOperacion)
 {
-    if (v.id == 140) {
+    if (v.id == kIdTipoImpositivoMenorQue) {
         const cOperacion& op = Operacion();
-        v.mensaje = Texto(140) + TextoTasa(op.T_MIN()) + Texto(141) + TextoTasa(op.T_MAX())
-            + kSaltoLinea;
-    } else if (v.id == 356) {
-        v.mensaje = Texto(356) + textoOperacion + Texto(357);
+        v.mensaje = Texto(kIdTipoImpositivoMenorQue) + TextoTasa(op.T_MIN())
+            + Texto(kIdTipoImpositivoNiMayorQue) + TextoTasa(op.T_MAX()) + kSaltoLinea;
+    } else if (v.id == kIdOperacionNoPuedeSer) {
+        v.mensaje = Texto(kIdOperacionNoPuedeSer) + textoOperacion
+            + Texto(kIdOperacionAnio2006Cilindrada2499);
     }
     return v;
 }
@@ -113,8 +115,8 @@ Veredicto VeredictoNifIntervinientes(const QString& titulo)
     Veredicto v;
     v.titulo = titulo;
     if (!d.DNIPR.trimmed().isEmpty() && !dniBueno(d.DNIPR)) {
-        v.id = 331;
-        v.mensaje = Texto(331);
+        v.id = kIdDniPresentadorErroneo;
+        v.mensaje = Texto(kIdDniPresentadorErroneo);
         v.botones = vb::Information;
         return v;
     }

@@ -1,6 +1,7 @@
 #include "registros/imprimir/FechaPresentacion.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/imprimir/cImOf.h"
 #include "plataforma/Idioma.h"
 #include "valores/cFecha.h"
@@ -9,13 +10,13 @@ Veredicto VeredictoFechaPresentacion(const QString& texto, Idioma formato)
 {
     Veredicto v;
     v.botones = vb::OKOnly | vb::Exclamation;
-    v.titulo = Texto(131);
+    v.titulo = Texto(kIdErrorIntroduccionDatos);
     v.control = QStringLiteral("txtFechaPresentacion");
     // An empty date is a date (0) for the date check: it is refused by the limit below, with
     // the limit's message.
     if (!cFecha::EsFecha(texto, formato)) {
-        v.id = 327;
-        v.mensaje = Texto(327);
+        v.id = kIdFechaPresentacionIncorrecta;
+        v.mensaje = Texto(kIdFechaPresentacionIncorrecta);
         return v;
     }
     if (cFecha::StringToLong(texto, formato) >= kFechaPresentacionMinima)

@@ -1,6 +1,7 @@
 #include "registros/intercambio/AvisoIntercambio.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 
 namespace {
 // A list of numbers is shown without the ", " that opens it.
@@ -13,14 +14,14 @@ QString Lista(const QStringList& dnis)
 int AvisoIntercambio::id() const
 {
     switch (motivo) {
-    case MotivoAviso::TodosErroneos: return 271;
+    case MotivoAviso::TodosErroneos: return kIdTodosErroneos;
     case MotivoAviso::UnErroneo:
-    case MotivoAviso::VariosErroneos: return 272;
-    case MotivoAviso::Importados: return 275;
-    case MotivoAviso::NoExisteFichero: return 276;
-    case MotivoAviso::FicheroAbierto: return 312;
-    case MotivoAviso::ErrorEjecucion: return 277;
-    case MotivoAviso::NoHayDisquete: return 249;
+    case MotivoAviso::VariosErroneos: return kIdHay;
+    case MotivoAviso::Importados: return kIdImportadosCorrectamente;
+    case MotivoAviso::NoExisteFichero: return kIdNoExisteFicheroImportar;
+    case MotivoAviso::FicheroAbierto: return kIdFicheroYaAbierto;
+    case MotivoAviso::ErrorEjecucion: return kIdErrorNumero;
+    case MotivoAviso::NoHayDisquete: return kIdNoHayDisquete;
     case MotivoAviso::CabeceraCsv: return argumentos.value(0).toInt();
     case MotivoAviso::Ninguno:
     case MotivoAviso::NifErroneos:
@@ -34,10 +35,10 @@ QString AvisoIntercambio::texto() const
     const QString a0 = argumentos.value(0);
     switch (motivo) {
     case MotivoAviso::Ninguno: return QString();
-    case MotivoAviso::UnErroneo: return Texto(272) + a0 + Texto(273);
-    case MotivoAviso::VariosErroneos: return Texto(272) + a0 + Texto(274);
+    case MotivoAviso::UnErroneo: return Texto(kIdHay) + a0 + Texto(kIdUnContribuyenteErroneo);
+    case MotivoAviso::VariosErroneos: return Texto(kIdHay) + a0 + Texto(kIdContribuyentesErroneos);
     case MotivoAviso::ErrorEjecucion:
-        return Texto(277) + a0 + QStringLiteral(" : ") + argumentos.value(1);
+        return Texto(kIdErrorNumero) + a0 + QStringLiteral(" : ") + argumentos.value(1);
     case MotivoAviso::NifErroneos:
         return TextoSegunIdioma(
             QStringLiteral("El/Los Interviniente/s con NIF: ") + Lista(argumentos)

@@ -1,6 +1,7 @@
 #include "registros/intercambio/CsvContribuyentes.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/intercambio/Cp1252.h"
 #include "valores/Csv.h"
 
@@ -21,15 +22,6 @@ constexpr std::array<const char*, kCamposIntercambio> kNombres = {
     "CODIGO PROVINCIA", "NOMBRE PROVINCIA", "CODIGO POSTAL", "CODIGO MUNICIPIO",
     "NOMBRE MUNICIPIO", "NUMERO SUJETO PASIVO", "NUMERO TRANSMITENTE",
 };
-
-// Texts of the catalogue for a file the reader refuses.
-constexpr int kIdMasCampos = 371;
-constexpr int kIdMenosCampos = 372;
-constexpr int kIdComillas = 373;
-constexpr int kIdTrasComillas = 374;
-constexpr int kIdColumnaDesconocida = 375;
-constexpr int kIdFaltaColumna = 376;
-constexpr int kIdColumnaRepetida = 377;
 
 constexpr C kObligatorias[] = {C::TIPODNI, C::DNI, C::NOMBRE};
 
@@ -102,21 +94,21 @@ public:
         if (!m_lector.Siguiente(nombres, fallo))
             return std::nullopt;  // an empty file: nothing to import
         if (fallo != Csv::Fallo::Ninguno)
-            return Cabecera(fallo == Csv::Fallo::ComillasSinCerrar ? kIdComillas : kIdTrasComillas,
-                            QString());
+            return Cabecera(fallo == Csv::Fallo::ComillasSinCerrar ? kIdFilaComillasSinCerrar
+                            : kIdFilaTextoTrasComillas, QString());
         std::array<bool, kCamposIntercambio> vistas{};
         for (const QString& nombre : nombres) {
             const std::optional<C> campo = CampoDeColumna(nombre);
             if (!campo)
-                return Cabecera(kIdColumnaDesconocida, nombre.trimmed());
+                return Cabecera(kIdCsvColumnaDesconocida, nombre.trimmed());
             if (vistas[Indice(*campo)])
-                return Cabecera(kIdColumnaRepetida, Normalizada(nombre));
+                return Cabecera(kIdCsvColumnaRepetida, Normalizada(nombre));
             vistas[Indice(*campo)] = true;
             m_columnas.push_back(*campo);
         }
         for (const C campo : kObligatorias)
             if (!vistas[Indice(campo)])
-                return Cabecera(kIdFaltaColumna, QLatin1String(kNombres[Indice(campo)]));
+                return Cabecera(kIdCsvFaltaColumna, QLatin1String(kNombres[Indice(campo)]));
         for (int i = 0; i < kCamposIntercambio; ++i)
             if (!vistas[i])
                 m_ausentes.push_back(static_cast<C>(i));
@@ -133,13 +125,13 @@ public:
                 break;
         }
         if (fallo == Csv::Fallo::ComillasSinCerrar)
-            return Ilegible(kIdComillas, motivo);
+            return Ilegible(kIdFilaComillasSinCerrar, motivo);
         if (fallo == Csv::Fallo::TextoTrasComillas)
-            return Ilegible(kIdTrasComillas, motivo);
+            return Ilegible(kIdFilaTextoTrasComillas, motivo);
         if (m_campos.size() > qsizetype(m_columnas.size()))
-            return Ilegible(kIdMasCampos, motivo);
+            return Ilegible(kIdFilaConMasCampos, motivo);
         if (m_campos.size() < qsizetype(m_columnas.size()))
-            return Ilegible(kIdMenosCampos, motivo);
+            return Ilegible(kIdFilaConMenosCampos, motivo);
         leida.corta = false;
         for (std::size_t i = 0; i < m_columnas.size(); ++i)
             leida.campos[Indice(m_columnas[i])] = ComoEnLaLinea(m_columnas[i], m_campos.at(qsizetype(i)));

@@ -1,16 +1,13 @@
 #include "registros/intercambio/FicheroErrores.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/LineaIntercambio.h"
 
 namespace {
 
-constexpr int kIdLinea = 265;
-constexpr int kIdNoImportados = 266;
-constexpr int kIdDniCif = 26;
-constexpr int kIdFormato = 270;
 const QString kSangria(9, QLatin1Char(' '));
 
 // The text as one line of the file. Every text of the catalogue is in the code page; a

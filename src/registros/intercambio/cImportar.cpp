@@ -1,5 +1,6 @@
 #include "registros/intercambio/cImportar.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
@@ -19,10 +20,6 @@
 #include <limits>
 
 namespace {
-
-// The message of a line whose contributor was saved again or deleted, since the import read
-// it, by another running copy of the program.
-constexpr int kIdContribuyenteCambiado = 370;
 
 using C = CampoIntercambio;
 
@@ -280,7 +277,7 @@ QString cImportar::TextoPreguntaSustituir(const QString& dni)
     return TextoSegunIdioma(QStringLiteral("El contribuyente con DNI ") + dni
                                 + QStringLiteral(" ya existe."),
                             dni + QStringLiteral(" zk.ko NA duen zergaduna lehenagotik dago."))
-        + QLatin1Char('\n') + Texto(269);
+        + QLatin1Char('\n') + Texto(kIdPreguntaSustituir);
 }
 
 bool cImportar::Abierto(const QString& ruta) const

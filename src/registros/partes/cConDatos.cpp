@@ -1,5 +1,6 @@
 #include "registros/partes/cConDatos.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Estado.h"
 
 #include "plataforma/General.h"
@@ -12,10 +13,29 @@
 namespace {
 
 // Catalogue ids of the import's error codes 1 to 30.
-constexpr std::array<int, 31> kIdsImportar = {0,   330, 293, 294, 295, 296, 33,  34,
-                                              35,  36,  297, 298, 299, 300, 285, 286,
-                                              287, 288, 289, 290, 301, 302, 308, 306,
-                                              307, 304, 310, 311, 309, 305, 303};
+constexpr std::array<int, 31> kIdsImportar = {0, kIdDniCifErroneoODigitoControl,
+                                              kIdImportarDniObligatorio, kIdImportarNombreVacio,
+                                              kIdImportarDomicilioVacio, kIdImportarPaisVacio,
+                                              kIdProvinciaYCodigoPostalNoCoinciden,
+                                              kIdCodigoPostalCincoCifras,
+                                              kIdCodigoPostalTresUltimosCero, kIdCodigoPostalCero,
+                                              kIdImportarNombreProvinciaVacio,
+                                              kIdImportarNombreMunicipioVacio,
+                                              kIdImportarCodigoProvinciaVacio,
+                                              kIdImportarCodigoMunicipioVacio, kIdPortalNoNumerico,
+                                              kIdCodigoProvinciaNoNumerico,
+                                              kIdCodigoPostalNoNumerico,
+                                              kIdCodigoMunicipioNoNumerico,
+                                              kIdContadorSujetosPasivosNoNumerico,
+                                              kIdContadorTransmitentesNoNumerico,
+                                              kIdTipoDniNoValido, kIdTipoDomicilioNoValido,
+                                              kIdSiglaNoAdmisible, kIdExtranjeroProvincia00,
+                                              kIdExtranjeroMunicipio000,
+                                              kIdNacionalSinNombreProvincia,
+                                              kIdCodigoMunicipioNoAdmisible,
+                                              kIdArbeliaSinNombreMunicipio,
+                                              kIdCodigoProvinciaNoAdmisible,
+                                              kIdFueraDeArbeliaMunicipio000, kIdNacionalSinPais};
 
 }  // namespace
 

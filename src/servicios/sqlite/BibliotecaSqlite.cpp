@@ -1,14 +1,13 @@
 #include "servicios/sqlite/BibliotecaSqlite.h"
 
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/sqlite/ConexionPropia.h"
 
 #include <QSqlQuery>
 #include <sqlite3.h>
 
 namespace {
-constexpr int kIdBibliotecaDistinta = 378;
-
 QString fuenteDelControlador()
 {
     ConexionPropia conexion(QStringLiteral(":memory:"), ConexionPropia::Modo::Escritura);
@@ -30,7 +29,7 @@ QString AvisoBibliotecaSqlite(const FuentesSqlite& fuentes)
     if (fuentes.propia == fuentes.delControlador)
         return {};
     const QString ninguna = QStringLiteral("?");
-    return Texto(kIdBibliotecaDistinta)
+    return Texto(kIdBibliotecaSqliteDistinta)
         .arg(fuentes.propia.isEmpty() ? ninguna : fuentes.propia,
              fuentes.delControlador.isEmpty() ? ninguna : fuentes.delControlador);
 }

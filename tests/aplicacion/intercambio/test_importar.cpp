@@ -3,6 +3,7 @@
 // closing messages, the failures and their messages (the 16-bit line counter included), and the
 // same results as saving the lines one by one.
 #include "ApoyoIntercambio.h"
+#include "catalogo/IdsCatalogo.h"
 #include "comun/AlmacenNuevo.h"
 #include "comun/OtraConexion.h"
 
@@ -305,7 +306,8 @@ private slots:
         QCOMPARE(Codigo(2), 0);
         QCOMPARE(Contribuyentes(), 1);
         const QByteArray errores = Leer(Importar().FICHEROERRORES);
-        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": " + Texto(370).toLatin1()),
+        QVERIFY2(errores.startsWith("Linea 1 - DNI-CIF " + DniDe(1) + ": "
+                                    + Texto(kIdContribuyenteCambiado).toLatin1()),
                  errores.constData());
         QVERIFY(errores.contains("\r\nLinea 2 - DNI-CIF " + DniDe(2) + ": "));
     }
@@ -426,9 +428,10 @@ private slots:
     {
         EstablecerIdiomaPrograma(Idioma::Euskera);
         const AvisoIntercambio a = Importa(LineaValida(1) + "\r\ncorta\r\n", true);
-        QCOMPARE(a.texto(), TextoFila(10272) + QStringLiteral("1") + TextoFila(10273));
-        const QByteArray corta = (TextoFila(10265) + QStringLiteral("2") + TextoFila(10266)).toLatin1()
-            + "\r\n";
+        QCOMPARE(a.texto(), TextoFila(kIdHay + 10000) + QStringLiteral("1")
+                 + TextoFila(kIdUnContribuyenteErroneo + 10000));
+        const QByteArray corta = (TextoFila(kIdLinea + 10000) + QStringLiteral("2")
+                                  + TextoFila(kIdNoImportados + 10000)).toLatin1() + "\r\n";
         QVERIFY(corta != "Linea 2No se han importado todos los datos\r\n");
         QVERIFY(Leer(Importar().FICHEROERRORES).startsWith(corta));
         QVERIFY(cImportar::TextoPreguntaSustituir(QStringLiteral("1Z"))

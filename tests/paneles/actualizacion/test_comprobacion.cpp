@@ -1,6 +1,7 @@
 // The whole update check against a local HTTP server: a current program, an older or newer
 // version offered, a file without a three-part version, a missing page, no server, a server
 // that never answers, the query keys of either language, and the outcome panels.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/CapturaModal.h"
 #include "ServidorPrueba.h"
 #include "comun/Entorno.h"
@@ -231,9 +232,10 @@ private slots:
         m_servidor->responder(200, ficheroVersion("2.0"));
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
         const Vista& v = m_vistas.at(0);
-        QCOMPARE(v.titulo, TextoFila(355) + QStringLiteral(" / ") + TextoFila(10355));
-        QCOMPARE(v.tituloC, TextoFila(353));
-        QCOMPARE(v.tituloE, TextoFila(10353));
+        QCOMPARE(v.titulo, TextoFila(kIdDatosErroneos) + QStringLiteral(" / ")
+                 + TextoFila(kIdDatosErroneos + 10000));
+        QCOMPARE(v.tituloC, TextoFila(kIdErrorDatosActualizacion));
+        QCOMPARE(v.tituloE, TextoFila(kIdErrorDatosActualizacion + 10000));
         QCOMPARE(ActOnline().SitAct, int16_t(4));
         QCOMPARE(ActOnline().ComVer, int16_t(0));
         // A bad file changes nothing of the version offered before.
@@ -252,9 +254,10 @@ private slots:
         m_servidor->responder(404, "<html>Not found</html>");
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
         const Vista& v = m_vistas.at(0);
-        QCOMPARE(v.titulo, TextoFila(354) + QStringLiteral(" / ") + TextoFila(10354));
-        QCOMPARE(v.tituloC, TextoFila(351));
-        QCOMPARE(v.tituloE, TextoFila(10351));
+        QCOMPARE(v.titulo, TextoFila(kIdFalloConexion) + QStringLiteral(" / ")
+                 + TextoFila(kIdFalloConexion + 10000));
+        QCOMPARE(v.tituloC, TextoFila(kIdSinConexionInternet));
+        QCOMPARE(v.tituloE, TextoFila(kIdSinConexionInternet + 10000));
         QCOMPARE(ActOnline().SitAct, int16_t(1));
         QVERIFY(!QFile::exists(m_carpeta->ruta() + QStringLiteral("/version.ini")));
         QCOMPARE(m_servidor->peticiones().size(), 1);
@@ -272,7 +275,7 @@ private slots:
         ActOnline().URLAct =
             QStringLiteral("http://127.0.0.1:%1/version.php").arg(ServidorPrueba::puertoCerrado());
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
-        QCOMPARE(m_vistas.at(0).tituloC, TextoFila(351));
+        QCOMPARE(m_vistas.at(0).tituloC, TextoFila(kIdSinConexionInternet));
         QCOMPARE(ActOnline().SitAct, int16_t(1));
     }
 
@@ -319,9 +322,10 @@ private slots:
         EstablecerIdiomaPrograma(Idioma::Euskera);
         m_servidor->responder(404, "");
         QCOMPARE(comprobar(), QStringList{QStringLiteral("FrmSinConexion")});
-        QCOMPARE(m_vistas.at(0).titulo, TextoFila(354) + QStringLiteral(" / ") + TextoFila(10354));
-        QCOMPARE(m_vistas.at(0).tituloC, TextoFila(351));
-        QCOMPARE(m_vistas.at(0).tituloE, TextoFila(10351));
+        QCOMPARE(m_vistas.at(0).titulo, TextoFila(kIdFalloConexion) + QStringLiteral(" / ")
+                 + TextoFila(kIdFalloConexion + 10000));
+        QCOMPARE(m_vistas.at(0).tituloC, TextoFila(kIdSinConexionInternet));
+        QCOMPARE(m_vistas.at(0).tituloE, TextoFila(kIdSinConexionInternet + 10000));
     }
 
     void comVerNoSeBorraEnLaMismaSesion()

@@ -1,5 +1,6 @@
 // The two outcome panels of the update check, the browser launch through the local page, and
 // the update setting kept in the read/write database.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/Entorno.h"
 #include "comun/MensajesEstrictos.h"
 
@@ -276,8 +277,8 @@ private slots:
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().at(0);
-        QCOMPARE(m.texto, Texto(335));
-        QCOMPARE(m.titulo, Texto(336));
+        QCOMPARE(m.texto, Texto(kIdNavegadorNoEncontradoMensaje));
+        QCOMPARE(m.titulo, Texto(kIdNavegadorNoEncontrado));
         QCOMPARE(m.botones, int(vb::Exclamation));
         // The page was written all the same, and stays.
         QVERIFY(QFile::exists(RutaPaginaTemporal()));
@@ -289,8 +290,9 @@ private slots:
         NavegadorSeam::setNextResult(false);
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that no browser opened
         LanzarExplorador(nullptr, QStringLiteral("http://a.example/"));
-        QCOMPARE(MensajeSeam::registro().at(0).texto, TextoFila(10335));
-        QCOMPARE(MensajeSeam::registro().at(0).titulo, TextoFila(10336));
+        QCOMPARE(MensajeSeam::registro().at(0).texto,
+                 TextoFila(kIdNavegadorNoEncontradoMensaje + 10000));
+        QCOMPARE(MensajeSeam::registro().at(0).titulo, TextoFila(kIdNavegadorNoEncontrado + 10000));
     }
 
     void paginaQueNoSePuedeEscribirEsUnFallo()
@@ -321,9 +323,11 @@ private slots:
         ActOnline().ActOnline = 1;
         FrmSinConexion panel;
         QCOMPARE(panel.objectName(), QStringLiteral("FrmSinConexion"));
-        QCOMPARE(panel.windowTitle(), TextoFila(354) + QStringLiteral(" / ") + TextoFila(10354));
-        QCOMPARE(hijo<QLabel>(&panel, "lblTituloC")->text(), TextoFila(351));
-        QCOMPARE(hijo<QLabel>(&panel, "lblTituloE")->text(), TextoFila(10351));
+        QCOMPARE(panel.windowTitle(), TextoFila(kIdFalloConexion) + QStringLiteral(" / ")
+                 + TextoFila(kIdFalloConexion + 10000));
+        QCOMPARE(hijo<QLabel>(&panel, "lblTituloC")->text(), TextoFila(kIdSinConexionInternet));
+        QCOMPARE(hijo<QLabel>(&panel, "lblTituloE")->text(),
+                 TextoFila(kIdSinConexionInternet + 10000));
         QCOMPARE(hijo<QCheckBox>(&panel, "ChkNoPreg")->text(),
                  QStringLiteral("Berriro kontsulta ez egin / No volver a consultar"));
         QCOMPARE(hijo<QPushButton>(&panel, "CmdContinuar")->text(),
@@ -337,9 +341,11 @@ private slots:
         ActOnline().SitAct = 4;
         EstablecerIdiomaPrograma(Idioma::Euskera);  // the rows do not follow the language
         FrmSinConexion panel;
-        QCOMPARE(panel.windowTitle(), TextoFila(355) + QStringLiteral(" / ") + TextoFila(10355));
-        QCOMPARE(hijo<QLabel>(&panel, "lblTituloC")->text(), TextoFila(353));
-        QCOMPARE(hijo<QLabel>(&panel, "lblTituloE")->text(), TextoFila(10353));
+        QCOMPARE(panel.windowTitle(), TextoFila(kIdDatosErroneos) + QStringLiteral(" / ")
+                 + TextoFila(kIdDatosErroneos + 10000));
+        QCOMPARE(hijo<QLabel>(&panel, "lblTituloC")->text(), TextoFila(kIdErrorDatosActualizacion));
+        QCOMPARE(hijo<QLabel>(&panel, "lblTituloE")->text(),
+                 TextoFila(kIdErrorDatosActualizacion + 10000));
     }
 
     void sinConexionCentradoEnPantalla()

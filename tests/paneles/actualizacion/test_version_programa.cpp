@@ -1,5 +1,6 @@
 // The program's version, read from the record embedded in the executable file: from a copy of
 // the built program, from a file made here with a known record, and from files without one.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/Entorno.h"
 
 #include "paneles/actualizacion/ActualizacionOnline.h"
@@ -52,7 +53,7 @@ class TestVersionPrograma : public QObject {
     void sinVersion()
     {
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro().at(0).texto, Texto(342));
+        QCOMPARE(MensajeSeam::registro().at(0).texto, Texto(kIdSinInformacionVersion));
         QCOMPARE(MensajeSeam::registro().at(0).botones, int(vb::OKOnly));
         QCOMPARE(VersionPrograma, QString());
         QCOMPARE(ActOnline().ProgVer1, QString());
@@ -156,8 +157,8 @@ private slots:
     {
         escribirPrograma(relleno(50000, 8));
         const Veredicto v = LeerVersionPrograma();
-        QCOMPARE(v.id, 342);
-        QCOMPARE(v.mensaje, Texto(342));
+        QCOMPARE(v.id, kIdSinInformacionVersion);
+        QCOMPARE(v.mensaje, Texto(kIdSinInformacionVersion));
         QCOMPARE(v.botones, int(vb::OKOnly));
         QVERIFY(v.titulo.isEmpty());
         QVERIFY(MensajeSeam::registro().isEmpty());

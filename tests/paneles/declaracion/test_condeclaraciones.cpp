@@ -3,6 +3,7 @@
 // comes back), Atrás back to the list with the party still selected, and the deletion of the
 // last return, which closes the panel.
 #include "ApoyoDeclaracionPanel.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "catalogo/Catalogo.h"
@@ -66,7 +67,7 @@ private slots:
                           "FrmConDeclaraciones");
         QVERIFY(m_panel);
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConDeclaraciones")});
-        QCOMPARE(m_panel->windowTitle(), Texto(43));
+        QCOMPARE(m_panel->windowTitle(), Texto(kIdDeclaracionesDeContribuyente));
         QCOMPARE(lbl("lbldcontribuyente")->text(), QStringLiteral("AGIRRE ZUBIA MIREN"));
         QCOMPARE(lbl("lblddni")->text(), Dni(22222222));
         QCOMPARE(lbl("lblnumsp")->text(), QStringLiteral("1"));
@@ -173,7 +174,7 @@ private slots:
                           "FrmConDeclaraciones");
         QVERIFY(m_panel);
         Clic(b("cmdBuscar"));
-        QCOMPARE(lbl("lblayuda")->text(), Texto(319));
+        QCOMPARE(lbl("lblayuda")->text(), Texto(kIdAyudaCriterioDeclaraciones));
         CondicionesEnCincoColumnas(grid(), t("txtBusqueda"), primera);
         Clic(b("cmdBuscar"));
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 1);
@@ -182,13 +183,14 @@ private slots:
                                 "Fecha >= 01/01/2010' , Importe >= 1, Operación empieza por 'T' "
                                 "1 declaración(es) seleccionada(s). ")
                      .arg(primera));
-        QCOMPARE(lbl("lblayuda")->text(), Texto(64));
+        QCOMPARE(lbl("lblayuda")->text(), Texto(kIdAyudaOrdenarDeclaraciones));
         // Nothing found: the criteria and id 63.
         Clic(b("cmdBuscar"));
         CondicionDeBusqueda(grid(), t("txtBusqueda"), 1, QStringLiteral("QQ"));
         Clic(b("cmdBuscar"));
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 0);
-        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("Referencia empieza por 'QQ' ") + Texto(63));
+        QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("Referencia empieza por 'QQ' ")
+                 + Texto(kIdSinDatosCondicion));
         // Todos: all again, by number, newest first.
         Clic(b("cmdTodos"));
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 2);
@@ -204,8 +206,9 @@ private slots:
         QVERIFY(m_panel);
         MensajeSeam::setNextAnswer(vb::Yes);
         Clic(b("cmdEliminar"));
-        QCOMPARE(MensajeSeam::registro().first().texto,
-                 Texto(66) + QString::number(csde) + Texto(67) + QStringLiteral("UNICA") + Texto(68));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdPreguntaEliminarDeclaracion)
+                 + QString::number(csde) + Texto(kIdGuionEliminarDeclaracion)
+                 + QStringLiteral("UNICA") + Texto(kIdInterrogacionEliminarDeclaracion));
         QCOMPARE(Declaraciones(), 0);
         QVERIFY(!m_prog->panel(QStringLiteral("FrmConDeclaraciones")));
         QVERIFY(m_prog->panel(QStringLiteral("FrmConLista")));
@@ -219,7 +222,7 @@ private slots:
         abrirDesdeLaLista("mnuAbrirPresentador", "FrmPreLista", "flxPresentadores",
                           "FrmPreDeclaraciones");
         QVERIFY(m_panel);
-        QCOMPARE(m_panel->windowTitle(), Texto(200));
+        QCOMPARE(m_panel->windowTitle(), Texto(kIdDeclaracionesDePresentador));
         QCOMPARE(grid()->Cols(), 6);
         // The operation's column keeps its width; the number's grows to hold "NºDecl." and
         // the order's arrow.

@@ -1,6 +1,7 @@
 // The operation record and the computation of a return: rounding of the operation's numbers,
 // the rate without fixed value recognised by its bits, what an operation does to the return,
 // the amounts, the reductions, the typed rate, and the base read from its text.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
@@ -413,7 +414,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro().first();
         QCOMPARE(m.texto, QStringLiteral("El Tipo Impositivo no puede ser menor que 7 ni mayor que 12"));
-        QCOMPARE(m.titulo, Texto(131));
+        QCOMPARE(m.titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(m.icono(), int(vb::Exclamation));
     }
 

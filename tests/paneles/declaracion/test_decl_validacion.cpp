@@ -1,6 +1,7 @@
 // The whole-return check as the declaration form runs it: what the store judges, the message
 // and the control that takes the focus for each rule, the check of the parties' tax numbers, and the
 // date of accrual with what a new date does to the operation, in both languages.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 
 #include "registros/nucleo/CEntrada.h"
@@ -111,22 +112,42 @@ private slots:
             const char* control;
             int pestana;
         } tabla[] = {
-            {1, 132, "txtmarca", n}, {2, 133, "txtmodelo", n}, {3, 134, "txttipo", n},
-            {4, 135, "txtbastidor", n}, {5, 136, "txtclasificacion", n},
-            {6, 137, "txtcilindrada", n}, {7, 138, "txtoperacion", n}, {8, 139, "txtbasei", n},
-            {10, 330, "txtdnisp", s}, {11, 143, "txtnombresp", s}, {12, 144, "txtviasp", s},
-            {13, 145, "txtdomiciliosp", s}, {14, 146, "txtcodmunsp", s},
-            {15, 147, "txtnommunsp", s}, {16, 148, "txtcodpossp", s},
-            {17, 149, "txtcodpossp", s}, {18, 150, "txtcodpossp", s}, {19, 151, "txtdnitr", t},
-            {20, 152, "txtdnitr", t}, {21, 153, "txtnombretr", t}, {22, 154, "txtviatr", t},
-            {23, 155, "txtdomiciliotr", t}, {24, 156, "txtpaistr", t},
-            {25, 157, "txtcodpostr", t}, {26, 158, "txtcodpostr", t},
-            {27, 159, "txtcodpostr", t}, {28, 160, "txtcodpostr", t},
-            {29, 161, "txtnomprovtr", t}, {30, 162, "txtnommuntr", t},
-            {31, 163, "txtcodprovtr", t}, {32, 164, "txtcodmuntr", t},
-            {33, 283, "txtcilindrada", n}, {34, 284, "txtcilindrada", n},
-            {35, 281, "txtcilindrada", n}, {36, 282, "txtcilindrada", n},
-            {37, 323, "txtdnisp", s}, {38, 324, "txtoperacion", n}, {40, 362, "txtoperacion", n},
+            {1, kIdMarcaVacia, "txtmarca", n}, {2, kIdModeloVacio, "txtmodelo", n},
+            {3, kIdTipoVacio, "txttipo", n},
+            {4, kIdBastidorVacio, "txtbastidor", n},
+            {5, kIdClasificacionVacia, "txtclasificacion", n},
+            {6, kIdCilindradaVacia, "txtcilindrada", n}, {7, kIdOperacionVacia, "txtoperacion", n},
+            {8, kIdBaseImponibleVacia, "txtbasei", n},
+            {10, kIdDniCifErroneoODigitoControl, "txtdnisp", s},
+            {11, kIdNombreSujetoPasivoVacio, "txtnombresp", s},
+            {12, kIdSiglasSujetoPasivoVacias, "txtviasp", s},
+            {13, kIdDomicilioSujetoPasivoVacio, "txtdomiciliosp", s},
+            {14, kIdCodigoMunicipioSujetoPasivoVacio, "txtcodmunsp", s},
+            {15, kIdMunicipioSujetoPasivoVacio, "txtnommunsp", s},
+            {16, kIdCodigoPostalSujetoPasivoCero, "txtcodpossp", s},
+            {17, kIdProvinciaYCodigoPostalSujetoPasivoNoCoinciden, "txtcodpossp", s},
+            {18, kIdCodigoPostalSujetoPasivoTresUltimosCero, "txtcodpossp", s},
+            {19, kIdDniCifTransmitenteErroneo, "txtdnitr", t},
+            {20, kIdDniTransmitenteVacio, "txtdnitr", t},
+            {21, kIdNombreTransmitenteVacio, "txtnombretr", t},
+            {22, kIdSiglasTransmitenteVacias, "txtviatr", t},
+            {23, kIdDomicilioTransmitenteVacio, "txtdomiciliotr", t},
+            {24, kIdPaisTransmitenteVacio, "txtpaistr", t},
+            {25, kIdProvinciaYCodigoPostalTransmitenteNoCoinciden, "txtcodpostr", t},
+            {26, kIdCodigoPostalTransmitenteCincoCifras, "txtcodpostr", t},
+            {27, kIdCodigoPostalTransmitenteTresUltimosCero, "txtcodpostr", t},
+            {28, kIdCodigoPostalTransmitenteCero, "txtcodpostr", t},
+            {29, kIdProvinciaTransmitenteVacia, "txtnomprovtr", t},
+            {30, kIdMunicipioTransmitenteVacio, "txtnommuntr", t},
+            {31, kIdCodigoProvinciaTransmitenteVacio, "txtcodprovtr", t},
+            {32, kIdCodigoMunicipioTransmitenteVacio, "txtcodmuntr", t},
+            {33, kIdOperacionNoP6P7, "txtcilindrada", n},
+            {34, kIdOperacionNoP6P7Duplicada, "txtcilindrada", n},
+            {35, kIdOperacionNoP6BP7B, "txtcilindrada", n},
+            {36, kIdOperacionNoP6BP7BDuplicada, "txtcilindrada", n},
+            {37, kIdDniSujetoPasivoVacio, "txtdnisp", s},
+            {38, kIdOperacionN43TnTe, "txtoperacion", n},
+            {40, kIdOperacionN43T1aT5Te, "txtoperacion", n},
         };
         for (const auto& f : tabla)
             QTest::newRow(qPrintable(QString::number(f.numero)))
@@ -161,7 +182,8 @@ private slots:
         QCOMPARE(v.control, QStringLiteral("txtoperacion"));
         euskera(true);
         v = VeredictoDeclaracion(39, QStringLiteral("X"));
-        QCOMPARE(v.mensaje, Texto(356) + QStringLiteral("X") + Texto(357));
+        QCOMPARE(v.mensaje, Texto(kIdOperacionNoPuedeSer) + QStringLiteral("X")
+                 + Texto(kIdOperacionAnio2006Cilindrada2499));
         QVERIFY(v.mensaje.startsWith(QStringLiteral("Eragiketa ez daiteke")));
     }
 
@@ -253,8 +275,8 @@ private slots:
         const Veredicto v = ValidarCampos(true, kTitulo, Operacion().DESCRIP);
         QVERIFY(!v.vacio());
         QCOMPARE(ReglaDe(v), 39);
-        QCOMPARE(MensajeSeam::registro().first().texto,
-                 Texto(356) + Operacion().DESCRIP + Texto(357));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdOperacionNoPuedeSer)
+                 + Operacion().DESCRIP + Texto(kIdOperacionAnio2006Cilindrada2499));
     }
 
     // --- ValidarNifIntervinientes --------------------------------------------------------------
@@ -272,7 +294,7 @@ private slots:
         DecDatos().DNISP = QStringLiteral("22222222A");
         QCOMPARE(ValidarNifIntervinientes(kTitulo), int16_t(-1));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro().first().texto, Texto(331));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdDniPresentadorErroneo));
         QCOMPARE(MensajeSeam::registro().first().icono(), int(vb::Information));
     }
 
@@ -320,7 +342,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro().first().texto,
                  QStringLiteral("La Fecha de Devengo introducida no es correcta"));
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(MensajeSeam::registro().first().icono(), int(vb::Exclamation));
     }
 
@@ -340,12 +362,12 @@ private slots:
     {
         euskera(true);
         QVERIFY(!ValidarFecha(QStringLiteral("2010/02/30")));
-        QCOMPARE(MensajeSeam::registro().last().texto, Texto(169));
+        QCOMPARE(MensajeSeam::registro().last().texto, Texto(kIdFechaDevengoIncorrecta));
         QVERIFY(!ValidarFecha(QStringLiteral("2028/01/01")));
         QCOMPARE(MensajeSeam::registro().last().texto,
                  QStringLiteral("Sortzapen data ezin da lehenagokoa izan egun hau baino "
                                 "1993/01/01ezta geroakoa ere egun hau baino 2027/12/31\n"));
-        QCOMPARE(MensajeSeam::registro().last().titulo, Texto(131));
+        QCOMPARE(MensajeSeam::registro().last().titulo, Texto(kIdErrorIntroduccionDatos));
         QVERIFY(ValidarFecha(QStringLiteral("2010/02/28")));
     }
 

@@ -2,6 +2,7 @@
 // entries, the date of accrual and the operations it brings, the rate, marks and reductions,
 // the amounts the Spanish way, the parties typed by number, Aceptar, Cancelar and the copy.
 #include "ApoyoDeclaracionPanel.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "aplicacion/Navegacion.h"
@@ -133,8 +134,8 @@ private slots:
         // A bad date: message 169 under title 131, the old date back, the focus on the field.
         MensajeSeam::setNextAnswer(vb::OK);
         EscribirFecha(t("txtfechad"), QStringLiteral("31022010"));
-        QCOMPARE(mensajes(), QStringList{Texto(169)});
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(mensajes(), QStringList{Texto(kIdFechaDevengoIncorrecta)});
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(DecDatos().FECHAD, 20100315);
         Procesar();
         QCOMPARE(t("txtfechad")->text(), QStringLiteral("15/03/2010"));
@@ -144,7 +145,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);
         EscribirFecha(t("txtfechad"), QStringLiteral("01011990"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QVERIFY(MensajeSeam::registro().first().texto.startsWith(Texto(170)));
+        QVERIFY(MensajeSeam::registro().first().texto.startsWith(Texto(kIdFechaDevengoAnteriorA)));
         QCOMPARE(DecDatos().FECHAD, 20100315);
     }
 
@@ -156,8 +157,8 @@ private slots:
         Entrar(cmb());
         MensajeSeam::setNextAnswer(vb::OK);
         Tabular();
-        QCOMPARE(mensajes(), QStringList{Texto(130)});
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(mensajes(), QStringList{Texto(kIdSeleccionarCodigoLista)});
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(Foco(), t("txtoperacion"));
         // Choosing in the list writes the code.
         MensajeSeam::limpiar();
@@ -185,7 +186,8 @@ private slots:
         // Out of the limits: message 140 + 141, the rate stays, the focus comes back.
         MensajeSeam::setNextAnswer(vb::OK);
         EscribirYSalir(n("txttipoimp"), QStringLiteral("20"));
-        QCOMPARE(mensajes(), QStringList{Texto(140) + QStringLiteral("0") + Texto(141)
+        QCOMPARE(mensajes(), QStringList{Texto(kIdTipoImpositivoMenorQue) + QStringLiteral("0")
+                                         + Texto(kIdTipoImpositivoNiMayorQue)
                                          + QStringLiteral("14,75")});
         QCOMPARE(DecDatos().TIPOIMP, 10.0);
         QCOMPARE(n("txttipoimp")->value(), 10.0);
@@ -232,7 +234,7 @@ private slots:
         // A number without its right letter: message 330, the box empty again.
         MensajeSeam::setNextAnswer(vb::OK);
         EscribirYSalir(t("txtdnisp"), QStringLiteral("12345678A"));
-        QCOMPARE(mensajes(), QStringList{Texto(330)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdDniCifErroneoODigitoControl)});
         QCOMPARE(t("txtdnisp")->text(), QString());
         QCOMPARE(DecDatos().DNISP, QString());
         // A stored foreign contributor cannot be the subject: message 167.
@@ -250,7 +252,7 @@ private slots:
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::OK);
         EscribirYSalir(t("txtdnisp"), Dni(11111111));
-        QCOMPARE(mensajes(), QStringList{Texto(167)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdDniOficialDomicilioNacional)});
         QCOMPARE(t("txtdnisp")->text(), QString());
         // A stored national one is loaded.
         ContribuyenteDePanel nacional;
@@ -267,7 +269,7 @@ private slots:
         // An unknown number over a stored contributor: question 168; No keeps the party.
         MensajeSeam::setNextAnswer(vb::No);
         EscribirYSalir(t("txtdnisp"), Dni(33333333));
-        QCOMPARE(mensajes(), QStringList{Texto(168)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdPreguntaCargarNuevoContribuyente)});
         QCOMPARE(MensajeSeam::registro().first().botones, 292);
         QCOMPARE(DecDatos().CSSU, codigo);
         QCOMPARE(t("txtdnisp")->text(), Dni(22222222));
@@ -474,7 +476,8 @@ private slots:
                 throw std::runtime_error("no guardada");
         }));
         EscribirYSalir(t("txtreferencia"), QStringLiteral("MIA"));
-        const QString pregunta = Texto(367) + QStringLiteral("\n") + Texto(368);
+        const QString pregunta = Texto(kIdDatosCambiadosDesdeApertura) + QStringLiteral("\n")
+            + Texto(kIdPreguntaCargarDatosGuardados);
         const auto referencia = [] {
             return ValorAlmacenado(QStringLiteral("SELECT REFERENCIA FROM DECLARACIONES")).toString();
         };

@@ -4,6 +4,7 @@
 // of a changed return, and the parties' paths (the transmitter's number, the same party on both
 // tabs, the codes of an address).
 #include "ApoyoDeclaracionPanel.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "aplicacion/Navegacion.h"
@@ -65,7 +66,8 @@ private slots:
         Escribir(t("txtmarca"), QStringLiteral("RENAULT"));
         MensajeSeam::setNextAnswer(vb::Yes);
         teclaDeAcceso(Qt::Key_I);
-        QCOMPARE(mensajes(), QStringList{Texto(165) + QStringLiteral("\n") + Texto(166)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdGuardarAntesDeImprimir) + QStringLiteral("\n")
+                                         + Texto(kIdPreguntaGuardarDeclaracion)});
         QTRY_VERIFY(m_prog->panel(QStringLiteral("FrmImprimir")));
         QCOMPARE(almacenado("MARCA"), QStringLiteral("RENAULT"));
         QCOMPARE(ImOf().CSDE, csde);
@@ -82,7 +84,7 @@ private slots:
         Escribir(t("txtfechad"), QStringLiteral("31022010"));
         MensajeSeam::setNextAnswer(vb::OK);
         teclaDeAcceso(Qt::Key_A);
-        QCOMPARE(mensajes(), QStringList{Texto(169)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdFechaDevengoIncorrecta)});
         QVERIFY(m_prog->panel(QStringLiteral("FrmDeclaracion")));
         QCOMPARE(Foco(), t("txtfechad"));
         MensajeSeam::limpiar();
@@ -184,7 +186,7 @@ private slots:
         Escribir(t("txtdnisp"), QStringLiteral("12345678A"));
         MensajeSeam::setNextAnswer(vb::OK);
         teclaDeAcceso(Qt::Key_T);
-        QCOMPARE(mensajes(), QStringList{Texto(330)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdDniCifErroneoODigitoControl)});
         QCOMPARE(c<QTabBar>("tabTerceros")->currentIndex(), 0);
         QVERIFY(c<QWidget>("FraSujetoPasivo")->isVisible());
         QCOMPARE(Foco(), t("txtdnisp"));
@@ -243,7 +245,7 @@ private slots:
         Entrar(caja);
         MensajeSeam::setNextAnswer(vb::OK);
         Tabular();
-        QCOMPARE(mensajes(), QStringList{Texto(130)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdSeleccionarCodigoLista)});
         QCOMPARE(Foco(), t("txtoperacion"));
     }
 
@@ -432,7 +434,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);
         Escribir(t("txtdnitr"), QStringLiteral("87654321A"));
         pestana(0);
-        QCOMPARE(mensajes(), QStringList{Texto(330)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdDniCifErroneoODigitoControl)});
         QCOMPARE(MensajeSeam::registro().first().titulo, QStringLiteral("Datos Declaración"));
         QCOMPARE(c<QTabBar>("tabTerceros")->currentIndex(), 1);
         QVERIFY(c<QWidget>("FraTransmitente")->isVisible());
@@ -449,7 +451,7 @@ private slots:
         QCOMPARE(DecDatos().CSTRA, codigo);
         MensajeSeam::setNextAnswer(vb::No);
         EscribirYSalir(t("txtdnitr"), Dni(44444444));
-        QCOMPARE(mensajes(), QStringList{Texto(168)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdPreguntaCargarNuevoContribuyente)});
         QCOMPARE(MensajeSeam::registro().first().botones, 292);
         QCOMPARE(DecDatos().CSTRA, codigo);
         QCOMPARE(t("txtdnitr")->text(), Dni(33333333));
@@ -497,7 +499,8 @@ private slots:
         QVERIFY(DecDatos().MODIFICADO);
         MensajeSeam::setNextAnswer(vb::No);
         Clic(b("cmdImprimir"));
-        QCOMPARE(mensajes(), QStringList{Texto(165) + QStringLiteral("\n") + Texto(166)});
+        QCOMPARE(mensajes(), QStringList{Texto(kIdGuardarAntesDeImprimir) + QStringLiteral("\n")
+                                         + Texto(kIdPreguntaGuardarDeclaracion)});
         QCOMPARE(MensajeSeam::registro().first().botones, 68);
         QCOMPARE(MensajeSeam::registro().first().titulo, QStringLiteral("Datos Declaración"));
         QCOMPARE(Foco(), b("cmdImprimir"));

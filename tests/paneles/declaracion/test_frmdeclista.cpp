@@ -2,6 +2,7 @@
 // the headings, the search with its conditions, Todos, open, copy and new through the form and
 // the way back to the list with the new row selected; and the whole road of one return.
 #include "ApoyoDeclaracionPanel.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "catalogo/Catalogo.h"
@@ -69,7 +70,7 @@ private slots:
         QCOMPARE(lbl("lblResultado")->text(), QStringLiteral("3 declaración(es) seleccionada(s) "));
         QVERIFY(c<QWidget>("picdesc")->isVisible() && !c<QWidget>("picasc")->isVisible());
         QVERIFY(b("cmdAceptar")->isEnabled());
-        QCOMPARE(b("cmdAceptar")->text(), Texto(75));
+        QCOMPARE(b("cmdAceptar")->text(), Texto(kIdBotonDatos));
         // The description does not order.
         clicCabecera(5);
         QCOMPARE(DecLista().ORDEN, 1);
@@ -97,7 +98,7 @@ private slots:
         abrir();
         Clic(b("cmdBuscar"));
         QCOMPARE(DecLista().BUSQUEDA, QStringLiteral("B"));
-        QCOMPARE(b("cmdBuscar")->text(), Texto(65));
+        QCOMPARE(b("cmdBuscar")->text(), Texto(kIdResultado));
         QVERIFY(t("txtBusqueda")->isVisible());
         // The search box stands on the code; a click on the reference moves it there.
         clicCelda(1, 1);
@@ -117,8 +118,8 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);
         Tabular();
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro().first().texto, Texto(70));
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(71));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdFechaNoValida));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdErrorIntroduccionFecha));
         const auto& tabla = DecLista().TABLASELECCION;
         QVERIFY(!tabla || std::none_of(tabla->cbegin(), tabla->cend(), [](const cCriterio& c) {
                     return c.CAMPOSELECCION == QLatin1String("3");
@@ -243,22 +244,23 @@ private slots:
     {
         const int32_t csde = DeclaracionGuardada(QStringLiteral("AAA"));
         abrir("mnuEliminarDeclaracion");
-        QCOMPARE(m_panel->windowTitle(), Texto(59));
-        QCOMPARE(b("cmdAceptar")->text(), Texto(86));
+        QCOMPARE(m_panel->windowTitle(), Texto(kIdEliminarDeclaracion));
+        QCOMPARE(b("cmdAceptar")->text(), Texto(kIdBotonEliminar));
         QVERIFY(!b("cmdNuevo")->isVisible() && !b("cmdCopiar")->isVisible());
         // No: nothing goes.
         MensajeSeam::setNextAnswer(vb::No);
         Clic(b("cmdAceptar"));
-        QCOMPARE(MensajeSeam::registro().first().texto,
-                 Texto(66) + QString::number(csde) + Texto(178) + QStringLiteral("AAA") + Texto(68));
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(69));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdPreguntaEliminarDeclaracion)
+                 + QString::number(csde) + Texto(kIdGuionEliminarDeclaracionLista)
+                 + QStringLiteral("AAA") + Texto(kIdInterrogacionEliminarDeclaracion));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdBorradoDeclaracion));
         QCOMPARE(MensajeSeam::registro().first().botones, 292);
         QCOMPARE(Declaraciones(), 1);
         MensajeSeam::setNextAnswer(vb::Yes);
         Clic(b("cmdAceptar"));
         QCOMPARE(Declaraciones(), 0);
         QCOMPARE(grid()->Rows(), 2);
-        QCOMPARE(lbl("lblResultado")->text(), Texto(63));
+        QCOMPARE(lbl("lblResultado")->text(), Texto(kIdSinDatosCondicion));
         QVERIFY(!b("cmdAceptar")->isEnabled());
         Clic(b("cmdCancelar"));
         // The main window: no recent returns, open and delete off.
@@ -346,8 +348,8 @@ private slots:
         DeclaracionGuardada(QStringLiteral("AAA"), 20110101, QStringLiteral("T4"));
         abrir();
         QVERIFY(m_panel);
-        QCOMPARE(m_panel->windowTitle(), TextoFila(10174));
-        QVERIFY(m_panel->windowTitle() != TextoFila(174));
+        QCOMPARE(m_panel->windowTitle(), TextoFila(kIdAbrirDeclaracion + 10000));
+        QVERIFY(m_panel->windowTitle() != TextoFila(kIdAbrirDeclaracion));
         QCOMPARE(grid()->TextMatrix(1, 2), QStringLiteral("2011/01/01"));
         QCOMPARE(grid()->TextMatrix(1, 3), QStringLiteral("712,50"));
         QVERIFY(MensajeSeam::registro().isEmpty());

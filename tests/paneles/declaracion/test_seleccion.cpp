@@ -2,6 +2,7 @@
 // contributors (the subject refused when foreign, id 90), the presenter from the presenters,
 // Cancelar, the criteria that survive a second trip, and the form that comes back.
 #include "ApoyoDeclaracionPanel.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "catalogo/Catalogo.h"
@@ -112,9 +113,9 @@ private slots:
         ir("cmdSujetoPasivo", "FrmConSeleccion");
         QVERIFY(m_panel);
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConSeleccion")});
-        QCOMPARE(m_panel->windowTitle(), Texto(87));
-        QCOMPARE(b("cmdAceptar")->text(), Texto(6));
-        QCOMPARE(b("cmdCancelar")->toolTip(), Texto(89));
+        QCOMPARE(m_panel->windowTitle(), Texto(kIdListaSeleccionContribuyente));
+        QCOMPARE(b("cmdAceptar")->text(), Texto(kIdBotonAceptar));
+        QCOMPARE(b("cmdCancelar")->toolTip(), Texto(kIdVolverDatosDeclaracion));
         QVERIFY(!b("cmdNuevo")->isVisible());
         QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("T"));
         QCOMPARE(Navegacion::Letras(ConSeleccion().ENTRADA), QStringLiteral("S"));
@@ -148,8 +149,8 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro().first().texto, Texto(90));
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(87));
+        QCOMPARE(MensajeSeam::registro().first().texto, Texto(kIdSujetoPasivoNoOficialNacional));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdListaSeleccionContribuyente));
         QVERIFY(m_prog->panel(QStringLiteral("FrmConSeleccion")));
         QCOMPARE(DecDatos().CSSU, 0);
         Clic(b("cmdCancelar"));
@@ -304,7 +305,7 @@ private slots:
         QVERIFY(b("CmdPresentador")->isEnabled());
         ir("CmdPresentador", "FrmPreSeleccion");
         QVERIFY(m_panel);
-        QCOMPARE(m_panel->windowTitle(), Texto(212));
+        QCOMPARE(m_panel->windowTitle(), Texto(kIdListaSeleccionPresentador));
         QCOMPARE(grid("flxPresentadores")->Cols(), 5);
         Clic(b("cmdAceptar"));
         volver();

@@ -1,6 +1,7 @@
 // The online assistance through the panels' seams: the service's answer opened in the browser
 // in each language, and shown as a message when no browser opens; the description of the
 // service shown as a message.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/Entorno.h"
 
 #include "paneles/dialogos/Mensaje.h"
@@ -52,14 +53,15 @@ private slots:
         cMiscelaneos m;
         MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(335));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(336));
+        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(kIdNavegadorNoEncontradoMensaje));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdNavegadorNoEncontrado));
 
         NavegadorSeam::setNextResult(false);
         m.Idioma = 10000;
         MostrarVeredicto(m.AccesoAyuOnline(AbrirEnNavegador));
-        QCOMPARE(MensajeSeam::registro()[1].texto, TextoFila(10335));
-        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(10336));
+        QCOMPARE(MensajeSeam::registro()[1].texto,
+                 TextoFila(kIdNavegadorNoEncontradoMensaje + 10000));
+        QCOMPARE(MensajeSeam::registro()[1].titulo, TextoFila(kIdNavegadorNoEncontrado + 10000));
     }
 
     void descripcionDelServicio()
@@ -68,7 +70,7 @@ private slots:
         MostrarVeredicto(m.MostrarOnlineInfo());
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& r = MensajeSeam::registro()[0];
-        QCOMPARE(r.titulo, TextoFila(361));
+        QCOMPARE(r.titulo, TextoFila(kIdDescripcionServicio));
         QCOMPARE(r.icono(), int(vb::Information));
         QVERIFY(r.texto.contains(cMiscelaneos::DireccionAyuOnline(0).toString()));
         QVERIFY(r.texto.contains(QLatin1String("asistencia on-line")));
@@ -77,7 +79,7 @@ private slots:
         m.Idioma = 10000;
         MostrarVeredicto(m.MostrarOnlineInfo());
         const auto& e = MensajeSeam::registro()[1];
-        QCOMPARE(e.titulo, TextoFila(10361));
+        QCOMPARE(e.titulo, TextoFila(kIdDescripcionServicio + 10000));
         QVERIFY(e.texto.contains(cMiscelaneos::DireccionAyuOnline(10000).toString()));
         QVERIFY(e.texto.contains(QLatin1String("laguntza")));
     }

@@ -3,6 +3,7 @@
 // copies in their fixed order (one document each) or says there is no printer, "Vista previa"
 // shows the same copies and "PDF" writes them through the file dialog. Nothing blocks: the
 // message, file and printing dialogs are the seams'.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 #include "ApoyoImpreso.h"
 
@@ -305,7 +306,7 @@ private slots:
         pulsar("cmdAceptar");
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro().first().texto, mensaje);
-        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(131));
+        QCOMPARE(MensajeSeam::registro().first().titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(m_hojas.Llamadas.size(), 0);
         QVERIFY(m_panel->isVisible());
     }

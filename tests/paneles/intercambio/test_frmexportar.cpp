@@ -5,6 +5,7 @@
 // the order of selection, and both languages.
 #include "ApoyoIntercambio.h"
 #include "ApoyoListas.h"
+#include "catalogo/IdsCatalogo.h"
 #include "comun/PartesPrueba.h"
 #include "comun/ProgramaPrueba.h"
 
@@ -74,7 +75,7 @@ private slots:
         QWidget* panel = AbrirDesdeMenu();
         QVERIFY(panel);
         QCOMPARE(panel->windowTitle(), QStringLiteral("Exportación de contribuyentes"));
-        QCOMPARE(Etiqueta(panel, "lblTitulo")->text(), Texto(253));
+        QCOMPARE(Etiqueta(panel, "lblTitulo")->text(), Texto(kIdAyudaSeleccionExportar));
         cFlexGrid* encontrados = Grid(panel, "flxDeclaraciones");
         QCOMPARE(encontrados->Rows(), 14);
         QCOMPARE(Fila(encontrados, 0),
@@ -149,7 +150,8 @@ private slots:
         QCOMPARE(Exportar().BUSQUEDA, QStringLiteral("B"));
         QVERIFY(!Boton(panel, "cmdBuscar")->isEnabled());
         QVERIFY(!Boton(panel, "CmdSelTodos")->isEnabled());
-        QCOMPARE(Etiqueta(panel, "lblayuda")->text().trimmed(), Texto(246).trimmed());
+        QCOMPARE(Etiqueta(panel, "lblayuda")->text().trimmed(),
+                 Texto(kIdAyudaCriterioSeleccion).trimmed());
         ClicCelda(encontrados, 1, 1);
         QLineEdit* caja = Caja(panel);
         QVERIFY(caja->isVisible());
@@ -172,7 +174,7 @@ private slots:
         Procesar();
         Boton(panel, "cmdBuscar")->click();
         QCOMPARE(Etiqueta(panel, "lblResultado1")->text(),
-                 QStringLiteral("DNI empieza por '9' ") + Texto(63));
+                 QStringLiteral("DNI empieza por '9' ") + Texto(kIdSinDatosCondicion));
         QVERIFY(!Boton(panel, "CmdSelUno")->isEnabled());
         QVERIFY(!Boton(panel, "CmdSelTodos")->isEnabled());
         QCOMPARE(Exportar().NUMCONTRIEXP, 2);
@@ -204,7 +206,7 @@ private slots:
         QTest::mouseClick(Boton(panel, "cmdAceptar"), Qt::LeftButton);
         Procesar();
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(250));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdPreguntaReemplazarArchivo));
         QCOMPARE(MensajeSeam::registro()[0].titulo, QStringLiteral("Confirmación ..."));
         QCOMPARE(MensajeSeam::registro()[0].botones, vb::YesNo + vb::Question);
         // No all the same: the file is overwritten, in the order of selection, and the panel
@@ -258,11 +260,13 @@ private slots:
         m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         Poblar(2);
         QWidget* panel = AbrirDesdeMenu();
-        QCOMPARE(panel->windowTitle(), TextoFila(10252));
+        QCOMPARE(panel->windowTitle(), TextoFila(kIdExportacionContribuyentes + 10000));
         QCOMPARE(Fila(Grid(panel, "flxDeclaraciones"), 0).mid(1),
                  (QStringList{QStringLiteral("Deiturak eta izena"), QStringLiteral("NA")}));
-        QCOMPARE(Etiqueta(panel, "lblResultado1")->text(), QStringLiteral("2") + TextoFila(10245));
-        QCOMPARE(Boton(panel, "cmdAceptar")->toolTip(), TextoFila(10280));
+        QCOMPARE(Etiqueta(panel, "lblResultado1")->text(), QStringLiteral("2")
+                 + TextoFila(kIdContribuyentesEnLista + 10000));
+        QCOMPARE(Boton(panel, "cmdAceptar")->toolTip(),
+                 TextoFila(kIdExportarSeleccionados + 10000));
     }
 };
 

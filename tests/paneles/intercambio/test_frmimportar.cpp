@@ -4,6 +4,7 @@
 // the panel ready, and both languages.
 #include "ApoyoIntercambio.h"
 #include "ApoyoListas.h"
+#include "catalogo/IdsCatalogo.h"
 #include "comun/PartesPrueba.h"
 #include "comun/ProgramaPrueba.h"
 
@@ -252,15 +253,16 @@ private slots:
         m_entorno.reset();
         m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QWidget* panel = Abrir(LineaValida(1) + "\r\n");
-        QCOMPARE(panel->windowTitle(), TextoFila(10254));
-        QCOMPARE(Valor(panel, "Label4"), TextoFila(10257));
+        QCOMPARE(panel->windowTitle(), TextoFila(kIdImportacionContribuyentes + 10000));
+        QCOMPARE(Valor(panel, "Label4"), TextoFila(kIdEtiquetaTotal + 10000));
         QCOMPARE(panel->findChild<QCheckBox*>(QStringLiteral("ChkAutomatico"))->text(),
-                 TextoFila(10261));
+                 TextoFila(kIdAutomatico + 10000));
         MensajeSeam::limpiar();
         MensajeSeam::setNextAnswer(vb::OK);
         Boton(panel, "cmdAceptar")->click();
-        QCOMPARE(MensajeSeam::registro().last().texto, TextoFila(10275));
-        QCOMPARE(Boton(panel, "cmdCancelar")->text(), TextoFila(10230));
+        QCOMPARE(MensajeSeam::registro().last().texto,
+                 TextoFila(kIdImportadosCorrectamente + 10000));
+        QCOMPARE(Boton(panel, "cmdCancelar")->text(), TextoFila(kIdMenuSalir + 10000));
     }
 };
 

@@ -2,6 +2,7 @@
 // surrogate pair, a text longer than its field) is refused with the program's message, the
 // field and its tab, and the store stays as it was; and the search of the list finds a
 // reference whatever the case of its letters beyond ASCII.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 
 #include "plataforma/General.h"
@@ -162,7 +163,7 @@ private slots:
                                                            : d.TOTAL) = Importe(valor);
             const Resultado<Declaracion> r = svr.GuardarDeclaracion(d);
             QVERIFY(!r);
-            QCOMPARE(r.veredicto().id, kIdImporteNoValido);
+            QCOMPARE(r.veredicto().id, kIdCasillaImporteNoValido);
             QCOMPARE(r.veredicto().mensaje, mensaje);
             QCOMPARE(r.veredicto().control, control);
             QCOMPARE(r.veredicto().vigencia, Vigencia::Vigente);

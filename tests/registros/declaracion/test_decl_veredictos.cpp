@@ -2,6 +2,7 @@
 // limits, a bad date, a broken rule and wrong tax numbers each come back as catalogue id, text,
 // icon, title and control, and the record as the rule leaves it. The test links no widget, so
 // no message box can be asked for.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/DeclaracionPrueba.h"
 
 #include "catalogo/Catalogo.h"
@@ -42,11 +43,11 @@ private slots:
         const ResultadoTipo r = AceptarTipoImpositivo(15, false, false);
         QVERIFY(r.presentar && r.volverAlTipo);
         QCOMPARE(DecDatos().TIPOIMP, 3.0);
-        QCOMPARE(r.veredicto.id, 140);
+        QCOMPARE(r.veredicto.id, kIdTipoImpositivoMenorQue);
         QCOMPARE(r.veredicto.mensaje,
                  QStringLiteral("El Tipo Impositivo no puede ser menor que 0 ni mayor que 14,75"));
         QCOMPARE(r.veredicto.botones, int(vb::Exclamation));
-        QCOMPARE(r.veredicto.titulo, Texto(131));
+        QCOMPARE(r.veredicto.titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(r.veredicto.control, QStringLiteral("txttipoimp"));
         QVERIFY(AceptarTipoImpositivo(14, false, false).veredicto.vacio());
         QCOMPARE(DecDatos().TIPOIMP, 14.0);
@@ -56,14 +57,14 @@ private slots:
     {
         const int32_t antes = DecDatos().FECHAD;
         Veredicto v = CambiarFecha(QStringLiteral("31/04/2010"));
-        QCOMPARE(v.id, 169);
-        QCOMPARE(v.mensaje, Texto(169));
+        QCOMPARE(v.id, kIdFechaDevengoIncorrecta);
+        QCOMPARE(v.mensaje, Texto(kIdFechaDevengoIncorrecta));
         QCOMPARE(v.botones, int(vb::Exclamation));
-        QCOMPARE(v.titulo, Texto(131));
+        QCOMPARE(v.titulo, Texto(kIdErrorIntroduccionDatos));
         QCOMPARE(v.control, QStringLiteral("txtfechad"));
         QCOMPARE(DecDatos().FECHAD, antes);
         v = CambiarFecha(QStringLiteral("01/01/2028"));
-        QCOMPARE(v.id, 170);
+        QCOMPARE(v.id, kIdFechaDevengoAnteriorA);
         QVERIFY(v.mensaje.endsWith(QStringLiteral("31/12/2027\n")));
         QCOMPARE(DecDatos().FECHAD, antes);
         QVERIFY(CambiarFecha(QStringLiteral("02/01/2013")).vacio());
@@ -75,8 +76,8 @@ private slots:
         DecDatos().NOMBRETR.clear();
         const Veredicto v = VeredictoCampos(true, kTitulo, Operacion().DESCRIP);
         QCOMPARE(ReglaDe(v), 21);
-        QCOMPARE(v.id, 153);
-        QCOMPARE(v.mensaje, Texto(153));
+        QCOMPARE(v.id, kIdNombreTransmitenteVacio);
+        QCOMPARE(v.mensaje, Texto(kIdNombreTransmitenteVacio));
         QCOMPARE(v.botones, int(vb::Information));
         QCOMPARE(v.titulo, kTitulo);
         QCOMPARE(v.control, QStringLiteral("txtnombretr"));
@@ -90,7 +91,7 @@ private slots:
     {
         DecDatos().DNIPR = QStringLiteral("11111111A");
         Veredicto v = VeredictoNifIntervinientes(kTitulo);
-        QCOMPARE(v.id, 331);
+        QCOMPARE(v.id, kIdDniPresentadorErroneo);
         QCOMPARE(v.botones, int(vb::Information));
         QCOMPARE(v.titulo, kTitulo);
         DecDatos().DNIPR.clear();

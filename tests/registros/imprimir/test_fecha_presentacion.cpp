@@ -3,6 +3,7 @@
 // as a verdict (message, icon, title, control) in the language in use, with the limit written
 // as the shared Fecha writes dates, and ImOf() left as it was. Nothing is shown.
 #include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "registros/imprimir/FechaPresentacion.h"
@@ -22,7 +23,7 @@ Idioma idioma(bool euskera, bool fechasEnEuskera)
 void comprobarAviso(const Veredicto& v)
 {
     QCOMPARE(v.botones, int(vb::OKOnly | vb::Exclamation));
-    QCOMPARE(v.titulo, Texto(131));
+    QCOMPARE(v.titulo, Texto(kIdErrorIntroduccionDatos));
     QCOMPARE(v.control, QStringLiteral("txtFechaPresentacion"));
 }
 }
@@ -120,8 +121,8 @@ private slots:
         QFETCH(QString, texto);
         idioma(euskera, euskera);
         const Veredicto v = FijarFechaPresentacion(texto);
-        QCOMPARE(v.id, 327);
-        QCOMPARE(v.mensaje, Texto(327));
+        QCOMPARE(v.id, kIdFechaPresentacionIncorrecta);
+        QCOMPARE(v.mensaje, Texto(kIdFechaPresentacionIncorrecta));
         QVERIFY(!v.mensaje.isEmpty());
         comprobarAviso(v);
         QCOMPARE(ImOf().FECHAPRE, 20100101);

@@ -1,5 +1,6 @@
 // The store of contributors: each verdict of the validation on its own and the order between
 // them, the import's errors, saving, loading and deleting, the counters, and the search.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -97,10 +98,15 @@ struct ReglaEsperada {
     const char* control;
 };
 const ReglaEsperada kReglas[] = {
-    {0, ""},          {330, "txtdnic"},     {29, "txtdnic"},     {30, "txtnombrec"},
-    {31, "txtdomicilioc"}, {32, "txtpais"}, {33, "txtcodposc"},  {34, "txtcodposc"},
-    {35, "txtcodposc"}, {36, "txtcodposc"}, {37, "txtnomprovc"}, {38, "txtnommunc"},
-    {39, "txtcodprovc"}, {40, "txtcodmunc"}, {329, "txtdnic"},
+    {0, ""}, {kIdDniCifErroneoODigitoControl, "txtdnic"}, {kIdDniVacio, "txtdnic"},
+    {kIdNombreVacio, "txtnombrec"},
+    {kIdDomicilioVacio, "txtdomicilioc"}, {kIdPaisVacio, "txtpais"},
+    {kIdProvinciaYCodigoPostalNoCoinciden, "txtcodposc"},
+    {kIdCodigoPostalCincoCifras, "txtcodposc"},
+    {kIdCodigoPostalTresUltimosCero, "txtcodposc"}, {kIdCodigoPostalCero, "txtcodposc"},
+    {kIdProvinciaVacia, "txtnomprovc"}, {kIdMunicipioVacio, "txtnommunc"},
+    {kIdCodigoProvinciaVacio, "txtcodprovc"}, {kIdCodigoMunicipioVacio, "txtcodmunc"},
+    {kIdNifSinDigitoControl, "txtdnic"},
 };
 
 // The number of the rule that the store's validation reports, 0 for none; -1 for a verdict
@@ -131,9 +137,9 @@ int NumeroGuardado(const Resultado<Contribuyente>& r)
         return 4;
     if (v.vigencia == Vigencia::Borrada)
         return 5;
-    if (v.id == 41)
+    if (v.id == kIdAltaContribuyenteDniExistente)
         return 1;
-    if (v.id == 42)
+    if (v.id == kIdModificarContribuyenteDniExistente)
         return 2;
     return v.vacio() ? -1 : 3;
 }

@@ -1,6 +1,7 @@
 // The store of presenters: the verdicts of the validation on their own and in order, the
 // verdicts of the save (with the number of a presenter named in a declaration), load, delete,
 // the number of declarations and the search.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -68,9 +69,12 @@ struct ReglaEsperada {
     const char* control;
 };
 const ReglaEsperada kReglas[] = {
-    {0, ""},           {330, "txtdnip"},    {30, "txtnombrep"},  {31, "txtdomiciliop"},
-    {40, "txtcodmunp"}, {38, "txtnommunp"}, {36, "txtcodposp"},  {33, "txtcodposp"},
-    {35, "txtcodposp"}, {198, "txttelefonop"}, {199, "txttelefonop"}, {329, "txtdnip"},
+    {0, ""}, {kIdDniCifErroneoODigitoControl, "txtdnip"}, {kIdNombreVacio, "txtnombrep"},
+    {kIdDomicilioVacio, "txtdomiciliop"},
+    {kIdCodigoMunicipioVacio, "txtcodmunp"}, {kIdMunicipioVacio, "txtnommunp"},
+    {kIdCodigoPostalCero, "txtcodposp"}, {kIdProvinciaYCodigoPostalNoCoinciden, "txtcodposp"},
+    {kIdCodigoPostalTresUltimosCero, "txtcodposp"}, {kIdTelefonoNueveCifras, "txttelefonop"},
+    {kIdTelefonoVacio, "txttelefonop"}, {kIdNifSinDigitoControl, "txtdnip"},
 };
 
 // The number of the rule that the store's validation reports, 0 for none; -1 for a verdict

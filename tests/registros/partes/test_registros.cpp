@@ -1,5 +1,6 @@
 // The program's records of a contributor and a presenter (their defaults, the reset of a new
 // one, loading, and the values they give the store) and the state of the two party lists.
+#include "catalogo/IdsCatalogo.h"
 #include "comun/AlmacenPrueba.h"
 #include "comun/PartesPrueba.h"
 
@@ -144,8 +145,8 @@ private slots:
         c.NOMBREC = "OTRO";
         const Resultado<Contribuyente> doble = c.GuardarContribuyente();
         QVERIFY(!doble);
-        QCOMPARE(doble.veredicto().id, 41);
-        QCOMPARE(doble.veredicto().mensaje, Texto(41));
+        QCOMPARE(doble.veredicto().id, kIdAltaContribuyenteDniExistente);
+        QCOMPARE(doble.veredicto().mensaje, Texto(kIdAltaContribuyenteDniExistente));
         QCOMPARE(doble.veredicto().vigencia, Vigencia::Vigente);
     }
 
@@ -217,7 +218,7 @@ private slots:
         c.CODMUNC = "1";
         const Resultado<void> r = c.ValidarDatosContribuyente();
         QVERIFY(!r);
-        QCOMPARE(r.veredicto().id, 33);
+        QCOMPARE(r.veredicto().id, kIdProvinciaYCodigoPostalNoCoinciden);
         QCOMPARE(r.veredicto().mensaje,
                  QStringLiteral("El Código de Provincia y el Código Postal no coinciden"));
         QCOMPARE(r.veredicto().control, QStringLiteral("txtcodposc"));
@@ -227,9 +228,21 @@ private slots:
 
     void idsDeImportacion()
     {
-        const QList<int> ids{330, 293, 294, 295, 296, 33,  34,  35,  36,  297,
-                             298, 299, 300, 285, 286, 287, 288, 289, 290, 301,
-                             302, 308, 306, 307, 304, 310, 311, 309, 305, 303};
+        const QList<int> ids{kIdDniCifErroneoODigitoControl, kIdImportarDniObligatorio,
+                             kIdImportarNombreVacio, kIdImportarDomicilioVacio,
+                             kIdImportarPaisVacio, kIdProvinciaYCodigoPostalNoCoinciden,
+                             kIdCodigoPostalCincoCifras, kIdCodigoPostalTresUltimosCero,
+                             kIdCodigoPostalCero, kIdImportarNombreProvinciaVacio,
+                             kIdImportarNombreMunicipioVacio, kIdImportarCodigoProvinciaVacio,
+                             kIdImportarCodigoMunicipioVacio, kIdPortalNoNumerico,
+                             kIdCodigoProvinciaNoNumerico, kIdCodigoPostalNoNumerico,
+                             kIdCodigoMunicipioNoNumerico, kIdContadorSujetosPasivosNoNumerico,
+                             kIdContadorTransmitentesNoNumerico, kIdTipoDniNoValido,
+                             kIdTipoDomicilioNoValido, kIdSiglaNoAdmisible,
+                             kIdExtranjeroProvincia00, kIdExtranjeroMunicipio000,
+                             kIdNacionalSinNombreProvincia, kIdCodigoMunicipioNoAdmisible,
+                             kIdArbeliaSinNombreMunicipio, kIdCodigoProvinciaNoAdmisible,
+                             kIdFueraDeArbeliaMunicipio000, kIdNacionalSinPais};
         for (int codigo = 1; codigo <= 30; ++codigo)
             QCOMPARE(cConDatos::IdMensajeImportar(codigo), ids[codigo - 1]);
         QCOMPARE(cConDatos::IdMensajeImportar(0), 0);
@@ -327,10 +340,10 @@ private slots:
         p.CODMUNP = "2";
         p.CODPOSP = "77002";
         p.TELEFONOP = "94512345";
-        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, 198);
+        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, kIdTelefonoNueveCifras);
         QCOMPARE(p.ValidarDatosPresentador().veredicto().control, QStringLiteral("txttelefonop"));
         p.TELEFONOP = "";
-        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, 199);
+        QCOMPARE(p.ValidarDatosPresentador().veredicto().id, kIdTelefonoVacio);
         p.TELEFONOP = "945123456";
         QVERIFY(p.ValidarDatosPresentador());
         QVERIFY(p.GuardarPresentador());
@@ -341,7 +354,7 @@ private slots:
         p.DNIP = Dni(151);
         const Resultado<Presentador> nombrado = p.GuardarPresentador();
         QVERIFY(!nombrado);
-        QCOMPARE(nombrado.veredicto().id, 197);
+        QCOMPARE(nombrado.veredicto().id, kIdDniPresentadorEnDeclaraciones);
         QCOMPARE(p.DNIP, Dni(151));  // the record keeps what was typed
         p.BorrarPresentador();
         QCOMPARE(almacen.Filas(QStringLiteral("PRESENTADORES")), 1);
@@ -351,7 +364,7 @@ private slots:
         QCOMPARE(l.CODMUNP, QStringLiteral("002"));
         // A wrong check character is told last, with the number's field.
         l.DNIP = "12345678A";
-        QCOMPARE(l.ValidarDatosPresentador().veredicto().id, 329);
+        QCOMPARE(l.ValidarDatosPresentador().veredicto().id, kIdNifSinDigitoControl);
         QCOMPARE(l.ValidarDatosPresentador().veredicto().control, QStringLiteral("txtdnip"));
     }
 

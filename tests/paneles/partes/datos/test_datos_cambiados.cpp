@@ -2,6 +2,7 @@
 // panel loaded: Aceptar writes nothing over it, shows why, keeps what was typed, and on the
 // user's Yes puts the stored party in the panel instead; a No leaves the panel as typed.
 #include "ApoyoDatos.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "catalogo/Catalogo.h"
 #include "comun/OtraConexion.h"
@@ -22,7 +23,8 @@ const QString kDeLaOtra = QStringLiteral("DE LA OTRA COPIA");
 // The box that asks whether to load the stored party.
 QString pregunta()
 {
-    return Texto(367) + QStringLiteral("\n") + Texto(368);
+    return Texto(kIdDatosCambiadosDesdeApertura) + QStringLiteral("\n")
+        + Texto(kIdPreguntaCargarDatosGuardados);
 }
 
 QString nombreContribuyente(int32_t csco)
@@ -135,7 +137,8 @@ private slots:
         abrirContribuyente(cs);
         QVERIFY(EnOtraConexion([cs] { Almacen<cContribSvr>().BorrarContribuyente(cs); }));
         EscribirYSalir(t("txtnombrec"), kDelPanel);
-        aceptarConRespuesta(vb::OK, Texto(369), vb::OKOnly + vb::Information);
+        aceptarConRespuesta(vb::OK, Texto(kIdDatosBorradosDesdeApertura), vb::OKOnly
+                            + vb::Information);
         QVERIFY(m_panel);
         QCOMPARE(t("txtnombrec")->text(), kDelPanel);
         QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")).toInt(), 0);

@@ -3,6 +3,7 @@
 // Aceptar with every verdict of the store, Cancelar, and the way back to the list.
 #include "aplicacion/Navegacion.h"
 #include "ApoyoDatos.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "plataforma/General.h"
@@ -200,7 +201,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(10029));
+        QCOMPARE(MensajeSeam::registro()[0].texto, TextoFila(kIdDniVacio + 10000));
         QCOMPARE(MensajeSeam::registro()[0].titulo, QStringLiteral("Zergadunaren datuak"));
     }
 
@@ -432,9 +433,11 @@ private slots:
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const QString texto = MensajeSeam::registro()[0].texto;
-        QVERIFY2(texto == Texto(33) || texto == Texto(39), qPrintable(texto));
-        QCOMPARE(Foco(), texto == Texto(33) ? static_cast<QWidget*>(n("txtcodposc"))
-                                             : static_cast<QWidget*>(n("txtcodprovc")));
+        QVERIFY2(texto == Texto(kIdProvinciaYCodigoPostalNoCoinciden)
+                 || texto == Texto(kIdCodigoProvinciaVacio), qPrintable(texto));
+        QCOMPARE(Foco(), texto == Texto(kIdProvinciaYCodigoPostalNoCoinciden)
+                 ? static_cast<QWidget*>(n("txtcodposc"))
+                 : static_cast<QWidget*>(n("txtcodprovc")));
         QVERIFY(m_prog->panel(QStringLiteral("FrmConDatos")));
         QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")).toInt(), 0);
     }
@@ -585,7 +588,7 @@ private slots:
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
-        QCOMPARE(m.texto, Texto(329));
+        QCOMPARE(m.texto, Texto(kIdNifSinDigitoControl));
         QCOMPARE(m.titulo, QStringLiteral("Datos del Contribuyente"));
         QCOMPARE(m.botones, 64);
         QVERIFY(m_panel);
@@ -653,7 +656,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
         QCOMPARE(m.texto, Texto(id));
-        QCOMPARE(m.titulo, Texto(3));
+        QCOMPARE(m.titulo, Texto(kIdDatosContribuyente));
         QCOMPARE(m.botones, int(vb::OKOnly + vb::Information));
         QVERIFY(m_panel);
         QCOMPARE(Foco()->objectName(), foco);
@@ -690,7 +693,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(41));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdAltaContribuyenteDniExistente));
         QCOMPARE(MensajeSeam::registro()[0].botones, 64);
         QVERIFY(m_panel);
         QCOMPARE(Foco(), b("cmdAceptar"));  // the focus does not move
@@ -708,7 +711,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(42));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdModificarContribuyenteDniExistente));
         QVERIFY(m_panel);
         QCOMPARE(t("txtdnic")->text(), QStringLiteral("12345678Z"));
         QCOMPARE(ValorAlmacenado(QStringLiteral("SELECT DNIC FROM CONTRIBUYENTES WHERE CSCO = ?"), {co}).toString(),

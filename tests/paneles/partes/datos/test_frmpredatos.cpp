@@ -3,6 +3,7 @@
 // with another text, Aceptar with every verdict of the store, and the way back to the list.
 #include "aplicacion/Navegacion.h"
 #include "ApoyoDatos.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "aplicacion/MDIVeldo.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -210,13 +211,13 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(198));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdTelefonoNueveCifras));
         QCOMPARE(Foco(), t("txttelefonop"));
         EscribirYSalir(t("txttelefonop"), QString());
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 2);
-        QCOMPARE(MensajeSeam::registro()[1].texto, Texto(199));
+        QCOMPARE(MensajeSeam::registro()[1].texto, Texto(kIdTelefonoVacio));
         QCOMPARE(Foco(), t("txttelefonop"));
         // Letters cannot be typed.
         Escribir(t("txttelefonop"), QStringLiteral("94a5b123c4567"));
@@ -248,7 +249,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(197));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdDniPresentadorEnDeclaraciones));
         QCOMPARE(MensajeSeam::registro()[0].titulo, QStringLiteral("Datos del Presentador"));
         QCOMPARE(MensajeSeam::registro()[0].botones, 64);
         QVERIFY(m_panel);
@@ -348,7 +349,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const auto& m = MensajeSeam::registro()[0];
         QCOMPARE(m.texto, Texto(id));
-        QCOMPARE(m.titulo, Texto(192));
+        QCOMPARE(m.titulo, Texto(kIdDatosPresentador));
         QCOMPARE(m.botones, int(vb::OKOnly + vb::Information));
         QVERIFY(m_panel);
         QCOMPARE(Foco()->objectName(), foco);
@@ -365,7 +366,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(195));
+        QCOMPARE(MensajeSeam::registro()[0].texto, Texto(kIdAltaPresentadorDniExistente));
         QVERIFY(m_panel);
         QCOMPARE(Foco(), b("cmdAceptar"));
         Clic(b("cmdCancelar"));
@@ -379,7 +380,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the verdict's notice
         Clic(b("cmdAceptar"));
         QCOMPARE(MensajeSeam::registro().size(), 2);
-        QCOMPARE(MensajeSeam::registro()[1].texto, Texto(196));
+        QCOMPARE(MensajeSeam::registro()[1].texto, Texto(kIdModificarPresentadorDniExistente));
         QVERIFY(m_panel);
         QCOMPARE(almacenado("DNIP", co), QStringLiteral("12345678Z"));
     }

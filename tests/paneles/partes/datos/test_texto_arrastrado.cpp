@@ -5,6 +5,7 @@
 // failure notice ends the program. A name of blanks never gets that far: the panel's own check
 // answers it first.
 #include "ApoyoDatos.h"
+#include "catalogo/IdsCatalogo.h"
 
 #include "catalogo/Catalogo.h"
 #include "paneles/dialogos/Mensaje.h"
@@ -91,7 +92,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().size(), 1);
         QCOMPARE(MensajeSeam::registro()[0].texto,
                  QStringLiteral("Deiturak eta izena laukiak gorde ezin diren karaktereak ditu"));
-        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(10192));
+        QCOMPARE(MensajeSeam::registro()[0].titulo, TextoFila(kIdDatosPresentador + 10000));
         QVERIFY(ProcesoSeam::avisos().isEmpty());
         QVERIFY(m_panel);
         QCOMPARE(Foco(), t("txtnombrep"));

@@ -3,6 +3,7 @@
 // the search typed over a heading, the buttons and their icons, deletion with its refusal and
 // question, the hand-over to the contributor panel and back, both languages.
 #include "aplicacion/Navegacion.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/partes/cConDeclaraciones.h"
 #include "ApoyoListas.h"
 
@@ -131,10 +132,10 @@ private slots:
         QCOMPARE(ConLista().MODO, QStringLiteral("C"));
 
         QCOMPARE(TextoResultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
-        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(313));
+        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(kIdAyudaOrdenarNombreDni));
         QVERIFY(Etiqueta(p, "lblayuda")->isVisible());
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Datos"));
-        QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), Texto(3));
+        QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), Texto(kIdDatosContribuyente));
         QCOMPARE(Boton(p, "cmdCancelar")->text(), QStringLiteral("  &Atrás"));
         QCOMPARE(Boton(p, "cmdCancelar")->toolTip(), QStringLiteral("Volver al Menú Principal"));
         QCOMPARE(Boton(p, "cmdNuevo")->text(), QStringLiteral("   &Nuevo"));
@@ -330,7 +331,7 @@ private slots:
         QCOMPARE(ConLista().BUSQUEDA, QStringLiteral("B"));
         QCOMPARE(g->Rows(), 2);
         QCOMPARE(Fila(g, 1), QStringList(7));
-        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(314));
+        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(kIdAyudaCriterioNombreDni));
         QCOMPARE(TextoResultado(p), QString());
         QVERIFY(!Etiqueta(p, "picasc")->isVisible());
         QVERIFY(!Caja(p)->isVisible());
@@ -461,7 +462,8 @@ private slots:
         QCOMPARE(ConLista().NUMCONTRISEL, 0);
         QCOMPARE(Grid(p)->Rows(), 2);
         QCOMPARE(Fila(Grid(p), 1), QStringList(7));
-        QCOMPARE(TextoResultado(p), QStringLiteral("Nombre empieza por 'X' ") + Texto(63));
+        QCOMPARE(TextoResultado(p), QStringLiteral("Nombre empieza por 'X' ")
+                 + Texto(kIdSinDatosCondicion));
         QCOMPARE(ConLista().CSCO, 0);
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
         QVERIFY(!Boton(p, "CmdDeclaraciones")->isEnabled());
@@ -612,7 +614,9 @@ private slots:
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const MensajeSeam::Registro pregunta = MensajeSeam::registro().first();
-        QCOMPARE(pregunta.texto, Texto(82) + "12000000E" + Texto(83) + kGil + Texto(84));
+        QCOMPARE(pregunta.texto, Texto(kIdPreguntaEliminarContribuyente) + "12000000E"
+                 + Texto(kIdGuionEliminarContribuyente) + kGil
+                 + Texto(kIdInterrogacionEliminarContribuyente));
         QCOMPARE(pregunta.texto, QStringLiteral("¿Está seguro que desea eliminar el contribuyente "
                                                 "12000000E - GIL SANZ IKER ?"));
         QCOMPARE(pregunta.titulo, QStringLiteral("Borrado del contribuyente"));
@@ -660,8 +664,8 @@ private slots:
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
         const MensajeSeam::Registro aviso = MensajeSeam::registro().first();
-        QCOMPARE(aviso.texto, Texto(81));
-        QCOMPARE(aviso.titulo, Texto(80));
+        QCOMPARE(aviso.texto, Texto(kIdContribuyenteEnDeclaraciones));
+        QCOMPARE(aviso.titulo, Texto(kIdBorradoContribuyente));
         QCOMPARE(aviso.botones, int(vb::Information));
         QVERIFY(ExisteContribuyente(m_abad));
         QVERIFY(g->hasFocus());
@@ -671,7 +675,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 2);
-        QCOMPARE(MensajeSeam::registro().last().texto, Texto(81));
+        QCOMPARE(MensajeSeam::registro().last().texto, Texto(kIdContribuyenteEnDeclaraciones));
         QVERIFY(ExisteContribuyente(m_zubiri));
         QCOMPARE(ConLista().NUMCONTRISEL, 5);
     }
@@ -760,11 +764,11 @@ private slots:
                                           "Udalerria", "S.P.", "Tr."}));
         QCOMPARE(p->windowTitle(), QStringLiteral("Ireki zergaduna"));
         QCOMPARE(TextoResultado(p), QStringLiteral("5 hautatutako zergaduna(k) "));
-        QCOMPARE(Etiqueta(p, "lblayuda")->text(), TextoFila(10313));
+        QCOMPARE(Etiqueta(p, "lblayuda")->text(), TextoFila(kIdAyudaOrdenarNombreDni + 10000));
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Datuak"));
         QCOMPARE(Boton(p, "cmdBuscar")->text(), QStringLiteral("Bilaketa"));
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
-        QCOMPARE(Etiqueta(p, "lblayuda")->text(), TextoFila(10314));
+        QCOMPARE(Etiqueta(p, "lblayuda")->text(), TextoFila(kIdAyudaCriterioNombreDni + 10000));
         Teclear(p, 2, "1");
         QCOMPARE(Boton(p, "cmdBuscar")->text(), QStringLiteral("Emaitza"));
         Teclear(p, 1, "G");
@@ -774,7 +778,8 @@ private slots:
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "X");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
-        QCOMPARE(TextoResultado(p), QStringLiteral("Izenaren hasierako letra 'X' ") + TextoFila(10063));
+        QCOMPARE(TextoResultado(p), QStringLiteral("Izenaren hasierako letra 'X' ")
+                 + TextoFila(kIdSinDatosCondicion + 10000));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
 
         p = Abrir("E");

@@ -2,6 +2,7 @@
 // counter, texts, store and data panel. These tests go through what differs, and through the
 // shared behaviour once more on this panel: pages, ordering, search, deletion, the round trip.
 #include "aplicacion/Navegacion.h"
+#include "catalogo/IdsCatalogo.h"
 #include "registros/partes/cConDeclaraciones.h"
 #include "ApoyoListas.h"
 
@@ -100,7 +101,7 @@ private slots:
         QCOMPARE(FilasResaltadas(g), QList<int>{1});
         QCOMPARE(PreLista().CSPR, m_alonso);
         QCOMPARE(TextoResultado(p), QStringLiteral("3 presentador(es) seleccionado(s) "));
-        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(313));
+        QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(kIdAyudaOrdenarNombreDni));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), QStringLiteral("Datos del presentador"));
         QCOMPARE(Boton(p, "cmdNuevo")->toolTip(), QStringLiteral("Nuevo presentador"));
         QCOMPARE(Boton(p, "CmdDeclaraciones")->text(), QStringLiteral("         D&eclaraciones"));
@@ -182,7 +183,7 @@ private slots:
         Teclear(p, 1, "A");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         QCOMPARE(TextoResultado(p), QStringLiteral("DNI empieza por '9' , Nombre empieza por 'A' ")
-                                   + Texto(63));
+                                   + Texto(kIdSinDatosCondicion));
         QCOMPARE(PreLista().NUMPRESENSEL, 0);
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
         QTest::mouseClick(Boton(p, "cmdTodos"), Qt::LeftButton);
@@ -225,7 +226,7 @@ private slots:
         MensajeSeam::setNextAnswer(vb::OK);  // the notice that it cannot be deleted
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
-        QCOMPARE(MensajeSeam::registro().last().texto, Texto(208));
+        QCOMPARE(MensajeSeam::registro().last().texto, Texto(kIdPresentadorEnDeclaraciones));
         QCOMPARE(MensajeSeam::registro().last().titulo, QStringLiteral("Borrado del presentador"));
         QCOMPARE(MensajeSeam::registro().last().botones, int(vb::Information));
         QVERIFY(ExistePresentador(m_alonso));
@@ -236,7 +237,7 @@ private slots:
         QCOMPARE(MensajeSeam::registro().last().texto,
                  QStringLiteral("¿Está seguro que desea eliminar el presentador 30000000B - "
                                 "GOIRI ASESORES ?"));
-        QCOMPARE(MensajeSeam::registro().last().titulo, Texto(207));
+        QCOMPARE(MensajeSeam::registro().last().titulo, Texto(kIdBorradoPresentador));
         QCOMPARE(MensajeSeam::registro().last().botones, 292);
         QVERIFY(ExistePresentador(m_goiri));
 
