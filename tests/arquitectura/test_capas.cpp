@@ -127,12 +127,14 @@ private slots:
     {
         const QList<Modulo> modulos =
             ModulosDeCMake(QStringLiteral(VELDO_SRC "/CMakeLists.txt"));
-        const QStringList hermanos{QStringLiteral("partes"), QStringLiteral("declaracion"),
-                                   QStringLiteral("actualizacion")};
+        const QStringList hermanos{QStringLiteral("registros_partes"),
+                                   QStringLiteral("registros_declaracion"),
+                                   QStringLiteral("registros_actualizacion")};
         for (const QString& a : hermanos)
             for (const QString& b : hermanos)
                 QVERIFY2(a == b || !DependeDe(modulos, a, b), qPrintable(a + " -> " + b));
-        QVERIFY(DependeDe(modulos, QStringLiteral("declaracion"), QStringLiteral("nucleo")));
+        QVERIFY(DependeDe(modulos, QStringLiteral("registros_declaracion"),
+                          QStringLiteral("registros_nucleo")));
     }
 
     void lasCapasEnOrden()

@@ -10,6 +10,8 @@ class FrmConSeleccion final : public PanelLista {
     Q_OBJECT
 public:
     explicit FrmConSeleccion(QWidget* parent = nullptr);
+    // Whether the user chose a contributor before the panel closed.
+    bool SeleccionHecha() const { return m_seleccionHecha; }
 
 protected:
     void Borrar(int32_t) override {}
