@@ -70,9 +70,10 @@ QWidget* AbrirDatos(Registro& registro, int32_t& codigo, const QString& modo, co
     Procesar();
     return panel;
 }
-// Opens it on the record as it stands, as from the main menu (MODO "A" shows what is there).
+// Opens it on the record as it stands, as from the main menu (MODO "A" shows what is there);
+// the record is named for the reader of a test: the panel finds it itself.
 template <class Panel, class Registro>
-QWidget* AbrirConRegistro(Registro& registro)
+QWidget* AbrirConRegistro([[maybe_unused]] Registro& registro)
 {
     RutaDe(static_cast<Panel*>(nullptr)).origen = Navegacion::OrigenParte::Menu;
     QWidget* panel = AbrirPanelDatos(static_cast<Panel*>(nullptr));
