@@ -91,9 +91,7 @@ void FrmDeclaracion::SalirDniSujeto()
     const QString texto = txtdnisp->text();
     if (m_saltarValidacion || texto.trimmed().isEmpty() || texto == d.DNISP)
         return;
-    bool bueno = false;
-    d.ValidarDniOficial(texto, bueno);
-    if (!bueno) {
+    if (!d.ValidarDniOficial(texto)) {
         Mensaje(Texto(kIdDniCifErroneoODigitoControl), vb::Information, windowTitle());
         PresentarDeclaracion();
         MostrarPestana(0);
@@ -155,9 +153,7 @@ void FrmDeclaracion::SalirDniTransmitente()
             d.VolcarTrSp();
     } else {
         if (d.TIPODNITR == QLatin1String("O")) {
-            bool bueno = false;
-            d.ValidarDniOficial(texto, bueno);
-            if (!bueno) {
+            if (!d.ValidarDniOficial(texto)) {
                 Mensaje(Texto(kIdDniCifErroneoODigitoControl), vb::Information, windowTitle());
                 PresentarDeclaracion();
                 MostrarPestana(1);

@@ -25,9 +25,7 @@ bool esNumerico(const QString& texto)
 
 bool dniBueno(const QString& dni)
 {
-    bool bueno = false;
-    DecDatos().ValidarDniOficial(dni, bueno);
-    return bueno;
+    return DecDatos().ValidarDniOficial(dni);
 }
 
 }  // namespace

@@ -208,10 +208,9 @@ void cDecDatos::CargarContribuyente(Navegacion::Entrada entrada)
         CargarTransmitente(svr.CargarContribuyente(CSTRA).value_or(Contribuyente()));
 }
 
-void cDecDatos::ValidarDniOficial(const QString& dni, bool& resultado) const
+bool cDecDatos::ValidarDniOficial(const QString& dni) const
 {
-    auto svr = Almacen<cContribSvr>();
-    resultado = svr.ValidarDniOficial(dni);
+    return Almacen<cContribSvr>().ValidarDniOficial(dni);
 }
 
 QStringList cDecDatos::CargarListaOperaciones() const

@@ -60,7 +60,8 @@ public:
     // Back from a choice of party: Entrada::Sujeto loads the contributor CSSU as subject,
     // anything else CSTRA as transmitter.
     void CargarContribuyente(Navegacion::Entrada entrada);
-    void ValidarDniOficial(const QString& dni, bool& resultado) const;
+    // Whether `dni` is a well-formed official number with the right check character.
+    bool ValidarDniOficial(const QString& dni) const;
     // The descriptions of the operations that apply on FECHAD, for the form's list.
     QStringList CargarListaOperaciones() const;
     // The code of the operation that the form's list shows as `descripcion` on FECHAD.

@@ -464,11 +464,8 @@ private slots:
 
     void validarDniOficialDelRegistro()
     {
-        bool bueno = false;
-        DecDatos().ValidarDniOficial(Dni(12345678), bueno);
-        QVERIFY(bueno);
-        DecDatos().ValidarDniOficial(QStringLiteral("12345678A"), bueno);
-        QVERIFY(!bueno);
+        QVERIFY(DecDatos().ValidarDniOficial(Dni(12345678)));
+        QVERIFY(!DecDatos().ValidarDniOficial(QStringLiteral("12345678A")));
     }
 };
 
