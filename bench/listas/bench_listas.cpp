@@ -106,16 +106,15 @@ int main(int argc, char** argv)
         cContribSvr svr;
         svr.mdbmod = mdbmod;
         svr.mdblec = mdblec;
-        Arreglo2D datos;
         t.start();
-        const int n = svr.dameResultadoBusqueda({0, 0, 0}, datos, 1);
+        const auto n = int(svr.dameResultadoBusqueda({}, OrdenParte::Nombre).size());
         Imprimir("store alone: dameResultadoBusqueda, whole file, first", t.nsecsElapsed());
         std::printf("  rows: %d\n", n);
         t.start();
-        svr.dameResultadoBusqueda({0, 0, 0}, datos, 1);
+        svr.dameResultadoBusqueda({}, OrdenParte::Nombre);
         Imprimir("store alone: the same again", t.nsecsElapsed());
         t.start();
-        svr.dameResultadoBusqueda({0, 0, 0}, datos, 2);
+        svr.dameResultadoBusqueda({}, OrdenParte::Dni);
         Imprimir("store alone: by number", t.nsecsElapsed());
     }
 
@@ -131,12 +130,11 @@ int main(int argc, char** argv)
         cContribSvr svr;
         svr.mdbmod = mdbmod;
         svr.mdblec = mdblec;
-        Arreglo2D datos;
         qint64 almacen = 0, total = 0;
         constexpr int kVeces = 3;
         for (int i = 0; i < kVeces; ++i) {
             t.start();
-            svr.dameResultadoBusqueda({0, 0, 0}, datos, 1);
+            svr.dameResultadoBusqueda({}, OrdenParte::Nombre);
             almacen += t.nsecsElapsed();
             t.start();
             panel->CargarFlxContribuyentes();

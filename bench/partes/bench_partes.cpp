@@ -178,26 +178,32 @@ void Busquedas()
     cContribSvr svr;
     svr.mdbmod = mdbmod;
     svr.mdblec = mdblec;
-    Arreglo2D datos;
+    QList<FilaContribuyente> datos;
+    QList<Contribuyente> todos;
     int32_t filas = 0;
+    constexpr auto kNada = std::nullopt;
+    const auto porNombre = OrdenParte::Nombre;
 
-    const auto prefijo = [&](const QVariant& nombre, const QVariant& dni, const char* que) {
-        const Medida m =
-            Medir(5, [&] { filas = svr.dameResultadoBusqueda({0, nombre, dni}, datos, 1); });
+    const auto prefijo = [&](std::optional<QString> nombre, std::optional<QString> dni,
+                             const char* que) {
+        const Medida m = Medir(5, [&] {
+            datos = svr.dameResultadoBusqueda({nombre, dni}, porNombre);
+            filas = int32_t(datos.size());
+        });
         std::printf("Búsqueda por prefijo %-28s %6d filas: primera %7.2f ms, mejor %7.2f ms "
                     "(%.2f ms de procesador; límite 100 ms)\n",
                     que, filas, m.primera, m.mejor, m.cpuMejor);
     };
-    prefijo(QStringLiteral("GARCIA LOPEZ"), 0, "de nombre 'GARCIA LOPEZ'");
-    prefijo(QStringLiteral("ZABALA ZABALA J"), 0, "de nombre 'ZABALA ZABALA J'");
-    prefijo(QStringLiteral("G"), 0, "de nombre 'G'");
-    prefijo(0, QStringLiteral("0001234"), "de DNI '0001234'");
+    prefijo(QStringLiteral("GARCIA LOPEZ"), kNada, "de nombre 'GARCIA LOPEZ'");
+    prefijo(QStringLiteral("ZABALA ZABALA J"), kNada, "de nombre 'ZABALA ZABALA J'");
+    prefijo(QStringLiteral("G"), kNada, "de nombre 'G'");
+    prefijo(kNada, QStringLiteral("0001234"), "de DNI '0001234'");
     prefijo(QStringLiteral("ALONSO"), QStringLiteral("0000"), "de nombre y DNI");
     // Letters beyond ASCII, in both cases: imported names may be in lower case.
-    prefijo(QStringLiteral("MUÑOZ"), 0, "de nombre 'MUÑOZ'");
-    prefijo(QStringLiteral("muñoz"), 0, "de nombre 'muñoz'");
-    prefijo(QStringLiteral("LARRAÑAGA G"), 0, "de nombre 'LARRAÑAGA G'");
-    prefijo(QStringLiteral("larrañaga g"), 0, "de nombre 'larrañaga g'");
+    prefijo(QStringLiteral("MUÑOZ"), kNada, "de nombre 'MUÑOZ'");
+    prefijo(QStringLiteral("muñoz"), kNada, "de nombre 'muñoz'");
+    prefijo(QStringLiteral("LARRAÑAGA G"), kNada, "de nombre 'LARRAÑAGA G'");
+    prefijo(QStringLiteral("larrañaga g"), kNada, "de nombre 'larrañaga g'");
 
     const double antes = PicoMemoria();
     const auto lista = [&](const char* que, auto&& llamada, const char* limite = "; límite 1000 ms") {
@@ -206,17 +212,29 @@ void Busquedas()
                     "procesador%s)\n",
                     que, filas, m.primera, m.mejor, m.cpuMejor, limite);
     };
-    lista("por nombre", [&] { filas = svr.dameResultadoBusqueda({0, 0, 0}, datos, 1); });
-    lista("por DNI", [&] { filas = svr.dameResultadoBusqueda({0, 0, 0}, datos, 2); });
+    lista("por nombre", [&] {
+        datos = svr.dameResultadoBusqueda({}, porNombre);
+        filas = int32_t(datos.size());
+    });
+    lista("por DNI", [&] {
+        datos = svr.dameResultadoBusqueda({}, OrdenParte::Dni);
+        filas = int32_t(datos.size());
+    });
     ConLista().ENTRADA = QStringLiteral("A");
     ConLista().IniciarLista();
-    lista("de ConLista()", [&] { filas = ConLista().CargarContribuyentes(datos); });
+    lista("de ConLista()", [&] {
+        datos = ConLista().CargarContribuyentes();
+        filas = ConLista().NUMCONTRISEL;
+    });
     std::printf("Memoria: pico %.1f MiB antes de la lista entera, %.1f MiB después\n", antes,
                 PicoMemoria());
-    lista("de 20 columnas", [&] { filas = svr.dameResultadoBusquedaTodo({0, 0, 0}, datos, 1); },
-          " (la exportación; sin límite)");
+    lista("de 20 columnas", [&] {
+        todos = svr.dameResultadoBusquedaTodo({}, porNombre);
+        filas = int32_t(todos.size());
+    }, " (la exportación; sin límite)");
     std::printf("Memoria: pico %.1f MiB tras la lista de 20 columnas\n", PicoMemoria());
     datos.clear();
+    todos.clear();
 }
 
 void Guardados()
@@ -244,8 +262,7 @@ void Guardados()
     cContribSvr svr;
     svr.mdbmod = mdbmod;
     svr.mdblec = mdblec;
-    Arreglo2D datos;
-    const int32_t guardados = svr.dameResultadoBusqueda({0, 0, 0}, datos, 1);
+    const auto guardados = int32_t(svr.dameResultadoBusqueda({}, OrdenParte::Nombre).size());
     std::printf("%d contribuyentes guardados de uno en uno: %.0f ms transcurridos (%.1f µs cada "
                 "uno, límite 3000 ms), %.0f ms de procesador; en el almacén %d, veredictos "
                 "distintos de 0: %d\n",
@@ -271,8 +288,7 @@ int main(int argc, char** argv)
         cContribSvr svr;
         svr.mdbmod = mdbmod;
         svr.mdblec = mdblec;
-        Arreglo2D datos;
-        const Medida m = Medir(10, [&] { svr.dameResultadoBusqueda({0, 0, 0}, datos, 1); });
+        const Medida m = Medir(10, [&] { svr.dameResultadoBusqueda({}, OrdenParte::Nombre); });
         std::printf("perfil: mejor %.1f ms, %.1f ms de procesador\n", m.mejor, m.cpuMejor);
     }
     return 0;

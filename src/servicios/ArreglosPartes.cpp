@@ -1,13 +1,10 @@
 #include "servicios/ArreglosPartes.h"
 
 #include "plataforma/Fallo.h"
-#include "servicios/BusquedaTexto.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/TextoGuardable.h"
 
-#include <QStringList>
-#include <algorithm>
-#include <vector>
+#include <optional>
 
 namespace {
 
@@ -145,121 +142,6 @@ QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
     if (!d || d->size() > ancho)
         noCoincide(campo, v, origen);
     return noNulo(cero(*d) ? QString() : *d);
-}
-
-std::optional<QString> Criterio(const Arreglo& criterios, int i)
-{
-    const QVariant& v = valor(criterios, i);
-    if (!v.isValid() || v.isNull())
-        return std::nullopt;
-    if (esNumero(v))
-        return v.toDouble() == 0 ? std::nullopt : std::optional<QString>(v.toString());
-    return v.toString();
-}
-
-QString CondicionesBusqueda(const Arreglo& criterios, const QString& nombre, const QString& dni,
-                            QVariantList& valores)
-{
-    QStringList partes;
-    if (const auto prefijo = Criterio(criterios, 1); prefijo && !prefijo->isEmpty())
-        partes << CondicionPrefijo(nombre, *prefijo, valores);
-    if (const auto prefijo = Criterio(criterios, 2); prefijo && !prefijo->isEmpty())
-        partes << CondicionPrefijo(dni, *prefijo, valores);
-    return partes.isEmpty() ? QString()
-                            : QStringLiteral(" WHERE ") + partes.join(QStringLiteral(" AND "));
-}
-
-QByteArray ClaveDeOrden(const QString& texto)
-{
-    QByteArray clave;
-    clave.reserve(texto.size() * 2);
-    for (QChar c : texto) {
-        char16_t u = c.unicode();
-        // Lower-case letters fold into upper case; accented vowels into their vowel.
-        if (u >= u'a' && u <= u'z')
-            u = char16_t(u - u'a' + u'A');
-        int peso;
-        switch (u) {
-        case u'\u00D1': case u'\u00F1': peso = u'N' * 4 + 2; break;   // Ñ ñ
-        case u'\u00C7': case u'\u00E7': peso = u'C' * 4 + 2; break;   // Ç ç
-        case u'\u00C1': case u'\u00E1': case u'\u00C0': case u'\u00E0':
-        case u'\u00C4': case u'\u00E4': peso = u'A' * 4; break;
-        case u'\u00C9': case u'\u00E9': case u'\u00C8': case u'\u00E8':
-        case u'\u00CB': case u'\u00EB': peso = u'E' * 4; break;
-        case u'\u00CD': case u'\u00ED': case u'\u00CC': case u'\u00EC':
-        case u'\u00CF': case u'\u00EF': peso = u'I' * 4; break;
-        case u'\u00D3': case u'\u00F3': case u'\u00D2': case u'\u00F2':
-        case u'\u00D6': case u'\u00F6': peso = u'O' * 4; break;
-        case u'\u00DA': case u'\u00FA': case u'\u00D9': case u'\u00F9':
-        case u'\u00DC': case u'\u00FC': peso = u'U' * 4; break;
-        default: peso = u < 0x3FFF ? u * 4 : 0xFFFF; break;
-        }
-        clave.append(char((peso >> 8) & 0xFF));
-        clave.append(char(peso & 0xFF));
-    }
-    return clave;
-}
-
-Arreglo2D ListaOrdenada(std::vector<FilaLista>&& filas, uint8_t orden, int numContadores)
-{
-    const bool porDni = orden == 2;
-    std::vector<std::pair<QByteArray, FilaLista*>> claves;
-    claves.reserve(filas.size());
-    for (FilaLista& f : filas)
-        claves.emplace_back(ClaveDeOrden(porDni ? f.dni : f.nombre), &f);
-    std::sort(claves.begin(), claves.end(), [porDni](const auto& a, const auto& b) {
-        if (const int c = a.first.compare(b.first); c != 0)
-            return c < 0;
-        const QString& ta = porDni ? a.second->dni : a.second->nombre;
-        const QString& tb = porDni ? b.second->dni : b.second->nombre;
-        if (const int c = ta.compare(tb); c != 0)
-            return c < 0;
-        return a.second->codigo < b.second->codigo;
-    });
-    Arreglo2D datos(5 + numContadores);
-    for (QVariantList& columna : datos)
-        columna.reserve(qsizetype(filas.size()));
-    for (const auto& [clave, f] : claves) {
-        datos[0].append(f->codigo);
-        datos[1].append(std::move(f->nombre));
-        datos[2].append(std::move(f->dni));
-        datos[3].append(std::move(f->calle));
-        datos[4].append(std::move(f->municipio));
-        for (int c = 0; c < numContadores; ++c)
-            datos[5 + c].append(f->contadores[c]);
-    }
-    return datos;
-}
-
-void OrdenarFilas(Arreglo2D& datos, int clave, int codigo)
-{
-    const qsizetype filas = datos.isEmpty() ? 0 : datos[0].size();
-    struct Fila {
-        QByteArray clave;
-        QString texto;
-        qlonglong codigo;
-        qsizetype indice;
-    };
-    std::vector<Fila> orden;
-    orden.reserve(size_t(filas));
-    for (qsizetype i = 0; i < filas; ++i) {
-        const QString texto = datos[clave][i].toString();
-        orden.push_back({ClaveDeOrden(texto), texto, datos[codigo][i].toLongLong(), i});
-    }
-    std::sort(orden.begin(), orden.end(), [](const Fila& a, const Fila& b) {
-        if (const int c = a.clave.compare(b.clave); c != 0)
-            return c < 0;
-        if (const int c = a.texto.compare(b.texto); c != 0)
-            return c < 0;
-        return a.codigo < b.codigo;
-    });
-    for (QVariantList& columna : datos) {
-        QVariantList ordenada;
-        ordenada.reserve(filas);
-        for (const Fila& f : orden)
-            ordenada << std::move(columna[f.indice]);
-        columna = std::move(ordenada);
-    }
 }
 
 }  // namespace ArreglosPartes

@@ -8,6 +8,7 @@
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/GuardadoContribuyente.h"
+#include "servicios/ListasPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
@@ -37,16 +38,58 @@ const TablaParte& tabla()
     return GuardadoContribuyente::Tabla();
 }
 
-QString condiciones(const Arreglo& criterios, QVariantList& valores)
+QString condiciones(const CriteriosParte& criterios, QVariantList& valores)
 {
-    return CondicionesBusqueda(criterios, QStringLiteral("c.NOMBREC"), QStringLiteral("c.DNIC"),
-                               valores);
+    return ListasPartes::CondicionesBusqueda(criterios, QStringLiteral("c.NOMBREC"),
+                                             QStringLiteral("c.DNIC"), valores);
 }
 
 QString contadores()
 {
     return ContadoresPartes::SqlComoSujeto(QStringLiteral("c.CSCO")) + QStringLiteral(", ")
         + ContadoresPartes::SqlComoTransmitente(QStringLiteral("c.CSCO"));
+}
+
+// The rows of a list by name or by number (ListasPartes::Ordenar).
+template <class Fila>
+void ordenar(QList<Fila>& filas, OrdenParte orden)
+{
+    const auto codigo = [](const Fila& f) { return f.CSCO; };
+    if (orden == OrdenParte::Dni)
+        ListasPartes::Ordenar(filas, [](const Fila& f) -> const QString& { return f.DNIC; },
+                              codigo);
+    else
+        ListasPartes::Ordenar(filas, [](const Fila& f) -> const QString& { return f.NOMBREC; },
+                              codigo);
+}
+
+// A contributor from a row that holds, from column `primera` on, the stored columns (those of
+// kColumnas) and the two counters.
+Contribuyente leido(const QSqlQuery& q, int primera)
+{
+    // The value of position p of the contributor's layout stands at column p - P::TIPODNI.
+    const auto valor = [&q, primera](int p) { return q.value(primera + p - P::TIPODNI); };
+    Contribuyente c;
+    c.TIPODNI = valor(P::TIPODNI).toString();
+    c.DNIC = valor(P::DNIC).toString();
+    c.NOMBREC = valor(P::NOMBREC).toString();
+    c.VIAC = valor(P::VIAC).toString();
+    c.DOMICILIOC = valor(P::DOMICILIOC).toString();
+    c.NUMEROC = valor(P::NUMEROC).toInt();
+    c.LETRAC = valor(P::LETRAC).toString();
+    c.ESCALERAC = valor(P::ESCALERAC).toString();
+    c.PISOC = valor(P::PISOC).toString();
+    c.MANOC = valor(P::MANOC).toString();
+    c.TIPODOMI = valor(P::TIPODOMI).toString();
+    c.PAIS = valor(P::PAIS).toString();
+    c.CODPROVC = valor(P::CODPROVC).toString();
+    c.NOMPROVC = valor(P::NOMPROVC).toString();
+    c.CODPOSC = valor(P::CODPOSC).toString();
+    c.CODMUNC = valor(P::CODMUNC).toString();
+    c.NOMMUNC = valor(P::NOMMUNC).toString();
+    c.NUMSP = valor(P::NUMSP).toDouble();
+    c.NUMTR = valor(P::NUMTR).toDouble();
+    return c;
 }
 
 
@@ -107,28 +150,8 @@ std::optional<Contribuyente> cContribSvr::CargarContribuyente(int32_t csco) cons
     if (!q.next())
         return std::nullopt;
     // The query's columns: those of the stored row, then the two counters and the version.
-    const auto texto = [&q](int p) { return q.value(p - kPrimera).toString(); };
-    Contribuyente c;
+    Contribuyente c = leido(q, 0);
     c.CSCO = csco;
-    c.TIPODNI = texto(P::TIPODNI);
-    c.DNIC = texto(P::DNIC);
-    c.NOMBREC = texto(P::NOMBREC);
-    c.VIAC = texto(P::VIAC);
-    c.DOMICILIOC = texto(P::DOMICILIOC);
-    c.NUMEROC = q.value(P::NUMEROC - kPrimera).toInt();
-    c.LETRAC = texto(P::LETRAC);
-    c.ESCALERAC = texto(P::ESCALERAC);
-    c.PISOC = texto(P::PISOC);
-    c.MANOC = texto(P::MANOC);
-    c.TIPODOMI = texto(P::TIPODOMI);
-    c.PAIS = texto(P::PAIS);
-    c.CODPROVC = texto(P::CODPROVC);
-    c.NOMPROVC = texto(P::NOMPROVC);
-    c.CODPOSC = texto(P::CODPOSC);
-    c.CODMUNC = texto(P::CODMUNC);
-    c.NOMMUNC = texto(P::NOMMUNC);
-    c.NUMSP = q.value(P::NUMSP - kPrimera).toDouble();
-    c.NUMTR = q.value(P::NUMTR - kPrimera).toDouble();
     c.VERSION = q.value(P::NUMTR - kPrimera + 1).toLongLong();
     return c;
 }
@@ -206,12 +229,10 @@ Arreglo cContribSvr::ObtenerNumspNumtr(int32_t csco) const
             static_cast<int>(ContadoresPartes::ComoTransmitente(db, csco, org))};
 }
 
-int32_t cContribSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                           uint8_t orden) const
+QList<FilaContribuyente> cContribSvr::dameResultadoBusqueda(const CriteriosParte& criterios,
+                                                            OrdenParte orden) const
 {
     const QString org = origen("dameResultadoBusqueda");
-    // The rows of an earlier answer go before the new ones are read.
-    datos.clear();
     const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
@@ -223,30 +244,28 @@ int32_t cContribSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& 
                                    .arg(contadores())
                                + donde,
                            valores, org);
-    std::vector<FilaLista> filas;
+    QList<FilaContribuyente> filas;
     while (q.next()) {
-        FilaLista f;
-        f.codigo = q.value(0).toInt();
-        f.nombre = q.value(1).toString();
-        f.dni = q.value(2).toString();
-        f.calle = q.value(3).toString();
-        f.municipio = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+        FilaContribuyente f;
+        f.CSCO = q.value(0).toInt();
+        f.NOMBREC = q.value(1).toString();
+        f.DNIC = q.value(2).toString();
+        f.DOMICILIOC = q.value(3).toString();
+        f.MUNICIPIO = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
                                                         q.value(5).toString(),
                                                         q.value(6).toString());
-        f.contadores[0] = q.value(7).toInt();
-        f.contadores[1] = q.value(8).toInt();
-        filas.push_back(std::move(f));
+        f.NUMSP = q.value(7).toInt();
+        f.NUMTR = q.value(8).toInt();
+        filas.append(std::move(f));
     }
-    datos = ListaOrdenada(std::move(filas), orden, 2);
-    return static_cast<int32_t>(datos[0].size());
+    ordenar(filas, orden);
+    return filas;
 }
 
-int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo2D& datos,
-                                               uint8_t orden) const
+QList<Contribuyente> cContribSvr::dameResultadoBusquedaTodo(const CriteriosParte& criterios,
+                                                           OrdenParte orden) const
 {
     const QString org = origen("dameResultadoBusquedaTodo");
-    // The rows of an earlier answer go before the new ones are read.
-    datos.clear();
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
     const QString donde = condiciones(criterios, valores);
@@ -258,16 +277,12 @@ int32_t cContribSvr::dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
                                + donde,
                            valores, org);
-    // One column per position of the contributor's array; the query's columns stand at them.
-    datos = Arreglo2D(P::Tamano);
+    QList<Contribuyente> contribuyentes;
     while (q.next()) {
-        datos[P::CSCO] << q.value(P::CSCO).toInt();
-        for (int p = P::TIPODNI; p < P::Tamano; ++p)
-            datos[p] << q.value(p);
-        datos[P::NUMEROC].last() = q.value(P::NUMEROC).toInt();
-        datos[P::NUMSP].last() = q.value(P::NUMSP).toDouble();
-        datos[P::NUMTR].last() = q.value(P::NUMTR).toDouble();
+        Contribuyente c = leido(q, 1);
+        c.CSCO = q.value(0).toInt();
+        contribuyentes.append(std::move(c));
     }
-    OrdenarFilas(datos, orden == 2 ? P::DNIC : P::NOMBREC, P::CSCO);
-    return static_cast<int32_t>(datos[0].size());
+    ordenar(contribuyentes, orden);
+    return contribuyentes;
 }

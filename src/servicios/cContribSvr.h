@@ -16,8 +16,11 @@
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/Sobrescritura.h"
 #include "valores/Contribuyente.h"
+#include "valores/CriteriosParte.h"
+#include "valores/FilaContribuyente.h"
 #include "valores/Resultado.h"
 
+#include <QList>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -63,15 +66,15 @@ public:
     bool BorrarContribuyente(int32_t csco) const;
     // {declarations as subject, as transmitter}.
     Arreglo ObtenerNumspNumtr(int32_t csco) const;
-    // The list: criterios[1] a prefix of the name, criterios[2] a prefix of the number (the
-    // whole number 0 for none); `orden` 2 sorts by number, anything else by name. Fills
-    // datos[columna][fila] with 7 columns: code, name, number, street, municipality, count as
-    // subject, count as transmitter. Answers the number of rows. Needs mdbmod and mdblec.
-    int32_t dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                  uint8_t orden) const;
-    // The same criteria and order, with the 20 columns of the save array (the export).
-    int32_t dameResultadoBusquedaTodo(const Arreglo& criterios, Arreglo2D& datos,
-                                      uint8_t orden) const;
+    // The list: the contributors whose name and number start as the criteria say (without
+    // regard to case), sorted by name or by number. Each row has the columns of the lists and
+    // the returns that name the contributor as subject and as transmitter. Needs mdbmod and
+    // mdblec.
+    QList<FilaContribuyente> dameResultadoBusqueda(const CriteriosParte& criterios,
+                                                   OrdenParte orden) const;
+    // The same criteria and order, each contributor whole with his counters (the export).
+    QList<Contribuyente> dameResultadoBusquedaTodo(const CriteriosParte& criterios,
+                                                   OrdenParte orden) const;
 
 private:
     using Modo = GuardadoContribuyente::Modo;

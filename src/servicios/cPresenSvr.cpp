@@ -5,6 +5,7 @@
 #include "servicios/PosicionesPresentador.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
+#include "servicios/ListasPartes.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/TablaParte.h"
 #include "servicios/TextoGuardable.h"
@@ -232,17 +233,15 @@ int32_t cPresenSvr::NumDeclaPresentador(int32_t cspr) const
         ContadoresPartes::ComoPresentador(Conexion::Modificable(mdbmod, org), cspr, org));
 }
 
-int32_t cPresenSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                          uint8_t orden) const
+QList<FilaPresentador> cPresenSvr::dameResultadoBusqueda(const CriteriosParte& criterios,
+                                                        OrdenParte orden) const
 {
     const QString org = origen("dameResultadoBusqueda");
-    // The rows of an earlier answer go before the new ones are read.
-    datos.clear();
     const QHash<QString, QString> municipios = ReferenciaPartes::MunicipiosTesoreria(mdblec, org);
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     QVariantList valores;
-    const QString donde = CondicionesBusqueda(criterios, QStringLiteral("p.NOMBREP"),
-                                              QStringLiteral("p.DNIP"), valores);
+    const QString donde = ListasPartes::CondicionesBusqueda(criterios, QStringLiteral("p.NOMBREP"),
+                                                            QStringLiteral("p.DNIP"), valores);
     QSqlQuery q = Ejecutar(db,
                            QStringLiteral("SELECT p.CSPR, p.NOMBREP, p.DNIP, p.DOMICILIOP, "
                                           "p.CODPROVP, p.CODMUNP, p.NOMMUNP, %1 "
@@ -250,19 +249,25 @@ int32_t cPresenSvr::dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& d
                                    .arg(ContadoresPartes::SqlComoPresentador(QStringLiteral("p.CSPR")))
                                + donde,
                            valores, org);
-    std::vector<FilaLista> filas;
+    QList<FilaPresentador> filas;
     while (q.next()) {
-        FilaLista f;
-        f.codigo = q.value(0).toInt();
-        f.nombre = q.value(1).toString();
-        f.dni = q.value(2).toString();
-        f.calle = q.value(3).toString();
-        f.municipio = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
+        FilaPresentador f;
+        f.CSPR = q.value(0).toInt();
+        f.NOMBREP = q.value(1).toString();
+        f.DNIP = q.value(2).toString();
+        f.DOMICILIOP = q.value(3).toString();
+        f.MUNICIPIO = ReferenciaPartes::NombreMunicipio(municipios, q.value(4).toString(),
                                                         q.value(5).toString(),
                                                         q.value(6).toString());
-        f.contadores[0] = q.value(7).toInt();
-        filas.push_back(std::move(f));
+        f.NUMDECLARACIONES = q.value(7).toInt();
+        filas.append(std::move(f));
     }
-    datos = ListaOrdenada(std::move(filas), orden, 1);
-    return static_cast<int32_t>(datos[0].size());
+    const auto codigo = [](const FilaPresentador& f) { return f.CSPR; };
+    if (orden == OrdenParte::Dni)
+        ListasPartes::Ordenar(
+            filas, [](const FilaPresentador& f) -> const QString& { return f.DNIP; }, codigo);
+    else
+        ListasPartes::Ordenar(
+            filas, [](const FilaPresentador& f) -> const QString& { return f.NOMBREP; }, codigo);
+    return filas;
 }

@@ -6,11 +6,13 @@
 // A presenter is always national and official. His number of declarations is counted from the
 // declarations when it is asked for; a presenter named in a declaration cannot be deleted, and
 // his number (which the declaration copies) cannot change.
-#include "servicios/Arreglos.h"
 #include "servicios/Sobrescritura.h"
+#include "valores/CriteriosParte.h"
+#include "valores/FilaPresentador.h"
 #include "valores/Presentador.h"
 #include "valores/Resultado.h"
 
+#include <QList>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -41,10 +43,9 @@ public:
     // Declarations that name the presenter; the 16-bit form stops at 32767.
     int16_t NDeclaPresentador(int32_t cspr) const;
     int32_t NumDeclaPresentador(int32_t cspr) const;
-    // The list: criterios[1] a prefix of the name, criterios[2] of the number (the whole
-    // number 0 for none); `orden` 2 by number, anything else by name. Fills datos[columna][fila]
-    // with 6 columns: code, name, number, street, municipality, number of declarations.
-    // Answers the number of rows. Needs mdbmod and mdblec.
-    int32_t dameResultadoBusqueda(const Arreglo& criterios, Arreglo2D& datos,
-                                  uint8_t orden) const;
+    // The list: the presenters whose name and number start as the criteria say (without
+    // regard to case), sorted by name or by number, each with the returns that name him.
+    // Needs mdbmod and mdblec.
+    QList<FilaPresentador> dameResultadoBusqueda(const CriteriosParte& criterios,
+                                                 OrdenParte orden) const;
 };

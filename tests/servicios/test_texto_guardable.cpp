@@ -128,11 +128,19 @@ QStringList ContenidoPresentadores(const AlmacenDePrueba& almacen)
                      QStringLiteral("DNIP"), QStringLiteral("NOMBREP"));
 }
 
-QStringList Nombres(const Arreglo2D& lista)
+QStringList Nombres(const QList<FilaContribuyente>& lista)
 {
     QStringList n;
-    for (const QVariant& v : lista.value(1))
-        n << v.toString();
+    for (const FilaContribuyente& f : lista)
+        n << f.NOMBREC;
+    return n;
+}
+
+QStringList Nombres(const QList<FilaPresentador>& lista)
+{
+    QStringList n;
+    for (const FilaPresentador& f : lista)
+        n << f.NOMBREP;
     return n;
 }
 
@@ -434,9 +442,8 @@ private slots:
                                    "ÇELEBI KAYA", "çelik demir", "ÉLORZA GOÑI", "ELORZA ARANA",
                                    "íñigo ortiz", "Ñ%GARCIA"})
             NuevoContribuyente(Dni(n++), QString::fromUtf8(nombre));
-        Arreglo2D lista;
-        Contribuyentes().dameResultadoBusqueda({0, prefijo, 0}, lista, 1);
-        QStringList nombres = Nombres(lista);
+        QStringList nombres =
+            Nombres(Contribuyentes().dameResultadoBusqueda({prefijo, std::nullopt}, OrdenParte::Nombre));
         nombres.sort();
         esperados.sort();
         QCOMPARE(nombres, esperados);
@@ -467,9 +474,8 @@ private slots:
             QVERIFY(NuevoContribuyente(Dni(n++), base + s) > 0);
         }
         NuevoContribuyente(Dni(n++), QStringLiteral("OTRO ") + base);
-        Arreglo2D lista;
-        Contribuyentes().dameResultadoBusqueda({0, prefijo, 0}, lista, 1);
-        QStringList nombres = Nombres(lista);
+        QStringList nombres =
+            Nombres(Contribuyentes().dameResultadoBusqueda({prefijo, std::nullopt}, OrdenParte::Nombre));
         nombres.sort();
         esperados.sort();
         QCOMPARE(nombres, esperados);
@@ -482,8 +488,9 @@ private slots:
         NuevoPresentador(Dni(31), QStringLiteral("gestoría ibáñez hnos"));
         NuevoPresentador(Dni(32), QStringLiteral("GESTORIA IBANEZ"));
         for (const QString& prefijo : {QStringLiteral("gestoría ibáñ"), QStringLiteral("GESTORÍA IBÁÑ")}) {
-            Arreglo2D lista;
-            QCOMPARE(Presentadores().dameResultadoBusqueda({0, prefijo, 0}, lista, 1), 2);
+            const QList<FilaPresentador> lista =
+                Presentadores().dameResultadoBusqueda({prefijo, std::nullopt}, OrdenParte::Nombre);
+            QCOMPARE(lista.size(), 2);
             QStringList nombres = Nombres(lista);
             nombres.sort();
             QCOMPARE(nombres, (QStringList{QStringLiteral("GESTORÍA IBÁÑEZ"),

@@ -5,14 +5,12 @@
 #include "paneles/controles/cFlexGrid.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/ColumnasContribuyentes.h"
+#include "paneles/partes/ColumnasPresentadores.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/partes/cConSeleccion.h"
 
 
 namespace {
-
-constexpr int kColumnaNombre = 1;
-constexpr int kColumnaDni = 2;
 
 DisenoLista DisenoContribuyentes()
 {
@@ -42,14 +40,7 @@ DisenoLista DisenoPresentadores()
     DisenoLista d;
     d.nombrePanel = QStringLiteral("FrmPreSeleccion");
     d.nombreGrid = QStringLiteral("flxPresentadores");
-    // The number alone is right-aligned here, unlike on the presenters' list.
-    d.columnas = {
-        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
-        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2800, Qt::AlignLeft},
-        {{0, "DNI", "NA"}, 1000, Qt::AlignRight},
-        {{0, "Calle", "Helbidea"}, 2515, Qt::AlignLeft},
-        {{0, "Municipio", "Udalerria"}, 2500, Qt::AlignLeft},
-    };
+    d.columnas = ColumnasPresentadores::Seleccion();
     d.idTituloAbrir = kIdListaSeleccionPresentador;
     d.idTituloEliminar = kIdListaSeleccionPresentador;
     d.tipDatos = {kIdSeleccionarPresentador};
@@ -75,6 +66,11 @@ FrmConSeleccion::FrmConSeleccion(QWidget* parent)
     : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent)
 {
     ConSeleccion().IniciarSeleccion();
+}
+
+void FrmConSeleccion::CargarFilas()
+{
+    RellenarFilas(ConSeleccion().CargarContribuyentes(), &ColumnasContribuyentes::Texto);
 }
 
 void FrmConSeleccion::Elegido()
@@ -107,6 +103,11 @@ FrmPreSeleccion::FrmPreSeleccion(QWidget* parent)
     PreSeleccion().IniciarSeleccion();
 }
 
+void FrmPreSeleccion::CargarFilas()
+{
+    RellenarFilas(PreSeleccion().CargarPresentadores(), &ColumnasPresentadores::Texto);
+}
+
 void FrmPreSeleccion::Elegido()
 {
     // No check at all on a presenter; nothing reloads it, so the panel writes its name and
@@ -117,7 +118,7 @@ void FrmPreSeleccion::Elegido()
         d.MODIFICADO = true;
     d.CSPR = s.CSPR;
     const int fila = Grid()->RowSel();
-    d.NOMBREPR = Grid()->TextMatrix(fila, kColumnaNombre);
-    d.DNIPR = Grid()->TextMatrix(fila, kColumnaDni);
+    d.NOMBREPR = Grid()->TextMatrix(fila, ColumnasPresentadores::kNombre);
+    d.DNIPR = Grid()->TextMatrix(fila, ColumnasPresentadores::kDni);
     Cerrar();
 }

@@ -14,6 +14,7 @@ public:
     bool SeleccionHecha() const { return m_seleccionHecha; }
 
 protected:
+    void CargarFilas() override;
     void Borrar(int32_t) override {}
     void Elegido() override;
 
@@ -27,6 +28,7 @@ public:
     explicit FrmPreSeleccion(QWidget* parent = nullptr);
 
 protected:
+    void CargarFilas() override;
     void Borrar(int32_t) override {}
     void Elegido() override;
 };

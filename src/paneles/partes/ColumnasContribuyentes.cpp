@@ -21,4 +21,18 @@ QString Titulo(int columna)
     return Todas().at(columna).cabecera.texto();
 }
 
+QString Texto(const FilaContribuyente& fila, int columna)
+{
+    switch (columna) {
+    case kCodigo: return QString::number(fila.CSCO);
+    case kNombre: return fila.NOMBREC;
+    case kDni: return fila.DNIC;
+    case kCalle: return fila.DOMICILIOC;
+    case kMunicipio: return fila.MUNICIPIO;
+    case kComoSujeto: return QString::number(fila.NUMSP);
+    case kComoTransmitente: return QString::number(fila.NUMTR);
+    default: return QString();
+    }
+}
+
 }  // namespace ColumnasContribuyentes

@@ -3,6 +3,7 @@
 // and the selection of a subject or transmitter show all seven, the export panel the code,
 // the name and the number under the same headings.
 #include "paneles/partes/PanelLista.h"
+#include "valores/FilaContribuyente.h"
 
 #include <QList>
 
@@ -21,5 +22,8 @@ constexpr int kComoTransmitente = 6;  // returns as transmitter
 const QList<ColumnaLista>& Todas();
 // The heading of one column in the language in force.
 QString Titulo(int columna);
+// What a row shows in one column: the code and the counters as whole numbers, the texts as
+// the store gives them.
+QString Texto(const FilaContribuyente& fila, int columna);
 
 }  // namespace ColumnasContribuyentes

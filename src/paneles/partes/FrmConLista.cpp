@@ -45,6 +45,11 @@ FrmConLista* FrmConLista::Abrir()
 
 FrmConLista::FrmConLista(QWidget* parent) : PanelLista(Diseno(), ConLista(), parent) {}
 
+void FrmConLista::CargarFilas()
+{
+    RellenarFilas(ConLista().CargarContribuyentes(), &ColumnasContribuyentes::Texto);
+}
+
 void FrmConLista::Borrar(int32_t codigo)
 {
     ConDatos().CSCO = codigo;

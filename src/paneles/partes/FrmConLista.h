@@ -17,5 +17,6 @@ public:
     void CargarFlxContribuyentes() { CargarFlx(); }
 
 protected:
+    void CargarFilas() override;
     void Borrar(int32_t codigo) override;
 };

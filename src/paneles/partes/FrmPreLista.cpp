@@ -2,6 +2,7 @@
 
 #include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/Ventanas.h"
+#include "paneles/partes/ColumnasPresentadores.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
 
@@ -12,15 +13,8 @@ DisenoLista Diseno()
     DisenoLista d;
     d.nombrePanel = QStringLiteral("FrmPreLista");
     d.nombreGrid = QStringLiteral("flxPresentadores");
-    d.columnas = {
-        {{0, "Codigo", "Codigo"}, 0, Qt::AlignLeft},
-        {{0, "Apellidos y Nombre", "Deiturak eta izena"}, 2800, Qt::AlignLeft},
-        {{0, "DNI", "NA"}, 1000, Qt::AlignLeft},
-        {{0, "Calle", "Helbidea"}, 2165, Qt::AlignLeft},
-        {{0, "Municipio", "Udalerria"}, 2200, Qt::AlignLeft},
-        {{0, "Nº Decla", "Aitor.Zk."}, 750, Qt::AlignRight},
-    };
-    d.columnasContadores = {5};
+    d.columnas = ColumnasPresentadores::Lista();
+    d.columnasContadores = {ColumnasPresentadores::kDeclaraciones};
     d.idTituloAbrir = kIdAbrirPresentador;
     d.idTituloEliminar = kIdEliminarPresentador;
     d.tipDatos = {0, "Datos del presentador", "Aurkezlearen datuak"};
@@ -51,6 +45,11 @@ FrmPreLista* FrmPreLista::Abrir()
 }
 
 FrmPreLista::FrmPreLista(QWidget* parent) : PanelLista(Diseno(), PreLista(), parent) {}
+
+void FrmPreLista::CargarFilas()
+{
+    RellenarFilas(PreLista().CargarPresentadores(), &ColumnasPresentadores::Texto);
+}
 
 void FrmPreLista::Borrar(int32_t codigo)
 {

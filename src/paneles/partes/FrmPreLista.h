@@ -13,5 +13,6 @@ public:
     explicit FrmPreLista(QWidget* parent = nullptr);
 
 protected:
+    void CargarFilas() override;
     void Borrar(int32_t codigo) override;
 };

@@ -349,36 +349,19 @@ void PanelLista::LimpiarGrid()
 
 void PanelLista::CargarFlx()
 {
-    Arreglo2D datos;
-    if (m_estado.CargarDatos(datos) > 0)
-        RellenarGrid(datos);
-    else
-        LimpiarGrid();  // no row of an earlier result stays behind an empty one
+    CargarFilas();
 }
 
 // The rows found, in whole pages of 15: spare rows at the end stay empty.
-void PanelLista::RellenarGrid(const Arreglo2D& datos)
+void PanelLista::RellenarGrid(qsizetype n, const std::function<QString(qsizetype, int)>& celda)
 {
-    const qsizetype n = datos.isEmpty() ? -1 : datos.first().size() - 1;
-    if (n < 0) {
-        LimpiarGrid();
-        lblResultado->setText(Texto(kIdSinDatosCondicion));
-        cmdAceptar->setEnabled(false);
-        Pintar(PicDatos);
-        Pintar(PicEliminar);
-        Pintar(PicAce);
-        return;
-    }
-    const int columnas = std::min(m_grid->Cols(), int(datos.size()));
+    const int columnas = m_grid->Cols();
     m_grid->setRedraw(false);
     m_grid->setRows(1);
-    m_grid->setRows(int((n / kFilasPorPagina + 1) * kFilasPorPagina + 1));
-    // One pass over the array, column by column as the store delivers it (a[columna][fila]).
-    for (int j = 0; j < columnas; ++j) {
-        const QVariantList& columna = datos.at(j);
-        const qsizetype filas = std::min(columna.size(), n + 1);
-        for (qsizetype i = 0; i < filas; ++i)
-            m_grid->setTextMatrix(int(i) + 1, j, columna.at(i).toString());
+    m_grid->setRows(int(((n - 1) / kFilasPorPagina + 1) * kFilasPorPagina + 1));
+    for (qsizetype i = 0; i < n; ++i) {
+        for (int j = 0; j < columnas; ++j)
+            m_grid->setTextMatrix(int(i) + 1, j, celda(i, j));
     }
     m_grid->setRedraw(true);
     lblResultado->clear();

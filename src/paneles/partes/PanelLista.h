@@ -15,12 +15,12 @@
 #include "valores/EstadoNavegacion.h"
 #include "valores/cCriterio.h"
 #include "paneles/controles/cUtilidadesGrid.h"
-#include "servicios/Arreglos.h"
 
 #include <QLineEdit>  // held by the grid utilities through a QPointer
 #include <QList>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 class QLabel;
@@ -118,12 +118,29 @@ protected:
     void AlCerrar() override { m_cerrando = true; }
     PanelLista(DisenoLista diseno, cListaParte& estado, QWidget* parent);
 
-    // Asks the store for the rows of the criteria in force, in ORDEN.
+    // Asks the store for the rows of the criteria in force, in ORDEN, and fills the grid.
     void CargarFlx();
 
-    // What differs by party besides the design and the state object: the deletion of a party
-    // in the store.
+    // What differs by party besides the design and the state object: the rows of the store
+    // (each panel asks its state object, and hands them to RellenarFilas), and the deletion
+    // of a party in the store.
+    virtual void CargarFilas() = 0;
     virtual void Borrar(int32_t codigo) = 0;
+
+    // The grid filled with the rows, the text of each cell given by `texto` (the party's
+    // columns); no rows leave the heading and one empty row.
+    template <class Fila>
+    void RellenarFilas(const QList<Fila>& filas, QString (*texto)(const Fila&, int))
+    {
+        if (filas.isEmpty()) {
+            LimpiarGrid();  // no row of an earlier result stays behind an empty one
+            return;
+        }
+        RellenarGrid(filas.size(),
+                     [&filas, texto](qsizetype fila, int columna) {
+                         return texto(filas.at(fila), columna);
+                     });
+    }
 
     // Aceptar in the open mode: the selected party's data, or, on a selection list, the choice.
     virtual void Elegido();
@@ -140,7 +157,8 @@ private:
     void DefinirColumnas();
     void IniciarLista();
     void LimpiarGrid();
-    void RellenarGrid(const Arreglo2D& datos);
+    // The `n` rows, the text of cell (fila, columna) from `celda`, rows counted from 0.
+    void RellenarGrid(qsizetype n, const std::function<QString(qsizetype, int)>& celda);
     QString TextoCriterios() const;
     void SituarFlecha();
     void PresentaBotones();

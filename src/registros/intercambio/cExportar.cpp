@@ -7,7 +7,6 @@
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/CsvContribuyentes.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>
@@ -18,32 +17,56 @@ namespace {
 
 using C = CampoIntercambio;
 
-// The column of the store's answer that holds each field of the line.
-constexpr int kColumnaDe[kCamposIntercambio] = {
-    PosContribuyente::TIPODNI,  PosContribuyente::DNIC,
-    PosContribuyente::NOMBREC,  PosContribuyente::VIAC,
-    PosContribuyente::DOMICILIOC, PosContribuyente::NUMEROC,
-    PosContribuyente::LETRAC,   PosContribuyente::ESCALERAC,
-    PosContribuyente::PISOC,    PosContribuyente::MANOC,
-    PosContribuyente::TIPODOMI, PosContribuyente::PAIS,
-    PosContribuyente::CODPROVC, PosContribuyente::NOMPROVC,
-    PosContribuyente::CODPOSC,  PosContribuyente::CODMUNC,
-    PosContribuyente::NOMMUNC,  PosContribuyente::NUMSP,
-    PosContribuyente::NUMTR,
-};
-
 // A stored number as the file writes it; blank is 0, and a value that is no whole number
 // gives -1, which the line refuses rather than writing a wrong number.
-int64_t Numero(const QVariant& v)
+int64_t Numero(double d)
 {
-    const QString t = v.toString().trimmed();
+    if (d < 0 || d != double(int64_t(d)))
+        return -1;
+    return int64_t(d);
+}
+
+int64_t Numero(const QString& texto)
+{
+    const QString t = texto.trimmed();
     if (t.isEmpty())
         return 0;
     bool ok = false;
     const double d = t.toDouble(&ok);
-    if (!ok || d < 0 || d != double(int64_t(d)))
-        return -1;
-    return int64_t(d);
+    return ok ? Numero(d) : -1;
+}
+
+// The fields of the line of a contributor: texts cut or filled to their widths, the six
+// numbers as numbers.
+RegistroContri RegistroDe(const Contribuyente& c)
+{
+    RegistroContri r;
+    r.CSCO = c.CSCO;
+    const auto texto = [&r](C campo, const QString& valor) {
+        const int ancho = Definicion(campo).ancho;
+        r.valores.textos[Indice(campo)] = FormatoTexto(valor.left(ancho), ancho);
+    };
+    const auto numero = [&r](C campo, int64_t valor) { r.valores.numeros[Indice(campo)] = valor; };
+    texto(C::TIPODNI, c.TIPODNI);
+    texto(C::DNI, c.DNIC);
+    texto(C::NOMBRE, c.NOMBREC);
+    texto(C::SIGLAS, c.VIAC);
+    texto(C::DOMICILIO, c.DOMICILIOC);
+    numero(C::NUMERO, Numero(c.NUMEROC));
+    texto(C::LETRA, c.LETRAC);
+    texto(C::ESCALERA, c.ESCALERAC);
+    texto(C::PISO, c.PISOC);
+    texto(C::MANO, c.MANOC);
+    texto(C::TIPODOMICILIO, c.TIPODOMI);
+    texto(C::PAIS, c.PAIS);
+    numero(C::CODIGOPROVINCIA, Numero(c.CODPROVC));
+    texto(C::NOMBREPROVINCIA, c.NOMPROVC);
+    numero(C::CODIGOPOSTAL, Numero(c.CODPOSC));
+    numero(C::CODIGOMUNICIPIO, Numero(c.CODMUNC));
+    texto(C::NOMBREMUNICIPIO, c.NOMMUNC);
+    numero(C::NUMEROSUJETOPASIVO, Numero(c.NUMSP));
+    numero(C::NUMEROTRANSMITENTE, Numero(c.NUMTR));
+    return r;
 }
 
 // A number of 0 (a non-official number must have a value).
@@ -96,19 +119,9 @@ void cExportar::TablaContriExpCLEAR()
     NUMCONTRIEXP = 0;
 }
 
-void cExportar::TablaContriAÑADIR(const Arreglo2D& datos, int fila)
+void cExportar::TablaContriAÑADIR(const Contribuyente& contribuyente)
 {
-    RegistroContri r;
-    r.CSCO = datos.at(PosContribuyente::CSCO).at(fila).toInt();
-    for (int i = 0; i < kCamposIntercambio; ++i) {
-        const QVariant& v = datos.at(kColumnaDe[i]).at(fila);
-        const DefinicionCampo& d = Definicion(static_cast<C>(i));
-        if (d.numero)
-            r.valores.numeros[i] = Numero(v);
-        else
-            r.valores.textos[i] = FormatoTexto(v.toString().left(d.ancho), d.ancho);
-    }
-    m_contri.push_back(std::move(r));
+    m_contri.push_back(RegistroDe(contribuyente));
 }
 
 void cExportar::TablaContriExpAÑADIR(const RegistroContri& registro)
@@ -155,14 +168,13 @@ bool cExportar::HayCriterios() const
 
 int32_t cExportar::CargarFlxDeclaraciones()
 {
-    cContribSvr svr = Almacen<cContribSvr>();
-    Arreglo2D datos;
-    NUMCONTRISEL = svr.dameResultadoBusquedaTodo(CriteriosLista::Arreglo3(TABLASELECCION), datos,
-                                                 ORDEN);
+    const QList<Contribuyente> contribuyentes = Almacen<cContribSvr>().dameResultadoBusquedaTodo(
+        CriteriosLista::Criterios(TABLASELECCION), OrdenDeColumna(ORDEN));
+    NUMCONTRISEL = int32_t(contribuyentes.size());
     TablaContriCLEAR();
-    m_contri.reserve(size_t(std::max(0, NUMCONTRISEL)));
-    for (int fila = 0; fila < NUMCONTRISEL; ++fila)
-        TablaContriAÑADIR(datos, fila);
+    m_contri.reserve(size_t(contribuyentes.size()));
+    for (const Contribuyente& c : contribuyentes)
+        TablaContriAÑADIR(c);
     return NUMCONTRISEL;
 }
 

@@ -6,7 +6,7 @@
 #include "valores/cCriterio.h"
 #include "registros/intercambio/AvisoIntercambio.h"
 #include "registros/intercambio/LineaIntercambio.h"
-#include "servicios/Arreglos.h"
+#include "valores/Contribuyente.h"
 
 #include <QString>
 #include <cstdint>
@@ -42,8 +42,8 @@ public:
     void COPIARELEMENTOENTRETABLAS(int indice);
     void TablaContriCLEAR();
     void TablaContriExpCLEAR();
-    // A row of the store's answer (the 20 columns of the save array, a[columna][fila]).
-    void TablaContriAÑADIR(const Arreglo2D& datos, int fila);
+    // A contributor of the store's answer.
+    void TablaContriAÑADIR(const Contribuyente& contribuyente);
     void TablaContriExpAÑADIR(const RegistroContri& registro);
     void TablaContriExpBORRAR(int indice);
     int TablaContriCOUNT() const { return int(m_contri.size()); }

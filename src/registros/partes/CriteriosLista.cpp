@@ -4,15 +4,22 @@
 
 namespace CriteriosLista {
 
-Arreglo Arreglo3(const std::optional<TablaCriterios>& tabla)
+CriteriosParte Criterios(const std::optional<TablaCriterios>& tabla)
 {
-    Arreglo criterios{0, 0, 0};
+    CriteriosParte criterios;
     if (!tabla)
         return criterios;
     for (const cCriterio& c : *tabla) {
-        const int columna = ColumnaDeBusqueda(c.CAMPOSELECCION);
-        if (columna != 0)
-            criterios[columna] = c.VALORSELECCION;
+        switch (ColumnaDeBusqueda(c.CAMPOSELECCION)) {
+        case 1:
+            criterios.NOMBRE = c.VALORSELECCION;
+            break;
+        case 2:
+            criterios.DNI = c.VALORSELECCION;
+            break;
+        default:
+            break;
+        }
     }
     return criterios;
 }

@@ -1,8 +1,8 @@
 #pragma once
-// What the two party lists share in their state: the criteria array handed to the store and
-// the search box's criterion.
+// What the party lists share in their state: the criteria handed to the store and the search
+// box's criterion.
+#include "valores/CriteriosParte.h"
 #include "valores/cCriterio.h"
-#include "servicios/Arreglos.h"
 
 #include <QString>
 #include <cstdint>
@@ -10,9 +10,9 @@
 
 namespace CriteriosLista {
 
-// Three elements, 0 to 2, each the whole number 0; each criterion puts its value, as text, at
-// the index of its column (1 name, 2 DNI). An emptied criterion is still passed, as "".
-Arreglo Arreglo3(const std::optional<TablaCriterios>& tabla);
+// The criteria of the store: each criterion of the name's column (1) or of the number's (2)
+// gives its value. An emptied criterion is still passed, as "".
+CriteriosParte Criterios(const std::optional<TablaCriterios>& tabla);
 bool Hay(const std::optional<TablaCriterios>& tabla);
 // The column that a search box can stand over: 1 or 2, else 0.
 int ColumnaDeBusqueda(const QString& seleccion);

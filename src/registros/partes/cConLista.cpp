@@ -4,10 +4,12 @@
 #include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 
-int32_t cConLista::CargarContribuyentes(Arreglo2D& datos)
+QList<FilaContribuyente> cConLista::CargarContribuyentes()
 {
-    NUMCONTRISEL = Almacen<cContribSvr>().dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
-    return NUMCONTRISEL;
+    QList<FilaContribuyente> filas =
+        Almacen<cContribSvr>().dameResultadoBusqueda(CriteriosBusqueda(), Orden());
+    NUMCONTRISEL = int32_t(filas.size());
+    return filas;
 }
 
 void cConLista::Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr)

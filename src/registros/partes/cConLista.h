@@ -3,6 +3,7 @@
 // the selected contributor, the count found, and the selected contributor's declarations as
 // subject and as transmitter.
 #include "registros/partes/cListaParte.h"
+#include "valores/FilaContribuyente.h"
 
 #include <QVariant>
 
@@ -14,15 +15,14 @@ public:
     int32_t NUMSP = 0;           // the selected contributor's declarations as subject
     int32_t NUMTR = 0;           // and as transmitter
 
-    // Asks the store for the contributors of the criteria, in ORDEN (datos[columna][fila], the
-    // seven columns of the grid); NUMCONTRISEL takes the count, which is answered.
-    int32_t CargarContribuyentes(Arreglo2D& datos);
+    // Asks the store for the contributors of the criteria, in ORDEN; NUMCONTRISEL takes their
+    // count.
+    QList<FilaContribuyente> CargarContribuyentes();
     void Seleccionar(int32_t codigo, int32_t numsp, int32_t numtr);
 
     int32_t Codigo() const override { return CSCO; }
     int32_t Seleccionados() const override { return NUMCONTRISEL; }
     QList<int32_t> Contadores() const override { return {NUMSP, NUMTR}; }
-    int32_t CargarDatos(Arreglo2D& datos) override { return CargarContribuyentes(datos); }
     void SeleccionarFila(int32_t codigo, const QList<int32_t>& contadores) override
     {
         Seleccionar(codigo, contadores.value(0), contadores.value(1));

@@ -45,10 +45,12 @@ void cConSeleccion::Todos()
     CRITERIO.clear();
 }
 
-int32_t cConSeleccion::CargarDatos(Arreglo2D& datos)
+QList<FilaContribuyente> cConSeleccion::CargarContribuyentes()
 {
-    NUMCONTRISEL = Almacen<cContribSvr>().dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
-    return NUMCONTRISEL;
+    QList<FilaContribuyente> filas =
+        Almacen<cContribSvr>().dameResultadoBusqueda(CriteriosBusqueda(), Orden());
+    NUMCONTRISEL = int32_t(filas.size());
+    return filas;
 }
 
 void cConSeleccion::OlvidarSeleccion(bool cuenta)
@@ -71,10 +73,12 @@ void cPreSeleccion::IniciarSeleccion()
     OlvidarSeleccion(true);
 }
 
-int32_t cPreSeleccion::CargarDatos(Arreglo2D& datos)
+QList<FilaPresentador> cPreSeleccion::CargarPresentadores()
 {
-    NUMPRESENSEL = Almacen<cPresenSvr>().dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
-    return NUMPRESENSEL;
+    QList<FilaPresentador> filas =
+        Almacen<cPresenSvr>().dameResultadoBusqueda(CriteriosBusqueda(), Orden());
+    NUMPRESENSEL = int32_t(filas.size());
+    return filas;
 }
 
 void cPreSeleccion::OlvidarSeleccion(bool cuenta)

@@ -6,6 +6,8 @@
 // visit survive to the next while CRITERIO is "S", the presenter's never do.
 #include "registros/partes/cListaParte.h"
 #include "valores/EstadoNavegacion.h"
+#include "valores/FilaContribuyente.h"
+#include "valores/FilaPresentador.h"
 
 class cConSeleccion final : public cListaParte {
 public:
@@ -33,7 +35,9 @@ public:
     int32_t Codigo() const override { return CSCO; }
     int32_t Seleccionados() const override { return NUMCONTRISEL; }
     QList<int32_t> Contadores() const override { return {}; }
-    int32_t CargarDatos(Arreglo2D& datos) override;
+    // Asks the store for the contributors of the criteria, in ORDEN; NUMCONTRISEL takes their
+    // count.
+    QList<FilaContribuyente> CargarContribuyentes();
     void SeleccionarFila(int32_t codigo, const QList<int32_t>&) override { CSCO = codigo; }
 
 protected:
@@ -51,7 +55,9 @@ public:
     int32_t Codigo() const override { return CSPR; }
     int32_t Seleccionados() const override { return NUMPRESENSEL; }
     QList<int32_t> Contadores() const override { return {}; }
-    int32_t CargarDatos(Arreglo2D& datos) override;
+    // Asks the store for the presenters of the criteria, in ORDEN; NUMPRESENSEL takes their
+    // count.
+    QList<FilaPresentador> CargarPresentadores();
     void SeleccionarFila(int32_t codigo, const QList<int32_t>&) override { CSPR = codigo; }
 
 protected:

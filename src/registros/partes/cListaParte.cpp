@@ -24,9 +24,9 @@ bool cListaParte::HayCriterios() const
     return CriteriosLista::Hay(TABLASELECCION);
 }
 
-Arreglo cListaParte::CriteriosBusqueda() const
+CriteriosParte cListaParte::CriteriosBusqueda() const
 {
-    return CriteriosLista::Arreglo3(TABLASELECCION);
+    return CriteriosLista::Criterios(TABLASELECCION);
 }
 
 void cListaParte::AnotarBusqueda(const QString& texto)

@@ -7,7 +7,7 @@
 // What differs by party (the name of the selected code, the counters of declarations, the
 // store asked for the rows) is each list's own: the panel reads it through the virtual calls
 // below, while the party's own names (CSCO, NUMSP, ... / CSPR, ...) stay the record's fields.
-#include "servicios/Arreglos.h"
+#include "valores/CriteriosParte.h"
 #include "valores/cCriterio.h"
 
 #include <QList>
@@ -31,9 +31,10 @@ public:
     // criteria and selection, and comes back in open mode and in the result state.
     void IniciarLista();
     bool HayCriterios() const;
-    // Three elements: 1 the name prefix, 2 the number prefix, as text; the whole number 0
-    // where no criterion is given.
-    Arreglo CriteriosBusqueda() const;
+    // The criteria handed to the store: the name's and the number's starts typed.
+    CriteriosParte CriteriosBusqueda() const;
+    // The order handed to the store: ORDEN 2 by number, anything else by name.
+    OrdenParte Orden() const { return OrdenDeColumna(ORDEN); }
     // The search box over column SELECCIONACTUAL was left with `texto`: that column's
     // criterion takes it (a new criterion when there is none), the list is ordered by that
     // column, and no column is under edit any more.
@@ -57,9 +58,6 @@ public:
     virtual int32_t Seleccionados() const = 0;   // parties found
     // The counters of declarations of the selected party, in the grid's order.
     virtual QList<int32_t> Contadores() const = 0;
-    // Asks the store for the parties of the criteria, in ORDEN (datos[columna][fila]); the
-    // count found is kept and answered.
-    virtual int32_t CargarDatos(Arreglo2D& datos) = 0;
     // A row became current: its code and counters are the selection.
     virtual void SeleccionarFila(int32_t codigo, const QList<int32_t>& contadores) = 0;
 

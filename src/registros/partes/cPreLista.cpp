@@ -4,10 +4,12 @@
 #include "servicios/Almacen.h"
 #include "servicios/cPresenSvr.h"
 
-int32_t cPreLista::CargarPresentadores(Arreglo2D& datos)
+QList<FilaPresentador> cPreLista::CargarPresentadores()
 {
-    NUMPRESENSEL = Almacen<cPresenSvr>().dameResultadoBusqueda(CriteriosBusqueda(), datos, ORDEN);
-    return NUMPRESENSEL;
+    QList<FilaPresentador> filas =
+        Almacen<cPresenSvr>().dameResultadoBusqueda(CriteriosBusqueda(), Orden());
+    NUMPRESENSEL = int32_t(filas.size());
+    return filas;
 }
 
 void cPreLista::Seleccionar(int32_t codigo, int32_t numDeclaraciones)

@@ -2,6 +2,7 @@
 // The state of the presenters' list (one instance, PreLista()): the shared list state with the
 // selected presenter, the count found and the selected presenter's declarations.
 #include "registros/partes/cListaParte.h"
+#include "valores/FilaPresentador.h"
 
 class cPreLista final : public cListaParte {
 public:
@@ -9,14 +10,14 @@ public:
     int32_t NUMPRESENSEL = 0;      // presenters found
     int32_t NUMDECLARACIONES = 0;  // the selected presenter's declarations
 
-    // The six columns of the presenters' grid; NUMPRESENSEL takes the count.
-    int32_t CargarPresentadores(Arreglo2D& datos);
+    // Asks the store for the presenters of the criteria, in ORDEN; NUMPRESENSEL takes their
+    // count.
+    QList<FilaPresentador> CargarPresentadores();
     void Seleccionar(int32_t codigo, int32_t numDeclaraciones);
 
     int32_t Codigo() const override { return CSPR; }
     int32_t Seleccionados() const override { return NUMPRESENSEL; }
     QList<int32_t> Contadores() const override { return {NUMDECLARACIONES}; }
-    int32_t CargarDatos(Arreglo2D& datos) override { return CargarPresentadores(datos); }
     void SeleccionarFila(int32_t codigo, const QList<int32_t>& contadores) override
     {
         Seleccionar(codigo, contadores.value(0));

@@ -66,14 +66,14 @@ QList<QVariant> Extranjero(const QString& dni, const QString& nombre)
 // Every stored field of every contributor, by number, without the code.
 QMap<QString, QStringList> Todo()
 {
-    Arreglo2D datos;
-    const int n = Svr().dameResultadoBusquedaTodo({0, 0, 0}, datos, 1);
     QMap<QString, QStringList> todo;
-    for (int f = 0; f < n; ++f) {
-        QStringList campos;
-        for (int c = 1; c < datos.size(); ++c)
-            campos << datos[c][f].toString();
-        todo.insert(datos[2][f].toString(), campos);
+    for (const Contribuyente& c : Svr().dameResultadoBusquedaTodo({}, OrdenParte::Nombre)) {
+        const QStringList campos = {
+            c.TIPODNI,  c.DNIC,     c.NOMBREC,  c.VIAC,     c.DOMICILIOC,
+            QString::number(c.NUMEROC), c.LETRAC, c.ESCALERAC, c.PISOC, c.MANOC,
+            c.TIPODOMI, c.PAIS,     c.CODPROVC, c.NOMPROVC, c.CODPOSC,
+            c.CODMUNC,  c.NOMMUNC,  QString::number(c.NUMSP), QString::number(c.NUMTR)};
+        todo.insert(c.DNIC, campos);
     }
     return todo;
 }

@@ -73,8 +73,7 @@ cContribSvr Svr()
 
 int Contribuyentes()
 {
-    Arreglo2D datos;
-    return Svr().dameResultadoBusqueda({0, 0, 0}, datos, 1);
+    return int(Svr().dameResultadoBusqueda({}, OrdenParte::Nombre).size());
 }
 
 void PrepararImportacion(const QByteArray& bytes, bool automatico)

@@ -181,18 +181,34 @@ int32_t Guardar(const Contribuyente& c)
     return r ? r->CSCO : -NumeroGuardado(r);
 }
 
-QStringList Columna(const Arreglo2D& datos, int c)
+// One text column of a list's rows, in their order.
+template <class Fila>
+QStringList Columna(const QList<Fila>& filas, QString Fila::*campo)
 {
     QStringList t;
-    for (const QVariant& v : datos[c])
-        t << v.toString();
+    for (const Fila& f : filas)
+        t << f.*campo;
     return t;
 }
 
-Arreglo Criterios(const QVariant& nombre, const QVariant& dni)
+CriteriosParte Criterios(std::optional<QString> nombre = std::nullopt,
+                         std::optional<QString> dni = std::nullopt)
 {
-    return {0, nombre, dni};
+    return {std::move(nombre), std::move(dni)};
 }
+
+// The row of a contributor's code in a list, or nothing.
+template <class Fila>
+const Fila* FilaDe(const QList<Fila>& filas, int32_t csco)
+{
+    for (const Fila& f : filas)
+        if (f.CSCO == csco)
+            return &f;
+    return nullptr;
+}
+
+constexpr OrdenParte kPorNombre = OrdenParte::Nombre;
+constexpr OrdenParte kPorDni = OrdenParte::Dni;
 
 }  // namespace
 
@@ -638,14 +654,16 @@ private slots:
         QCOMPARE(Cargar(a).NUMSP, 3.0);
 
         // The list shows the same.
-        Arreglo2D datos;
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), datos, 1), 2);
-        const qsizetype fila = datos[0].indexOf(QVariant(a));
-        QCOMPARE(datos[5][fila].toInt(), 3);
-        QCOMPARE(datos[6][fila].toInt(), 1);
-        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), datos, 1), 2);
-        QCOMPARE(datos[P::NUMSP][datos[0].indexOf(QVariant(b))].toDouble(), 0.0);
-        QCOMPARE(datos[P::NUMTR][datos[0].indexOf(QVariant(b))].toDouble(), 3.0);
+        const QList<FilaContribuyente> lista = Svr().dameResultadoBusqueda(Criterios(), kPorNombre);
+        QCOMPARE(lista.size(), 2);
+        QVERIFY(FilaDe(lista, a));
+        QCOMPARE(FilaDe(lista, a)->NUMSP, 3);
+        QCOMPARE(FilaDe(lista, a)->NUMTR, 1);
+        const QList<Contribuyente> todos = Svr().dameResultadoBusquedaTodo(Criterios(), kPorNombre);
+        QCOMPARE(todos.size(), 2);
+        QVERIFY(FilaDe(todos, b));
+        QCOMPARE(FilaDe(todos, b)->NUMSP, 0.0);
+        QCOMPARE(FilaDe(todos, b)->NUMTR, 3.0);
 
         // A declaration deleted: the counter follows.
         almacen.BorrarDeclaracion(d1);
@@ -677,34 +695,42 @@ private slots:
         Guardar(ContribuyenteNacional(Dni(51), QStringLiteral("GARCES LUIS")));
         Guardar(ContribuyenteNacional(Dni(60), QStringLiteral("ALONSO JUAN")));
         Guardar(ContribuyenteNacional(QStringLiteral("X1234567L"), QStringLiteral("GARZA MARIA")));
-        Arreglo2D d;
+        QList<FilaContribuyente> d;
         // No criteria: all, by name.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 1), 4);
-        QCOMPARE(d.size(), 7);
-        QCOMPARE(Columna(d, 1), (QStringList{"ALONSO JUAN", "GARCES LUIS", "GARCIA PEREZ ANA", "GARZA MARIA"}));
+        d = Svr().dameResultadoBusqueda(Criterios(), kPorNombre);
+        QCOMPARE(d.size(), 4);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), (QStringList{"ALONSO JUAN", "GARCES LUIS", "GARCIA PEREZ ANA", "GARZA MARIA"}));
         // By DNI.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 2), 4);
-        QCOMPARE(Columna(d, 2), (QStringList{Dni(50), Dni(51), Dni(60), "X1234567L"}));
+        d = Svr().dameResultadoBusqueda(Criterios(), kPorDni);
+        QCOMPARE(d.size(), 4);
+        QCOMPARE(Columna(d, &FilaContribuyente::DNIC), (QStringList{Dni(50), Dni(51), Dni(60), "X1234567L"}));
         // Name prefix, without regard to case.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GARC", 0), d, 1), 2);
-        QCOMPARE(Columna(d, 1), (QStringList{"GARCES LUIS", "GARCIA PEREZ ANA"}));
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("garc", 0), d, 1), 2);
+        d = Svr().dameResultadoBusqueda(Criterios("GARC"), kPorNombre);
+        QCOMPARE(d.size(), 2);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), (QStringList{"GARCES LUIS", "GARCIA PEREZ ANA"}));
+        d = Svr().dameResultadoBusqueda(Criterios("garc"), kPorNombre);
+        QCOMPARE(d.size(), 2);
         // DNI prefix; a prefix "0" given as text is a criterion.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "0000005"), d, 1), 2);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "0"), d, 1), 3);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "x"), d, 1), 1);
+        d = Svr().dameResultadoBusqueda(Criterios(std::nullopt, "0000005"), kPorNombre);
+        QCOMPARE(d.size(), 2);
+        d = Svr().dameResultadoBusqueda(Criterios(std::nullopt, "0"), kPorNombre);
+        QCOMPARE(d.size(), 3);
+        d = Svr().dameResultadoBusqueda(Criterios(std::nullopt, "x"), kPorNombre);
+        QCOMPARE(d.size(), 1);
         // Both at once.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GAR", "X"), d, 1), 1);
-        QCOMPARE(Columna(d, 1), QStringList{"GARZA MARIA"});
+        d = Svr().dameResultadoBusqueda(Criterios("GAR", "X"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), QStringList{"GARZA MARIA"});
         // Both, ordered by DNI.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("GAR", 0), d, 2), 3);
-        QCOMPARE(Columna(d, 2), (QStringList{Dni(50), Dni(51), "X1234567L"}));
+        d = Svr().dameResultadoBusqueda(Criterios("GAR"), kPorDni);
+        QCOMPARE(d.size(), 3);
+        QCOMPARE(Columna(d, &FilaContribuyente::DNIC), (QStringList{Dni(50), Dni(51), "X1234567L"}));
         // An emptied criterion matches all.
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("", 0), d, 1), 4);
-        // Nothing found: the seven columns, no rows (an upper bound of -1).
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("ZZ", 0), d, 1), 0);
-        QCOMPARE(d.size(), 7);
-        QCOMPARE(d[0].size() - 1, -1);
+        d = Svr().dameResultadoBusqueda(Criterios(""), kPorNombre);
+        QCOMPARE(d.size(), 4);
+        // Nothing found: no rows.
+        d = Svr().dameResultadoBusqueda(Criterios("ZZ"), kPorNombre);
+        QCOMPARE(d.size(), 0);
     }
 
     void busquedaCaracteresEspeciales()
@@ -717,18 +743,26 @@ private slots:
         Guardar(ContribuyenteNacional(Dni(74), QStringLiteral("A_B SL")));
         Guardar(ContribuyenteNacional(Dni(75), QStringLiteral("AXB SL")));
         Guardar(ContribuyenteNacional(Dni(76), QStringLiteral("AB SL")));
-        Arreglo2D d;
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("O'", 0), d, 1), 1);
-        QCOMPARE(Columna(d, 1), QStringList{"O'BRIEN SEAN"});
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("O'BRIEN SEAN", 0), d, 1), 1);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("100%", 0), d, 1), 1);
-        QCOMPARE(Columna(d, 1), QStringList{"100% MOTOR SL"});
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("%", 0), d, 1), 0);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("A_", 0), d, 1), 1);
-        QCOMPARE(Columna(d, 1), QStringList{"A_B SL"});
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("_", 0), d, 1), 0);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("' OR 1=1 --", 0), d, 1), 0);
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, "%"), d, 1), 0);
+        QList<FilaContribuyente> d;
+        d = Svr().dameResultadoBusqueda(Criterios("O'"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), QStringList{"O'BRIEN SEAN"});
+        d = Svr().dameResultadoBusqueda(Criterios("O'BRIEN SEAN"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        d = Svr().dameResultadoBusqueda(Criterios("100%"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), QStringList{"100% MOTOR SL"});
+        d = Svr().dameResultadoBusqueda(Criterios("%"), kPorNombre);
+        QCOMPARE(d.size(), 0);
+        d = Svr().dameResultadoBusqueda(Criterios("A_"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), QStringList{"A_B SL"});
+        d = Svr().dameResultadoBusqueda(Criterios("_"), kPorNombre);
+        QCOMPARE(d.size(), 0);
+        d = Svr().dameResultadoBusqueda(Criterios("' OR 1=1 --"), kPorNombre);
+        QCOMPARE(d.size(), 0);
+        d = Svr().dameResultadoBusqueda(Criterios(std::nullopt, "%"), kPorNombre);
+        QCOMPARE(d.size(), 0);
         QCOMPARE(almacen.Filas(QStringLiteral("CONTRIBUYENTES")), 7);
     }
 
@@ -744,14 +778,16 @@ private slots:
         Guardar(ContribuyenteNacional(Dni(105), QStringLiteral("MÚGICA")));
         Guardar(ContribuyenteNacional(Dni(106), QStringLiteral("MUZA")));
         Guardar(ContribuyenteNacional(Dni(107), QStringLiteral("MUZA")));
-        Arreglo2D d;
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios("M", 0), d, 1), 8);
-        QCOMPARE(Columna(d, 1), (QStringList{"MÚGICA", "MUNIZ D", "MUNOZ C", "muñoz a", "MUÑOZ B",
+        QList<FilaContribuyente> d;
+        d = Svr().dameResultadoBusqueda(Criterios("M"), kPorNombre);
+        QCOMPARE(d.size(), 8);
+        QCOMPARE(Columna(d, &FilaContribuyente::NOMBREC), (QStringList{"MÚGICA", "MUNIZ D", "MUNOZ C", "muñoz a", "MUÑOZ B",
                                              "MUOZ A", "MUZA", "MUZA"}));
-        QCOMPARE(Columna(d, 2).mid(6), (QStringList{Dni(106), Dni(107)}));
-        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("m", 0), d, 1), 8);
-        QCOMPARE(Columna(d, P::NOMBREC).first(), QStringLiteral("MÚGICA"));
-        QCOMPARE(Columna(d, P::NOMBREC).at(4), QStringLiteral("MUÑOZ B"));
+        QCOMPARE(Columna(d, &FilaContribuyente::DNIC).mid(6), (QStringList{Dni(106), Dni(107)}));
+        const QList<Contribuyente> todos = Svr().dameResultadoBusquedaTodo(Criterios("m"), kPorNombre);
+        QCOMPARE(todos.size(), 8);
+        QCOMPARE(Columna(todos, &Contribuyente::NOMBREC).first(), QStringLiteral("MÚGICA"));
+        QCOMPARE(Columna(todos, &Contribuyente::NOMBREC).at(4), QStringLiteral("MUÑOZ B"));
     }
 
     void conexionCerradaEntreLlamadas()
@@ -777,30 +813,29 @@ private slots:
         otra.NOMMUNC = "BILBAO";
         const int32_t bilbao = Guardar(otra);
         const int32_t londres = Guardar(ContribuyenteExtranjero(QStringLiteral("AB81"), QStringLiteral("C")));
-        Arreglo2D d;
-        QCOMPARE(Svr().dameResultadoBusqueda(Criterios(0, 0), d, 1), 3);
-        const auto municipio = [&d](int32_t c) { return d[4][d[0].indexOf(QVariant(c))].toString(); };
-        QCOMPARE(municipio(tesoreria), QStringLiteral("ARBELGAIN"));
-        QCOMPARE(municipio(bilbao), QStringLiteral("BILBAO"));
-        QCOMPARE(municipio(londres), QStringLiteral("LONDRES"));
-        QCOMPARE(d[3][d[0].indexOf(QVariant(bilbao))].toString(), QStringLiteral("MAYOR"));
+        const QList<FilaContribuyente> d = Svr().dameResultadoBusqueda(Criterios(), kPorNombre);
+        QCOMPARE(d.size(), 3);
+        for (const int32_t c : {tesoreria, bilbao, londres})
+            QVERIFY(FilaDe(d, c));
+        QCOMPARE(FilaDe(d, tesoreria)->MUNICIPIO, QStringLiteral("ARBELGAIN"));
+        QCOMPARE(FilaDe(d, bilbao)->MUNICIPIO, QStringLiteral("BILBAO"));
+        QCOMPARE(FilaDe(d, londres)->MUNICIPIO, QStringLiteral("LONDRES"));
+        QCOMPARE(FilaDe(d, bilbao)->DOMICILIOC, QStringLiteral("MAYOR"));
     }
 
     void busquedaTodo()
     {
         AlmacenDePrueba almacen;
-        const Arreglo a = GuardadoContribuyente::ArregloDe(
-            ContribuyenteNacional(Dni(90), QStringLiteral("TODO")));
         const int32_t c = Guardar(ContribuyenteNacional(Dni(90), QStringLiteral("TODO")));
         Guardar(ContribuyenteNacional(Dni(91), QStringLiteral("OTRO")));
-        Arreglo2D d;
-        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios("TO", 0), d, 1), 1);
-        QCOMPARE(d.size(), 20);
-        QCOMPARE(d[P::CSCO][0].toInt(), c);
-        for (int i = P::TIPODNI; i < P::NUMSP; ++i)
-            QCOMPARE(d[i][0].toString(), a[i].toString());
-        QCOMPARE(Svr().dameResultadoBusquedaTodo(Criterios(0, 0), d, 2), 2);
-        QCOMPARE(Columna(d, P::DNIC), (QStringList{Dni(90), Dni(91)}));
+        const QList<Contribuyente> d = Svr().dameResultadoBusquedaTodo(Criterios("TO"), kPorNombre);
+        QCOMPARE(d.size(), 1);
+        // The contributor whole, as a load gives him (a list carries no version).
+        Contribuyente cargado = Cargar(c);
+        cargado.VERSION = 0;
+        QCOMPARE(d.first(), cargado);
+        const QList<Contribuyente> porDni = Svr().dameResultadoBusquedaTodo(Criterios(), kPorDni);
+        QCOMPARE(Columna(porDni, &Contribuyente::DNIC), (QStringList{Dni(90), Dni(91)}));
     }
 };
 

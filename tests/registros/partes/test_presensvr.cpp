@@ -294,21 +294,25 @@ private slots:
         b.NOMMUNP = "BILBAO";
         const int32_t bilbao = Guardar(b);
         almacen.NuevaDeclaracion(0, 0, a);
-        Arreglo2D d;
-        QCOMPARE(Svr().dameResultadoBusqueda({0, 0, 0}, d, 1), 3);
-        QCOMPARE(d.size(), 6);
-        QCOMPARE(d[1][0].toString(), QStringLiteral("ASESORES 50% SL"));
-        QCOMPARE(d[0][1].toInt(), a);
-        QCOMPARE(d[4][1].toString(), QStringLiteral("VELDORRETA"));
-        QCOMPARE(d[5][1].toInt(), 1);
-        QCOMPARE(d[4][2].toString(), QStringLiteral("BILBAO"));
-        QCOMPARE(d[0][2].toInt(), bilbao);
-        QCOMPARE(Svr().dameResultadoBusqueda({0, "asesores o'", 0}, d, 1), 1);
-        QCOMPARE(Svr().dameResultadoBusqueda({0, "ASESORES 50%", 0}, d, 1), 1);
-        QCOMPARE(Svr().dameResultadoBusqueda({0, "ASESORES _", 0}, d, 1), 0);
-        QCOMPARE(Svr().dameResultadoBusqueda({0, 0, "B"}, d, 1), 1);
-        QCOMPARE(Svr().dameResultadoBusqueda({0, 0, 0}, d, 2), 3);
-        QCOMPARE(d[2][2].toString(), QStringLiteral("B12345674"));
+        const auto buscar = [](std::optional<QString> nombre, std::optional<QString> dni,
+                               OrdenParte orden = OrdenParte::Nombre) {
+            return Svr().dameResultadoBusqueda({std::move(nombre), std::move(dni)}, orden);
+        };
+        QList<FilaPresentador> d = buscar(std::nullopt, std::nullopt);
+        QCOMPARE(d.size(), 3);
+        QCOMPARE(d[0].NOMBREP, QStringLiteral("ASESORES 50% SL"));
+        QCOMPARE(d[1].CSPR, a);
+        QCOMPARE(d[1].MUNICIPIO, QStringLiteral("VELDORRETA"));
+        QCOMPARE(d[1].NUMDECLARACIONES, 1);
+        QCOMPARE(d[2].MUNICIPIO, QStringLiteral("BILBAO"));
+        QCOMPARE(d[2].CSPR, bilbao);
+        QCOMPARE(buscar("asesores o'", std::nullopt).size(), 1);
+        QCOMPARE(buscar("ASESORES 50%", std::nullopt).size(), 1);
+        QCOMPARE(buscar("ASESORES _", std::nullopt).size(), 0);
+        QCOMPARE(buscar(std::nullopt, "B").size(), 1);
+        d = buscar(std::nullopt, std::nullopt, OrdenParte::Dni);
+        QCOMPARE(d.size(), 3);
+        QCOMPARE(d[2].DNIP, QStringLiteral("B12345674"));
     }
 };
 

@@ -408,7 +408,7 @@ private slots:
         cConLista l;
         l.ENTRADA = "A";
         l.IniciarLista();
-        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, 0}));
+        QCOMPARE(l.CriteriosBusqueda(), CriteriosParte{});
         l.CambiarBusqueda();
         QCOMPARE(l.BUSQUEDA, QStringLiteral("B"));
         // In the search state a click on column 3 does nothing; on DNI it opens its box.
@@ -423,12 +423,12 @@ private slots:
         l.AnotarBusqueda("GAR");
         QCOMPARE(l.TABLASELECCION->size(), 2);
         QCOMPARE(l.ORDEN, uint8_t(1));
-        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, "GAR", "123"}));
+        QCOMPARE(l.CriteriosBusqueda(), (CriteriosParte{QStringLiteral("GAR"), QStringLiteral("123")}));
         // Typing again under DNI replaces its criterion; an emptied one stays, as "".
         l.SELECCIONACTUAL = "2";
         l.AnotarBusqueda("");
         QCOMPARE(l.TABLASELECCION->size(), 2);
-        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, "GAR", ""}));
+        QCOMPARE(l.CriteriosBusqueda(), (CriteriosParte{QStringLiteral("GAR"), QString()}));
         QCOMPARE(l.ORDEN, uint8_t(2));
         // A column other than name and DNI takes no criterion.
         l.SELECCIONACTUAL = "3";
@@ -491,33 +491,33 @@ private slots:
         cConLista l;
         l.ENTRADA = "A";
         l.IniciarLista();
-        Arreglo2D d;
-        QCOMPARE(l.CargarContribuyentes(d), 3);
+        QList<FilaContribuyente> d = l.CargarContribuyentes();
+        QCOMPARE(d.size(), 3);
         QCOMPARE(l.NUMCONTRISEL, 3);
-        QCOMPARE(d[1][0].toString(), QStringLiteral("ABAD"));
+        QCOMPARE(d[0].NOMBREC, QStringLiteral("ABAD"));
         l.SELECCIONACTUAL = "1";
         l.AnotarBusqueda("AB");
-        QCOMPARE(l.CargarContribuyentes(d), 2);
+        QCOMPARE(l.CargarContribuyentes().size(), 2);
         QCOMPARE(l.NUMCONTRISEL, 2);
         l.OrdenarPor(2);
-        l.CargarContribuyentes(d);
-        QCOMPARE(d[2][0].toString(), Dni(201));
+        d = l.CargarContribuyentes();
+        QCOMPARE(d[0].DNIC, Dni(201));
         l.SELECCIONACTUAL = "1";
         l.AnotarBusqueda("NADIE");
-        QCOMPARE(l.CargarContribuyentes(d), 0);
+        QCOMPARE(l.CargarContribuyentes().size(), 0);
         QCOMPARE(l.NUMCONTRISEL, 0);
 
         // Deleting the contributors of the list one by one leaves it empty (the panel then
         // closes).
         l.Todos();
-        QCOMPARE(l.CargarContribuyentes(d), 3);
-        for (const QVariant& codigo : d[0]) {
-            ConDatos().CSCO = codigo.toInt();
+        d = l.CargarContribuyentes();
+        QCOMPARE(d.size(), 3);
+        for (const FilaContribuyente& f : d) {
+            ConDatos().CSCO = f.CSCO;
             ConDatos().BorrarContribuyente();
         }
-        QCOMPARE(l.CargarContribuyentes(d), 0);
+        QCOMPARE(l.CargarContribuyentes().size(), 0);
         QCOMPARE(l.NUMCONTRISEL, 0);
-        QCOMPARE(d.size(), 7);
     }
 
     void listaDePresentadores()
@@ -535,11 +535,10 @@ private slots:
         cPreLista l;
         l.ENTRADA = "A";
         l.IniciarLista();
-        Arreglo2D d;
-        QCOMPARE(l.CargarPresentadores(d), 1);
+        const QList<FilaPresentador> d = l.CargarPresentadores();
+        QCOMPARE(d.size(), 1);
         QCOMPARE(l.NUMPRESENSEL, 1);
-        QCOMPARE(d.size(), 6);
-        l.Seleccionar(d[0][0].toInt(), d[5][0].toInt());
+        l.Seleccionar(d[0].CSPR, d[0].NUMDECLARACIONES);
         QCOMPARE(l.CSPR, PreDatos().ObtenerCodigoPresentador(Dni(300)));
         QCOMPARE(l.NUMDECLARACIONES, 0);
         l.CambiarBusqueda();
@@ -549,8 +548,8 @@ private slots:
         QVERIFY(l.ElegirColumnaBusqueda(2));
         l.AnotarBusqueda("0000030");
         l.CambiarBusqueda();
-        QCOMPARE(l.CriteriosBusqueda(), (Arreglo{0, 0, "0000030"}));
-        QCOMPARE(l.CargarPresentadores(d), 1);
+        QCOMPARE(l.CriteriosBusqueda(), (CriteriosParte{std::nullopt, QStringLiteral("0000030")}));
+        QCOMPARE(l.CargarPresentadores().size(), 1);
         QVERIFY(!l.OrdenarPor(5));
         QVERIFY(l.OrdenarPor(1));
         l.Todos();
