@@ -213,22 +213,27 @@ void Busquedas()
                     que, filas, m.primera, m.mejor, m.cpuMejor, limite);
     };
     lista("por nombre", [&] {
+        datos.clear();  // as a panel holds them: the rows of one answer at a time
         datos = svr.dameResultadoBusqueda({}, porNombre);
         filas = int32_t(datos.size());
     });
     lista("por DNI", [&] {
+        datos.clear();
         datos = svr.dameResultadoBusqueda({}, OrdenParte::Dni);
         filas = int32_t(datos.size());
     });
     ConLista().ENTRADA = QStringLiteral("A");
     ConLista().IniciarLista();
     lista("de ConLista()", [&] {
+        datos.clear();
         datos = ConLista().CargarContribuyentes();
         filas = ConLista().NUMCONTRISEL;
     });
     std::printf("Memoria: pico %.1f MiB antes de la lista entera, %.1f MiB después\n", antes,
                 PicoMemoria());
     lista("de 20 columnas", [&] {
+        datos.clear();
+        todos.clear();
         todos = svr.dameResultadoBusquedaTodo({}, porNombre);
         filas = int32_t(todos.size());
     }, " (la exportación; sin límite)");
