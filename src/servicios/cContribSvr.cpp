@@ -277,7 +277,13 @@ QList<Contribuyente> cContribSvr::dameResultadoBusquedaTodo(const CriteriosParte
                                    .arg(columnas.join(QStringLiteral(", ")), contadores())
                                + donde,
                            valores, org);
+    // The list is made at its size at once: one of 100 000 whole contributors that grew as it
+    // was read would be held twice for a moment. The count is only the room set aside; the
+    // rows are what the query reads.
     QList<Contribuyente> contribuyentes;
+    contribuyentes.reserve(
+        Escalar(db, QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES c") + donde, valores, org)
+            .toLongLong());
     while (q.next()) {
         Contribuyente c = leido(q, 1);
         c.CSCO = q.value(0).toInt();
