@@ -5,8 +5,7 @@
 // refusal comes back as the Veredicto of a Resultado, with the message to show and the field to
 // focus. Failures of the files are raised as cFallo.
 //
-// The import's validation still takes the 15 raw texts of an exchange line, in the order of
-// PosImportar, blanks included.
+// The import's validation takes the raw texts of an exchange line, blanks included.
 //
 // The counters NUMSP and NUMTR are the number of declarations that name the contributor as
 // subject and as transmitter. They are counted from the declarations whenever they are read,
@@ -15,12 +14,21 @@
 #include "servicios/Arreglos.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/Sobrescritura.h"
+#include "servicios/ValidacionPartes.h"
 #include "valores/Contribuyente.h"
 #include "valores/Resultado.h"
 
 #include <QString>
 #include <cstdint>
 #include <optional>
+
+// How many returns name one contributor, as subject and as transmitter.
+struct DeclaracionesContribuyente {
+    int32_t comoSujeto = 0;
+    int32_t comoTransmitente = 0;
+
+    bool operator==(const DeclaracionesContribuyente&) const = default;
+};
 
 class cContribSvr {
 public:
@@ -32,10 +40,9 @@ public:
     // True when `dni` is a well-formed official (Spanish) number with the right check
     // character.
     bool ValidarDniOficial(const QString& dni) const;
-    // Every error of one exchange line (codes 1 to 30, ascending): errores[0][k] for k from 0
-    // to the upper bound less one; the last element is a spare 0, so a line without errors
-    // gives an upper bound of 0. Needs mdblec.
-    void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
+    // Every error of one exchange line, in the order of the import's rules (ErroresImportacion);
+    // none for a valid line. Needs mdblec.
+    QList<HallazgoImportacion> ValidarDatosImportar(const LineaContribuyente& linea) const;
     // True when the contributor exists and has TIPODNI "O" and TIPODOMI "N": it can stand as
     // subject of a declaration.
     bool ValidarTipoDniDomicilio(int32_t csco) const;
@@ -61,8 +68,8 @@ public:
         Sobrescritura sobre = Sobrescritura::VersionCargada) const;
     // Deletes the contributor unless a declaration names him; true when a row went.
     bool BorrarContribuyente(int32_t csco) const;
-    // {declarations as subject, as transmitter}.
-    Arreglo ObtenerNumspNumtr(int32_t csco) const;
+    // The returns that name the contributor; none for a code the store does not have.
+    DeclaracionesContribuyente ObtenerNumspNumtr(int32_t csco) const;
     // The list: criterios[1] a prefix of the name, criterios[2] a prefix of the number (the
     // whole number 0 for none); `orden` 2 sorts by number, anything else by name. Fills
     // datos[columna][fila] with 7 columns: code, name, number, street, municipality, count as

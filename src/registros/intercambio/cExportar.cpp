@@ -7,7 +7,7 @@
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/CsvContribuyentes.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesImportar.h"
+#include "servicios/PosicionesContribuyente.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>

@@ -30,8 +30,8 @@ void cPreDeclaraciones::IniciarLista()
 
 cConDeclaraciones::Contadores cConDeclaraciones::ObtenerContadores() const
 {
-    const Arreglo a = Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
-    return {a.value(0).toString(), a.value(1).toString()};
+    const DeclaracionesContribuyente n = Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
+    return {QString::number(n.comoSujeto), QString::number(n.comoTransmitente)};
 }
 
 QList<FilaDeclaracion> cConDeclaraciones::CargarDeclaraciones()
