@@ -100,7 +100,7 @@ Medida buscar(const CondicionesDeclaracion& criterios, uint8_t orden, const QStr
     for (int i = 0; i < 7; ++i) {
         QElapsedTimer reloj;
         reloj.start();
-        filas = int(servidor().dameResultadoBusqueda(criterios, orden, tipo, 0).size());
+        filas = int(servidor().dameResultadoBusqueda(criterios, orden, tipo, Idioma::Castellano).size());
         ms << reloj.nsecsElapsed() / 1e6;
     }
     std::sort(ms.begin(), ms.end());
@@ -167,7 +167,7 @@ int main(int argc, char** argv)
         for (int i = 0; i < 7; ++i) {
             QElapsedTimer t;
             t.start();
-            filas = int(servidor().dameDeclaracionesContribuyente(nada, 17, 1, "DESC", 0).size());
+            filas = int(servidor().dameDeclaracionesContribuyente(nada, 17, 1, "DESC", Idioma::Castellano).size());
             ms << t.nsecsElapsed() / 1e6;
         }
         std::sort(ms.begin(), ms.end());
@@ -176,7 +176,7 @@ int main(int argc, char** argv)
         for (int i = 0; i < 7; ++i) {
             QElapsedTimer t;
             t.start();
-            filas = int(servidor().dameDeclaracionesPresentador(nada, 3, 1, "DESC", 0).size());
+            filas = int(servidor().dameDeclaracionesPresentador(nada, 3, 1, "DESC", Idioma::Castellano).size());
             ms << t.nsecsElapsed() / 1e6;
         }
         std::sort(ms.begin(), ms.end());

@@ -170,13 +170,29 @@ int main(int argc, char** argv)
     {
         cLoteContribuyentes lote(mdbmod, mdblec);
         for (int i = 0; i < kContribuyentes; ++i) {
-            Arreglo a(20);
-            a[0] = 0;
             const QList<QByteArray> c = ApoyoIntercambio::CamposValidos(
                 60000000u + quint32(i), "CONTRIBUYENTE " + QByteArray::number(i));
-            for (int k = 0; k < 19; ++k)
-                a[k + 1] = QString::fromLatin1(c[k]);
-            lote.GuardarContribuyente(a, false);
+            // The fields in the order of the exchange line.
+            const auto t = [&c](int k) { return QString::fromLatin1(c[k]); };
+            Contribuyente v;
+            v.TIPODNI = t(0);
+            v.DNIC = t(1);
+            v.NOMBREC = t(2);
+            v.VIAC = t(3);
+            v.DOMICILIOC = t(4);
+            v.NUMEROC = t(5).trimmed().toInt();
+            v.LETRAC = t(6);
+            v.ESCALERAC = t(7);
+            v.PISOC = t(8);
+            v.MANOC = t(9);
+            v.TIPODOMI = t(10);
+            v.PAIS = t(11);
+            v.CODPROVC = t(12);
+            v.NOMPROVC = t(13);
+            v.CODPOSC = t(14);
+            v.CODMUNC = t(15);
+            v.NOMMUNC = t(16);
+            lote.GuardarContribuyente(v, false);
         }
         lote.Confirmar();
     }

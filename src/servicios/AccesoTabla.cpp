@@ -10,9 +10,9 @@ TitularParte AccesoPreparado::TitularPorDni(const QString& dni)
     return m_tabla.TitularPorDni(m_db, dni, m_origen);
 }
 
-void AccesoPreparado::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
+int32_t AccesoPreparado::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
-    m_tabla.Insertar(m_db, codigo, fila, version, m_origen);
+    return m_tabla.Insertar(m_db, codigo, fila, version, m_origen);
 }
 
 bool AccesoPreparado::Actualizar(int32_t codigo, const QVariantList& fila, int64_t version)
@@ -48,16 +48,17 @@ TitularParte AccesoNativo::TitularPorDni(const QString& dni)
     return {int32_t(fila[0]), fila[1]};
 }
 
-void AccesoNativo::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
+int32_t AccesoNativo::Insertar(int32_t codigo, const QVariantList& fila, int64_t version)
 {
     QVariantList valores = fila;
     valores << qlonglong(version);
     if (codigo == 0) {
         m_insertar.Ejecutar(valores);
-        return;
+        return 0;
     }
     valores << codigo;
     m_insertarConCodigo.Ejecutar(valores);
+    return codigo;
 }
 
 bool AccesoNativo::Actualizar(int32_t codigo, const QVariantList& fila, int64_t version)

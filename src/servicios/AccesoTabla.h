@@ -18,8 +18,9 @@ public:
     virtual TitularParte TitularPorDni(const QString& dni) = 0;
     int32_t CodigoPorDni(const QString& dni) { return TitularPorDni(dni).codigo; }
     // A new row with version `version`: under a new code when `codigo` is 0, else under
-    // `codigo`.
-    virtual void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) = 0;
+    // `codigo`. Answers the row's code: `codigo`, or the new code as the engine tells it of its
+    // last insert on the connection; 0 from an access that does not read it back.
+    virtual int32_t Insertar(int32_t codigo, const QVariantList& fila, int64_t version) = 0;
     // Rewrites the row of `codigo` whatever its version; false when there is none.
     virtual bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) = 0;
     // Rewrites the row of `codigo` only when its version is still `cargada`.
@@ -31,7 +32,7 @@ class AccesoPreparado final : public AccesoTabla {
 public:
     AccesoPreparado(const TablaParte& tabla, QSqlDatabase db, QString origen);
     TitularParte TitularPorDni(const QString& dni) override;
-    void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    int32_t Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
     bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) override;
     Vigencia ActualizarVigente(int32_t codigo, const QVariantList& fila, int64_t cargada,
                                int64_t nueva) override;
@@ -42,11 +43,13 @@ private:
     QString m_origen;
 };
 
+// A batch's access: its native statements do not read a new row's code back (a batch has no
+// use for it), so Insertar answers 0 for a new code.
 class AccesoNativo final : public AccesoTabla {
 public:
     AccesoNativo(const TablaParte& tabla, const QSqlDatabase& db, const QString& origen);
     TitularParte TitularPorDni(const QString& dni) override;
-    void Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
+    int32_t Insertar(int32_t codigo, const QVariantList& fila, int64_t version) override;
     bool Actualizar(int32_t codigo, const QVariantList& fila, int64_t version) override;
     Vigencia ActualizarVigente(int32_t codigo, const QVariantList& fila, int64_t cargada,
                                int64_t nueva) override;

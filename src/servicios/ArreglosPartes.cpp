@@ -83,7 +83,11 @@ QString Texto(const Arreglo& a, int i)
 QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                       const QString& origen)
 {
-    const QVariant& v = valor(a, i);
+    return TextoGuardado(valor(a, i), ancho, campo, origen);
+}
+
+QString TextoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen)
+{
     const QString dado = v.toString();
     // A text without blanks around it (the usual case: panels and the import trim them) is
     // kept as it is shared, without a copy.
@@ -100,7 +104,12 @@ QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
 int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* campo,
                        const QString& origen)
 {
-    const QVariant& v = valor(a, i);
+    return EnteroGuardado(valor(a, i), maximo, campo, origen);
+}
+
+int32_t EnteroGuardado(const QVariant& v, int32_t maximo, const char* campo,
+                       const QString& origen)
+{
     const std::optional<QString> d = cifras(v);
     if (!d)
         noCoincide(campo, v, origen);
@@ -116,7 +125,11 @@ int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* camp
 QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                        const QString& origen)
 {
-    const QVariant& v = valor(a, i);
+    return CodigoGuardado(valor(a, i), ancho, campo, origen);
+}
+
+QString CodigoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen)
+{
     const std::optional<QString> d = cifras(v);
     if (!d)
         noCoincide(campo, v, origen);
@@ -137,7 +150,11 @@ QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
 QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
                         const QString& origen)
 {
-    const QVariant& v = valor(a, i);
+    return CifrasGuardadas(valor(a, i), ancho, campo, origen);
+}
+
+QString CifrasGuardadas(const QVariant& v, int ancho, const char* campo, const QString& origen)
+{
     const std::optional<QString> d = cifras(v);
     if (!d || d->size() > ancho)
         noCoincide(campo, v, origen);

@@ -17,6 +17,12 @@ QString Texto(const Arreglo& a, int i);
 //  - text: blanks around it removed; longer than `ancho` is a failure;
 //  - whole number: a number, or a text of digits ("00005"), blanks alone being 0;
 //  - code: digits, stored with leading zeros to `ancho` ("1" -> "01"), "" when blank or 0.
+// Each takes the value itself, or element `i` of an array.
+QString TextoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen);
+int32_t EnteroGuardado(const QVariant& v, int32_t maximo, const char* campo,
+                       const QString& origen);
+QString CodigoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen);
+QString CifrasGuardadas(const QVariant& v, int ancho, const char* campo, const QString& origen);
 QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
                       const QString& origen);
 int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* campo,

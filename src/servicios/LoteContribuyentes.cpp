@@ -12,22 +12,21 @@ cLoteContribuyentes::cLoteContribuyentes(const QString& mdbmod, const QString& m
 {
 }
 
-void cLoteContribuyentes::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
+QList<HallazgoImportacion> cLoteContribuyentes::ValidarDatosImportar(
+    const LineaContribuyente& linea) const
 {
-    errores = ArregloErrores(ErroresImportacion(datos, m_referencia));
+    return ErroresImportacion(linea, m_referencia);
 }
 
 cLoteContribuyentes::~cLoteContribuyentes() = default;
 
-int32_t cLoteContribuyentes::ExisteContribuyente(const QString& dni, int64_t* version)
+TitularParte cLoteContribuyentes::ExisteContribuyente(const QString& dni)
 {
     m_consultaVigente = false;
     m_consultado = m_acceso->TitularPorDni(dni);
     m_dniConsultado = dni.trimmed();
     m_consultaVigente = true;
-    if (version)
-        *version = m_consultado.version;
-    return m_consultado.codigo;
+    return m_consultado;
 }
 
 void cLoteContribuyentes::Empezar()
@@ -45,46 +44,42 @@ void cLoteContribuyentes::Contar()
         Confirmar();
 }
 
-int16_t cLoteContribuyentes::GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                                  Veredicto* rechazo, int64_t* version)
+Resultado<void> cLoteContribuyentes::GuardarContribuyente(const Contribuyente& c, bool sustituir,
+                                                          Sobrescritura sobre)
 {
     Empezar();
     // A save refused by its verdict has written nothing, so the batch goes on.
     std::optional<TitularParte> titular;
-    if (m_consultaVigente && GuardadoContribuyente::DniGuardado(datos) == m_dniConsultado)
+    if (m_consultaVigente && GuardadoContribuyente::DniGuardado(c) == m_dniConsultado)
         titular = m_consultado;
     m_consultaVigente = false;  // whatever happens now, the store may have changed
-    const int16_t veredicto = GuardadoContribuyente::Guardar(
-        *m_acceso, datos,
+    const Resultado<TitularParte> r = GuardadoContribuyente::Guardar(
+        *m_acceso, c,
         sustituir ? GuardadoContribuyente::Modo::Sustituir : GuardadoContribuyente::Modo::Anadir,
-        m_origen, titular, rechazo, version);
-    if (veredicto == 0)
+        sobre, m_origen, titular);
+    if (r)
         Contar();
     else if (m_reloj.elapsed() >= kMilisegundosPorLote)
         Confirmar();
-    return veredicto;
+    if (!r)
+        return r.veredicto();
+    return {};
 }
 
-int16_t cLoteContribuyentes::AnadirSiNuevo(const Arreglo& datos, int32_t& titular,
-                                           Veredicto* rechazo, int64_t* version)
+Resultado<TitularParte> cLoteContribuyentes::AnadirSiNuevo(const Contribuyente& c)
 {
     Empezar();
     m_consultaVigente = false;
-    TitularParte poseedor;
-    const int16_t veredicto =
-        GuardadoContribuyente::AnadirSiNuevo(*m_acceso, datos, m_origen, poseedor, rechazo);
-    titular = poseedor.codigo;
-    if (version)
-        *version = poseedor.version;
-    if (veredicto == VeredictoGuardarContribuyente::Guardado) {
+    Resultado<TitularParte> r = GuardadoContribuyente::AnadirSiNuevo(*m_acceso, c, m_origen);
+    if (r && r->codigo == 0) {
         Contar();
-    } else if (poseedor.codigo != 0) {
+    } else if (r) {
         // Nothing was written: the holder stays known for the save that follows.
-        m_consultado = poseedor;
-        m_dniConsultado = GuardadoContribuyente::DniGuardado(datos);
+        m_consultado = *r;
+        m_dniConsultado = GuardadoContribuyente::DniGuardado(c);
         m_consultaVigente = true;
     }
-    return veredicto;
+    return r;
 }
 
 void cLoteContribuyentes::Confirmar()

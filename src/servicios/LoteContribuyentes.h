@@ -2,8 +2,8 @@
 // Many saves of contributors in few write transactions: what an import needs to write a whole
 // file at the speed of the file rather than at the speed of one commit per line.
 //
-// Each save takes the same array, runs the same checks and answers the same verdict as
-// cContribSvr::GuardarContribuyente(datos, sustituir); each look-up sees every save made
+// Each save takes the same value, runs the same checks and answers the same verdict as
+// cContribSvr::GuardarContribuyente(c, sustituir); each look-up sees every save made
 // before it, committed or not, so a file that names one number twice gives the same results as
 // saving its lines one by one. The saves are committed in batches: after kFilasPorLote saves,
 // or once a batch has held the write lock for kMilisegundosPorLote, and at each Confirmar().
@@ -12,12 +12,14 @@
 // lock is never held while nobody works, and a second running copy of the program is kept
 // waiting for at most one short batch.
 #include "servicios/AccesoTabla.h"
-#include "servicios/Arreglos.h"
 #include "servicios/Conexion.h"
+#include "servicios/Sobrescritura.h"
 #include "servicios/ValidacionPartes.h"
-#include "valores/Veredicto.h"
+#include "valores/Contribuyente.h"
+#include "valores/Resultado.h"
 
 #include <QElapsedTimer>
+#include <QList>
 #include <QSqlDatabase>
 #include <QString>
 #include <cstdint>
@@ -37,23 +39,23 @@ public:
     cLoteContribuyentes& operator=(const cLoteContribuyentes&) = delete;
 
     // As cContribSvr::ValidarDatosImportar: every error of one exchange line.
-    void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
-    // Code of the contributor with this number (blanks around it ignored), 0 when none;
-    // `version`, when given, receives the version of its row.
-    int32_t ExisteContribuyente(const QString& dni, int64_t* version = nullptr);
-    // As cContribSvr::GuardarContribuyente(datos, sustituir, rechazo, version): with the
-    // version that ExisteContribuyente or AnadirSiNuevo gave, a contributor saved again or
-    // deleted since is not replaced (verdicts Cambiado, Borrado). A save refused by its
-    // verdict writes nothing.
-    int16_t GuardarContribuyente(const Arreglo& datos, bool sustituir,
-                                 Veredicto* rechazo = nullptr, int64_t* version = nullptr);
-    // As GuardarContribuyente(datos, false), but for a number already in the store it writes
-    // nothing, answers DniExistente and puts in `titular` the code that holds the number and in
-    // `version` (when given) the version of its row, as ExisteContribuyente would (a save of
-    // that code that follows does not read it again). One look-up of the number instead of two
-    // for a new contributor: the insert itself finds the holder.
-    int16_t AnadirSiNuevo(const Arreglo& datos, int32_t& titular, Veredicto* rechazo = nullptr,
-                          int64_t* version = nullptr);
+    QList<HallazgoImportacion> ValidarDatosImportar(const LineaContribuyente& linea) const;
+    // Code of the contributor with this number (blanks around it ignored), 0 when none, with
+    // the version of its row.
+    TitularParte ExisteContribuyente(const QString& dni);
+    // As cContribSvr::GuardarContribuyente(c, sustituir, sobre): `sustituir` replaces the
+    // contributor CSCO (with VersionCargada, over the VERSION the value carries: one saved again
+    // or deleted since is not replaced, and the verdict's vigencia says which), or with CSCO 0
+    // the holder of the number as the last look-up or AnadirSiNuevo found it, over the version
+    // found. A save refused writes nothing.
+    Resultado<void> GuardarContribuyente(const Contribuyente& c, bool sustituir,
+                                         Sobrescritura sobre = Sobrescritura::VersionCargada);
+    // As GuardarContribuyente(c, false), but for a number already in the store it writes
+    // nothing and answers its holder (code and version), as ExisteContribuyente would: a save
+    // with `sustituir` that follows replaces that holder without reading it again. The holder
+    // is code 0 when the contributor was added. One look-up of the number instead of two for a
+    // new contributor: the insert itself finds the holder.
+    Resultado<TitularParte> AnadirSiNuevo(const Contribuyente& c);
     // Commits the saves made so far.
     void Confirmar();
     // Saves not yet committed.

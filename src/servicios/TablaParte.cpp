@@ -1,5 +1,6 @@
 #include "servicios/TablaParte.h"
 
+#include "plataforma/Fallo.h"
 #include "servicios/SentenciaPreparada.h"
 #include "servicios/VersionFila.h"
 
@@ -58,17 +59,22 @@ TitularParte TablaParte::TitularPorDni(const QSqlDatabase& db, const QString& dn
     return {q.value(0).toInt(), q.value(1).toLongLong()};
 }
 
-void TablaParte::Insertar(const QSqlDatabase& db, int32_t codigo, const QVariantList& fila,
-                          int64_t version, const QString& origen) const
+int32_t TablaParte::Insertar(const QSqlDatabase& db, int32_t codigo, const QVariantList& fila,
+                             int64_t version, const QString& origen) const
 {
     QVariantList valores = fila;
     valores << qlonglong(version);
     if (codigo == 0) {
-        SentenciaPreparada(db, m_sqlInsertar, origen).ejecutar(valores);
-        return;
+        SentenciaPreparada s(db, m_sqlInsertar, origen);
+        const QVariant nuevo = s.ejecutar(valores).lastInsertId();
+        if (!nuevo.isValid())
+            throw cFallo(3001, origen,
+                         QStringLiteral("%1: sin código para la fila nueva").arg(m_tabla));
+        return nuevo.toInt();
     }
     valores << codigo;
     SentenciaPreparada(db, m_sqlInsertarConCodigo, origen).ejecutar(valores);
+    return codigo;
 }
 
 bool TablaParte::Actualizar(const QSqlDatabase& db, int32_t codigo, const QVariantList& fila,

@@ -44,8 +44,9 @@ public:
     TitularParte TitularPorDni(const QSqlDatabase& db, const QString& dni,
                                const QString& origen) const;
     // A new row, with version `version`: under a new code when `codigo` is 0, else under
-    // `codigo`.
-    void Insertar(const QSqlDatabase& db, int32_t codigo, const QVariantList& fila,
+    // `codigo`. Answers the row's code; a new one is the engine's last inserted row, as the
+    // driver reads it from the insert itself (no second statement).
+    int32_t Insertar(const QSqlDatabase& db, int32_t codigo, const QVariantList& fila,
                   int64_t version, const QString& origen) const;
     // Rewrites the row of `codigo`, whatever its version, giving it `version`; false when
     // there is none.

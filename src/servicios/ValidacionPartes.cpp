@@ -1,14 +1,9 @@
 #include "servicios/ValidacionPartes.h"
 
-#include "servicios/ArreglosPartes.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/CodigoPostal.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/ValidarDniOficial.h"
 
-#include <algorithm>
-#include <array>
-
-using ArreglosPartes::Texto;
 
 namespace {
 
@@ -126,34 +121,26 @@ int16_t ReglasContribuyente(const Contribuyente& c)
     return Valido;
 }
 
-QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia)
+QList<HallazgoImportacion> ErroresImportacion(const LineaContribuyente& l,
+                                              const ConsultasReferencia& referencia)
 {
-    using namespace VeredictoContribuyente;
-    using namespace ErrorImportacion;
-    namespace I = PosImportar;
-    // The texts are read in place (an import validates every line of a file); an element
-    // that is not a text is read through a copy, kept in `copias`.
-    std::array<QString, I::Tamano> copias;
-    const auto texto = [&datos, &copias](int i) -> const QString& {
-        if (i < datos.size() && datos[i].typeId() == QMetaType::QString)
-            return *static_cast<const QString*>(datos[i].constData());
-        return copias[size_t(i)] = Texto(datos, i);
-    };
-    const QString tipoDni = texto(I::TIPODNI).trimmed();
-    const QString& dni = texto(I::DNIC);
-    const QString& nombre = texto(I::NOMBREC);
-    const QString& domicilio = texto(I::DOMICILIOC);
-    const QString tipoDomi = texto(I::TIPODOMI).trimmed();
-    const QString& pais = texto(I::PAIS);
-    const QString& codProv = texto(I::CODPROVC);
-    const QString& cp = texto(I::CODPOSC);
-    const QString& nomProvincia = texto(I::NOMPROVC);
-    const QString& nomMunicipio = texto(I::NOMMUNC);
-    const QString& codMun = texto(I::CODMUNC);
-    const QString& numero = texto(I::NUMEROC);
-    const QString& numSp = texto(I::NUMSP);
-    const QString& numTr = texto(I::NUMTR);
-    const QString sigla = texto(I::VIAC).trimmed();
+    using C = CampoContribuyente;
+    // The texts are read in place: an import validates every line of a file.
+    const QString tipoDni = l.TIPODNI.trimmed();
+    const QString& dni = l.DNIC;
+    const QString& nombre = l.NOMBREC;
+    const QString& domicilio = l.DOMICILIOC;
+    const QString tipoDomi = l.TIPODOMI.trimmed();
+    const QString& pais = l.PAIS;
+    const QString& codProv = l.CODPROVC;
+    const QString& cp = l.CODPOSC;
+    const QString& nomProvincia = l.NOMPROVC;
+    const QString& nomMunicipio = l.NOMMUNC;
+    const QString& codMun = l.CODMUNC;
+    const QString& numero = l.NUMEROC;
+    const QString& numSp = l.NUMSP;
+    const QString& numTr = l.NUMTR;
+    const QString sigla = l.VIAC.trimmed();
 
     // A domicile of neither kind is reported as such; the rules that depend on the kind are
     // then left out, since it is not known which of them apply. Every other rule is judged on
@@ -172,60 +159,54 @@ QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& r
     const bool enOtraProvincia = nacional && provNumerica && !provincia.isEmpty()
         && provincia != kProvinciaTesoreria;
 
-    QList<int> errores;
-    const auto si = [&errores](bool condicion, int codigo) {
+    QList<HallazgoImportacion> errores;
+    const auto si = [&errores](bool condicion, C campo, int id) {
         if (condicion)
-            errores << codigo;
+            errores.append({campo, id});
     };
     const EstadoNif nif = ExaminarDni(tipoDni, dni);
-    si(nif == EstadoNif::MalFormado || nif == EstadoNif::ControlErroneo, DniMalFormado);
-    si(nif == EstadoNif::Vacio, DniVacio);
-    si(vacio(nombre), NombreVacio);
-    si(vacio(domicilio), DomicilioVacio);
-    si(extranjero && vacio(pais), PaisVacio);
+    si(nif == EstadoNif::MalFormado || nif == EstadoNif::ControlErroneo, C::DNIC,
+       kIdDniCifErroneoODigitoControl);
+    si(nif == EstadoNif::Vacio, C::DNIC, kIdImportarDniObligatorio);
+    si(vacio(nombre), C::NOMBREC, kIdImportarNombreVacio);
+    si(vacio(domicilio), C::DOMICILIOC, kIdImportarDomicilioVacio);
+    si(extranjero && vacio(pais), C::PAIS, kIdImportarPaisVacio);
     if (nacional) {
         const ReglasCodigoPostal cpRotas = ReglasRotasCodigoPostal(cp);
-        si(!sinProvincia && !CodigoPostal::EsDeProvincia(cp, codProv), CodigoPostalDeOtraProvincia);
-        si(cpRotas.noDeCincoCifras, CodigoPostalNoDeCincoCifras);
-        si(cpRotas.terminaEnCeros, CodigoPostalTerminaEnCeros);
-        si(cpRotas.cero, CodigoPostalCero);
+        si(!sinProvincia && !CodigoPostal::EsDeProvincia(cp, codProv), C::CODPOSC,
+           kIdProvinciaYCodigoPostalNoCoinciden);
+        si(cpRotas.noDeCincoCifras, C::CODPOSC, kIdCodigoPostalCincoCifras);
+        si(cpRotas.terminaEnCeros, C::CODPOSC, kIdCodigoPostalTresUltimosCero);
+        si(cpRotas.cero, C::CODPOSC, kIdCodigoPostalCero);
     }
-    si(extranjero && vacio(nomProvincia), ProvinciaVacia);
-    si((extranjero || enOtraProvincia) && vacio(nomMunicipio), MunicipioVacio);
-    si(nacional && sinProvincia, CodigoProvinciaVacio);
-    si(enTesoreria && sinMunicipio, CodigoMunicipioVacio);
-    si(!numerico(numero) || QStringView(numero).trimmed().size() > 5, NumeroNoNumerico);
-    si(!provNumerica, CodigoProvinciaNoNumerico);
-    si(!numerico(cp), CodigoPostalNoNumerico);
-    si(!munNumerico, CodigoMunicipioNoNumerico);
-    si(!numerico(numSp), ContadorSujetosNoNumerico);
-    si(!numerico(numTr), ContadorTransmitentesNoNumerico);
-    si(tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"), TipoDniInvalido);
-    si(!nacional && !extranjero, TipoDomicilioInvalido);
-    si(sigla.isEmpty() || !referencia.existeVia(sigla), SiglaInadmisible);
-    si(extranjero && !sinProvincia, ProvinciaExtranjeraNoCero);
-    si(extranjero && !sinMunicipio, MunicipioExtranjeroNoCero);
-    si(nacional && !vacio(nomProvincia), NombreProvinciaEnNacional);
+    si(extranjero && vacio(nomProvincia), C::NOMPROVC, kIdImportarNombreProvinciaVacio);
+    si((extranjero || enOtraProvincia) && vacio(nomMunicipio), C::NOMMUNC,
+       kIdImportarNombreMunicipioVacio);
+    si(nacional && sinProvincia, C::CODPROVC, kIdImportarCodigoProvinciaVacio);
+    si(enTesoreria && sinMunicipio, C::CODMUNC, kIdImportarCodigoMunicipioVacio);
+    si(!numerico(numero) || QStringView(numero).trimmed().size() > 5, C::NUMEROC,
+       kIdPortalNoNumerico);
+    si(!provNumerica, C::CODPROVC, kIdCodigoProvinciaNoNumerico);
+    si(!numerico(cp), C::CODPOSC, kIdCodigoPostalNoNumerico);
+    si(!munNumerico, C::CODMUNC, kIdCodigoMunicipioNoNumerico);
+    si(!numerico(numSp), C::NUMSP, kIdContadorSujetosPasivosNoNumerico);
+    si(!numerico(numTr), C::NUMTR, kIdContadorTransmitentesNoNumerico);
+    si(tipoDni != QLatin1String("O") && tipoDni != QLatin1String("N"), C::TIPODNI,
+       kIdTipoDniNoValido);
+    si(!nacional && !extranjero, C::TIPODOMI, kIdTipoDomicilioNoValido);
+    si(sigla.isEmpty() || !referencia.existeVia(sigla), C::VIAC, kIdSiglaNoAdmisible);
+    si(extranjero && !sinProvincia, C::CODPROVC, kIdExtranjeroProvincia00);
+    si(extranjero && !sinMunicipio, C::CODMUNC, kIdExtranjeroMunicipio000);
+    si(nacional && !vacio(nomProvincia), C::NOMPROVC, kIdNacionalSinNombreProvincia);
     si(enTesoreria && !sinMunicipio
            && (!munNumerico || !referencia.existeMunicipio(municipio)),
-       MunicipioInadmisible);
-    si(enTesoreria && !vacio(nomMunicipio), NombreMunicipioEnTesoreria);
+       C::CODMUNC, kIdCodigoMunicipioNoAdmisible);
+    si(enTesoreria && !vacio(nomMunicipio), C::NOMMUNC, kIdArbeliaSinNombreMunicipio);
     si(nacional && !sinProvincia && (!provNumerica || !referencia.existeProvincia(provincia)),
-       ProvinciaInadmisible);
-    si(enOtraProvincia && !sinMunicipio, MunicipioFueraDeTesoreria);
-    si(nacional && !vacio(pais), PaisEnNacional);
-    std::sort(errores.begin(), errores.end());
+       C::CODPROVC, kIdCodigoProvinciaNoAdmisible);
+    si(enOtraProvincia && !sinMunicipio, C::CODMUNC, kIdFueraDeArbeliaMunicipio000);
+    si(nacional && !vacio(pais), C::PAIS, kIdNacionalSinPais);
     return errores;
-}
-
-Arreglo2D ArregloErrores(const QList<int>& codigos)
-{
-    QVariantList columna;
-    columna.reserve(codigos.size() + 1);
-    for (int c : codigos)
-        columna << c;
-    columna << 0;
-    return Arreglo2D{columna};
 }
 
 int16_t ReglasPresentador(const Presentador& p)

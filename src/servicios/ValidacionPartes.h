@@ -13,7 +13,7 @@
 // it have nothing to say of the same field (a postal code that is not of five digits is not
 // said to be of another province; a missing province is reported as missing, not as a postal
 // code that does not match). The import's validation reports every error of a line at once.
-#include "servicios/Arreglos.h"
+#include "servicios/LineaContribuyente.h"
 #include "valores/Contribuyente.h"
 #include "valores/Presentador.h"
 
@@ -22,7 +22,7 @@
 #include <cstdint>
 #include <functional>
 
-// The rules of a contributor, by number; also the codes 1 to 13 of the import.
+// The rules of a contributor, by number.
 namespace VeredictoContribuyente {
 enum : int16_t {
     Valido = 0,
@@ -40,29 +40,6 @@ enum : int16_t {
     CodigoProvinciaVacio = 12,
     CodigoMunicipioVacio = 13,
     DniControlErroneo = 14,
-};
-}
-
-// Codes of the import that have no interactive verdict.
-namespace ErrorImportacion {
-enum : int {
-    NumeroNoNumerico = 14,
-    CodigoProvinciaNoNumerico = 15,
-    CodigoPostalNoNumerico = 16,
-    CodigoMunicipioNoNumerico = 17,
-    ContadorSujetosNoNumerico = 18,
-    ContadorTransmitentesNoNumerico = 19,
-    TipoDniInvalido = 20,
-    TipoDomicilioInvalido = 21,
-    SiglaInadmisible = 22,
-    ProvinciaExtranjeraNoCero = 23,
-    MunicipioExtranjeroNoCero = 24,
-    NombreProvinciaEnNacional = 25,
-    MunicipioInadmisible = 26,
-    NombreMunicipioEnTesoreria = 27,
-    ProvinciaInadmisible = 28,
-    MunicipioFueraDeTesoreria = 29,
-    PaisEnNacional = 30,
 };
 }
 
@@ -96,10 +73,11 @@ struct ConsultasReferencia {
 
 // The number of the first rule the contributor breaks, 0 when none.
 int16_t ReglasContribuyente(const Contribuyente& c);
-// The import validation array (15 raw texts) -> every error code, in ascending order.
-QList<int> ErroresImportacion(const Arreglo& datos, const ConsultasReferencia& referencia);
-// The errors as the import's validation answers them: errores[0][k] for k from 0 to the
-// number of errors less one, then a spare 0, so that the upper bound is the number of errors.
-Arreglo2D ArregloErrores(const QList<int>& codigos);
+// Every error of an exchange line, in the fixed order of the import's rules (the order in
+// which the error file lists them): the number, the name, the domicile, the country, the
+// postal code, the names and codes of province and municipality, then whether the numbers are
+// numbers, the kinds, the street type, and what a kind of domicile forbids.
+QList<HallazgoImportacion> ErroresImportacion(const LineaContribuyente& linea,
+                                              const ConsultasReferencia& referencia);
 // The number of the first rule the presenter breaks, 0 when none.
 int16_t ReglasPresentador(const Presentador& p);

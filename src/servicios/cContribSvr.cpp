@@ -107,10 +107,10 @@ bool cContribSvr::ValidarDniOficial(const QString& dni) const
     return EsNifOficialValido(dni);
 }
 
-void cContribSvr::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
+QList<HallazgoImportacion> cContribSvr::ValidarDatosImportar(const LineaContribuyente& linea) const
 {
     const QString org = origen("ValidarDatosImportar");
-    errores = ArregloErrores(ErroresImportacion(datos, ReferenciaPartes::Consultas(mdblec, org)));
+    return ErroresImportacion(linea, ReferenciaPartes::Consultas(mdblec, org));
 }
 
 bool cContribSvr::ValidarTipoDniDomicilio(int32_t csco) const
@@ -172,36 +172,18 @@ Resultado<Contribuyente> cContribSvr::GuardarContribuyente(const Contribuyente& 
 Resultado<Contribuyente> cContribSvr::guardar(const Contribuyente& c, Modo modo,
                                               Sobrescritura sobre) const
 {
-    using namespace VeredictoGuardarContribuyente;
     const QString org = origen("GuardarContribuyente");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
     AccesoPreparado acceso(tabla(), db, org);
-    int64_t version = c.VERSION;
-    Veredicto rechazo;
-    const Arreglo datos = GuardadoContribuyente::ArregloDe(c);
-    switch (GuardadoContribuyente::Guardar(acceso, datos, modo, org, std::nullopt, &rechazo,
-                                           sobre == Sobrescritura::VersionCargada ? &version
-                                                                                  : nullptr)) {
-    case Guardado:
-        break;
-    case DniExistente:
-        return VeredictosPartes::Informacion(kIdAltaContribuyenteDniExistente);
-    case DniDeOtro:
-        return VeredictosPartes::Informacion(kIdModificarContribuyenteDniExistente);
-    case Cambiado:
-        return VeredictosPartes::NoVigente(Vigencia::Cambiada);
-    case Borrado:
-        return VeredictosPartes::NoVigente(Vigencia::Borrada);
-    default:
-        return rechazo;
-    }
-    // The saved value: its code and version, read back in the same transaction (a new
-    // contributor's code is the store's to give).
-    const TitularParte titular = acceso.TitularPorDni(GuardadoContribuyente::DniGuardado(datos));
+    const Resultado<TitularParte> fila = GuardadoContribuyente::Guardar(acceso, c, modo, sobre, org);
+    if (!fila)
+        return fila.veredicto();
+    // The saved value: its code (a new contributor's is the one the store gave the insert)
+    // and the row's new version.
     Contribuyente guardado = c;
-    guardado.CSCO = titular.codigo;
-    guardado.VERSION = titular.version;
+    guardado.CSCO = fila->codigo;
+    guardado.VERSION = fila->version;
     transaccion.confirmar();
     return guardado;
 }
@@ -221,12 +203,12 @@ bool cContribSvr::BorrarContribuyente(int32_t csco) const
     return borrado;
 }
 
-Arreglo cContribSvr::ObtenerNumspNumtr(int32_t csco) const
+DeclaracionesContribuyente cContribSvr::ObtenerNumspNumtr(int32_t csco) const
 {
     const QString org = origen("ObtenerNumspNumtr");
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
-    return {static_cast<int>(ContadoresPartes::ComoSujeto(db, csco, org)),
-            static_cast<int>(ContadoresPartes::ComoTransmitente(db, csco, org))};
+    return {static_cast<int32_t>(ContadoresPartes::ComoSujeto(db, csco, org)),
+            static_cast<int32_t>(ContadoresPartes::ComoTransmitente(db, csco, org))};
 }
 
 QList<FilaContribuyente> cContribSvr::dameResultadoBusqueda(const CriteriosParte& criterios,

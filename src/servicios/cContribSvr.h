@@ -5,16 +5,15 @@
 // refusal comes back as the Veredicto of a Resultado, with the message to show and the field to
 // focus. Failures of the files are raised as cFallo.
 //
-// The import's validation still takes the 15 raw texts of an exchange line, in the order of
-// PosImportar, blanks included.
+// The import's validation takes the raw texts of an exchange line, blanks included.
 //
 // The counters NUMSP and NUMTR are the number of declarations that name the contributor as
 // subject and as transmitter. They are counted from the declarations whenever they are read,
 // and what a saved value carries in their place is ignored; so a contributor named in a
 // declaration always shows it, and is never deleted.
-#include "servicios/Arreglos.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/Sobrescritura.h"
+#include "servicios/ValidacionPartes.h"
 #include "valores/Contribuyente.h"
 #include "valores/CriteriosParte.h"
 #include "valores/FilaContribuyente.h"
@@ -24,6 +23,14 @@
 #include <QString>
 #include <cstdint>
 #include <optional>
+
+// How many returns name one contributor, as subject and as transmitter.
+struct DeclaracionesContribuyente {
+    int32_t comoSujeto = 0;
+    int32_t comoTransmitente = 0;
+
+    bool operator==(const DeclaracionesContribuyente&) const = default;
+};
 
 class cContribSvr {
 public:
@@ -35,10 +42,9 @@ public:
     // True when `dni` is a well-formed official (Spanish) number with the right check
     // character.
     bool ValidarDniOficial(const QString& dni) const;
-    // Every error of one exchange line (codes 1 to 30, ascending): errores[0][k] for k from 0
-    // to the upper bound less one; the last element is a spare 0, so a line without errors
-    // gives an upper bound of 0. Needs mdblec.
-    void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
+    // Every error of one exchange line, in the order of the import's rules (ErroresImportacion);
+    // none for a valid line. Needs mdblec.
+    QList<HallazgoImportacion> ValidarDatosImportar(const LineaContribuyente& linea) const;
     // True when the contributor exists and has TIPODNI "O" and TIPODOMI "N": it can stand as
     // subject of a declaration.
     bool ValidarTipoDniDomicilio(int32_t csco) const;
@@ -64,8 +70,8 @@ public:
         Sobrescritura sobre = Sobrescritura::VersionCargada) const;
     // Deletes the contributor unless a declaration names him; true when a row went.
     bool BorrarContribuyente(int32_t csco) const;
-    // {declarations as subject, as transmitter}.
-    Arreglo ObtenerNumspNumtr(int32_t csco) const;
+    // The returns that name the contributor; none for a code the store does not have.
+    DeclaracionesContribuyente ObtenerNumspNumtr(int32_t csco) const;
     // The list: the contributors whose name and number start as the criteria say (without
     // regard to case), sorted by name or by number. Each row has the columns of the lists and
     // the returns that name the contributor as subject and as transmitter. Needs mdbmod and

@@ -3,11 +3,9 @@
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
 
-#include <QRegularExpression>
-#include <QSqlRecord>
 #include <algorithm>
 #include <limits>
-#include <numeric>
+#include <utility>
 
 namespace {
 QString origen(const char* operacion)
@@ -42,59 +40,37 @@ QString claveDeOrden(const QString& texto)
     return clave;
 }
 
-// SQLite compares text byte by byte, which puts "Álava" after "Zamora". When the statement
-// orders by the name column, the rows are put in the order a Spanish reader expects
-// (the order the same statement gives on the program's original store).
-void ordenarSegunAlfabeto(const QString& sql, const QString& columnaNombre, Arreglo2D& a)
+// SQLite compares text byte by byte, which puts "Álava" after "Zamora": the rows are put in
+// the order a Spanish reader expects once read.
+void ordenarSegunAlfabeto(QList<FilaReferencia>& filas)
 {
-    static const QRegularExpression orden(
-        QStringLiteral(R"(\bORDER\s+BY\s+([A-Za-z_][A-Za-z0-9_.]*)(?:\s+(ASC|DESC))?\s*;?\s*$)"),
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch m = orden.match(sql);
-    if (!m.hasMatch())
-        return;
-    const QString columna = m.captured(1).section(QLatin1Char('.'), -1);
-    if (columna.compare(columnaNombre, Qt::CaseInsensitive) != 0)
-        return;
-    const bool descendente = m.captured(2).compare(QLatin1String("DESC"), Qt::CaseInsensitive) == 0;
-
-    const qsizetype filas = a[1].size();
-    QStringList claves;
-    claves.reserve(filas);
-    for (const QVariant& v : a[1])
-        claves << claveDeOrden(v.toString());
-    QList<qsizetype> indices(filas);
-    std::iota(indices.begin(), indices.end(), 0);
-    std::stable_sort(indices.begin(), indices.end(), [&](qsizetype x, qsizetype y) {
-        return descendente ? claves[y] < claves[x] : claves[x] < claves[y];
-    });
-    Arreglo2D ordenado{QVariantList(), QVariantList()};
-    for (const qsizetype i : indices) {
-        ordenado[0].append(a[0][i]);
-        ordenado[1].append(a[1][i]);
-    }
-    a = std::move(ordenado);
+    QList<std::pair<QString, FilaReferencia>> conClave;
+    conClave.reserve(filas.size());
+    for (FilaReferencia& f : filas)
+        conClave.append({claveDeOrden(f.nombre), std::move(f)});
+    std::stable_sort(conClave.begin(), conClave.end(),
+                     [](const auto& x, const auto& y) { return x.first < y.first; });
+    filas.clear();
+    for (auto& [clave, f] : conClave)
+        filas.append(std::move(f));
 }
 
-// Runs a picker's statement: the first column is the code, the second the name. The answer
-// always has the two columns, even without rows, since the client walks the second one.
-void cargarLista(const QString& mdblec, const QString& sql, Arreglo2D& a, const char* operacion)
+// The rows of one reference table: its code column and its name column, by name.
+QList<FilaReferencia> cargarLista(const QString& mdblec, const QString& tabla,
+                                  const QString& codigo, const QString& nombre,
+                                  const char* operacion)
 {
     const QString o = origen(operacion);
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
+    // The table and column names are this file's constants, never the caller's text.
+    const QString sql =
+        QStringLiteral("SELECT %1, %2 FROM %3 ORDER BY %2").arg(codigo, nombre, tabla);
     QSqlQuery q = Ejecutar(db, sql, {}, o);
-    const QSqlRecord registro = q.record();
-    if (registro.count() < 2)
-        throw cFallo(13, o,
-                     QStringLiteral("La consulta debe devolver dos columnas (código y nombre): ")
-                         + sql);
-    Arreglo2D lista{QVariantList(), QVariantList()};
-    while (q.next()) {
-        lista[0].append(q.value(0).toString());
-        lista[1].append(q.value(1).toString());
-    }
-    ordenarSegunAlfabeto(sql, registro.fieldName(1), lista);
-    a = std::move(lista);
+    QList<FilaReferencia> filas;
+    while (q.next())
+        filas.append({q.value(0).toString(), q.value(1).toString()});
+    ordenarSegunAlfabeto(filas);
+    return filas;
 }
 
 // Codes are kept as text of fixed width ("01", "007"); a caller that passes "1" or " 7 "
@@ -136,7 +112,7 @@ int16_t cDatosGeneral::NumeroPresentadores() const
     return static_cast<int16_t>(std::min<int32_t>(n, std::numeric_limits<int16_t>::max()));
 }
 
-void cDatosGeneral::DameFechaMinimaMaxima(Arreglo& fechas) const
+LimitesFechas cDatosGeneral::DameFechaMinimaMaxima() const
 {
     const QString o = origen("DameFechaMinimaMaxima");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -144,28 +120,36 @@ void cDatosGeneral::DameFechaMinimaMaxima(Arreglo& fechas) const
                            {}, o);
     if (!q.next())
         throw cFallo(3021, o, QStringLiteral("T10_GENERAL no tiene ninguna fila."));
-    fechas = Arreglo{static_cast<int32_t>(q.value(0).toInt()),
-                     static_cast<int32_t>(q.value(1).toInt())};
+    // The table keeps each date as the number yyyymmdd.
+    const auto fecha = [&q, &o](int columna) {
+        const int n = q.value(columna).toInt();
+        const QDate d(n / 10000, n / 100 % 100, n % 100);
+        if (!d.isValid())
+            throw cFallo(13, o, QStringLiteral("T10_GENERAL: fecha %1").arg(n));
+        return d;
+    };
+    return {fecha(0), fecha(1)};
 }
 
-void cDatosGeneral::CargarVias(const QString& sql, Arreglo2D& a) const
+QList<FilaReferencia> cDatosGeneral::CargarVias(Idioma idioma) const
 {
-    cargarLista(mdblec, sql, a, "CargarVias");
+    return cargarLista(mdblec, QStringLiteral("T09_SIGLASVIA"), QStringLiteral("T09_CODIGO"),
+                       idioma.esEuskera() ? QStringLiteral("T09_EUS") : QStringLiteral("T09_CAS"),
+                       "CargarVias");
 }
 
-void cDatosGeneral::CargarProvincias(const QString& sql, Arreglo2D& a) const
+QList<FilaReferencia> cDatosGeneral::CargarProvincias(Idioma idioma) const
 {
-    cargarLista(mdblec, sql, a, "CargarProvincias");
+    return cargarLista(mdblec, QStringLiteral("T07_PROVINCIAS"), QStringLiteral("T07_PRO_ID"),
+                       idioma.esEuskera() ? QStringLiteral("T07_PRO_EUS")
+                                          : QStringLiteral("T07_PRO_CAS"),
+                       "CargarProvincias");
 }
 
-void cDatosGeneral::CargarMunicipios(const QString& sql, Arreglo2D& a) const
+QList<FilaReferencia> cDatosGeneral::CargarMunicipios() const
 {
-    cargarLista(mdblec, sql, a, "CargarMunicipios");
-}
-
-void cDatosGeneral::CargarTipos(const QString& sql, Arreglo2D& a) const
-{
-    cargarLista(mdblec, sql, a, "CargarTipos");
+    return cargarLista(mdblec, QStringLiteral("T08_MUNICIPIOS"), QStringLiteral("T08_CODMUN"),
+                       QStringLiteral("T08_NOMMUN"), "CargarMunicipios");
 }
 
 QString cDatosGeneral::ObtenNomMunicipio(const QString& codigo) const

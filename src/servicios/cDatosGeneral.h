@@ -1,10 +1,26 @@
 #pragma once
 // General data of the stores: counts of the user's records, the date limits, the pickers'
 // reference lists and the update address. Set mdbmod or mdblec before each call.
-#include "servicios/Arreglos.h"
+#include "plataforma/Idioma.h"
 
+#include <QDate>
+#include <QList>
 #include <QString>
 #include <cstdint>
+
+// One row of a reference list: its code as stored ("01", "CL") and its name.
+struct FilaReferencia {
+    QString codigo;
+    QString nombre;
+
+    bool operator==(const FilaReferencia&) const = default;
+};
+
+// The oldest and the newest date the program accepts.
+struct LimitesFechas {
+    QDate minima;
+    QDate maxima;
+};
 
 class cDatosGeneral {
 public:
@@ -14,13 +30,13 @@ public:
     int32_t NumeroDeclaraciones() const;
     int32_t NumeroContribuyentes() const;
     int16_t NumeroPresentadores() const;
-    // Fills `fechas` with the oldest (0) and newest (1) accepted date, as yyyymmdd.
-    void DameFechaMinimaMaxima(Arreglo& fechas) const;
-    // Run the SQL text of a picker (code, name) and fill a[0] with codes, a[1] with names.
-    void CargarVias(const QString& sql, Arreglo2D& a) const;
-    void CargarProvincias(const QString& sql, Arreglo2D& a) const;
-    void CargarMunicipios(const QString& sql, Arreglo2D& a) const;
-    void CargarTipos(const QString& sql, Arreglo2D& a) const;
+    LimitesFechas DameFechaMinimaMaxima() const;
+    // The reference lists of the pickers, in the order of the Spanish alphabet by name
+    // (accents and case aside, Ñ after N). The street types and the provinces are named in
+    // `idioma`; the municipalities have one name only.
+    QList<FilaReferencia> CargarVias(Idioma idioma) const;
+    QList<FilaReferencia> CargarProvincias(Idioma idioma) const;
+    QList<FilaReferencia> CargarMunicipios() const;
     QString ObtenNomMunicipio(const QString& codigo) const;
     QString ObtenNomProvincia(const QString& codigo) const;
     QString URLAct() const;

@@ -3,6 +3,7 @@
 // form 747 (T11_OPERACIONES in the reference database), with the whole-return validation.
 // Set mdbmod and/or mdblec before each call; nothing is kept open between calls that the next
 // call relies on. Failures of the stores are raised as cFallo with the operation as source.
+#include "plataforma/Idioma.h"
 #include "valores/Contribuyente.h"
 #include "valores/CriteriosDeclaracion.h"
 #include "valores/Declaracion.h"
@@ -119,14 +120,14 @@ public:
     std::optional<Contribuyente> CargarContribuyente(int32_t codigo) const;
 
     // --- Operations (mdblec) ---------------------------------------------------------------
-    // The descriptions of the operations that apply on `fechad`, in the language of the offset.
-    QStringList ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) const;
+    // The descriptions of the operations that apply on `fechad`, in `idioma`.
+    QStringList ObtenerOperaciones(int32_t fechad, Idioma idioma) const;
     // The operation `operacion` on a date; nothing when the code does not apply on that date.
     std::optional<DatosOperacion> ObtenerDatosOperacion(const QString& operacion, int32_t fechad,
-                                                        int16_t offsetIdioma) const;
+                                                        Idioma idioma) const;
     // The code of the operation with this description on the date; empty when none.
     QString DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
-                                        int16_t offsetIdioma) const;
+                                        Idioma idioma) const;
     // The print key of the operation on the date; empty when the code does not apply then.
     QString ObtenImpresion(int32_t fechad, const QString& codigo) const;
 
@@ -144,21 +145,20 @@ public:
 
     // --- Lists (mdbmod and mdblec) ----------------------------------------------------------
     // The returns that meet `condiciones`, each with its code, reference, date, total,
-    // operation and the operation's description on its date of accrual in the language of the
-    // offset. `orden` 1 to 5 orders by code, reference, date, total or operation, `tipoOrden`
+    // operation and the operation's description on its date of accrual in `idioma`. `orden` 1 to 5 orders by code, reference, date, total or operation, `tipoOrden`
     // "ASC" or "DESC"; the code breaks ties.
     QList<FilaDeclaracion> dameResultadoBusqueda(const CondicionesDeclaracion& condiciones,
                                                  uint8_t orden, const QString& tipoOrden,
-                                                 int16_t offsetIdioma) const;
+                                                 Idioma idioma) const;
     // The returns of one contributor, each with PARTE: "S" when it is the subject, "T" the
     // transmitter, "S-T" both.
     QList<FilaDeclaracion> dameDeclaracionesContribuyente(const CondicionesDeclaracion& condiciones,
                                                           int32_t csco, uint8_t orden,
                                                           const QString& tipoOrden,
-                                                          int16_t offsetIdioma) const;
+                                                          Idioma idioma) const;
     // The returns handed in by one presenter.
     QList<FilaDeclaracion> dameDeclaracionesPresentador(const CondicionesDeclaracion& condiciones,
                                                         int32_t cspr, uint8_t orden,
                                                         const QString& tipoOrden,
-                                                        int16_t offsetIdioma) const;
+                                                        Idioma idioma) const;
 };

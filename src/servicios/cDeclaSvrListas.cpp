@@ -102,7 +102,7 @@ struct Busqueda {
 };
 
 QList<FilaDeclaracion> buscar(const cDeclaSvr& svr, const Busqueda& b, uint8_t orden,
-                              const QString& tipoOrden, int16_t offsetIdioma, const QString& o)
+                              const QString& tipoOrden, Idioma idioma, const QString& o)
 {
     const TablaOperaciones operaciones(svr.mdblec, o);
     const QSqlDatabase db = Conexion::Modificable(svr.mdbmod, o);
@@ -124,7 +124,7 @@ QList<FilaDeclaracion> buscar(const cDeclaSvr& svr, const Busqueda& b, uint8_t o
         f.FECHAD = q.value(2).toInt();
         f.TOTAL = Importe(q.value(3).toDouble());
         f.OPERACION = q.value(4).toString();
-        f.DESCRIPCION = operaciones.Descripcion(f.OPERACION, f.FECHAD, offsetIdioma);
+        f.DESCRIPCION = operaciones.Descripcion(f.OPERACION, f.FECHAD, idioma);
         if (conParte)
             f.PARTE = sujetoTransmitente(b.contribuyente, q.value(5).toInt(), q.value(6).toInt());
         filas.append(std::move(f));
@@ -136,16 +136,16 @@ QList<FilaDeclaracion> buscar(const cDeclaSvr& svr, const Busqueda& b, uint8_t o
 
 QList<FilaDeclaracion> cDeclaSvr::dameResultadoBusqueda(const CondicionesDeclaracion& condiciones,
                                                        uint8_t orden, const QString& tipoOrden,
-                                                       int16_t offsetIdioma) const
+                                                       Idioma idioma) const
 {
     Busqueda b;
     aplicarCriterios(condiciones, b.filtro);
-    return buscar(*this, b, orden, tipoOrden, offsetIdioma, origen("dameResultadoBusqueda"));
+    return buscar(*this, b, orden, tipoOrden, idioma, origen("dameResultadoBusqueda"));
 }
 
 QList<FilaDeclaracion> cDeclaSvr::dameDeclaracionesContribuyente(
     const CondicionesDeclaracion& condiciones, int32_t csco, uint8_t orden,
-    const QString& tipoOrden, int16_t offsetIdioma) const
+    const QString& tipoOrden, Idioma idioma) const
 {
     if (csco == 0)  // 0 is no contributor: no return is its
         return {};
@@ -153,17 +153,17 @@ QList<FilaDeclaracion> cDeclaSvr::dameDeclaracionesContribuyente(
     b.filtro.agregar(QStringLiteral("(d.CSSU = ? OR d.CSTRA = ?)"), {csco, csco});
     b.contribuyente = csco;
     aplicarCriterios(condiciones, b.filtro);
-    return buscar(*this, b, orden, tipoOrden, offsetIdioma,
+    return buscar(*this, b, orden, tipoOrden, idioma,
                   origen("dameDeclaracionesContribuyente"));
 }
 
 QList<FilaDeclaracion> cDeclaSvr::dameDeclaracionesPresentador(
     const CondicionesDeclaracion& condiciones, int32_t cspr, uint8_t orden,
-    const QString& tipoOrden, int16_t offsetIdioma) const
+    const QString& tipoOrden, Idioma idioma) const
 {
     Busqueda b;
     b.filtro.agregar(QStringLiteral("d.CSPR = ?"), {cspr});
     aplicarCriterios(condiciones, b.filtro);
-    return buscar(*this, b, orden, tipoOrden, offsetIdioma,
+    return buscar(*this, b, orden, tipoOrden, idioma,
                   origen("dameDeclaracionesPresentador"));
 }

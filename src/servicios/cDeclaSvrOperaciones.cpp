@@ -11,9 +11,9 @@ QString origen(const char* operacion)
     return QStringLiteral("svrveldoV1.cDeclaSvr.") + QLatin1String(operacion);
 }
 
-const char* columnaDescripcion(int16_t offsetIdioma)
+const char* columnaDescripcion(Idioma idioma)
 {
-    return offsetIdioma >= 10000 ? "T11_DESC_EUS" : "T11_DESC_CAS";
+    return idioma.esEuskera() ? "T11_DESC_EUS" : "T11_DESC_CAS";
 }
 }  // namespace
 
@@ -32,19 +32,19 @@ TablaOperaciones::TablaOperaciones(const QString& mdblec, const QString& origenL
 }
 
 QString TablaOperaciones::Descripcion(const QString& codigo, int32_t fechad,
-                                      int16_t offsetIdioma) const
+                                      Idioma idioma) const
 {
     const auto it = m_filas.constFind(codigo);
     if (it == m_filas.cend())
         return QString();
     for (const FilaOperacion& f : *it) {
         if (f.desde <= fechad && fechad <= f.hasta)
-            return offsetIdioma >= 10000 ? f.descripcionEus : f.descripcionCas;
+            return idioma.esEuskera() ? f.descripcionEus : f.descripcionCas;
     }
     return QString();
 }
 
-QStringList cDeclaSvr::ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) const
+QStringList cDeclaSvr::ObtenerOperaciones(int32_t fechad, Idioma idioma) const
 {
     const QString o = origen("ObtenerOperaciones");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -52,7 +52,7 @@ QStringList cDeclaSvr::ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) 
                            QStringLiteral("SELECT %1 FROM T11_OPERACIONES "
                                           "WHERE T11_FECINI <= ? AND T11_FECFIN >= ? "
                                           "ORDER BY T11_ID")
-                               .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+                               .arg(QLatin1String(columnaDescripcion(idioma))),
                            {fechad, fechad}, o);
     QStringList descripciones;
     while (q.next())
@@ -62,7 +62,7 @@ QStringList cDeclaSvr::ObtenerOperaciones(int32_t fechad, int16_t offsetIdioma) 
 
 std::optional<DatosOperacion> cDeclaSvr::ObtenerDatosOperacion(const QString& operacion,
                                                                int32_t fechad,
-                                                               int16_t offsetIdioma) const
+                                                               Idioma idioma) const
 {
     const QString o = origen("ObtenerDatosOperacion");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -72,7 +72,7 @@ std::optional<DatosOperacion> cDeclaSvr::ObtenerDatosOperacion(const QString& op
                        "T11_TIPOMIN, T11_TIPOMAX, T11_DEDUCCION FROM T11_OPERACIONES "
                        "WHERE T11_CODIGO = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
                        "ORDER BY T11_ID LIMIT 1")
-            .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+            .arg(QLatin1String(columnaDescripcion(idioma))),
         {operacion.trimmed(), fechad, fechad}, o);
     if (!q.next())
         return std::nullopt;
@@ -89,7 +89,7 @@ std::optional<DatosOperacion> cDeclaSvr::ObtenerDatosOperacion(const QString& op
 }
 
 QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
-                                               int16_t offsetIdioma) const
+                                               Idioma idioma) const
 {
     const QString o = origen("DameOperacionporDescripcion");
     const QSqlDatabase db = Conexion::Lectura(mdblec, o);
@@ -97,7 +97,7 @@ QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int3
                    QStringLiteral("SELECT T11_CODIGO FROM T11_OPERACIONES "
                                   "WHERE %1 = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
                                   "ORDER BY T11_ID LIMIT 1")
-                       .arg(QLatin1String(columnaDescripcion(offsetIdioma))),
+                       .arg(QLatin1String(columnaDescripcion(idioma))),
                    {descripcion.toString(), fechad, fechad}, o, QString())
         .toString();
 }

@@ -1,6 +1,8 @@
 #pragma once
 // The rows of the operations table as the lists of returns need them: the description of an
 // operation on a return's date, looked up in memory rather than row by row.
+#include "plataforma/Idioma.h"
+
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -18,9 +20,9 @@ struct FilaOperacion {
 class TablaOperaciones {
 public:
     TablaOperaciones(const QString& mdblec, const QString& origen);
-    // The description of `codigo` on `fechad` in the language of the offset; empty when the
+    // The description of `codigo` on `fechad` in `idioma`; empty when the
     // code does not apply on that date.
-    QString Descripcion(const QString& codigo, int32_t fechad, int16_t offsetIdioma) const;
+    QString Descripcion(const QString& codigo, int32_t fechad, Idioma idioma) const;
 
 private:
     QHash<QString, QList<FilaOperacion>> m_filas;

@@ -1,13 +1,9 @@
 #include "comun/PartesPrueba.h"
 
-#include "comun/ArregloPrueba.h"
 #include "servicios/Almacen.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/ValidarDniOficial.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
-
-namespace I = PosImportar;
 
 namespace {
 
@@ -75,24 +71,25 @@ Contribuyente ContribuyenteExtranjero(const QString& dni, const QString& nombre,
     return c;
 }
 
-Arreglo ImportacionNacional()
+LineaContribuyente ImportacionNacional()
 {
-    return ArregloPorPosiciones(
-        I::Tamano, {{I::TIPODNI, QStringLiteral("O")},
-                    {I::DNIC, QStringLiteral("12345678Z")},
-                    {I::NOMBREC, QStringLiteral("GARCIA LOPEZ JUAN").leftJustified(40)},
-                    {I::DOMICILIOC, QStringLiteral("MAYOR").leftJustified(20)},
-                    {I::TIPODOMI, QStringLiteral("N")},
-                    {I::PAIS, QString(20, QLatin1Char(' '))},
-                    {I::CODPROVC, QStringLiteral("77")},
-                    {I::CODPOSC, QStringLiteral("77001")},
-                    {I::NOMPROVC, QString(20, QLatin1Char(' '))},
-                    {I::NOMMUNC, QString(25, QLatin1Char(' '))},
-                    {I::CODMUNC, QStringLiteral("001")},
-                    {I::NUMEROC, QStringLiteral("00012")},
-                    {I::NUMSP, QStringLiteral("0000000")},
-                    {I::NUMTR, QStringLiteral("0000000")},
-                    {I::VIAC, QStringLiteral("CL")}});
+    LineaContribuyente l;
+    l.TIPODNI = QStringLiteral("O");
+    l.DNIC = QStringLiteral("12345678Z");
+    l.NOMBREC = QStringLiteral("GARCIA LOPEZ JUAN").leftJustified(40);
+    l.DOMICILIOC = QStringLiteral("MAYOR").leftJustified(20);
+    l.TIPODOMI = QStringLiteral("N");
+    l.PAIS = QString(20, QLatin1Char(' '));
+    l.CODPROVC = QStringLiteral("77");
+    l.CODPOSC = QStringLiteral("77001");
+    l.NOMPROVC = QString(20, QLatin1Char(' '));
+    l.NOMMUNC = QString(25, QLatin1Char(' '));
+    l.CODMUNC = QStringLiteral("001");
+    l.NUMEROC = QStringLiteral("00012");
+    l.NUMSP = QStringLiteral("0000000");
+    l.NUMTR = QStringLiteral("0000000");
+    l.VIAC = QStringLiteral("CL");
+    return l;
 }
 
 Presentador PresentadorValido(const QString& dni, const QString& nombre, int32_t cspr)

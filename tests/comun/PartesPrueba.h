@@ -2,7 +2,7 @@
 // Parties for the tests: valid contributors and presenters as the stores take them, the raw
 // texts of an exchange line for the import's validation, and parties put in the store of the
 // application paths (mdbmod) through the stores' own operations.
-#include "servicios/Arreglos.h"
+#include "servicios/LineaContribuyente.h"
 #include "valores/Contribuyente.h"
 #include "valores/Presentador.h"
 
@@ -16,9 +16,9 @@ QString Dni(quint32 numero);
 // with a foreign document.
 Contribuyente ContribuyenteNacional(const QString& dni, const QString& nombre, int32_t csco = 0);
 Contribuyente ContribuyenteExtranjero(const QString& dni, const QString& nombre, int32_t csco = 0);
-// The import validation array (15 raw texts) of a valid national contributor, as an exchange
-// line holds it (fixed widths, blanks included).
-Arreglo ImportacionNacional();
+// The raw texts of a valid national contributor, as an exchange line holds them (fixed
+// widths, blanks included).
+LineaContribuyente ImportacionNacional();
 
 // A valid presenter in the treasury's province.
 Presentador PresentadorValido(const QString& dni, const QString& nombre, int32_t cspr = 0);

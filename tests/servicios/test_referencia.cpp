@@ -1,6 +1,6 @@
 // The generated reference database and the general data read from it: provinces,
-// municipalities of Arbelia, street types, date limits, update address, the pickers' SQL
-// texts run as the panels pass them, and the names looked up for printing.
+// municipalities of Arbelia, street types in each language, date limits, update address, and
+// the names looked up for printing.
 #include "comun/BaseCruda.h"
 #include "comun/Entorno.h"
 
@@ -15,12 +15,6 @@
 #include <QUrl>
 
 namespace {
-const QString kViasCas = QStringLiteral("Select T09_CODIGO, T09_CAS From T09_SIGLASVIA ORDER BY T09_CAS");
-const QString kViasEus = QStringLiteral("Select T09_CODIGO, T09_EUS From T09_SIGLASVIA ORDER BY T09_EUS");
-const QString kProvCas = QStringLiteral("Select T07_PRO_ID, T07_PRO_CAS From T07_PROVINCIAS ORDER BY T07_PRO_CAS");
-const QString kProvEus = QStringLiteral("Select T07_PRO_ID, T07_PRO_EUS From T07_PROVINCIAS ORDER BY T07_PRO_EUS");
-const QString kMunicipios = QStringLiteral("Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS ORDER BY T08_NOMMUN");
-
 cDatosGeneral lectura()
 {
     cDatosGeneral d;
@@ -28,10 +22,20 @@ cDatosGeneral lectura()
     return d;
 }
 
-QString nombreDeCodigo(const Arreglo2D& a, const QString& codigo)
+QString nombreDeCodigo(const QList<FilaReferencia>& a, const QString& codigo)
 {
-    const qsizetype i = a[0].indexOf(codigo);
-    return i < 0 ? QString() : a[1][i].toString();
+    for (const FilaReferencia& f : a)
+        if (f.codigo == codigo)
+            return f.nombre;
+    return QString();
+}
+
+QStringList Nombres(const QList<FilaReferencia>& a)
+{
+    QStringList n;
+    for (const FilaReferencia& f : a)
+        n << f.nombre;
+    return n;
 }
 }  // namespace
 
@@ -45,14 +49,11 @@ private slots:
 
     void provinciasDeEspanaYArbelia()
     {
-        Arreglo2D a;
-        lectura().CargarProvincias(kProvCas, a);
-        QCOMPARE(a.size(), 2);
-        QCOMPARE(a[0].size(), 53);
-        QCOMPARE(a[1].size(), 53);
+        const QList<FilaReferencia> a = lectura().CargarProvincias(Idioma::Castellano);
+        QCOMPARE(a.size(), 53);
         QSet<QString> codigos;
-        for (const QVariant& v : a[0])
-            codigos << v.toString();
+        for (const FilaReferencia& f : a)
+            codigos << f.codigo;
         for (int i = 1; i <= 52; ++i)
             QVERIFY2(codigos.contains(QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0'))),
                      qPrintable(QString::number(i)));
@@ -60,63 +61,43 @@ private slots:
         QCOMPARE(nombreDeCodigo(a, QStringLiteral("77")), QStringLiteral("Arbelia"));
         QCOMPARE(nombreDeCodigo(a, QStringLiteral("48")), QStringLiteral("Vizcaya"));
         QCOMPARE(nombreDeCodigo(a, QStringLiteral("01")), QStringLiteral("Álava"));
-        for (const QVariant& v : a[1]) {
-            QVERIFY(!v.toString().trimmed().isEmpty());
-            QVERIFY2(v.toString().size() <= 20, qPrintable(v.toString()));
+        for (const QString& v : Nombres(a)) {
+            QVERIFY(!v.trimmed().isEmpty());
+            QVERIFY2(v.size() <= 20, qPrintable(v));
         }
 
-        Arreglo2D e;
-        lectura().CargarProvincias(kProvEus, e);
-        QCOMPARE(e[0].size(), 53);
+        const QList<FilaReferencia> e = lectura().CargarProvincias(Idioma::Euskera);
+        QCOMPARE(e.size(), 53);
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("48")), QStringLiteral("Bizkaia"));
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("01")), QStringLiteral("Araba"));
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("77")), QStringLiteral("Arbelia"));
-        for (const QVariant& v : e[1])
-            QVERIFY2(v.toString().size() <= 20, qPrintable(v.toString()));
+        for (const QString& v : Nombres(e))
+            QVERIFY2(v.size() <= 20, qPrintable(v));
     }
 
     // Names come in the order of the alphabet, accents aside: Álava first, Ávila among the A.
     void ordenAlfabeticoEspanol()
     {
-        Arreglo2D a;
-        lectura().CargarProvincias(kProvCas, a);
-        QCOMPARE(a[1].first().toString(), QStringLiteral("Álava"));
-        QCOMPARE(a[1][1].toString(), QStringLiteral("Albacete"));
-        const qsizetype avila = a[1].indexOf(QStringLiteral("Ávila"));
-        QCOMPARE(a[1][avila - 1].toString(), QStringLiteral("Asturias"));
-        QCOMPARE(a[1][avila + 1].toString(), QStringLiteral("Badajoz"));
-        QCOMPARE(a[1].last().toString(), QStringLiteral("Zaragoza"));
+        const QStringList a = Nombres(lectura().CargarProvincias(Idioma::Castellano));
+        QCOMPARE(a.first(), QStringLiteral("Álava"));
+        QCOMPARE(a[1], QStringLiteral("Albacete"));
+        const qsizetype avila = a.indexOf(QStringLiteral("Ávila"));
+        QCOMPARE(a[avila - 1], QStringLiteral("Asturias"));
+        QCOMPARE(a[avila + 1], QStringLiteral("Badajoz"));
+        QCOMPARE(a.last(), QStringLiteral("Zaragoza"));
 
-        Arreglo2D e;
-        lectura().CargarProvincias(kProvEus, e);
-        QCOMPARE(e[1].first().toString(), QStringLiteral("A Coruña"));
-        QCOMPARE(e[1].last().toString(), QStringLiteral("Zaragoza"));
-
-        // A statement ordered by the code keeps the order of the codes.
-        Arreglo2D c;
-        lectura().CargarProvincias(
-            QStringLiteral("Select T07_PRO_ID, T07_PRO_CAS From T07_PROVINCIAS ORDER BY T07_PRO_ID"), c);
-        QCOMPARE(c[0].first().toString(), QStringLiteral("01"));
-        QCOMPARE(c[0].last().toString(), QStringLiteral("77"));
-        // And a descending order by name is kept descending.
-        Arreglo2D d;
-        lectura().CargarProvincias(kProvCas + QStringLiteral(" DESC"), d);
-        QCOMPARE(d[1].first().toString(), QStringLiteral("Zaragoza"));
-        QCOMPARE(d[1].last().toString(), QStringLiteral("Álava"));
+        const QStringList e = Nombres(lectura().CargarProvincias(Idioma::Euskera));
+        QCOMPARE(e.first(), QStringLiteral("A Coruña"));
+        QCOMPARE(e.last(), QStringLiteral("Zaragoza"));
     }
 
     void municipiosDeArbelia()
     {
-        Arreglo2D a;
-        lectura().CargarMunicipios(kMunicipios, a);
-        QCOMPARE(a.size(), 2);
-        QVERIFY(a[0].size() >= 40);
-        QCOMPARE(a[0].size(), a[1].size());
+        const QList<FilaReferencia> a = lectura().CargarMunicipios();
+        QVERIFY(a.size() >= 40);
         static const QRegularExpression tresCifras(QStringLiteral("^[0-9]{3}$"));
         QSet<QString> codigos;
-        for (int i = 0; i < a[0].size(); ++i) {
-            const QString codigo = a[0][i].toString();
-            const QString nombre = a[1][i].toString();
+        for (const auto& [codigo, nombre] : a) {
             QVERIFY2(tresCifras.match(codigo).hasMatch(), qPrintable(codigo));
             QVERIFY(codigo != QLatin1String("000"));  // 000 means "no municipality of Arbelia"
             codigos << codigo;
@@ -124,18 +105,17 @@ private slots:
             QCOMPARE(nombre, nombre.toUpper());
             QVERIFY2(nombre.size() <= 25, qPrintable(nombre));
         }
-        QCOMPARE(codigos.size(), a[0].size());
+        QCOMPARE(codigos.size(), a.size());
         // In alphabetical order, Ñ after N.
-        const qsizetype pena = a[1].indexOf(QStringLiteral("PEÑAVELDA"));
+        const QStringList nombres = Nombres(a);
+        const qsizetype pena = nombres.indexOf(QStringLiteral("PEÑAVELDA"));
         QVERIFY(pena > 0);
-        QVERIFY(a[1][pena - 1].toString() < QStringLiteral("PEÑAVELDA"));
+        QVERIFY(nombres[pena - 1] < QStringLiteral("PEÑAVELDA"));
     }
 
     void siglasDeVia()
     {
-        Arreglo2D a;
-        lectura().CargarVias(kViasCas, a);
-        QCOMPARE(a.size(), 2);
+        const QList<FilaReferencia> a = lectura().CargarVias(Idioma::Castellano);
         const QList<QPair<QString, QString>> esperadas{
             {QStringLiteral("CL"), QStringLiteral("Calle")},
             {QStringLiteral("AV"), QStringLiteral("Avenida")},
@@ -155,43 +135,38 @@ private slots:
         };
         for (const auto& [codigo, nombre] : esperadas)
             QCOMPARE(nombreDeCodigo(a, codigo), nombre);
-        for (const QVariant& v : a[0])
-            QCOMPARE(v.toString().size(), 2);
-        QCOMPARE(a[1].first().toString(), QStringLiteral("Alameda"));
+        for (const FilaReferencia& f : a)
+            QCOMPARE(f.codigo.size(), 2);
+        QCOMPARE(a.first().nombre, QStringLiteral("Alameda"));
 
-        Arreglo2D e;
-        lectura().CargarVias(kViasEus, e);
+        const QList<FilaReferencia> e = lectura().CargarVias(Idioma::Euskera);
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("CL")), QStringLiteral("Kalea"));
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("AV")), QStringLiteral("Etorbidea"));
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("PZ")), QStringLiteral("Plaza"));
         QCOMPARE(nombreDeCodigo(e, QStringLiteral("PS")), QStringLiteral("Pasealekua"));
-        for (const QVariant& v : e[1])
-            QVERIFY(!v.toString().isEmpty());
-        // The Basque text orders by the Basque name.
-        for (int i = 1; i < e[1].size(); ++i)
-            QVERIFY(e[1][i - 1].toString().toUpper() <= e[1][i].toString().toUpper());
+        for (const FilaReferencia& f : e)
+            QVERIFY(!f.nombre.isEmpty());
+        // The Basque list orders by the Basque name.
+        for (int i = 1; i < e.size(); ++i)
+            QVERIFY(e[i - 1].nombre.toUpper() <= e[i].nombre.toUpper());
     }
 
-    // A language change gives another SQL text, and so the other column and order.
-    void elTextoDeLaLenguaDecideLaLista()
+    // The language decides the column of the names, and so their order.
+    void laLenguaDecideLaLista()
     {
-        Arreglo2D cas;
-        Arreglo2D eus;
-        lectura().CargarVias(kViasCas, cas);
-        lectura().CargarVias(kViasEus, eus);
-        QCOMPARE(cas[0].size(), eus[0].size());
-        QVERIFY(cas[1] != eus[1]);
-        QVERIFY(cas[1].contains(QStringLiteral("Calle")));
-        QVERIFY(!eus[1].contains(QStringLiteral("Calle")));
+        const QList<FilaReferencia> cas = lectura().CargarVias(Idioma::Castellano);
+        const QList<FilaReferencia> eus = lectura().CargarVias(Idioma::Euskera);
+        QCOMPARE(cas.size(), eus.size());
+        QVERIFY(Nombres(cas) != Nombres(eus));
+        QVERIFY(Nombres(cas).contains(QStringLiteral("Calle")));
+        QVERIFY(!Nombres(eus).contains(QStringLiteral("Calle")));
     }
 
     void limitesDeFecha()
     {
-        Arreglo fechas;
-        lectura().DameFechaMinimaMaxima(fechas);
-        QCOMPARE(fechas.size(), 2);
-        QCOMPARE(fechas[0].toInt(), 19930101);
-        QCOMPARE(fechas[1].toInt(), 20271231);
+        const LimitesFechas fechas = lectura().DameFechaMinimaMaxima();
+        QCOMPARE(fechas.minima, QDate(1993, 1, 1));
+        QCOMPARE(fechas.maxima, QDate(2027, 12, 31));
     }
 
     void direccionDeActualizacion()
@@ -228,53 +203,21 @@ private slots:
         QCOMPARE(d.ObtenNomMunicipio(QStringLiteral("999")), QString());
     }
 
-    // The answer has two columns even when the statement finds nothing.
-    void listaVaciaConDosColumnas()
-    {
-        Arreglo2D a{{QStringLiteral("viejo")}};
-        lectura().CargarMunicipios(
-            QStringLiteral("Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS WHERE 1 = 0"), a);
-        QCOMPARE(a.size(), 2);
-        QVERIFY(a[0].isEmpty());
-        QVERIFY(a[1].isEmpty());
-    }
-
-    void tiposConElMismoFormato()
-    {
-        Arreglo2D a;
-        lectura().CargarTipos(kViasCas, a);
-        QCOMPARE(a.size(), 2);
-        QCOMPARE(nombreDeCodigo(a, QStringLiteral("CL")), QStringLiteral("Calle"));
-    }
-
-    // A missing table, a statement of the wrong shape or a missing file are failures.
+    // A missing file is a failure, with the store as its source.
     void fallosDelServidor()
     {
-        Arreglo2D a;
+        cDatosGeneral sinArchivo;
+        sinArchivo.mdblec = m_carpeta->tablas() + QStringLiteral("NO_ESTA.mdb");
         try {
-            lectura().CargarVias(QStringLiteral("Select X From NO_EXISTE"), a);
+            sinArchivo.CargarVias(Idioma::Castellano);
             QFAIL("sin fallo");
         } catch (const cFallo& f) {
             QVERIFY(f.origen().contains(QLatin1String("cDatosGeneral")));
         }
-        QVERIFY_THROWS_EXCEPTION(
-            cFallo, lectura().CargarVias(QStringLiteral("Select T09_CODIGO From T09_SIGLASVIA"), a));
-        cDatosGeneral sinArchivo;
-        sinArchivo.mdblec = m_carpeta->tablas() + QStringLiteral("NO_ESTA.mdb");
-        Arreglo fechas;
-        QVERIFY_THROWS_EXCEPTION(cFallo, sinArchivo.DameFechaMinimaMaxima(fechas));
+        QVERIFY_THROWS_EXCEPTION(cFallo, sinArchivo.CargarProvincias(Idioma::Euskera));
+        QVERIFY_THROWS_EXCEPTION(cFallo, sinArchivo.CargarMunicipios());
+        QVERIFY_THROWS_EXCEPTION(cFallo, sinArchivo.DameFechaMinimaMaxima());
         QVERIFY_THROWS_EXCEPTION(cFallo, sinArchivo.URLAct());
-    }
-
-    // The reference database is only read: a statement that writes is refused.
-    void laReferenciaNoSeModifica()
-    {
-        Arreglo2D a;
-        QVERIFY_THROWS_EXCEPTION(
-            cFallo, lectura().CargarTipos(QStringLiteral("DELETE FROM T09_SIGLASVIA"), a));
-        Arreglo2D v;
-        lectura().CargarVias(kViasCas, v);
-        QVERIFY(v[0].size() >= 15);
     }
 };
 

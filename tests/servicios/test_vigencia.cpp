@@ -11,7 +11,6 @@
 #include "servicios/Almacen.h"
 #include "servicios/Conexion.h"
 #include "servicios/Esquema.h"
-#include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cDeclaSvr.h"
@@ -41,8 +40,13 @@ Presentador cargarPresentador(int32_t cspr)
     return presentadores().CargarPresentador(cspr).value_or(Presentador{});
 }
 
-// The save of what a copy loaded, over the version it loaded, as the store's verdict numbers
-// (0 saved: the copy takes the row's new version; Cambiado, Borrado; -1 another refusal).
+// The ways a contributor's save is refused for a row no longer the version loaded.
+namespace VeredictoGuardarContribuyente {
+enum : int16_t { Cambiado = 4, Borrado = 5 };
+}
+
+// The save of what a copy loaded, over the version it loaded, as numbers (0 saved: the copy
+// takes the row's new version; Cambiado, Borrado; -1 another refusal).
 int16_t guardarCargado(Contribuyente& c)
 {
     const Resultado<Contribuyente> r = contribuyentes().GuardarContribuyente(c);
@@ -356,9 +360,9 @@ private slots:
     {
         const int32_t csco = NuevoContribuyente(Dni(30), QStringLiteral("LEIDO"));
         cLoteContribuyentes lote(mdbmod, mdblec);
-        int64_t version = 0;
-        QCOMPARE(lote.ExisteContribuyente(Dni(30), &version), csco);
-        QVERIFY(version > 0);
+        TitularParte leido = lote.ExisteContribuyente(Dni(30));
+        QCOMPARE(leido.codigo, csco);
+        QVERIFY(leido.version > 0);
         lote.Confirmar();
         QVERIFY(EnOtraConexion([csco] {
             Contribuyente otra = cargarContribuyente(csco);
@@ -366,17 +370,19 @@ private slots:
             if (guardarCargado(otra) != 0)
                 throw std::runtime_error("no guardado");
         }));
-        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco)),
-                                           true, nullptr, &version),
-                 int16_t(VeredictoGuardarContribuyente::Cambiado));
+        Contribuyente delFichero = ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco);
+        delFichero.VERSION = leido.version;
+        Resultado<void> r = lote.GuardarContribuyente(delFichero, true);
+        QVERIFY(!r);
+        QCOMPARE(r.veredicto().vigencia, Vigencia::Cambiada);
         lote.Confirmar();
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
                  QStringLiteral("DE LA OTRA COPIA"));
         // With the version as it is now, the replacement goes through.
-        QCOMPARE(lote.ExisteContribuyente(Dni(30), &version), csco);
-        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(30), QStringLiteral("DEL FICHERO"), csco)),
-                                           true, nullptr, &version),
-                 0);
+        leido = lote.ExisteContribuyente(Dni(30));
+        QCOMPARE(leido.codigo, csco);
+        delFichero.VERSION = leido.version;
+        QVERIFY(lote.GuardarContribuyente(delFichero, true));
         lote.Confirmar();
         QCOMPARE(almacenado(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {csco}),
                  QStringLiteral("DEL FICHERO"));
@@ -386,13 +392,15 @@ private slots:
     {
         const int32_t csco = NuevoContribuyente(Dni(31), QStringLiteral("LEIDO"));
         cLoteContribuyentes lote(mdbmod, mdblec);
-        int64_t version = 0;
-        QCOMPARE(lote.ExisteContribuyente(Dni(31), &version), csco);
+        const TitularParte leido = lote.ExisteContribuyente(Dni(31));
+        QCOMPARE(leido.codigo, csco);
         lote.Confirmar();
         QVERIFY(EnOtraConexion([csco] { contribuyentes().BorrarContribuyente(csco); }));
-        QCOMPARE(lote.GuardarContribuyente(GuardadoContribuyente::ArregloDe(ContribuyenteNacional(Dni(31), QStringLiteral("DEL FICHERO"), csco)),
-                                           true, nullptr, &version),
-                 int16_t(VeredictoGuardarContribuyente::Borrado));
+        Contribuyente delFichero = ContribuyenteNacional(Dni(31), QStringLiteral("DEL FICHERO"), csco);
+        delFichero.VERSION = leido.version;
+        const Resultado<void> r = lote.GuardarContribuyente(delFichero, true);
+        QVERIFY(!r);
+        QCOMPARE(r.veredicto().vigencia, Vigencia::Borrada);
         lote.Confirmar();
         QVERIFY(!ExisteContribuyente(csco));
     }

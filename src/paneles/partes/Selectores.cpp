@@ -25,16 +25,12 @@ cDatosGeneral Referencia()
     return Almacen<cDatosGeneral>();
 }
 
-void Rellenar(cListaClaves* lista, TipoSelector tipo, const Arreglo2D& filas)
+void Rellenar(cListaClaves* lista, TipoSelector tipo, const QList<FilaReferencia>& filas)
 {
-    if (!lista || filas.size() < 2)
+    if (!lista)
         return;
-    const QVariantList& codigos = filas[0];
-    const QVariantList& nombres = filas[1];
-    for (qsizetype i = 0; i < codigos.size(); ++i) {
-        const QString codigo = codigos[i].toString();
-        lista->Agregar(Selectores::Clave(tipo, codigo), nombres.value(i).toString(), codigo);
-    }
+    for (const FilaReferencia& f : filas)
+        lista->Agregar(Selectores::Clave(tipo, f.codigo), f.nombre, f.codigo);
 }
 
 // A name as it is compared with typed letters: capitals without accents, but Ñ kept apart
@@ -59,26 +55,6 @@ QString Plegado(const QString& texto)
 
 namespace Selectores {
 
-QString Consulta(TipoSelector tipo)
-{
-    switch (tipo) {
-    case TipoSelector::Via:
-        return TextoSegunIdioma(
-            QStringLiteral("Select T09_CODIGO, T09_CAS From T09_SIGLASVIA ORDER BY T09_CAS"),
-            QStringLiteral("Select T09_CODIGO, T09_EUS From T09_SIGLASVIA ORDER BY T09_EUS"));
-    case TipoSelector::Provincia:
-        return TextoSegunIdioma(
-            QStringLiteral(
-                "Select T07_PRO_ID, T07_PRO_CAS From T07_PROVINCIAS ORDER BY T07_PRO_CAS"),
-            QStringLiteral(
-                "Select T07_PRO_ID, T07_PRO_EUS From T07_PROVINCIAS ORDER BY T07_PRO_EUS"));
-    case TipoSelector::Municipio:
-        return QStringLiteral(
-            "Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS ORDER BY T08_NOMMUN");
-    }
-    return {};
-}
-
 QString Clave(TipoSelector tipo, const QString& codigo)
 {
     if (tipo == TipoSelector::Via)
@@ -95,25 +71,19 @@ QString CodigoDeClave(TipoSelector tipo, const QString& clave)
 
 }  // namespace Selectores
 
-void CargarVias(const QString& sql, cListaClaves* lista)
+void CargarVias(cListaClaves* lista)
 {
-    Arreglo2D filas;
-    Referencia().CargarVias(sql, filas);
-    Rellenar(lista, TipoSelector::Via, filas);
+    Rellenar(lista, TipoSelector::Via, Referencia().CargarVias(IdiomaPrograma()));
 }
 
-void CargarProvincias(const QString& sql, cListaClaves* lista)
+void CargarProvincias(cListaClaves* lista)
 {
-    Arreglo2D filas;
-    Referencia().CargarProvincias(sql, filas);
-    Rellenar(lista, TipoSelector::Provincia, filas);
+    Rellenar(lista, TipoSelector::Provincia, Referencia().CargarProvincias(IdiomaPrograma()));
 }
 
-void CargarMunicipios(const QString& sql, cListaClaves* lista)
+void CargarMunicipios(cListaClaves* lista)
 {
-    Arreglo2D filas;
-    Referencia().CargarMunicipios(sql, filas);
-    Rellenar(lista, TipoSelector::Municipio, filas);
+    Rellenar(lista, TipoSelector::Municipio, Referencia().CargarMunicipios());
 }
 
 cSelector::cSelector(TipoSelector tipo, const QString& nombreLista, QWidget* panel)
@@ -151,16 +121,15 @@ void cSelector::setMarcos(QList<QWidget*> marcos)
 void cSelector::Cargar()
 {
     m_lista->clear();
-    const QString sql = Selectores::Consulta(m_tipo);
     switch (m_tipo) {
     case TipoSelector::Via:
-        CargarVias(sql, m_lista);
+        CargarVias(m_lista);
         break;
     case TipoSelector::Provincia:
-        CargarProvincias(sql, m_lista);
+        CargarProvincias(m_lista);
         break;
     case TipoSelector::Municipio:
-        CargarMunicipios(sql, m_lista);
+        CargarMunicipios(m_lista);
         break;
     }
 }

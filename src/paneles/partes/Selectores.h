@@ -24,9 +24,6 @@ class cListaClaves;
 enum class TipoSelector { Via, Provincia, Municipio };
 
 namespace Selectores {
-// The statement that fills a picker, in the current language (the municipalities have one
-// name only).
-QString Consulta(TipoSelector tipo);
 // The key of an item for a code: "c" + its numeric value for provinces and municipalities,
 // the code itself for a street type. A code of value 0 (or no code) gives "c0", which no item
 // has.
@@ -37,10 +34,11 @@ QString CodigoDeClave(TipoSelector tipo, const QString& clave);
 }
 
 // The loaders of the three lists: each asks the reference store (cDatosGeneral, read-only
-// database) for the rows of the statement and adds one item per row, with its key.
-void CargarVias(const QString& sql, cListaClaves* lista);
-void CargarProvincias(const QString& sql, cListaClaves* lista);
-void CargarMunicipios(const QString& sql, cListaClaves* lista);
+// database) for its rows, named in the program's language (the municipalities have one name
+// only), and adds one item per row, with its key.
+void CargarVias(cListaClaves* lista);
+void CargarProvincias(cListaClaves* lista);
+void CargarMunicipios(cListaClaves* lista);
 
 class cSelector : public QObject {
     Q_OBJECT
@@ -54,7 +52,7 @@ public:
     // The frames that are switched off while the list is open.
     void setMarcos(QList<QWidget*> marcos);
 
-    // Fills the list from the reference store, with the statement of the current language.
+    // Fills the list from the reference store, in the current language.
     void Cargar();
     // The name of a code (see Selectores::Clave), empty when no item has it.
     QString Nombre(const QString& codigo) const;

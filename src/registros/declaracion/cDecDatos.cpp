@@ -215,18 +215,18 @@ bool cDecDatos::ValidarDniOficial(const QString& dni) const
 
 QStringList cDecDatos::CargarListaOperaciones() const
 {
-    return Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, OffsetIdioma());
+    return Almacen<cDeclaSvr>().ObtenerOperaciones(FECHAD, IdiomaPrograma());
 }
 
 QString cDecDatos::DameOperacionporDescripcion(const QString& descripcion) const
 {
-    return Almacen<cDeclaSvr>().DameOperacionporDescripcion(descripcion, FECHAD, OffsetIdioma());
+    return Almacen<cDeclaSvr>().DameOperacionporDescripcion(descripcion, FECHAD, IdiomaPrograma());
 }
 
 void cDecDatos::ObtenerDatosOperacion(bool sinReduccion) const
 {
     if (const auto datos = Almacen<cDeclaSvr>().ObtenerDatosOperacion(OPERACION, FECHAD,
-                                                                        OffsetIdioma()))
+                                                                        IdiomaPrograma()))
         Operacion().ActualizaOperacion(*datos, sinReduccion);
     else
         Operacion().Inicializa();

@@ -20,7 +20,7 @@ void cDecLista::IniciarLista()
 QList<FilaDeclaracion> cDecLista::CargarDeclaraciones()
 {
     QList<FilaDeclaracion> filas =
-        Almacen<cDeclaSvr>().dameResultadoBusqueda(Criterios(), ORDEN, TIPOORDEN, OffsetIdioma());
+        Almacen<cDeclaSvr>().dameResultadoBusqueda(Criterios(), ORDEN, TIPOORDEN, IdiomaPrograma());
     NUMDECLASEL = static_cast<int32_t>(filas.size());
     return filas;
 }

@@ -2,7 +2,6 @@
 
 #include "catalogo/Catalogo.h"
 #include "catalogo/IdsCatalogo.h"
-#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/LineaIntercambio.h"
 
@@ -34,13 +33,6 @@ QByteArray LineaCorta(int linea)
     return Linea(Texto(kIdLinea) + QString::number(linea) + Texto(kIdNoImportados));
 }
 
-int NumeroErrores(const Arreglo2D& errores)
-{
-    // The upper bound of the second dimension is the number of errors (the last element is
-    // a spare).
-    return errores.isEmpty() ? 0 : std::max<int>(0, int(errores.first().size()) - 1);
-}
-
 // "Linea 7 - DNI-CIF " the DNI as read, and ": ".
 QString Cabeza(int linea, const QString& dni)
 {
@@ -60,15 +52,13 @@ QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje)
     return Linea(Cabeza(linea, dni) + mensaje);
 }
 
-QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni)
+QByteArray LineasErrores(const QList<HallazgoImportacion>& errores, int linea,
+                         const QString& dni)
 {
     const QString cabeza = Cabeza(linea, dni);
     QByteArray lineas;
-    const int n = NumeroErrores(errores);
-    for (int k = 0; k < n; ++k) {
-        const int id = cConDatos::IdMensajeImportar(errores.first().at(k).toInt());
-        lineas += Linea(cabeza + (id != 0 ? Texto(id) : QString()));
-    }
+    for (const HallazgoImportacion& e : errores)
+        lineas += Linea(cabeza + Texto(e.id));
     return lineas;
 }
 

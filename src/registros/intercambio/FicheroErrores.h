@@ -2,7 +2,7 @@
 // The lines of the error file of an import, as bytes ready to be written (Windows-1252, CR LF).
 // The file is meant for a person who corrects the exchange file with an editor: one line for
 // each error of each refused line, in file order, and, after them, the format of the line.
-#include "servicios/Arreglos.h"
+#include "servicios/LineaContribuyente.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,9 +11,10 @@ namespace FicheroErrores {
 
 // A line shorter than 176 characters: "Linea 7No se han importado todos los datos".
 QByteArray LineaCorta(int linea);
-// One line per error of `errores` (the array of ValidarDatosImportar): "Linea 7 - DNI-CIF
-// " the DNI as read, blanks kept, ": " and the message of the code (none for an unknown code).
-QByteArray LineasErrores(const Arreglo2D& errores, int linea, const QString& dni);
+// One line per error of `errores` (what ValidarDatosImportar found), in their order:
+// "Linea 7 - DNI-CIF " the DNI as read, blanks kept, ": " and the error's message.
+QByteArray LineasErrores(const QList<HallazgoImportacion>& errores, int linea,
+                         const QString& dni);
 // The line of a valid line whose save the store refused (a text it cannot keep as given):
 // the same head as LineasErrores, then the store's message.
 QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje);
@@ -21,7 +22,5 @@ QByteArray LineaRechazo(int linea, const QString& dni, const QString& mensaje);
 QByteArray LineaIlegible(int linea, const QString& motivo);
 // An empty line, "FORMATO:" in the language in use, and the 19 fields, always in Spanish.
 QByteArray Formato();
-// The number of errors of an array of ValidarDatosImportar.
-int NumeroErrores(const Arreglo2D& errores);
 
 }  // namespace FicheroErrores

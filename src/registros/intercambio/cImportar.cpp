@@ -5,19 +5,16 @@
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
-#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/FuenteLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
-#include "servicios/GuardadoContribuyente.h"
 #include "servicios/LoteContribuyentes.h"
-#include "servicios/PosicionesImportar.h"
-#include "valores/Veredicto.h"
+#include "valores/Resultado.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <array>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -35,51 +32,47 @@ QString Ruta(const QString& fichero)
     return canonica.isEmpty() ? info.absoluteFilePath() : canonica;
 }
 
-// The field of the line at each position of the validation array.
-constexpr std::array<CampoIntercambio, PosImportar::Tamano> kCamposValidacion = [] {
-    namespace P = PosImportar;
-    std::array<CampoIntercambio, P::Tamano> c{};
-    c[P::TIPODNI] = C::TIPODNI;
-    c[P::DNIC] = C::DNI;
-    c[P::NOMBREC] = C::NOMBRE;
-    c[P::DOMICILIOC] = C::DOMICILIO;
-    c[P::TIPODOMI] = C::TIPODOMICILIO;
-    c[P::PAIS] = C::PAIS;
-    c[P::CODPROVC] = C::CODIGOPROVINCIA;
-    c[P::CODPOSC] = C::CODIGOPOSTAL;
-    c[P::NOMPROVC] = C::NOMBREPROVINCIA;
-    c[P::NOMMUNC] = C::NOMBREMUNICIPIO;
-    c[P::CODMUNC] = C::CODIGOMUNICIPIO;
-    c[P::NUMEROC] = C::NUMERO;
-    c[P::NUMSP] = C::NUMEROSUJETOPASIVO;
-    c[P::NUMTR] = C::NUMEROTRANSMITENTE;
-    c[P::VIAC] = C::SIGLAS;
-    return c;
-}();
-
-// The validation array of a line: its raw fields, blanks included. Each element is made in
-// place, in the order of the positions.
-Arreglo ArregloValidacion(const LineaLeida& l)
+// The contributor of a line, field by field, as the line holds it.
+LineaContribuyente LineaDe(const LineaLeida& l)
 {
-    Arreglo a;
-    a.reserve(PosImportar::Tamano);
-    for (const CampoIntercambio campo : kCamposValidacion)
-        a.emplace_back(l[campo]);
-    return a;
+    return {l[C::TIPODNI],          l[C::DNI],
+            l[C::NOMBRE],           l[C::SIGLAS],
+            l[C::DOMICILIO],        l[C::NUMERO],
+            l[C::LETRA],            l[C::ESCALERA],
+            l[C::PISO],             l[C::MANO],
+            l[C::TIPODOMICILIO],    l[C::PAIS],
+            l[C::CODIGOPROVINCIA],  l[C::NOMBREPROVINCIA],
+            l[C::CODIGOPOSTAL],     l[C::CODIGOMUNICIPIO],
+            l[C::NOMBREMUNICIPIO],  l[C::NUMEROSUJETOPASIVO],
+            l[C::NUMEROTRANSMITENTE]};
 }
 
-// The save array of a line: the code found, then the 19 raw fields in file order, which is
-// the order of the store's save array.
-Arreglo ArregloGuardar(const LineaLeida& l, int32_t codigo)
+// The value to save of a valid line: its texts as read (the store drops the blanks around
+// them), its house number as a number (a valid line has at most five digits there, blanks
+// standing for 0). The file's counters are not saved: the store counts them.
+Contribuyente ContribuyenteDe(const LineaContribuyente& l, const TitularParte& titular = {})
 {
-    namespace P = PosContribuyente;
-    static_assert(P::CSCO == 0 && P::TIPODNI == 1 && P::TIPODNI + kCamposIntercambio == P::Tamano);
-    Arreglo a;
-    a.reserve(P::Tamano);
-    a.emplace_back(codigo);
-    for (const QString& campo : l.campos)
-        a.emplace_back(campo);
-    return a;
+    Contribuyente c;
+    c.CSCO = titular.codigo;
+    c.VERSION = titular.version;
+    c.TIPODNI = l.TIPODNI;
+    c.DNIC = l.DNIC;
+    c.NOMBREC = l.NOMBREC;
+    c.VIAC = l.VIAC;
+    c.DOMICILIOC = l.DOMICILIOC;
+    c.NUMEROC = QStringView(l.NUMEROC).trimmed().toInt();
+    c.LETRAC = l.LETRAC;
+    c.ESCALERAC = l.ESCALERAC;
+    c.PISOC = l.PISOC;
+    c.MANOC = l.MANOC;
+    c.TIPODOMI = l.TIPODOMI;
+    c.PAIS = l.PAIS;
+    c.CODPROVC = l.CODPROVC;
+    c.NOMPROVC = l.NOMPROVC;
+    c.CODPOSC = l.CODPOSC;
+    c.CODMUNC = l.CODMUNC;
+    c.NOMMUNC = l.NOMMUNC;
+    return c;
 }
 
 }  // namespace
@@ -103,21 +96,21 @@ struct cImportar::Ejecucion {
                                                              : FalloIntercambio::kAccesoDenegado)};
     }
 
-    // A short line, or one that fails validation, is refused: true when it was.
-    bool Refusada(const LineaLeida& l)
+    // A short line, or one that fails validation, is refused: its contributor otherwise.
+    std::optional<LineaContribuyente> Validada(const LineaLeida& l)
     {
         if (l.corta) {
             Escribir(FicheroErrores::LineaCorta(numero));
             ++estado.NUMEROINC;
-            return true;
+            return std::nullopt;
         }
-        Arreglo2D fallos;
-        lote->ValidarDatosImportar(ArregloValidacion(l), fallos);
-        if (FicheroErrores::NumeroErrores(fallos) == 0)
-            return false;
+        LineaContribuyente linea = LineaDe(l);
+        const QList<HallazgoImportacion> fallos = lote->ValidarDatosImportar(linea);
+        if (fallos.isEmpty())
+            return linea;
         Escribir(FicheroErrores::LineasErrores(fallos, numero, l[C::DNI]));
         ++estado.NUMEROINC;
-        return true;
+        return std::nullopt;
     }
 
     // A save the store refused, for a text it cannot keep as given (a control character, half
@@ -125,54 +118,36 @@ struct cImportar::Ejecucion {
     // to replace was saved again or deleted since the import read it (by another running copy
     // of the program: it is not overwritten): the line is incorrect and the message goes to the
     // error file. True when it was refused.
-    bool Rechazada(int16_t resultado, const Veredicto& rechazo, const LineaLeida& l)
+    bool Rechazada(const Resultado<void>& resultado, const LineaLeida& l)
     {
-        QString mensaje;
-        switch (resultado) {
-        case VeredictoGuardarContribuyente::TextoRechazado:
-            mensaje = rechazo.mensaje;
-            break;
-        case VeredictoGuardarContribuyente::Cambiado:
-        case VeredictoGuardarContribuyente::Borrado:
-            mensaje = Texto(kIdContribuyenteCambiado);
-            break;
-        default:
+        if (resultado)
             return false;
-        }
+        const Veredicto& v = resultado.veredicto();
+        const QString mensaje =
+            v.vigencia == Vigencia::Vigente ? v.mensaje : Texto(kIdContribuyenteCambiado);
         Escribir(FicheroErrores::LineaRechazo(numero, l[C::DNI], mensaje));
         ++estado.NUMEROINC;
         return true;
     }
 
-    // Replaces the contributor `codigo`, as the import read it (`version`).
-    void Sustituir(const LineaLeida& l, int32_t codigo, int64_t version)
+    // Replaces the contributor that holds the line's number, as the import read it.
+    void Sustituir(const LineaLeida& l, const TitularParte& titular)
     {
-        if (Refusada(l))
+        const std::optional<LineaContribuyente> linea = Validada(l);
+        if (!linea)
             return;
-        Veredicto rechazo;
-        if (Rechazada(lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
-                                                 &version),
-                      rechazo, l))
+        if (Rechazada(lote->GuardarContribuyente(ContribuyenteDe(*linea, titular), true), l))
             return;
         ++estado.NUMEROSUS;
         ++estado.NUMEROIMP;
     }
 
-    // The save array of a new contributor: the file's counters count only for a replaced one.
-    static Arreglo ArregloNuevo(const LineaLeida& l)
-    {
-        Arreglo a = ArregloGuardar(l, 0);
-        a[PosContribuyente::NUMSP] = 0;
-        a[PosContribuyente::NUMTR] = 0;
-        return a;
-    }
-
     void Nuevo(const LineaLeida& l)
     {
-        if (Refusada(l))
+        const std::optional<LineaContribuyente> linea = Validada(l);
+        if (!linea)
             return;
-        Veredicto rechazo;
-        if (Rechazada(lote->GuardarContribuyente(ArregloNuevo(l), false, &rechazo), rechazo, l))
+        if (Rechazada(lote->GuardarContribuyente(ContribuyenteDe(*linea), false), l))
             return;
         ++estado.NUMEROIMP;
     }
@@ -183,17 +158,17 @@ struct cImportar::Ejecucion {
     // with the look-up first, and a new contributor costs one look-up of its number, not two.
     void Automatico(const LineaLeida& l)
     {
-        if (Refusada(l))
+        const std::optional<LineaContribuyente> linea = Validada(l);
+        if (!linea)
             return;
-        int32_t codigo = 0;
-        int64_t version = 0;
-        Veredicto rechazo;
-        int16_t resultado = lote->AnadirSiNuevo(ArregloNuevo(l), codigo, &rechazo, &version);
-        const bool sustituye = resultado == VeredictoGuardarContribuyente::DniExistente;
+        const Resultado<TitularParte> alta = lote->AnadirSiNuevo(ContribuyenteDe(*linea));
+        Resultado<void> resultado;
+        if (!alta)
+            resultado = alta.veredicto();
+        const bool sustituye = alta && alta->codigo != 0;
         if (sustituye)
-            resultado = lote->GuardarContribuyente(ArregloGuardar(l, codigo), true, &rechazo,
-                                                   &version);
-        if (Rechazada(resultado, rechazo, l))
+            resultado = lote->GuardarContribuyente(ContribuyenteDe(*linea, *alta), true);
+        if (Rechazada(resultado, l))
             return;
         if (sustituye)
             ++estado.NUMEROSUS;
@@ -207,16 +182,15 @@ struct cImportar::Ejecucion {
             Automatico(l);
             return;
         }
-        int64_t version = 0;
-        const int32_t codigo = lote->ExisteContribuyente(l[C::DNI], &version);
-        if (codigo == 0) {
+        const TitularParte titular = lote->ExisteContribuyente(l[C::DNI]);
+        if (titular.codigo == 0) {
             Nuevo(l);
         } else {
             // Nobody is kept waiting for the store while the question stands; what another
             // copy saves meanwhile is not overwritten (the version read is the one replaced).
             lote->Confirmar();
             if (interlocutor.sustituir && interlocutor.sustituir(l[C::DNI]))
-                Sustituir(l, codigo, version);
+                Sustituir(l, titular);
             else
                 ++estado.NUMEROIGN;
         }

@@ -30,11 +30,11 @@ void CEntrada::LeerIdioma()
 
 void CEntrada::LeerFechaMinimaMaxima()
 {
-    auto datos = Almacen<cDatosGeneral>();
-    Arreglo fechas;
-    datos.DameFechaMinimaMaxima(fechas);
-    FECMIN = fechas.value(0).toInt();
-    FECMAX = fechas.value(1).toInt();
+    const LimitesFechas fechas = Almacen<cDatosGeneral>().DameFechaMinimaMaxima();
+    // The record keeps each limit as the number yyyymmdd, as the dates of the returns are.
+    const auto numero = [](const QDate& d) { return d.year() * 10000 + d.month() * 100 + d.day(); };
+    FECMIN = numero(fechas.minima);
+    FECMAX = numero(fechas.maxima);
 }
 
 void CEntrada::CambiarIdioma(Idioma idioma)

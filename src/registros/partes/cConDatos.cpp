@@ -1,43 +1,11 @@
 #include "registros/partes/cConDatos.h"
 
-#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Estado.h"
 
 #include "plataforma/General.h"
 #include "valores/Formato.h"
 #include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
-
-#include <array>
-
-namespace {
-
-// Catalogue ids of the import's error codes 1 to 30.
-constexpr std::array<int, 31> kIdsImportar = {0, kIdDniCifErroneoODigitoControl,
-                                              kIdImportarDniObligatorio, kIdImportarNombreVacio,
-                                              kIdImportarDomicilioVacio, kIdImportarPaisVacio,
-                                              kIdProvinciaYCodigoPostalNoCoinciden,
-                                              kIdCodigoPostalCincoCifras,
-                                              kIdCodigoPostalTresUltimosCero, kIdCodigoPostalCero,
-                                              kIdImportarNombreProvinciaVacio,
-                                              kIdImportarNombreMunicipioVacio,
-                                              kIdImportarCodigoProvinciaVacio,
-                                              kIdImportarCodigoMunicipioVacio, kIdPortalNoNumerico,
-                                              kIdCodigoProvinciaNoNumerico,
-                                              kIdCodigoPostalNoNumerico,
-                                              kIdCodigoMunicipioNoNumerico,
-                                              kIdContadorSujetosPasivosNoNumerico,
-                                              kIdContadorTransmitentesNoNumerico,
-                                              kIdTipoDniNoValido, kIdTipoDomicilioNoValido,
-                                              kIdSiglaNoAdmisible, kIdExtranjeroProvincia00,
-                                              kIdExtranjeroMunicipio000,
-                                              kIdNacionalSinNombreProvincia,
-                                              kIdCodigoMunicipioNoAdmisible,
-                                              kIdArbeliaSinNombreMunicipio,
-                                              kIdCodigoProvinciaNoAdmisible,
-                                              kIdFueraDeArbeliaMunicipio000, kIdNacionalSinPais};
-
-}  // namespace
 
 void cConDatos::IniciarNuevo()
 {
@@ -78,9 +46,9 @@ void cConDatos::CargarContribuyente(int32_t codigo)
     static_cast<Contribuyente&>(*this) = std::move(*c);
 }
 
-void cConDatos::ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const
+QList<HallazgoImportacion> cConDatos::ValidarDatosImportar(const LineaContribuyente& linea) const
 {
-    Almacen<cContribSvr>().ValidarDatosImportar(datos, errores);
+    return Almacen<cContribSvr>().ValidarDatosImportar(linea);
 }
 
 Resultado<void> cConDatos::ValidarDatosContribuyente() const
@@ -100,13 +68,6 @@ Resultado<Contribuyente> cConDatos::GuardarContribuyente()
     if (r)
         VERSION = r->VERSION;
     return r;
-}
-
-int cConDatos::IdMensajeImportar(int codigo)
-{
-    return codigo > 0 && codigo < static_cast<int>(kIdsImportar.size())
-        ? kIdsImportar[static_cast<size_t>(codigo)]
-        : 0;
 }
 
 cConDatos& ConDatos()

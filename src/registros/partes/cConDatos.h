@@ -3,7 +3,7 @@
 // the import (one instance, ConDatos()). It holds one Contribuyente, whose fields are public
 // and unchecked; IniciarNuevo() gives it a new contributor's defaults. The operations each make
 // a store object for one call.
-#include "servicios/Arreglos.h"
+#include "servicios/LineaContribuyente.h"
 #include "valores/Contribuyente.h"
 #include "valores/Resultado.h"
 
@@ -26,7 +26,7 @@ public:
     // record as it was.
     void CargarContribuyente(int32_t codigo);
     // The import's validation of one exchange line (see cContribSvr).
-    void ValidarDatosImportar(const Arreglo& datos, Arreglo2D& errores) const;
+    QList<HallazgoImportacion> ValidarDatosImportar(const LineaContribuyente& linea) const;
     // The first rule the record breaks: its message and the field to focus.
     Resultado<void> ValidarDatosContribuyente() const;
     int32_t ObtenerCodigoContribuyente(const QString& dni) const;
@@ -34,9 +34,6 @@ public:
     // VERSION. A refusal (see cContribSvr::GuardarContribuyente) leaves the record as it was;
     // its vigencia tells of a stored contributor other than the one loaded.
     Resultado<Contribuyente> GuardarContribuyente();
-
-    // The catalogue id of an error code of the import, 0 for a code outside the table.
-    static int IdMensajeImportar(int codigo);
 };
 
 cConDatos& ConDatos();

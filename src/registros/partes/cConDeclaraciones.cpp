@@ -30,14 +30,14 @@ void cPreDeclaraciones::IniciarLista()
 
 cConDeclaraciones::Contadores cConDeclaraciones::ObtenerContadores() const
 {
-    const Arreglo a = Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
-    return {a.value(0).toString(), a.value(1).toString()};
+    const DeclaracionesContribuyente n = Almacen<cContribSvr>().ObtenerNumspNumtr(CSCO);
+    return {QString::number(n.comoSujeto), QString::number(n.comoTransmitente)};
 }
 
 QList<FilaDeclaracion> cConDeclaraciones::CargarDeclaraciones()
 {
     QList<FilaDeclaracion> filas = Almacen<cDeclaSvr>().dameDeclaracionesContribuyente(
-        Criterios(), CSCO, ORDEN, TIPOORDEN, OffsetIdioma());
+        Criterios(), CSCO, ORDEN, TIPOORDEN, IdiomaPrograma());
     NUMDECLASEL = static_cast<int32_t>(filas.size());
     return filas;
 }
@@ -50,7 +50,7 @@ int32_t cPreDeclaraciones::ObtenerContador() const
 QList<FilaDeclaracion> cPreDeclaraciones::CargarDeclaraciones()
 {
     QList<FilaDeclaracion> filas = Almacen<cDeclaSvr>().dameDeclaracionesPresentador(
-        Criterios(), CSPR, ORDEN, TIPOORDEN, OffsetIdioma());
+        Criterios(), CSPR, ORDEN, TIPOORDEN, IdiomaPrograma());
     NUMDECLASEL = static_cast<int32_t>(filas.size());
     return filas;
 }

@@ -9,12 +9,10 @@
 
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
-#include "registros/partes/cConDatos.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "registros/intercambio/cImportar.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QHash>
@@ -122,34 +120,34 @@ private slots:
                     ++refusadas;
                     continue;
                 }
-                namespace P = PosImportar;
-                Arreglo v(P::Tamano);
-                v[P::TIPODNI] = l[C::TIPODNI];
-                v[P::DNIC] = l[C::DNI];
-                v[P::NOMBREC] = l[C::NOMBRE];
-                v[P::DOMICILIOC] = l[C::DOMICILIO];
-                v[P::TIPODOMI] = l[C::TIPODOMICILIO];
-                v[P::PAIS] = l[C::PAIS];
-                v[P::CODPROVC] = l[C::CODIGOPROVINCIA];
-                v[P::CODPOSC] = l[C::CODIGOPOSTAL];
-                v[P::NOMPROVC] = l[C::NOMBREPROVINCIA];
-                v[P::NOMMUNC] = l[C::NOMBREMUNICIPIO];
-                v[P::CODMUNC] = l[C::CODIGOMUNICIPIO];
-                v[P::NUMEROC] = l[C::NUMERO];
-                v[P::NUMSP] = l[C::NUMEROSUJETOPASIVO];
-                v[P::NUMTR] = l[C::NUMEROTRANSMITENTE];
-                v[P::VIAC] = l[C::SIGLAS];
-                Arreglo2D errores;
-                svr.ValidarDatosImportar(v, errores);
-                const int n = FicheroErrores::NumeroErrores(errores);
-                if (n > 0) {
+                LineaContribuyente v;
+                v.TIPODNI = l[C::TIPODNI];
+                v.DNIC = l[C::DNI];
+                v.NOMBREC = l[C::NOMBRE];
+                v.VIAC = l[C::SIGLAS];
+                v.DOMICILIOC = l[C::DOMICILIO];
+                v.NUMEROC = l[C::NUMERO];
+                v.LETRAC = l[C::LETRA];
+                v.ESCALERAC = l[C::ESCALERA];
+                v.PISOC = l[C::PISO];
+                v.MANOC = l[C::MANO];
+                v.TIPODOMI = l[C::TIPODOMICILIO];
+                v.PAIS = l[C::PAIS];
+                v.CODPROVC = l[C::CODIGOPROVINCIA];
+                v.NOMPROVC = l[C::NOMBREPROVINCIA];
+                v.CODPOSC = l[C::CODIGOPOSTAL];
+                v.CODMUNC = l[C::CODIGOMUNICIPIO];
+                v.NOMMUNC = l[C::NOMBREMUNICIPIO];
+                v.NUMSP = l[C::NUMEROSUJETOPASIVO];
+                v.NUMTR = l[C::NUMEROTRANSMITENTE];
+                const QList<HallazgoImportacion> errores = svr.ValidarDatosImportar(v);
+                if (!errores.isEmpty()) {
                     ++refusadas;
                     QByteArray lineasError;
-                    for (int k = 0; k < n; ++k) {
-                        const int id = cConDatos::IdMensajeImportar(errores[0][k].toInt());
-                        QVERIFY(id != 0);
+                    for (const HallazgoImportacion& e : errores) {
+                        QVERIFY(e.id != 0);
                         lineasError += "Linea " + QByteArray::number(i + 1) + " - DNI-CIF "
-                            + *Cp1252::Codificar(l[C::DNI]) + ": " + *Cp1252::Codificar(Texto(id))
+                            + *Cp1252::Codificar(l[C::DNI]) + ": " + *Cp1252::Codificar(Texto(e.id))
                             + "\r\n";
                     }
                     esperado += lineasError;

@@ -33,8 +33,8 @@ QPair<int, int> contadores(int32_t csco)
 {
     cContribSvr svr;
     svr.mdbmod = mdbmod;
-    const Arreglo a = svr.ObtenerNumspNumtr(csco);
-    return {a.value(0).toInt(), a.value(1).toInt()};
+    const DeclaracionesContribuyente n = svr.ObtenerNumspNumtr(csco);
+    return {n.comoSujeto, n.comoTransmitente};
 }
 
 int declaracionesDe(int32_t cspr)

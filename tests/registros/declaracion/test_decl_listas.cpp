@@ -90,9 +90,9 @@ private:
     }
 
     QList<FilaDeclaracion> buscar(const CondicionesDeclaracion& criterios, uint8_t orden,
-                                  const QString& tipo, int16_t offset = 0)
+                                  const QString& tipo, Idioma idioma = Idioma::Castellano)
     {
-        return servidor().dameResultadoBusqueda(criterios, orden, tipo, offset);
+        return servidor().dameResultadoBusqueda(criterios, orden, tipo, idioma);
     }
 
 private slots:
@@ -134,7 +134,7 @@ private slots:
 
     void descripcionSegunFechaEIdioma()
     {
-        const QList<FilaDeclaracion> r = buscar(sinCriterios(), 1, QStringLiteral("ASC"), 10000);
+        const QList<FilaDeclaracion> r = buscar(sinCriterios(), 1, QStringLiteral("ASC"), Idioma::Euskera);
         QCOMPARE(r[0].DESCRIPCION, QStringLiteral("Tasa orokorra: % 12"));
         QCOMPARE(r[2].DESCRIPCION, QStringLiteral("Salbuetsia: salbuespenaren beste kasu batzuk"));
     }
@@ -225,13 +225,13 @@ private slots:
     {
         CondicionesDeclaracion c = sinCriterios();
         c.FECHAD = 20990101;
-        QVERIFY(servidor().dameResultadoBusqueda(c, 1, QStringLiteral("DESC"), 0).isEmpty());
+        QVERIFY(servidor().dameResultadoBusqueda(c, 1, QStringLiteral("DESC"), Idioma::Castellano).isEmpty());
     }
 
     void declaracionesDeUnContribuyente()
     {
         QList<FilaDeclaracion> r = servidor().dameDeclaracionesContribuyente(
-            sinCriterios(), m_ana, 1, QStringLiteral("ASC"), 0);
+            sinCriterios(), m_ana, 1, QStringLiteral("ASC"), Idioma::Castellano);
         QCOMPARE(r.size(), 3);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[0], m_codigos[1], m_codigos[2]}));
         QCOMPARE(r[0].PARTE, QStringLiteral("S"));
@@ -240,25 +240,25 @@ private slots:
         // With a criterion and another order.
         CondicionesDeclaracion c = sinCriterios();
         c.OPERACION = QStringLiteral("T");
-        r = servidor().dameDeclaracionesContribuyente(c, m_ana, 3, QStringLiteral("DESC"), 0);
+        r = servidor().dameDeclaracionesContribuyente(c, m_ana, 3, QStringLiteral("DESC"), Idioma::Castellano);
         QCOMPARE(r.size(), 3);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[1], m_codigos[2], m_codigos[0]}));
         QVERIFY(servidor()
-                    .dameDeclaracionesContribuyente(sinCriterios(), 0, 1, QStringLiteral("ASC"), 0)
+                    .dameDeclaracionesContribuyente(sinCriterios(), 0, 1, QStringLiteral("ASC"), Idioma::Castellano)
                     .isEmpty());
     }
 
     void declaracionesDeUnPresentador()
     {
         const QList<FilaDeclaracion> r = servidor().dameDeclaracionesPresentador(
-            sinCriterios(), m_gestor, 1, QStringLiteral("DESC"), 0);
+            sinCriterios(), m_gestor, 1, QStringLiteral("DESC"), Idioma::Castellano);
         QCOMPARE(r.size(), 2);
         QCOMPARE(codigos(r), (QList<int>{m_codigos[2], m_codigos[0]}));
         QVERIFY(r[0].PARTE.isEmpty());
         CondicionesDeclaracion c = sinCriterios();
         c.REFERENCIA = QStringLiteral("X");
         QCOMPARE(servidor()
-                     .dameDeclaracionesPresentador(c, m_gestor, 1, QStringLiteral("DESC"), 0)
+                     .dameDeclaracionesPresentador(c, m_gestor, 1, QStringLiteral("DESC"), Idioma::Castellano)
                      .size(),
                  1);
     }

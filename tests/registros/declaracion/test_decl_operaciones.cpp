@@ -18,9 +18,10 @@ cDeclaSvr servidor()
     return svr;
 }
 
-std::optional<DatosOperacion> datos(const QString& codigo, int32_t fecha, int16_t offset = 0)
+std::optional<DatosOperacion> datos(const QString& codigo, int32_t fecha,
+                                    Idioma idioma = Idioma::Castellano)
 {
-    return servidor().ObtenerDatosOperacion(codigo, fecha, offset);
+    return servidor().ObtenerDatosOperacion(codigo, fecha, idioma);
 }
 }  // namespace
 
@@ -142,9 +143,9 @@ private slots:
 
     void listaPorFechaEIdioma()
     {
-        const QStringList antes = servidor().ObtenerOperaciones(20050101, 0);
-        const QStringList despues = servidor().ObtenerOperaciones(20100101, 0);
-        const QStringList vasco = servidor().ObtenerOperaciones(20100101, 10000);
+        const QStringList antes = servidor().ObtenerOperaciones(20050101, Idioma::Castellano);
+        const QStringList despues = servidor().ObtenerOperaciones(20100101, Idioma::Castellano);
+        const QStringList vasco = servidor().ObtenerOperaciones(20100101, Idioma::Euskera);
         QCOMPARE(antes.size(), 15);   // 8 of every period, 6 up to 2007, TL
         QCOMPARE(despues.size(), 14); // 8 of every period, T1 to T5, TL
         QCOMPARE(vasco.size(), despues.size());
@@ -152,30 +153,30 @@ private slots:
         QVERIFY(!despues.contains(QStringLiteral("Tipo general: 12 %")));
         QVERIFY(despues.contains(QStringLiteral("Emisiones de CO2 hasta 120 g/km: tipo 0 %")));
         QVERIFY(vasco.contains(QStringLiteral("CO2 isurpenak 120 g/km arte: % 0ko tasa")));
-        QVERIFY(servidor().ObtenerOperaciones(0, 0).isEmpty());
+        QVERIFY(servidor().ObtenerOperaciones(0, Idioma::Castellano).isEmpty());
     }
 
     void codigoPorDescripcion()
     {
         QCOMPARE(servidor().DameOperacionporDescripcion(QStringLiteral("Tipo general: 12 %"),
-                                                         20050101, 0),
+                                                         20050101, Idioma::Castellano),
                  QStringLiteral("TN"));
         QCOMPARE(servidor().DameOperacionporDescripcion(QStringLiteral("Tasa orokorra: % 12"),
-                                                         20050101, 10000),
+                                                         20050101, Idioma::Euskera),
                  QStringLiteral("TN"));
         QVERIFY(servidor()
-                    .DameOperacionporDescripcion(QStringLiteral("Tipo general: 12 %"), 20100101, 0)
+                    .DameOperacionporDescripcion(QStringLiteral("Tipo general: 12 %"), 20100101, Idioma::Castellano)
                     .isEmpty());
         // The same description on each side of 2008 names the operation of that date only.
         QCOMPARE(servidor().DameOperacionporDescripcion(
-                     QStringLiteral("Tipo a declarar, entre el 0 % y el 14,75 %"), 20100101, 0),
+                     QStringLiteral("Tipo a declarar, entre el 0 % y el 14,75 %"), 20100101, Idioma::Castellano),
                  QStringLiteral("TL"));
     }
 
-    void descripcionEnElIdiomaDelOffset()
+    void descripcionEnElIdiomaPedido()
     {
-        const auto es = datos(QStringLiteral("E6"), 20100101, 0);
-        const auto eu = datos(QStringLiteral("E6"), 20100101, 10000);
+        const auto es = datos(QStringLiteral("E6"), 20100101, Idioma::Castellano);
+        const auto eu = datos(QStringLiteral("E6"), 20100101, Idioma::Euskera);
         QVERIFY(es.has_value() && eu.has_value());
         QCOMPARE(es->descripcion, QStringLiteral("Exento: traslado de la residencia habitual"));
         QCOMPARE(eu->descripcion, QStringLiteral("Salbuetsia: ohiko bizilekuaren lekualdaketa"));
@@ -206,10 +207,10 @@ private slots:
     {
         // On any date, a code has at most one row: the periods of a code do not overlap.
         for (int32_t fecha : {19930101, 19970101, 20000101, 20071231, 20080101, 20271231}) {
-            const QStringList lista = servidor().ObtenerOperaciones(fecha, 0);
+            const QStringList lista = servidor().ObtenerOperaciones(fecha, Idioma::Castellano);
             QStringList codigos;
             for (const QString& v : lista)
-                codigos << servidor().DameOperacionporDescripcion(v, fecha, 0);
+                codigos << servidor().DameOperacionporDescripcion(v, fecha, Idioma::Castellano);
             QCOMPARE(codigos.removeDuplicates(), 0);
             QVERIFY(!codigos.contains(QString()));
         }

@@ -347,7 +347,8 @@ private slots:
         cDeclaSvr svr;
         svr.mdblec = mdblec;
         const std::optional<DatosOperacion> datos =
-            svr.ObtenerDatosOperacion(siete ? QStringLiteral("T7") : QStringLiteral("TN"), 20060301, 0);
+            svr.ObtenerDatosOperacion(siete ? QStringLiteral("T7") : QStringLiteral("TN"), 20060301,
+                                      Idioma::Castellano);
         QVERIFY(datos.has_value());
         QCOMPARE(datos->tipo, *tipo);
     }

@@ -203,7 +203,7 @@ private slots:
             CondicionesDeclaracion c;
             c.REFERENCIA = prefijo;
             QStringList refs;
-            for (const FilaDeclaracion& f : svr.dameResultadoBusqueda(c, 2, QStringLiteral("ASC"), 0))
+            for (const FilaDeclaracion& f : svr.dameResultadoBusqueda(c, 2, QStringLiteral("ASC"), Idioma::Castellano))
                 refs << f.REFERENCIA;
             refs.sort();
             return refs;

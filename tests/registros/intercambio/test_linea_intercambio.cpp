@@ -3,6 +3,7 @@
 // masks, the reading of lines whatever their ends, and the lines of the error file.
 #include "ApoyoIntercambio.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "registros/intercambio/Cp1252.h"
@@ -198,15 +199,15 @@ private slots:
         EstablecerIdiomaPrograma(Idioma::Castellano);
         QCOMPARE(FicheroErrores::LineaCorta(7),
                  QByteArray("Linea 7No se han importado todos los datos\r\n"));
-        const Arreglo2D errores{{1, 22, 99, 0}};
-        QCOMPARE(FicheroErrores::NumeroErrores(errores), 3);
+        const QList<HallazgoImportacion> errores{
+            {CampoContribuyente::DNIC, kIdDniCifErroneoODigitoControl},
+            {CampoContribuyente::VIAC, kIdSiglaNoAdmisible}};
         QCOMPARE(FicheroErrores::LineasErrores(errores, 7, QStringLiteral("1234Z    ")),
                  QByteArray("Linea 7 - DNI-CIF 1234Z    : El campo DNI-CIF es err\xF3neo o carece "
                             "de d\xEDgito de control.\r\n"
                             "Linea 7 - DNI-CIF 1234Z    : La sigla del domicilio no es una de "
-                            "las admisibles\r\n"
-                            "Linea 7 - DNI-CIF 1234Z    : \r\n"));
-        QCOMPARE(FicheroErrores::NumeroErrores(Arreglo2D{{0}}), 0);
+                            "las admisibles\r\n"));
+        QCOMPARE(FicheroErrores::LineasErrores({}, 7, QStringLiteral("1234Z    ")), QByteArray());
         QByteArray formato = "\r\nFORMATO:\r\n";
         for (const char* campo :
              {"TIPODNI(1)", "DNI(9)", "NOMBRE(40)", "SIGLAS(2)", "DOMICILIO(20)", "NUMERO(5)",

@@ -10,7 +10,6 @@
 #include "servicios/Conexion.h"
 #include "servicios/GuardadoContribuyente.h"
 #include "servicios/PosicionesContribuyente.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/cContribSvr.h"
 #include "catalogo/Catalogo.h"
@@ -20,7 +19,6 @@
 #include <iterator>
 
 namespace P = PosContribuyente;
-namespace I = PosImportar;
 
 namespace {
 
@@ -85,11 +83,73 @@ Contribuyente Con(Contribuyente c, Cambios cambios)
     return c;
 }
 
-// The import's raw texts, changed by position.
-Arreglo Con(const Arreglo& a, ValoresEnPosicion cambios)
+// The import's raw texts, changed field by field.
+using CambiosLinea = std::initializer_list<std::pair<QString LineaContribuyente::*, QString>>;
+
+LineaContribuyente Con(LineaContribuyente l, CambiosLinea cambios)
 {
-    return ArregloCambiado(a, cambios);
+    for (const auto& [campo, valor] : cambios)
+        l.*campo = valor;
+    return l;
 }
+
+// The fields of an exchange line, by name.
+namespace I {
+constexpr auto TIPODNI = &LineaContribuyente::TIPODNI;
+constexpr auto DNIC = &LineaContribuyente::DNIC;
+constexpr auto NOMBREC = &LineaContribuyente::NOMBREC;
+constexpr auto VIAC = &LineaContribuyente::VIAC;
+constexpr auto DOMICILIOC = &LineaContribuyente::DOMICILIOC;
+constexpr auto NUMEROC = &LineaContribuyente::NUMEROC;
+constexpr auto TIPODOMI = &LineaContribuyente::TIPODOMI;
+constexpr auto PAIS = &LineaContribuyente::PAIS;
+constexpr auto CODPROVC = &LineaContribuyente::CODPROVC;
+constexpr auto NOMPROVC = &LineaContribuyente::NOMPROVC;
+constexpr auto CODPOSC = &LineaContribuyente::CODPOSC;
+constexpr auto CODMUNC = &LineaContribuyente::CODMUNC;
+constexpr auto NOMMUNC = &LineaContribuyente::NOMMUNC;
+constexpr auto NUMSP = &LineaContribuyente::NUMSP;
+constexpr auto NUMTR = &LineaContribuyente::NUMTR;
+}  // namespace I
+
+// The import's rules by their historical numbers 1 to 30: the message of each, and the field
+// it speaks of.
+struct ErrorEsperado {
+    int id;
+    CampoContribuyente campo;
+};
+const ErrorEsperado kErroresImportar[] = {
+    {kIdDniCifErroneoODigitoControl, CampoContribuyente::DNIC},
+    {kIdImportarDniObligatorio, CampoContribuyente::DNIC},
+    {kIdImportarNombreVacio, CampoContribuyente::NOMBREC},
+    {kIdImportarDomicilioVacio, CampoContribuyente::DOMICILIOC},
+    {kIdImportarPaisVacio, CampoContribuyente::PAIS},
+    {kIdProvinciaYCodigoPostalNoCoinciden, CampoContribuyente::CODPOSC},
+    {kIdCodigoPostalCincoCifras, CampoContribuyente::CODPOSC},
+    {kIdCodigoPostalTresUltimosCero, CampoContribuyente::CODPOSC},
+    {kIdCodigoPostalCero, CampoContribuyente::CODPOSC},
+    {kIdImportarNombreProvinciaVacio, CampoContribuyente::NOMPROVC},
+    {kIdImportarNombreMunicipioVacio, CampoContribuyente::NOMMUNC},
+    {kIdImportarCodigoProvinciaVacio, CampoContribuyente::CODPROVC},
+    {kIdImportarCodigoMunicipioVacio, CampoContribuyente::CODMUNC},
+    {kIdPortalNoNumerico, CampoContribuyente::NUMEROC},
+    {kIdCodigoProvinciaNoNumerico, CampoContribuyente::CODPROVC},
+    {kIdCodigoPostalNoNumerico, CampoContribuyente::CODPOSC},
+    {kIdCodigoMunicipioNoNumerico, CampoContribuyente::CODMUNC},
+    {kIdContadorSujetosPasivosNoNumerico, CampoContribuyente::NUMSP},
+    {kIdContadorTransmitentesNoNumerico, CampoContribuyente::NUMTR},
+    {kIdTipoDniNoValido, CampoContribuyente::TIPODNI},
+    {kIdTipoDomicilioNoValido, CampoContribuyente::TIPODOMI},
+    {kIdSiglaNoAdmisible, CampoContribuyente::VIAC},
+    {kIdExtranjeroProvincia00, CampoContribuyente::CODPROVC},
+    {kIdExtranjeroMunicipio000, CampoContribuyente::CODMUNC},
+    {kIdNacionalSinNombreProvincia, CampoContribuyente::NOMPROVC},
+    {kIdCodigoMunicipioNoAdmisible, CampoContribuyente::CODMUNC},
+    {kIdArbeliaSinNombreMunicipio, CampoContribuyente::NOMMUNC},
+    {kIdCodigoProvinciaNoAdmisible, CampoContribuyente::CODPROVC},
+    {kIdFueraDeArbeliaMunicipio000, CampoContribuyente::CODMUNC},
+    {kIdNacionalSinPais, CampoContribuyente::PAIS},
+};
 
 // The rules by number, as the store's verdict tells them: its message and the field it
 // focuses.
@@ -155,16 +215,17 @@ int GuardarV(const Contribuyente& c, bool sustituir)
         Svr().GuardarContribuyente(c, sustituir, Sobrescritura::CualquierVersion));
 }
 
-QList<int> Errores(const Arreglo& importar)
+// The errors of a line by their numbers; a finding whose field is not its rule's is -1.
+QList<int> Errores(const LineaContribuyente& importar)
 {
-    Arreglo2D e;
-    Svr().ValidarDatosImportar(importar, e);
     QList<int> codigos;
-    if (e.isEmpty())
-        return codigos;
-    const qsizetype ubound = e[0].size() - 1;
-    for (qsizetype k = 0; k < ubound; ++k)
-        codigos << e[0][k].toInt();
+    for (const HallazgoImportacion& h : Svr().ValidarDatosImportar(importar)) {
+        int codigo = -1;
+        for (int k = 0; k < int(std::size(kErroresImportar)); ++k)
+            if (kErroresImportar[k].id == h.id && kErroresImportar[k].campo == h.campo)
+                codigo = k + 1;
+        codigos << codigo;
+    }
     return codigos;
 }
 
@@ -213,6 +274,7 @@ constexpr OrdenParte kPorDni = OrdenParte::Dni;
 }  // namespace
 
 Q_DECLARE_METATYPE(Contribuyente)
+Q_DECLARE_METATYPE(LineaContribuyente)
 
 class TestContribSvr : public QObject {
     Q_OBJECT
@@ -323,49 +385,46 @@ private slots:
     void importarSinErrores()
     {
         AlmacenDePrueba almacen;
-        Arreglo2D e;
-        Svr().ValidarDatosImportar(ImportacionNacional(), e);
-        QCOMPARE(e.size(), 1);
-        QVERIFY(e[0].size() - 1 <= 0);
+        QVERIFY(Svr().ValidarDatosImportar(ImportacionNacional()).isEmpty());
         // A foreign contributor with 00 and 000 for its codes.
-        Arreglo ext = ImportacionNacional();
-        ext[I::TIPODNI] = "N";
-        ext[I::DNIC] = QStringLiteral("AB1234   ");
-        ext[I::TIPODOMI] = "E";
-        ext[I::PAIS] = QStringLiteral("FRANCIA").leftJustified(20);
-        ext[I::CODPROVC] = "00";
-        ext[I::CODPOSC] = "75001";
-        ext[I::NOMPROVC] = QStringLiteral("PARIS").leftJustified(20);
-        ext[I::NOMMUNC] = QStringLiteral("PARIS").leftJustified(25);
-        ext[I::CODMUNC] = "000";
+        LineaContribuyente ext = ImportacionNacional();
+        ext.TIPODNI = "N";
+        ext.DNIC = QStringLiteral("AB1234   ");
+        ext.TIPODOMI = "E";
+        ext.PAIS = QStringLiteral("FRANCIA").leftJustified(20);
+        ext.CODPROVC = "00";
+        ext.CODPOSC = "75001";
+        ext.NOMPROVC = QStringLiteral("PARIS").leftJustified(20);
+        ext.NOMMUNC = QStringLiteral("PARIS").leftJustified(25);
+        ext.CODMUNC = "000";
         QCOMPARE(Errores(ext), QList<int>());
         // Another province, its municipality typed.
-        Arreglo otra = ImportacionNacional();
-        otra[I::CODPROVC] = "01";
-        otra[I::CODPOSC] = "01001";
-        otra[I::CODMUNC] = "000";
-        otra[I::NOMMUNC] = QStringLiteral("VITORIA").leftJustified(25);
+        LineaContribuyente otra = ImportacionNacional();
+        otra.CODPROVC = "01";
+        otra.CODPOSC = "01001";
+        otra.CODMUNC = "000";
+        otra.NOMMUNC = QStringLiteral("VITORIA").leftJustified(25);
         QCOMPARE(Errores(otra), QList<int>());
     }
 
     void importarCadaError_data()
     {
-        QTest::addColumn<Arreglo>("datos");
+        QTest::addColumn<LineaContribuyente>("datos");
         QTest::addColumn<QList<int>>("errores");
-        const Arreglo n = ImportacionNacional();
-        Arreglo ext = n;
-        ext[I::TIPODOMI] = "E";
-        ext[I::PAIS] = "FRANCIA";
-        ext[I::CODPROVC] = "00";
-        ext[I::CODPOSC] = "75001";
-        ext[I::NOMPROVC] = "PARIS";
-        ext[I::NOMMUNC] = "PARIS";
-        ext[I::CODMUNC] = "000";
-        Arreglo otra = n;
-        otra[I::CODPROVC] = "01";
-        otra[I::CODPOSC] = "01001";
-        otra[I::CODMUNC] = "000";
-        otra[I::NOMMUNC] = "VITORIA";
+        const LineaContribuyente n = ImportacionNacional();
+        LineaContribuyente ext = n;
+        ext.TIPODOMI = "E";
+        ext.PAIS = "FRANCIA";
+        ext.CODPROVC = "00";
+        ext.CODPOSC = "75001";
+        ext.NOMPROVC = "PARIS";
+        ext.NOMMUNC = "PARIS";
+        ext.CODMUNC = "000";
+        LineaContribuyente otra = n;
+        otra.CODPROVC = "01";
+        otra.CODPOSC = "01001";
+        otra.CODMUNC = "000";
+        otra.NOMMUNC = "VITORIA";
         using L = QList<int>;
         QTest::newRow("1") << Con(n, {{I::DNIC, "12345678A"}}) << L{1};
         QTest::newRow("1 forma") << Con(n, {{I::DNIC, "1234"}}) << L{1};
@@ -417,7 +476,7 @@ private slots:
     void importarCadaError()
     {
         AlmacenDePrueba almacen;
-        QFETCH(Arreglo, datos);
+        QFETCH(LineaContribuyente, datos);
         QFETCH(QList<int>, errores);
         QCOMPARE(Errores(datos), errores);
     }
@@ -425,25 +484,21 @@ private slots:
     void importarTodosLosErroresALaVez()
     {
         AlmacenDePrueba almacen;
-        Arreglo a = ImportacionNacional();
-        a[I::TIPODNI] = "Q";
-        a[I::DNIC] = "12345678A";
-        a[I::NOMBREC] = "";
-        a[I::DOMICILIOC] = "";
-        a[I::PAIS] = "FRANCIA";
-        a[I::NOMPROVC] = "X";
-        a[I::NOMMUNC] = "Y";
-        a[I::NUMEROC] = "A";
-        a[I::NUMSP] = "B";
-        a[I::NUMTR] = "C";
-        a[I::VIAC] = "ZZ";
-        a[I::CODMUNC] = "998";
+        LineaContribuyente a = ImportacionNacional();
+        a.TIPODNI = "Q";
+        a.DNIC = "12345678A";
+        a.NOMBREC = "";
+        a.DOMICILIOC = "";
+        a.PAIS = "FRANCIA";
+        a.NOMPROVC = "X";
+        a.NOMMUNC = "Y";
+        a.NUMEROC = "A";
+        a.NUMSP = "B";
+        a.NUMTR = "C";
+        a.VIAC = "ZZ";
+        a.CODMUNC = "998";
         const QList<int> esperados{1, 3, 4, 14, 18, 19, 20, 22, 25, 26, 27, 30};
         QCOMPARE(Errores(a), esperados);
-        // The array has one spare element after the errors.
-        Arreglo2D e;
-        Svr().ValidarDatosImportar(a, e);
-        QCOMPARE(e[0].size() - 1, esperados.size());
     }
 
     void importarNecesitaLaBaseDeReferencia()
@@ -452,8 +507,7 @@ private slots:
         cContribSvr s;
         s.mdbmod = mdbmod;
         s.mdblec = almacen.carpeta().tablas() + QStringLiteral("NOEXISTE.mdb");
-        Arreglo2D e;
-        QVERIFY_THROWS_EXCEPTION(cFallo, s.ValidarDatosImportar(ImportacionNacional(), e));
+        QVERIFY_THROWS_EXCEPTION(cFallo, s.ValidarDatosImportar(ImportacionNacional()));
     }
 
     // --- Save, load, delete ------------------------------------------------------------------
@@ -633,13 +687,13 @@ private slots:
         AlmacenDePrueba almacen;
         const int32_t a = Guardar(ContribuyenteNacional(Dni(30), QStringLiteral("SUJETO")));
         const int32_t b = Guardar(ContribuyenteNacional(Dni(31), QStringLiteral("VENDEDOR")));
-        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{0, 0}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (DeclaracionesContribuyente{0, 0}));
         const int32_t d1 = almacen.NuevaDeclaracion(a, b);
         almacen.NuevaDeclaracion(a, b);
         almacen.NuevaDeclaracion(a, a);
         almacen.NuevaDeclaracion(0, b);
-        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
-        QCOMPARE(Svr().ObtenerNumspNumtr(b), (Arreglo{0, 3}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (DeclaracionesContribuyente{3, 1}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(b), (DeclaracionesContribuyente{0, 3}));
         const Contribuyente d = Cargar(a);
         QCOMPARE(d.NUMSP, 3.0);
         QCOMPARE(d.NUMTR, 1.0);
@@ -649,7 +703,7 @@ private slots:
         g.NUMSP = 0.0;
         g.NUMTR = 77.0;
         QCOMPARE(GuardarV(g), 0);
-        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{3, 1}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (DeclaracionesContribuyente{3, 1}));
         QCOMPARE(GuardarV(g, true), 0);
         QCOMPARE(Cargar(a).NUMSP, 3.0);
 
@@ -667,8 +721,8 @@ private slots:
 
         // A declaration deleted: the counter follows.
         almacen.BorrarDeclaracion(d1);
-        QCOMPARE(Svr().ObtenerNumspNumtr(a), (Arreglo{2, 1}));
-        QCOMPARE(Svr().ObtenerNumspNumtr(b), (Arreglo{0, 2}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(a), (DeclaracionesContribuyente{2, 1}));
+        QCOMPARE(Svr().ObtenerNumspNumtr(b), (DeclaracionesContribuyente{0, 2}));
     }
 
     void borrarNombradoEnDeclaracion()

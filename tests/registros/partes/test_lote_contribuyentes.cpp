@@ -7,11 +7,9 @@
 #include "plataforma/General.h"
 #include "plataforma/Fallo.h"
 #include "servicios/Conexion.h"
-#include "servicios/GuardadoContribuyente.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/LoteContribuyentes.h"
 #include "servicios/SentenciaNativa.h"
-#include "servicios/PosicionesImportar.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/ReferenciaPartes.h"
 #include "servicios/cContribSvr.h"
 
@@ -29,48 +27,34 @@ cContribSvr Svr()
     return s;
 }
 
-// The save array of the batch, as the import makes it from a line.
-Arreglo Lote(const Contribuyente& c)
+// What became of a save, as a number: 0 saved, 1 an insert of a number in the store, 2 an
+// update to a number held by another, 3 any other refusal (a text the store cannot keep).
+template <typename T>
+int Numero(const Resultado<T>& r)
 {
-    return GuardadoContribuyente::ArregloDe(c);
+    if (r)
+        return 0;
+    if (r.veredicto().id == kIdAltaContribuyenteDniExistente)
+        return 1;
+    if (r.veredicto().id == kIdModificarContribuyenteDniExistente)
+        return 2;
+    return 3;
 }
 
-// The store's single save of an array, by the batch's verdict numbers.
-int16_t GuardarSuelto(const Arreglo& a, bool sustituir)
+// The store's single save, by the same numbers.
+int GuardarSuelto(const Contribuyente& c, bool sustituir)
 {
-    namespace P = PosContribuyente;
-    Contribuyente c;
-    c.CSCO = a[P::CSCO].toInt();
-    c.TIPODNI = a[P::TIPODNI].toString();
-    c.DNIC = a[P::DNIC].toString();
-    c.NOMBREC = a[P::NOMBREC].toString();
-    c.VIAC = a[P::VIAC].toString();
-    c.DOMICILIOC = a[P::DOMICILIOC].toString();
-    c.NUMEROC = a[P::NUMEROC].toInt();
-    c.LETRAC = a[P::LETRAC].toString();
-    c.ESCALERAC = a[P::ESCALERAC].toString();
-    c.PISOC = a[P::PISOC].toString();
-    c.MANOC = a[P::MANOC].toString();
-    c.TIPODOMI = a[P::TIPODOMI].toString();
-    c.PAIS = a[P::PAIS].toString();
-    c.CODPROVC = a[P::CODPROVC].toString();
-    c.NOMPROVC = a[P::NOMPROVC].toString();
-    c.CODPOSC = a[P::CODPOSC].toString();
-    c.CODMUNC = a[P::CODMUNC].toString();
-    c.NOMMUNC = a[P::NOMMUNC].toString();
-    const Resultado<Contribuyente> r =
-        Svr().GuardarContribuyente(c, sustituir, Sobrescritura::CualquierVersion);
-    if (r)
-        return VeredictoGuardarContribuyente::Guardado;
-    switch (r.veredicto().id) {
-    case 41: return VeredictoGuardarContribuyente::DniExistente;
-    case 42: return VeredictoGuardarContribuyente::DniDeOtro;
-    default: return VeredictoGuardarContribuyente::TextoRechazado;
-    }
+    return Numero(Svr().GuardarContribuyente(c, sustituir, Sobrescritura::CualquierVersion));
+}
+
+// The batch's save, by the same numbers.
+int GuardarEnLote(cLoteContribuyentes& lote, const Contribuyente& c, bool sustituir)
+{
+    return Numero(lote.GuardarContribuyente(c, sustituir, Sobrescritura::CualquierVersion));
 }
 
 struct Paso {
-    Arreglo datos;
+    Contribuyente datos;
     bool sustituir;
 };
 
@@ -79,14 +63,14 @@ struct Paso {
 QList<Paso> Secuencia()
 {
     QList<Paso> p;
-    p << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO")), false}
-      << Paso{Lote(ContribuyenteNacional(Dni(2), "DOS")), false}
-      << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO OTRA VEZ")), false}   // verdict 1
-      << Paso{Lote(ContribuyenteNacional(Dni(1), "UNO NUEVO", 1)), true}      // by code
-      << Paso{Lote(ContribuyenteNacional(Dni(2), "DOS NUEVO", 0)), true}      // by number
-      << Paso{Lote(ContribuyenteNacional(Dni(2), "CHOCA", 1)), true}          // verdict 2
-      << Paso{Lote(ContribuyenteExtranjero("X1234567L", "TRES", 77)), true}   // a code that is gone
-      << Paso{Lote(ContribuyenteExtranjero("X1234567L", "TRES BIS")), true};
+    p << Paso{(ContribuyenteNacional(Dni(1), "UNO")), false}
+      << Paso{(ContribuyenteNacional(Dni(2), "DOS")), false}
+      << Paso{(ContribuyenteNacional(Dni(1), "UNO OTRA VEZ")), false}   // verdict 1
+      << Paso{(ContribuyenteNacional(Dni(1), "UNO NUEVO", 1)), true}      // by code
+      << Paso{(ContribuyenteNacional(Dni(2), "DOS NUEVO", 0)), true}      // by number
+      << Paso{(ContribuyenteNacional(Dni(2), "CHOCA", 1)), true}          // verdict 2
+      << Paso{(ContribuyenteExtranjero("X1234567L", "TRES", 77)), true}   // a code that is gone
+      << Paso{(ContribuyenteExtranjero("X1234567L", "TRES BIS")), true};
     return p;
 }
 
@@ -115,26 +99,26 @@ class TestLoteContribuyentes : public QObject {
 private slots:
     void comoUnoAUno()
     {
-        QList<int16_t> veredictosSueltos;
+        QList<int> veredictosSueltos;
         QList<int32_t> codigosSueltos;
         QStringList filasSueltas;
         {
             AlmacenDePrueba a;
             for (const Paso& p : Secuencia()) {
                 veredictosSueltos << GuardarSuelto(p.datos, p.sustituir);
-                codigosSueltos << Svr().ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
+                codigosSueltos << Svr().ExisteContribuyente(p.datos.DNIC);
             }
             filasSueltas = Filas(a);
         }
         AlmacenDePrueba a;
-        QList<int16_t> veredictos;
+        QList<int> veredictos;
         QList<int32_t> codigos;
         {
             cLoteContribuyentes lote(mdbmod, mdblec);
             for (const Paso& p : Secuencia()) {
-                lote.ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
-                veredictos << lote.GuardarContribuyente(p.datos, p.sustituir);
-                codigos << lote.ExisteContribuyente(p.datos[PosContribuyente::DNIC].toString());
+                lote.ExisteContribuyente(p.datos.DNIC);
+                veredictos << GuardarEnLote(lote, p.datos, p.sustituir);
+                codigos << lote.ExisteContribuyente(p.datos.DNIC).codigo;
             }
             lote.Confirmar();
         }
@@ -148,39 +132,38 @@ private slots:
     void anadirSiNuevo()
     {
         AlmacenDePrueba a;
-        const int32_t uno = GuardarSuelto(Lote(ContribuyenteNacional(Dni(1), "UNO")), false) == 0
+        const int32_t uno = GuardarSuelto(ContribuyenteNacional(Dni(1), "UNO"), false) == 0
             ? Svr().ExisteContribuyente(Dni(1))
             : 0;
         QVERIFY(uno != 0);
         cLoteContribuyentes lote(mdbmod, mdblec);
-        namespace V = VeredictoGuardarContribuyente;
-        int32_t titular = -1;
-        // A new number is added, as GuardarContribuyente(datos, false) adds it.
-        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(Dni(2), "DOS")), titular), int16_t(V::Guardado));
-        QCOMPARE(titular, 0);
+        // A new number is added, as GuardarContribuyente(c, false) adds it: nobody held it.
+        Resultado<TitularParte> r = lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS"));
+        QVERIFY(r);
+        QCOMPARE(r->codigo, 0);
         QCOMPARE(lote.Pendientes(), 1);
-        const int32_t dos = lote.ExisteContribuyente(Dni(2));
+        const int32_t dos = lote.ExisteContribuyente(Dni(2)).codigo;
         QVERIFY(dos != 0 && dos != uno);
         // A number in the store, with blanks around it, writes nothing and names its holder,
         // whether the holder was committed before or saved in this batch.
-        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO")), titular),
-                 int16_t(V::DniExistente));
-        QCOMPARE(titular, uno);
-        QCOMPARE(lote.AnadirSiNuevo(Lote(ContribuyenteNacional(Dni(2), "DOS BIS")), titular),
-                 int16_t(V::DniExistente));
-        QCOMPARE(titular, dos);
+        r = lote.AnadirSiNuevo(ContribuyenteNacional(QStringLiteral(" ") + Dni(1) + QStringLiteral(" "), "OTRO"));
+        QVERIFY(r);
+        QCOMPARE(r->codigo, uno);
+        QVERIFY(r->version != 0);
+        r = lote.AnadirSiNuevo(ContribuyenteNacional(Dni(2), "DOS BIS"));
+        QVERIFY(r);
+        QCOMPARE(r->codigo, dos);
         QCOMPARE(lote.Pendientes(), 1);
         // A text the store cannot keep stops at the door, as it stops GuardarContribuyente.
-        Arreglo control = Lote(ContribuyenteNacional(Dni(4), "CON\tTABULADOR"));
-        Veredicto rechazo;
-        QCOMPARE(lote.AnadirSiNuevo(control, titular, &rechazo), int16_t(V::TextoRechazado));
-        QCOMPARE(titular, 0);
-        QVERIFY(!rechazo.vacio());
-        QCOMPARE(lote.GuardarContribuyente(control, false), int16_t(V::TextoRechazado));
+        const Contribuyente control = ContribuyenteNacional(Dni(4), "CON\tTABULADOR");
+        r = lote.AnadirSiNuevo(control);
+        QVERIFY(!r);
+        QVERIFY(!r.veredicto().vacio());
+        QCOMPARE(Numero(r), 3);
+        QCOMPARE(GuardarEnLote(lote, control, false), 3);
         QCOMPARE(lote.Pendientes(), 1);
         // The save of the holder that follows replaces it in place.
-        QCOMPARE(lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(1), "UNO NUEVO", uno)), true),
-                 int16_t(0));
+        QCOMPARE(GuardarEnLote(lote, ContribuyenteNacional(Dni(1), "UNO NUEVO", uno), true), 0);
         lote.Confirmar();
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 2);
         QCOMPARE(a.Valor(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {uno})
@@ -191,16 +174,33 @@ private slots:
                  QStringLiteral("DOS"));
     }
 
+    void sustituyeAlTitularHallado()
+    {
+        // After AnadirSiNuevo names the holder, a replacement without a code replaces that
+        // holder over the version found.
+        AlmacenDePrueba a;
+        const int32_t uno = Svr().GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO"))->CSCO;
+        cLoteContribuyentes lote(mdbmod, mdblec);
+        const Resultado<TitularParte> r = lote.AnadirSiNuevo(ContribuyenteNacional(Dni(1), "OTRO"));
+        QVERIFY(r);
+        QCOMPARE(r->codigo, uno);
+        QVERIFY(lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "OTRO"), true));
+        lote.Confirmar();
+        QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
+        QCOMPARE(a.Valor(QStringLiteral("SELECT NOMBREC FROM CONTRIBUYENTES WHERE CSCO = ?"), {uno})
+                     .toString(),
+                 QStringLiteral("OTRO"));
+    }
+
     void anadirSiNuevoRechazaComoGuardar()
     {
         // A value that cannot be stored stops the save as it stops GuardarContribuyente, and
         // nothing is written.
         AlmacenDePrueba a;
         cLoteContribuyentes lote(mdbmod, mdblec);
-        Arreglo malo = Lote(ContribuyenteNacional(Dni(3), "TRES"));
-        malo[PosContribuyente::TIPODOMI] = QStringLiteral("Q");
-        int32_t titular = 0;
-        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo, titular));
+        Contribuyente malo = ContribuyenteNacional(Dni(3), "TRES");
+        malo.TIPODOMI = QStringLiteral("Q");
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(malo));
         lote.Confirmar();
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 0);
     }
@@ -220,13 +220,13 @@ private slots:
         };
         quint32 n = 10;
         for (const auto& c : casos) {
-            Arreglo d = Lote(ContribuyenteNacional(Dni(++n), "CODIGOS"));
-            d[PosContribuyente::CODPROVC] = c.provincia;
-            d[PosContribuyente::CODMUNC] = c.municipio;
-            int32_t titular = -1;
-            QCOMPARE(lote.AnadirSiNuevo(d, titular), int16_t(0));
-            QCOMPARE(titular, 0);
-            const int32_t codigo = lote.ExisteContribuyente(Dni(n));
+            Contribuyente d = ContribuyenteNacional(Dni(++n), "CODIGOS");
+            d.CODPROVC = c.provincia;
+            d.CODMUNC = c.municipio;
+            const Resultado<TitularParte> r = lote.AnadirSiNuevo(d);
+            QVERIFY(r);
+            QCOMPARE(r->codigo, 0);
+            const int32_t codigo = lote.ExisteContribuyente(Dni(n)).codigo;
             lote.Confirmar();
             QCOMPARE(a.Valor(QStringLiteral("SELECT CODPROVC FROM CONTRIBUYENTES WHERE CSCO = ?"),
                              {codigo}).toString(),
@@ -235,10 +235,9 @@ private slots:
                              {codigo}).toString(),
                      c.municipioGuardado);
         }
-        Arreglo ancho = Lote(ContribuyenteNacional(Dni(99), "ANCHO"));
-        ancho[PosContribuyente::CODMUNC] = QStringLiteral("01001");
-        int32_t titular = 0;
-        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho, titular));
+        Contribuyente ancho = ContribuyenteNacional(Dni(99), "ANCHO");
+        ancho.CODMUNC = QStringLiteral("01001");
+        QVERIFY_THROWS_EXCEPTION(cFallo, lote.AnadirSiNuevo(ancho));
     }
 
     void textosDeLasSentenciasNativas()
@@ -274,12 +273,12 @@ private slots:
         AlmacenDePrueba a;
         {
             cLoteContribuyentes lote(mdbmod, mdblec);
-            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(1), "UNO")), false);
+            QVERIFY(lote.GuardarContribuyente(ContribuyenteNacional(Dni(1), "UNO"), false));
             lote.Confirmar();
-            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(2), "DOS")), false);
+            QVERIFY(lote.GuardarContribuyente(ContribuyenteNacional(Dni(2), "DOS"), false));
             QCOMPARE(lote.Pendientes(), 1);
             // The batch under way sees its own saves; another connection does not.
-            QVERIFY(lote.ExisteContribuyente(Dni(2)) != 0);
+            QVERIFY(lote.ExisteContribuyente(Dni(2)).codigo != 0);
         }
         QCOMPARE(a.Filas(QStringLiteral("CONTRIBUYENTES")), 1);
     }
@@ -289,7 +288,7 @@ private slots:
         AlmacenDePrueba a;
         cLoteContribuyentes lote(mdbmod, mdblec);
         for (int i = 1; i <= cLoteContribuyentes::kFilasPorLote + 5; ++i)
-            lote.GuardarContribuyente(Lote(ContribuyenteNacional(Dni(quint32(i)), "N")), false);
+            lote.GuardarContribuyente(ContribuyenteNacional(Dni(quint32(i)), "N"), false);
         QVERIFY(lote.Pendientes() < cLoteContribuyentes::kFilasPorLote);
         QVERIFY(a.Filas(QStringLiteral("CONTRIBUYENTES")) >= cLoteContribuyentes::kFilasPorLote);
     }
@@ -307,16 +306,16 @@ private slots:
         for (const QString& m : QStringList{"001", "002", "999", "1", "000", ""})
             QCOMPARE(enMemoria.existeMunicipio(m), enFichero.existeMunicipio(m));
         cLoteContribuyentes lote(mdbmod, mdblec);
-        Arreglo2D deLote, deSvr;
-        Arreglo malo = ImportacionNacional();
-        malo[PosImportar::VIAC] = QStringLiteral("ZZ");
-        malo[PosImportar::CODMUNC] = QStringLiteral("999");
-        for (const Arreglo& datos : {ImportacionNacional(), malo}) {
-            lote.ValidarDatosImportar(datos, deLote);
-            Svr().ValidarDatosImportar(datos, deSvr);
+        QList<HallazgoImportacion> deLote, deSvr;
+        LineaContribuyente malo = ImportacionNacional();
+        malo.VIAC = QStringLiteral("ZZ");
+        malo.CODMUNC = QStringLiteral("999");
+        for (const LineaContribuyente& datos : {ImportacionNacional(), malo}) {
+            deLote = lote.ValidarDatosImportar(datos);
+            deSvr = Svr().ValidarDatosImportar(datos);
             QCOMPARE(deLote, deSvr);
         }
-        QCOMPARE(deLote.first().size(), 3);  // two errors and the spare
+        QCOMPARE(deLote.size(), 2);
     }
 };
 

@@ -10,7 +10,6 @@
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
-#include "servicios/PosicionesImportar.h"
 #include "servicios/cContribSvr.h"
 
 #include <QtTest>
@@ -226,42 +225,27 @@ private slots:
         QVERIFY(c.ValidarDatosContribuyente());
     }
 
-    void idsDeImportacion()
-    {
-        const QList<int> ids{kIdDniCifErroneoODigitoControl, kIdImportarDniObligatorio,
-                             kIdImportarNombreVacio, kIdImportarDomicilioVacio,
-                             kIdImportarPaisVacio, kIdProvinciaYCodigoPostalNoCoinciden,
-                             kIdCodigoPostalCincoCifras, kIdCodigoPostalTresUltimosCero,
-                             kIdCodigoPostalCero, kIdImportarNombreProvinciaVacio,
-                             kIdImportarNombreMunicipioVacio, kIdImportarCodigoProvinciaVacio,
-                             kIdImportarCodigoMunicipioVacio, kIdPortalNoNumerico,
-                             kIdCodigoProvinciaNoNumerico, kIdCodigoPostalNoNumerico,
-                             kIdCodigoMunicipioNoNumerico, kIdContadorSujetosPasivosNoNumerico,
-                             kIdContadorTransmitentesNoNumerico, kIdTipoDniNoValido,
-                             kIdTipoDomicilioNoValido, kIdSiglaNoAdmisible,
-                             kIdExtranjeroProvincia00, kIdExtranjeroMunicipio000,
-                             kIdNacionalSinNombreProvincia, kIdCodigoMunicipioNoAdmisible,
-                             kIdArbeliaSinNombreMunicipio, kIdCodigoProvinciaNoAdmisible,
-                             kIdFueraDeArbeliaMunicipio000, kIdNacionalSinPais};
-        for (int codigo = 1; codigo <= 30; ++codigo)
-            QCOMPARE(cConDatos::IdMensajeImportar(codigo), ids[codigo - 1]);
-        QCOMPARE(cConDatos::IdMensajeImportar(0), 0);
-        QCOMPARE(cConDatos::IdMensajeImportar(31), 0);
-        QCOMPARE(Texto(cConDatos::IdMensajeImportar(27)),
-                 QStringLiteral("Al ser la provincia Arbelia, no se admite el nombre de municipio"));
-    }
-
     void importarSinErroresDesdeElRegistro()
     {
         AlmacenDePrueba almacen;
-        Arreglo2D errores;
-        ConDatos().ValidarDatosImportar(ImportacionNacional(), errores);
-        QVERIFY(errores.size() == 1 && errores[0].size() - 1 <= 0);
-        Arreglo malo = ImportacionNacional();
-        malo[PosImportar::NOMBREC] = QString(40, QLatin1Char(' '));
-        ConDatos().ValidarDatosImportar(malo, errores);
-        QCOMPARE(errores[0].size() - 1, 1);
-        QCOMPARE(errores[0][0].toInt(), 3);
+        QVERIFY(ConDatos().ValidarDatosImportar(ImportacionNacional()).isEmpty());
+        LineaContribuyente malo = ImportacionNacional();
+        malo.NOMBREC = QString(40, QLatin1Char(' '));
+        QCOMPARE(ConDatos().ValidarDatosImportar(malo),
+                 (QList<HallazgoImportacion>{{CampoContribuyente::NOMBREC, kIdImportarNombreVacio}}));
+    }
+
+    void hallazgoDeImportacion()
+    {
+        // A finding names its field and the message of the catalogue, in the language in use.
+        AlmacenDePrueba almacen;
+        LineaContribuyente l = ImportacionNacional();
+        l.NOMMUNC = QStringLiteral("ARBELGAIN").leftJustified(25);
+        const QList<HallazgoImportacion> h = ConDatos().ValidarDatosImportar(l);
+        QCOMPARE(h.size(), 1);
+        QCOMPARE(h[0].campo, CampoContribuyente::NOMMUNC);
+        QCOMPARE(Texto(h[0].id),
+                 QStringLiteral("Al ser la provincia Arbelia, no se admite el nombre de municipio"));
     }
 
     void valorDelRegistro()

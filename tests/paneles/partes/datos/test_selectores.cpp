@@ -31,21 +31,21 @@ private slots:
         m_carpeta.reset();
     }
 
-    void consultasSegunIdioma()
+    void listasSegunIdioma()
     {
-        QCOMPARE(Selectores::Consulta(TipoSelector::Via),
-                 QStringLiteral("Select T09_CODIGO, T09_CAS From T09_SIGLASVIA ORDER BY T09_CAS"));
-        QCOMPARE(Selectores::Consulta(TipoSelector::Provincia),
-                 QStringLiteral("Select T07_PRO_ID, T07_PRO_CAS From T07_PROVINCIAS ORDER BY T07_PRO_CAS"));
-        QCOMPARE(Selectores::Consulta(TipoSelector::Municipio),
-                 QStringLiteral("Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS ORDER BY T08_NOMMUN"));
+        cListaClaves vias, provincias;
+        CargarVias(&vias);
+        CargarProvincias(&provincias);
+        QCOMPARE(TextoDeClaveEn(vias, QStringLiteral("CL")), QStringLiteral("Calle"));
+        QCOMPARE(TextoDeClaveEn(provincias, QStringLiteral("c48")), QStringLiteral("Vizcaya"));
         EstablecerIdiomaPrograma(Idioma::Euskera);
-        QCOMPARE(Selectores::Consulta(TipoSelector::Via),
-                 QStringLiteral("Select T09_CODIGO, T09_EUS From T09_SIGLASVIA ORDER BY T09_EUS"));
-        QCOMPARE(Selectores::Consulta(TipoSelector::Provincia),
-                 QStringLiteral("Select T07_PRO_ID, T07_PRO_EUS From T07_PROVINCIAS ORDER BY T07_PRO_EUS"));
-        QCOMPARE(Selectores::Consulta(TipoSelector::Municipio),
-                 QStringLiteral("Select T08_CODMUN, T08_NOMMUN From T08_MUNICIPIOS ORDER BY T08_NOMMUN"));
+        cListaClaves kaleak, probintziak, udalerriak;
+        CargarVias(&kaleak);
+        CargarProvincias(&probintziak);
+        CargarMunicipios(&udalerriak);
+        QCOMPARE(TextoDeClaveEn(kaleak, QStringLiteral("CL")), QStringLiteral("Kalea"));
+        QCOMPARE(TextoDeClaveEn(probintziak, QStringLiteral("c48")), QStringLiteral("Bizkaia"));
+        QCOMPARE(TextoDeClaveEn(udalerriak, QStringLiteral("c2")), QStringLiteral("VELDORRETA"));
     }
 
     void clavesYCodigos()
@@ -64,9 +64,9 @@ private slots:
     void cargaDeLasTresListas()
     {
         cListaClaves vias, provincias, municipios;
-        CargarVias(Selectores::Consulta(TipoSelector::Via), &vias);
-        CargarProvincias(Selectores::Consulta(TipoSelector::Provincia), &provincias);
-        CargarMunicipios(Selectores::Consulta(TipoSelector::Municipio), &municipios);
+        CargarVias(&vias);
+        CargarProvincias(&provincias);
+        CargarMunicipios(&municipios);
         QVERIFY(vias.Count() > 20);
         QCOMPARE(TextoDeClaveEn(vias, QStringLiteral("CL")), QStringLiteral("Calle"));
         QCOMPARE(TextoDeClaveEn(provincias, QStringLiteral("c1")), QStringLiteral("Álava"));
