@@ -208,7 +208,7 @@ void Busquedas()
     };
     lista("por nombre", [&] { filas = svr.dameResultadoBusqueda({0, 0, 0}, datos, 1); });
     lista("por DNI", [&] { filas = svr.dameResultadoBusqueda({0, 0, 0}, datos, 2); });
-    ConLista().ENTRADA = QStringLiteral("A");
+    ConLista().ENTRADA = Navegacion::EntradaLista::Abrir;
     ConLista().IniciarLista();
     lista("de ConLista()", [&] { filas = ConLista().CargarContribuyentes(datos); });
     std::printf("Memoria: pico %.1f MiB antes de la lista entera, %.1f MiB después\n", antes,

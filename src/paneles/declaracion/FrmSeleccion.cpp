@@ -71,8 +71,8 @@ DisenoLista DisenoPresentadores()
 
 // ----- Contributor -----
 
-FrmConSeleccion::FrmConSeleccion(QWidget* parent)
-    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent)
+FrmConSeleccion::FrmConSeleccion(cDecDatos& declaracion, QWidget* parent)
+    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent), m_declaracion(declaracion)
 {
     ConSeleccion().IniciarSeleccion();
 }
@@ -80,7 +80,7 @@ FrmConSeleccion::FrmConSeleccion(QWidget* parent)
 void FrmConSeleccion::Elegido()
 {
     cConSeleccion& s = ConSeleccion();
-    cDecDatos& d = DecDatos();
+    cDecDatos& d = m_declaracion;
     if (s.ENTRADA == Navegacion::Entrada::Sujeto) {
         // A subject is official and national.
         if (!s.ValidarTipoDniDomicilio()) {
@@ -101,8 +101,8 @@ void FrmConSeleccion::Elegido()
 
 // ----- Presenter -----
 
-FrmPreSeleccion::FrmPreSeleccion(QWidget* parent)
-    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent)
+FrmPreSeleccion::FrmPreSeleccion(cDecDatos& declaracion, QWidget* parent)
+    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent), m_declaracion(declaracion)
 {
     PreSeleccion().IniciarSeleccion();
 }
@@ -112,7 +112,7 @@ void FrmPreSeleccion::Elegido()
     // No check at all on a presenter; nothing reloads it, so the panel writes its name and
     // number itself.
     const cPreSeleccion& s = PreSeleccion();
-    cDecDatos& d = DecDatos();
+    cDecDatos& d = m_declaracion;
     if (d.CSPR != s.CSPR)
         d.MODIFICADO = true;
     d.CSPR = s.CSPR;
