@@ -141,7 +141,7 @@ int main(int argc, char** argv)
     bien &= informe("FrmDecLista: abrir (almacen, grid, fila, dibujo)", repetir(5, [] {
         QElapsedTimer r;
         r.start();
-        FrmDecLista* lista = Navegacion::AbrirDecLista(QStringLiteral("A"));
+        FrmDecLista* lista = Navegacion::AbrirDecLista(Navegacion::EntradaLista::Abrir);
         dibujar(lista);
         const double t = ms(r);
         cerrarTodo();
@@ -149,7 +149,7 @@ int main(int argc, char** argv)
     }), 1000);
 
     bien &= informe("FrmDecLista: busqueda por referencia 'R0123'", repetir(5, [] {
-        FrmDecLista* lista = Navegacion::AbrirDecLista(QStringLiteral("A"));
+        FrmDecLista* lista = Navegacion::AbrirDecLista(Navegacion::EntradaLista::Abrir);
         DecLista().TABLASELECCION = TablaCriterios{{QStringLiteral("2"), QStringLiteral("R0123")}};
         DecLista().ORDEN = 2;
         DecLista().BUSQUEDA = QStringLiteral("N");
@@ -222,7 +222,8 @@ int main(int argc, char** argv)
         QElapsedTimer r;
         r.start();
         FrmConDeclaraciones* panel = Navegacion::AbrirConDeclaraciones(
-            QStringLiteral("A"), QStringLiteral("CONTRIBUYENTE 1"), QStringLiteral("C00000001"));
+            Navegacion::EntradaLista::Abrir, QStringLiteral("CONTRIBUYENTE 1"),
+            QStringLiteral("C00000001"));
         dibujar(panel);
         const double t = ms(r);
         cerrarTodo();

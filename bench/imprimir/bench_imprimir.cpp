@@ -12,6 +12,7 @@
 #include "registros/imprimir/CopiasImpresas.h"
 #include "registros/imprimir/ImpresoOficial.h"
 #include "registros/imprimir/cImOf.h"
+#include "registros/declaracion/cDecDatos.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -73,7 +74,7 @@ Aperturas medirPanel()
     for (int i = 0; i <= kVeces; ++i) {
         QElapsedTimer reloj;
         reloj.start();
-        auto* panel = new FrmImprimir;
+        auto* panel = new FrmImprimir(DecDatos());
         panel->show();
         panel->repaint();
         const double tiempo = reloj.nsecsElapsed() / 1e6;

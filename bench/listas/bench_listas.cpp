@@ -118,7 +118,7 @@ int main(int argc, char** argv)
         Imprimir("store alone: by number", t.nsecsElapsed());
     }
 
-    ConLista().ENTRADA = QStringLiteral("A");
+    ConLista().ENTRADA = Navegacion::EntradaLista::Abrir;
     t.start();
     FrmConLista* panel = FrmConLista::Abrir();
     Procesar();

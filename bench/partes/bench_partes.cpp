@@ -222,7 +222,7 @@ void Busquedas()
         datos = svr.dameResultadoBusqueda({}, OrdenParte::Dni);
         filas = int32_t(datos.size());
     });
-    ConLista().ENTRADA = QStringLiteral("A");
+    ConLista().ENTRADA = Navegacion::EntradaLista::Abrir;
     ConLista().IniciarLista();
     lista("de ConLista()", [&] {
         datos.clear();

@@ -187,6 +187,8 @@ void MDIVeldo::construirBarra()
 
 void MDIVeldo::conectarComandos()
 {
+    // The lists open afresh, to open or to delete.
+    using Navegacion::EntradaLista;
     auto al = [this](const char* nombre, std::function<void()> hacer) {
         QAction* a = findChild<QAction*>(QString::fromLatin1(nombre));
         m_comandos.insert(QString::fromLatin1(nombre), hacer);
@@ -195,17 +197,17 @@ void MDIVeldo::conectarComandos()
         });
     };
     al("mnuNuevaDeclaracion", [] { Navegacion::NuevaDeclaracion(); });
-    al("mnuAbrirDeclaracion", [] { Navegacion::AbrirDecLista(QStringLiteral("A")); });
-    al("mnuEliminarDeclaracion", [] { Navegacion::AbrirDecLista(QStringLiteral("E")); });
+    al("mnuAbrirDeclaracion", [] { Navegacion::AbrirDecLista(EntradaLista::Abrir); });
+    al("mnuEliminarDeclaracion", [] { Navegacion::AbrirDecLista(EntradaLista::Eliminar); });
     for (QAction* d : m_recientes)
         al(qPrintable(d->objectName()), [this, d] { abrirDeclaracionReciente(d); });
     al("mnuSalir", [] { Proceso::Terminar(0); });
     al("mnuNuevoContribuyente", [] { Navegacion::NuevoContribuyente(); });
-    al("mnuAbrirContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("A")); });
-    al("mnuEliminarContribuyente", [] { Navegacion::AbrirConLista(QStringLiteral("E")); });
+    al("mnuAbrirContribuyente", [] { Navegacion::AbrirConLista(EntradaLista::Abrir); });
+    al("mnuEliminarContribuyente", [] { Navegacion::AbrirConLista(EntradaLista::Eliminar); });
     al("mnuNuevoPresentador", [] { Navegacion::NuevoPresentador(); });
-    al("mnuAbrirPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("A")); });
-    al("mnuEliminarPresentador", [] { Navegacion::AbrirPreLista(QStringLiteral("E")); });
+    al("mnuAbrirPresentador", [] { Navegacion::AbrirPreLista(EntradaLista::Abrir); });
+    al("mnuEliminarPresentador", [] { Navegacion::AbrirPreLista(EntradaLista::Eliminar); });
     al("mnuExport", [] { Navegacion::AbrirExportar(); });
     al("mnuImport", [] { Navegacion::AbrirImportar(); });
     al("mnuBackup", [this] { copiaDeSeguridad(); });

@@ -30,14 +30,6 @@
 
 namespace {
 
-// The panel the way back from printing leads to: the presenter's returns take every letter
-// other than the three named ones.
-QString letraDeVuelta(const QString& entrada)
-{
-    static const QStringList conocidas{QStringLiteral("D"), QStringLiteral("L"), QStringLiteral("C")};
-    return conocidas.contains(entrada) ? entrada : QStringLiteral("P");
-}
-
 // A panel stands: the main window's commands are off until it closes.
 void alAbrir()
 {
@@ -81,7 +73,7 @@ void conectarLista(Lista* lista, const std::function<void(Navegacion::Modo modo)
 
 namespace Navegacion {
 
-FrmConLista* AbrirConLista(const QString& entrada)
+FrmConLista* AbrirConLista(EntradaLista entrada)
 {
     ConLista().ENTRADA = entrada;
     alAbrir();
@@ -97,12 +89,12 @@ FrmConLista* AbrirConLista(const QString& entrada)
             RutaCon() = {{modo, OrigenParte::Lista}};
         },
         &AbrirConDatos, [](const QString& nombre, const QString& dni) {
-            AbrirConDeclaraciones(QStringLiteral("A"), nombre, dni);
+            AbrirConDeclaraciones(EntradaLista::Abrir, nombre, dni);
         });
     return lista;
 }
 
-FrmPreLista* AbrirPreLista(const QString& entrada)
+FrmPreLista* AbrirPreLista(EntradaLista entrada)
 {
     PreLista().ENTRADA = entrada;
     alAbrir();
@@ -117,7 +109,7 @@ FrmPreLista* AbrirPreLista(const QString& entrada)
             RutaPre() = {{modo, OrigenParte::Lista}};
         },
         &AbrirPreDatos, [](const QString& nombre, const QString& dni) {
-            AbrirPreDeclaraciones(QStringLiteral("A"), nombre, dni);
+            AbrirPreDeclaraciones(EntradaLista::Abrir, nombre, dni);
         });
     return lista;
 }
@@ -130,7 +122,7 @@ FrmConDatos* AbrirConDatos()
         alCerrar();
         // Back to the list the contributor was opened from.
         if (RutaCon().origen == OrigenParte::Lista)
-            AbrirConLista(QStringLiteral("P"));
+            AbrirConLista(EntradaLista::Vuelta);
     });
     return datos;
 }
@@ -142,7 +134,7 @@ FrmPreDatos* AbrirPreDatos()
     QObject::connect(datos, &PanelDatos::cerrado, datos, [] {
         alCerrar();
         if (RutaPre().origen == OrigenParte::Lista)
-            AbrirPreLista(QStringLiteral("P"));
+            AbrirPreLista(EntradaLista::Vuelta);
     });
     return datos;
 }
@@ -216,20 +208,20 @@ static void marcarListaDeOrigen(Origen origen)
 {
     switch (origen) {
     case Origen::ListaDeclaraciones:
-        DecLista().ENTRADA = QStringLiteral("P");
+        DecLista().ENTRADA = EntradaLista::Vuelta;
         break;
     case Origen::DeclaracionesContribuyente:
-        ConDeclaraciones().ENTRADA = QStringLiteral("P");
+        ConDeclaraciones().ENTRADA = EntradaLista::Vuelta;
         break;
     case Origen::DeclaracionesPresentador:
-        PreDeclaraciones().ENTRADA = QStringLiteral("P");
+        PreDeclaraciones().ENTRADA = EntradaLista::Vuelta;
         break;
     case Origen::Menu:
         break;
     }
 }
 
-FrmDecLista* AbrirDecLista(const QString& entrada)
+FrmDecLista* AbrirDecLista(EntradaLista entrada)
 {
     DecLista().ENTRADA = entrada;
     alAbrir();
@@ -250,7 +242,7 @@ FrmDecLista* AbrirDecLista(const QString& entrada)
             d.CargarDeclaracion();
             d.ObtenerDatosOperacion(false);
             lista->Cerrar();
-            AbrirImprimir(csde, QStringLiteral("L"));
+            AbrirImprimir(csde, OrigenImpresion::ListaDeclaraciones);
         });
     });
     lista->Iniciar();
@@ -269,11 +261,11 @@ FrmDeclaracion* AbrirDeclaracion()
         // from the menu there is no list to go back to.
         const std::optional<Origen> vuelta = lista.listaDeVuelta();
         if (vuelta == Origen::ListaDeclaraciones)
-            AbrirDecLista(QStringLiteral("P"));
+            AbrirDecLista(EntradaLista::Vuelta);
         else if (vuelta == Origen::DeclaracionesContribuyente)
-            AbrirConDeclaraciones(QStringLiteral("P"));
+            AbrirConDeclaraciones(EntradaLista::Vuelta);
         else if (vuelta == Origen::DeclaracionesPresentador)
-            AbrirPreDeclaraciones(QStringLiteral("P"));
+            AbrirPreDeclaraciones(EntradaLista::Vuelta);
     });
     QObject::connect(form, &FrmDeclaracion::pideEleccion, form, [form](EleccionParte parte) {
         Proceso::Protegido([&] {
@@ -282,7 +274,7 @@ FrmDeclaracion* AbrirDeclaracion()
             if (parte == EleccionParte::Presentador) {
                 form->Cerrar();
                 // The presenter chosen is written by the list itself: nothing to load.
-                abrirSeleccion(new FrmPreSeleccion, [] { return Entrada::Vuelta; });
+                abrirSeleccion(new FrmPreSeleccion(DecDatos()), [] { return Entrada::Vuelta; });
                 return;
             }
             // The contributor's list chooses for the subject or the transmitter, and keeps its
@@ -291,7 +283,7 @@ FrmDeclaracion* AbrirDeclaracion()
             s.ENTRADA = parte == EleccionParte::Sujeto ? Entrada::Sujeto : Entrada::Transmitente;
             s.CRITERIO = ruta.criterio;
             form->Cerrar();
-            auto* seleccion = new FrmConSeleccion;
+            auto* seleccion = new FrmConSeleccion(DecDatos());
             abrirSeleccion(seleccion, [seleccion] {
                 RutaDec().criterio = ConSeleccion().CRITERIO;
                 return seleccion->SeleccionHecha() ? ConSeleccion().ENTRADA : Entrada::Vuelta;
@@ -302,7 +294,7 @@ FrmDeclaracion* AbrirDeclaracion()
         Proceso::Protegido([&] {
             RutaDec().lista.salirDeViaje(Viaje::Impresion);
             form->Cerrar();
-            AbrirImprimir(csde, QStringLiteral("D"));
+            AbrirImprimir(csde, OrigenImpresion::Declaracion);
         });
     });
     return form;
@@ -320,102 +312,105 @@ FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde)
     return AbrirDeclaracion();
 }
 
-// The returns of a party: the panel, its state and its doorways. `lista` is the form's LISTA
-// from it, `imprimir` the print's letter, `volver` the party's list on closing.
+// The returns of a party: the panel, its state and its doorways. `origen` is the form's origin
+// from it, `impresion` the print's way back, `volver` the party's list on closing. The state is
+// asked for each time (`estado`), never held across a signal.
 template <typename Panel, typename Estado>
-Panel* abrirDeclaracionesDeParte(Estado& estado, Origen origen, const QString& letra, void (*volver)())
+Panel* abrirDeclaracionesDeParte(Estado& (*estado)(), Origen origen, OrigenImpresion impresion,
+                                 void (*volver)())
 {
     alAbrir();
     auto* panel = new Panel;
     AbrirPanel(panel);
-    // Whether the panel was left for a side trip: then the form or the print brings it back,
-    // and not the party's list. ENTRADA alone does not tell it, since a click on a heading, a
-    // search or Todos empty it before the trip adds its letter.
-    auto deViaje = std::make_shared<bool>(false);
-    QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [deViaje, volver] {
+    // On a side trip the form or the print brings the panel back, not the party's list.
+    QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [estado, volver] {
         alCerrar();
-        if (!*deViaje)
+        if (!estado().ENTRADA.enViaje())
             volver();
     });
     QObject::connect(panel, &PanelDeclaraciones::pideDeclaracion, panel,
-                     [panel, &estado, origen, deViaje](Modo modo) {
+                     [panel, estado, origen](Modo modo) {
                          Proceso::Protegido([&] {
-                             prepararDeclaracion(modo, origen, estado.CSDE);
-                             estado.ENTRADA += QStringLiteral("D");
-                             *deViaje = true;
+                             prepararDeclaracion(modo, origen, estado().CSDE);
+                             estado().ENTRADA.salirDeViaje(ViajeLista::Declaracion);
                              panel->Cerrar();
                              AbrirDeclaracion();
                          });
                      });
     QObject::connect(panel, &PanelDeclaraciones::pideImpresion, panel,
-                     [panel, &estado, letra, deViaje](int32_t csde) {
+                     [panel, estado, impresion](int32_t csde) {
                          Proceso::Protegido([&] {
-                             estado.ENTRADA += QStringLiteral("I");
-                             *deViaje = true;
+                             estado().ENTRADA.salirDeViaje(ViajeLista::Impresion);
                              cDecDatos& d = DecDatos();
                              d.CSDE = csde;
                              d.CargarDeclaracion();
                              d.ObtenerDatosOperacion(false);
                              panel->Cerrar();
-                             AbrirImprimir(csde, letra);
+                             AbrirImprimir(csde, impresion);
                          });
                      });
     panel->Iniciar();
     return panel;
 }
 
-FrmConDeclaraciones* AbrirConDeclaraciones(const QString& entrada, const QString& nombre,
+FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, const QString& nombre,
                                            const QString& dni)
 {
     cConDeclaraciones& e = ConDeclaraciones();
     e.ENTRADA = entrada;
-    if (entrada == QLatin1String("A")) {
+    if (entrada == EntradaLista::Abrir) {
         e.LBLCONTRI = nombre;
         e.lbldni = dni;
     }
-    return abrirDeclaracionesDeParte<FrmConDeclaraciones>(e, Origen::DeclaracionesContribuyente, QStringLiteral("C"), [] {
-        AbrirConLista(QStringLiteral("P"));
-    });
+    return abrirDeclaracionesDeParte<FrmConDeclaraciones>(
+        &ConDeclaraciones, Origen::DeclaracionesContribuyente,
+        OrigenImpresion::DeclaracionesContribuyente, [] { AbrirConLista(EntradaLista::Vuelta); });
 }
 
-FrmPreDeclaraciones* AbrirPreDeclaraciones(const QString& entrada, const QString& nombre,
+FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, const QString& nombre,
                                            const QString& dni)
 {
     cPreDeclaraciones& e = PreDeclaraciones();
     e.ENTRADA = entrada;
-    if (entrada == QLatin1String("A")) {
+    if (entrada == EntradaLista::Abrir) {
         e.LBLPRESEN = nombre;
         e.lbldni = dni;
     }
-    return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(e, Origen::DeclaracionesPresentador, QStringLiteral("P"), [] {
-        AbrirPreLista(QStringLiteral("P"));
-    });
+    return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(
+        &PreDeclaraciones, Origen::DeclaracionesPresentador,
+        OrigenImpresion::DeclaracionesPresentador, [] { AbrirPreLista(EntradaLista::Vuelta); });
 }
 
-FrmImprimir* AbrirImprimir(int32_t csde, const QString& entrada)
+FrmImprimir* AbrirImprimir(int32_t csde, OrigenImpresion origen)
 {
     ImOf().CSDE = csde;
-    ImOf().ENTRADA = entrada;
+    ImOf().ENTRADA = origen;
     alAbrir();
-    FrmImprimir* panel = FrmImprimir::Abrir();
+    FrmImprimir* panel = FrmImprimir::Abrir(DecDatos());
     QObject::connect(panel, &FrmImprimir::cerrado, panel, [] {
         alCerrar();
-        const QString letra = letraDeVuelta(ImOf().ENTRADA);
-        if (letra == QLatin1String("D")) {
+        const OrigenImpresion vuelta = ImOf().ENTRADA;
+        if (vuelta == OrigenImpresion::Declaracion) {
             // The side trip to printing is over: the form keeps only where it came from.
             RutaDeclaracion& ruta = RutaDec();
             ruta.lista.volverDeViaje();
             ruta.entrada = Entrada::Vuelta;
         }
-        Proceso::Protegido([&letra] {
-            if (letra == QLatin1String("D"))
+        Proceso::Protegido([vuelta] {
+            switch (vuelta) {
+            case OrigenImpresion::Declaracion:
                 AbrirDeclaracion();
-            else if (letra == QLatin1String("L"))
-                AbrirDecLista(QStringLiteral("P"));
-            else if (letra == QLatin1String("C"))
-                AbrirConDeclaraciones(QStringLiteral("P"));
-            else
-                AbrirPreDeclaraciones(QStringLiteral("P"));
+                break;
+            case OrigenImpresion::ListaDeclaraciones:
+                AbrirDecLista(EntradaLista::Vuelta);
+                break;
+            case OrigenImpresion::DeclaracionesContribuyente:
+                AbrirConDeclaraciones(EntradaLista::Vuelta);
+                break;
+            case OrigenImpresion::DeclaracionesPresentador:
+                AbrirPreDeclaraciones(EntradaLista::Vuelta);
+                break;
+            }
         });
     });
     return panel;

@@ -26,6 +26,11 @@ QString ListaOrigen::letras() const
     return texto;
 }
 
+QString EntradaDeclaraciones::letras() const
+{
+    return m_viaje ? Letras(m_entrada) + Letras(*m_viaje) : Letras(m_entrada);
+}
+
 RutaDeclaracion& RutaDec()
 {
     return Estado().de<RutaDeclaracion>();

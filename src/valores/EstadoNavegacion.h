@@ -3,11 +3,16 @@
 // data panel or the declaration form it says how the panel is entered (Entrada), what its
 // record is to hold (Modo) and where the panel came from, with the side trip under way
 // (ListaOrigen, OrigenParte); when the panel closes the navigator reads them to choose the way
-// back. Each value is the one letter these hand-overs have always used (letras() gives them
-// back as text), so a route reads in words and compares with its letter.
+// back. A list is told how it is entered (EntradaLista; a party's returns also carry their
+// side trip, EntradaDeclaraciones) and takes its mode from it (ModoLista); the print panel is
+// told whom to go back to (OrigenImpresion). Each value is the one letter these hand-overs have
+// always used (letras() gives them back as text), so a route reads in words and compares with
+// its letter.
 //
-// The routes live here, apart from the records, so that a record holds its data and nothing
-// else; they are shared state like the records (created at first use, reset with them).
+// The routes of the form and of the data panels live here, apart from the records, so that a
+// record holds its data and nothing else; they are shared state like the records (created at
+// first use, reset with them). A list's way in stays in the list's state, since the list's own
+// moves (an order, a search, Todos) empty it.
 #include <QList>
 #include <QString>
 #include <optional>
@@ -73,6 +78,56 @@ private:
 enum class OrigenParte : char {
     Menu = 0,     // the main menu: nothing to go back to
     Lista = 'S',  // the party's list, which opens again when the panel closes
+};
+
+// How a list is entered when it next opens (ENTRADA of a list).
+enum class EntradaLista : char {
+    Ninguna = 0,      // nothing more: the list's own moves (an order, a search, Todos) leave this
+    Abrir = 'A',      // from an Open command: afresh, in open mode
+    Eliminar = 'E',   // from a Delete command: afresh, in delete mode
+    Vuelta = 'P',     // back from another panel: order, conditions and selection kept
+};
+
+// What a list does with the row chosen (MODO of a list).
+enum class ModoLista : char {
+    Abrir = 'C',     // open it (or choose it, on a selection list)
+    Eliminar = 'E',  // delete it
+};
+
+// A side trip of a party's returns: the panel closes, and the trip's panel brings it back.
+enum class ViajeLista : char {
+    Declaracion = 'D',  // the declaration form
+    Impresion = 'I',    // the print panel
+};
+
+// How a list of returns is entered and, on a party's returns, the side trip under way (their
+// ENTRADA: the way in, with the trip's letter after it).
+class EntradaDeclaraciones {
+public:
+    EntradaDeclaraciones() = default;
+    // From a way in alone: a list entered afresh or coming back is on no trip.
+    EntradaDeclaraciones(EntradaLista entrada) : m_entrada(entrada) {}
+
+    EntradaLista entrada() const { return m_entrada; }
+    bool enViaje() const { return m_viaje.has_value(); }
+    // The panel leaves for a side trip; the trip's panel brings it back with a new way in.
+    void salirDeViaje(ViajeLista viaje) { m_viaje = viaje; }
+    // The way in and the trip as their letters: "A", "P", "", "AD", "PI", "I", ...
+    QString letras() const;
+
+    bool operator==(const EntradaDeclaraciones&) const = default;
+
+private:
+    EntradaLista m_entrada = EntradaLista::Ninguna;
+    std::optional<ViajeLista> m_viaje;
+};
+
+// The panel the print panel goes back to when it closes (ENTRADA of the printing).
+enum class OrigenImpresion : char {
+    Declaracion = 'D',                 // the declaration form, back from its side trip
+    ListaDeclaraciones = 'L',          // FrmDecLista
+    DeclaracionesContribuyente = 'C',  // FrmConDeclaraciones
+    DeclaracionesPresentador = 'P',    // FrmPreDeclaraciones
 };
 
 // The route of the declaration form.

@@ -53,7 +53,7 @@ void cListaDeclaraciones::CambiarBusqueda()
         TABLASELECCION.reset();
         CSDE = 0;
         NUMDECLASEL = 0;
-        ENTRADA.clear();
+        ENTRADA = Navegacion::EntradaLista::Ninguna;
         return;
     }
     TIPOORDEN = QStringLiteral("ASC");
@@ -69,7 +69,7 @@ void cListaDeclaraciones::Todos()
     ORDEN = 1;
     CSDE = 0;
     TIPOORDEN = QStringLiteral("DESC");
-    ENTRADA.clear();
+    ENTRADA = Navegacion::EntradaLista::Ninguna;
 }
 
 bool cListaDeclaraciones::OrdenarPor(int columna)
@@ -77,7 +77,7 @@ bool cListaDeclaraciones::OrdenarPor(int columna)
     if (columna < 0 || columna >= kColumnaDescripcion)
         return false;
     ORDEN = static_cast<uint8_t>(columna + 1);
-    ENTRADA.clear();
+    ENTRADA = Navegacion::EntradaLista::Ninguna;
     CSDE = 0;
     TIPOORDEN = TipoOrdenInicial(ORDEN);
     return true;

@@ -4,6 +4,7 @@
 // states (result "N", search "B") and the moves between them. Each list's record adds its own
 // fields and its call to the store.
 #include "valores/CriteriosDeclaracion.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/cCriterio.h"
 
 #include <QString>
@@ -17,7 +18,7 @@ public:
     QString TIPOORDEN = QStringLiteral("DESC");     // "ASC" or "DESC"
     int32_t CSDE = 0;            // the selected return, 0 none
     int32_t NUMDECLASEL = 0;     // rows found by the last search
-    QString ENTRADA;             // how the list is entered ("A" first, "P" coming back, ...)
+    Navegacion::EntradaDeclaraciones ENTRADA;  // how the list is entered, and a party's trip
     QString BUSQUEDA = QStringLiteral("N");  // "N" result state, "B" search state
     uint8_t ORDEN = 1;           // the column of the order, from 1
 

@@ -11,6 +11,7 @@
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/imprimir/FrmImprimir.h"
 #include "paneles/imprimir/ImpresoraSistema.h"
+#include "registros/declaracion/cDecDatos.h"
 #include "registros/imprimir/cImOf.h"
 
 #include <QApplication>
@@ -121,7 +122,7 @@ private slots:
     void elPanelImprimeEnLaCola()
     {
         ImOf().CSDE = m_codigo;
-        m_panel = new FrmImprimir;
+        m_panel = new FrmImprimir(DecDatos());
         m_panel->show();
         m_panel->findChild<QLineEdit*>(QStringLiteral("txtFechaPresentacion"))
             ->setText(QStringLiteral("11/03/2004"));

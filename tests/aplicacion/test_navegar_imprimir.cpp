@@ -49,7 +49,7 @@ class TestNavegarImprimir : public QObject, ControlesDePanel {
         Clic(b("cmdImprimir"));
         irA("FrmImprimir");
         QCOMPARE(ImOf().CSDE, m_csde);
-        QCOMPARE(ImOf().ENTRADA, letra);
+        QCOMPARE(Navegacion::Letras(ImOf().ENTRADA), letra);
         QCOMPARE(DecDatos().CSDE, m_csde);
         QVERIFY(!comandosActivos());
     }
@@ -95,7 +95,7 @@ private slots:
         Clic(b("cmdAceptar"));
         QCOMPARE(FinesDeDocumento(m_hojas), 4);
         irA("FrmDecLista");
-        QCOMPARE(DecLista().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(DecLista().ENTRADA.letras(), QStringLiteral("P"));
         QVERIFY(!comandosActivos());  // the list itself keeps them off
         // The return opened from the list, then printed from its form: Cancelar brings the
         // form back with LISTA "D" only, and the form's Cancelar the list.
@@ -167,7 +167,7 @@ private slots:
             Procesar();
         };
         ordenar(1);
-        QCOMPARE(ConDeclaraciones().ENTRADA, QString());
+        QCOMPARE(ConDeclaraciones().ENTRADA.letras(), QString());
         ClicEnCelda(c<cFlexGrid>("flxDeclaraciones"), 1, 1);
         alImprimir(QStringLiteral("C"));
         Clic(b("cmdCancelar"));
@@ -195,7 +195,7 @@ private slots:
                              "FrmPreDeclaraciones");
         Clic(b("cmdBuscar"));
         Clic(b("cmdBuscar"));
-        QCOMPARE(PreDeclaraciones().ENTRADA, QString());
+        QCOMPARE(PreDeclaraciones().ENTRADA.letras(), QString());
         ClicEnCelda(c<cFlexGrid>("flxDeclaraciones"), 1, 1);
         Clic(b("cmdCopiar"));
         irA("FrmDeclaracion");
@@ -210,10 +210,10 @@ private slots:
         declaracionesDeParte("mnuAbrirContribuyente", "FrmConLista", "flxContribuyentes",
                              "FrmConDeclaraciones");
         alImprimir(QStringLiteral("C"));
-        QCOMPARE(ConDeclaraciones().ENTRADA, QStringLiteral("AI"));
+        QCOMPARE(ConDeclaraciones().ENTRADA.letras(), QStringLiteral("AI"));
         Clic(b("cmdCancelar"));
         irA("FrmConDeclaraciones");
-        QCOMPARE(ConDeclaraciones().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(ConDeclaraciones().ENTRADA.letras(), QStringLiteral("P"));
         QCOMPARE(m_hojas.Llamadas.size(), 0);
     }
 
@@ -225,7 +225,7 @@ private slots:
         Clic(b("cmdAceptar"));
         QCOMPARE(FinesDeDocumento(m_hojas), 4);
         irA("FrmPreDeclaraciones");
-        QCOMPARE(PreDeclaraciones().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(PreDeclaraciones().ENTRADA.letras(), QStringLiteral("P"));
     }
 };
 

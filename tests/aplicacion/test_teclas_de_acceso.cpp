@@ -43,7 +43,7 @@ private slots:
     {
         m_prog = std::make_unique<ProgramaDePrueba>();
         NuevoContribuyente(Dni(11111111), QStringLiteral("PEREZ ANA"));
-        Navegacion::AbrirConLista(QStringLiteral("A"));
+        Navegacion::AbrirConLista(Navegacion::EntradaLista::Abrir);
         Procesar();
         QTRY_COMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConLista")});
         teclaDeAcceso(Qt::Key_D);

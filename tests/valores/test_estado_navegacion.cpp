@@ -1,5 +1,6 @@
-// The hand-over between panels as types: each value is its letter, and the form's list of
-// origin keeps its origin across one side trip and forgets it when nothing was under way.
+// The hand-over between panels as types: each value is its letter, the form's list of origin
+// keeps its origin across one side trip and forgets it when nothing was under way, and a
+// party's returns carry their side trip after their way in.
 #include "plataforma/Estado.h"
 #include "valores/EstadoNavegacion.h"
 
@@ -22,6 +23,41 @@ private slots:
         QCOMPARE(Letras(Modo::Copia), QStringLiteral("D"));
         QCOMPARE(Letras(OrigenParte::Lista), QStringLiteral("S"));
         QCOMPARE(Letras(OrigenParte::Menu), QString());
+    }
+
+    void lasListasYLaImpresionPorSusLetras()
+    {
+        QCOMPARE(Letras(EntradaLista::Abrir), QStringLiteral("A"));
+        QCOMPARE(Letras(EntradaLista::Eliminar), QStringLiteral("E"));
+        QCOMPARE(Letras(EntradaLista::Vuelta), QStringLiteral("P"));
+        QCOMPARE(Letras(EntradaLista::Ninguna), QString());
+        QCOMPARE(Letras(ModoLista::Abrir), QStringLiteral("C"));
+        QCOMPARE(Letras(ModoLista::Eliminar), QStringLiteral("E"));
+        QCOMPARE(Letras(OrigenImpresion::Declaracion), QStringLiteral("D"));
+        QCOMPARE(Letras(OrigenImpresion::ListaDeclaraciones), QStringLiteral("L"));
+        QCOMPARE(Letras(OrigenImpresion::DeclaracionesContribuyente), QStringLiteral("C"));
+        QCOMPARE(Letras(OrigenImpresion::DeclaracionesPresentador), QStringLiteral("P"));
+    }
+
+    void laEntradaDeLasDeclaracionesLlevaSuViaje()
+    {
+        EntradaDeclaraciones e(EntradaLista::Abrir);
+        QCOMPARE(e.letras(), QStringLiteral("A"));
+        QVERIFY(!e.enViaje());
+        e.salirDeViaje(ViajeLista::Declaracion);
+        QCOMPARE(e.letras(), QStringLiteral("AD"));
+        QVERIFY(e.enViaje());
+        QCOMPARE(e.entrada(), EntradaLista::Abrir);
+        // The panel that brings the list back enters it anew: no trip any more.
+        e = EntradaLista::Vuelta;
+        QCOMPARE(e.letras(), QStringLiteral("P"));
+        QVERIFY(!e.enViaje());
+        // After an order or a search the way in is empty, and a trip still shows.
+        e = EntradaLista::Ninguna;
+        QCOMPARE(e.letras(), QString());
+        e.salirDeViaje(ViajeLista::Impresion);
+        QCOMPARE(e.letras(), QStringLiteral("I"));
+        QVERIFY(e.enViaje());
     }
 
     void listaDeOrigenConSusViajes()

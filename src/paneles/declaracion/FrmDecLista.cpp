@@ -42,7 +42,7 @@ QList<FilaDeclaracion> FrmDecLista::CargarDatos()
 
 bool FrmDecLista::ModoEliminar() const
 {
-    return DecLista().MODO == QLatin1String("E");
+    return DecLista().MODO == Navegacion::ModoLista::Eliminar;
 }
 
 void FrmDecLista::Anadir_captions()

@@ -1,8 +1,8 @@
 #pragma once
 // The list of all returns: the doorway from the main menu to a stored return (open, copy,
 // print, or a new one) or, in the delete mode, to its deletion. Its state lives in DecLista(),
-// whose ENTRADA the navigator sets before opening it ("A" open, "E" delete, "P" back from the
-// declaration form), shows it in the main window and then calls Iniciar().
+// whose ENTRADA the navigator sets before opening it (Abrir, Eliminar, or Vuelta back from the
+// declaration form or the print), shows it in the main window and then calls Iniciar().
 #include "catalogo/IdsCatalogo.h"
 #include "paneles/declaracion/PanelDeclaraciones.h"
 

@@ -62,8 +62,8 @@ DisenoLista DisenoPresentadores()
 
 // ----- Contributor -----
 
-FrmConSeleccion::FrmConSeleccion(QWidget* parent)
-    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent)
+FrmConSeleccion::FrmConSeleccion(cDecDatos& declaracion, QWidget* parent)
+    : PanelLista(DisenoContribuyentes(), ConSeleccion(), parent), m_declaracion(declaracion)
 {
     ConSeleccion().IniciarSeleccion();
 }
@@ -76,7 +76,7 @@ void FrmConSeleccion::CargarFilas()
 void FrmConSeleccion::Elegido()
 {
     cConSeleccion& s = ConSeleccion();
-    cDecDatos& d = DecDatos();
+    cDecDatos& d = m_declaracion;
     if (s.ENTRADA == Navegacion::Entrada::Sujeto) {
         // A subject is official and national.
         if (!s.ValidarTipoDniDomicilio()) {
@@ -97,8 +97,8 @@ void FrmConSeleccion::Elegido()
 
 // ----- Presenter -----
 
-FrmPreSeleccion::FrmPreSeleccion(QWidget* parent)
-    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent)
+FrmPreSeleccion::FrmPreSeleccion(cDecDatos& declaracion, QWidget* parent)
+    : PanelLista(DisenoPresentadores(), PreSeleccion(), parent), m_declaracion(declaracion)
 {
     PreSeleccion().IniciarSeleccion();
 }
@@ -113,7 +113,7 @@ void FrmPreSeleccion::Elegido()
     // No check at all on a presenter; nothing reloads it, so the panel writes its name and
     // number itself.
     const cPreSeleccion& s = PreSeleccion();
-    cDecDatos& d = DecDatos();
+    cDecDatos& d = m_declaracion;
     if (d.CSPR != s.CSPR)
         d.MODIFICADO = true;
     d.CSPR = s.CSPR;

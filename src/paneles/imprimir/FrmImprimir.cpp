@@ -54,14 +54,15 @@ QRadioButton* opcion(QButtonGroup* grupo, int elemento)
 }
 }
 
-FrmImprimir* FrmImprimir::Abrir()
+FrmImprimir* FrmImprimir::Abrir(const cDecDatos& declaracion)
 {
-    auto* panel = new FrmImprimir;
+    auto* panel = new FrmImprimir(declaracion);
     AbrirPanel(panel);
     return panel;
 }
 
-FrmImprimir::FrmImprimir(QWidget* parent) : PanelNavegado(parent)
+FrmImprimir::FrmImprimir(const cDecDatos& declaracion, QWidget* parent)
+    : PanelNavegado(parent), m_declaracion(declaracion)
 {
     setObjectName(QStringLiteral("FrmImprimir"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -233,7 +234,7 @@ void FrmImprimir::ValoresIniciales()
 
 void FrmImprimir::CargarDatosPresentador()
 {
-    const int32_t cspr = DecDatos().CSPR;
+    const int32_t cspr = m_declaracion.CSPR;
     if (cspr == 0) {
         // PreDatos() stays as it is: the presenter block is never filled without one.
         ImOf().CONPRESENTADOR.clear();
@@ -248,7 +249,7 @@ void FrmImprimir::RefrescarOpciones()
 {
     Cargado = false;
     const cImOf& o = ImOf();
-    const bool hayPresentador = DecDatos().CSPR != 0;
+    const bool hayPresentador = m_declaracion.CSPR != 0;
     opcion(optPresentador, 0)->setEnabled(hayPresentador);
     opcion(optPresentador, 1)->setEnabled(hayPresentador);
     opcion(optPresentador, o.CONPRESENTADOR == QLatin1String("S") ? 0 : 1)->setChecked(true);

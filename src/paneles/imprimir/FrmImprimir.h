@@ -3,10 +3,13 @@
 // with or without the presenter, which copies, and the date of presentation. Aceptar prints
 // the copies in their fixed order, each a print document of its own, and closes; "Vista
 // previa" shows exactly those copies and "PDF" writes them to a file. The options live in
-// ImOf(); the data come from DecDatos(), Operacion() and PreDatos(). When it closes, the
-// navigator goes back as ImOf().ENTRADA says.
+// ImOf(); the navigator hands the panel the return to print, already loaded in DecDatos() with
+// its operation in Operacion(), and the panel loads its presenter into PreDatos(), from which
+// the drawing reads the sheet. When it closes, the navigator goes back to the panel
+// ImOf().ENTRADA names.
 #include "paneles/dialogos/PanelNavegado.h"
 
+class cDecDatos;
 class QButtonGroup;
 class QCheckBox;
 class QGroupBox;
@@ -18,9 +21,11 @@ class QRadioButton;
 class FrmImprimir : public PanelNavegado {
     Q_OBJECT
 public:
-    explicit FrmImprimir(QWidget* parent = nullptr);
-    // Opens the panel as a child of the main window, with ImOf().CSDE and ENTRADA already set.
-    static FrmImprimir* Abrir();
+    // `declaracion` is the return to print.
+    explicit FrmImprimir(const cDecDatos& declaracion, QWidget* parent = nullptr);
+    // Opens the panel on `declaracion` as a child of the main window, with ImOf().CSDE and
+    // ENTRADA already set.
+    static FrmImprimir* Abrir(const cDecDatos& declaracion);
 
     void Anadir_captions();
 
@@ -42,6 +47,7 @@ private:
     void OpcionesImpresora();
     bool conPresentador() const;
 
+    const cDecDatos& m_declaracion;
     bool Cargado = false;
 
     QGroupBox* frameTipoImpreso = nullptr;

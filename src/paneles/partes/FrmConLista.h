@@ -1,8 +1,9 @@
 #pragma once
 // The list of contributors: the doorway from the main menu to a contributor (open its data,
 // make a new one, see its declarations) or, in the delete mode, to its deletion. Its state
-// lives in ConLista(), whose ENTRADA the navigator sets before opening it ("A" open, "E" delete,
-// "P" back from a contributor's data). The panel asks for the next panel through its signals.
+// lives in ConLista(), whose ENTRADA the navigator sets before opening it (Abrir, Eliminar, or
+// Vuelta back from a contributor's data or returns). The panel asks for the next panel through
+// its signals.
 #include "paneles/partes/PanelLista.h"
 
 class FrmConLista final : public PanelLista {

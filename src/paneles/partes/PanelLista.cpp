@@ -488,7 +488,7 @@ bool PanelLista::AbandonaBusqueda(const QEvent* evento)
 void PanelLista::PresentaBotones()
 {
     const bool resultado = m_estado.BUSQUEDA == QLatin1String("N");
-    const bool abrir = m_estado.MODO == QLatin1String("C");
+    const bool abrir = m_estado.MODO == Navegacion::ModoLista::Abrir;
     const bool hayFilas = m_estado.Seleccionados() > 0;
     bool conDeclaraciones = false;
     for (const int32_t contador : m_estado.Contadores())
@@ -640,7 +640,7 @@ void PanelLista::Aceptar()
     const int fila = m_grid->RowSel();
     const QString nombre = m_grid->TextMatrix(fila, kColumnaNombre).trimmed();
     const QString dni = m_grid->TextMatrix(fila, kColumnaDni).trimmed();
-    if (m_estado.MODO == QLatin1String("C")) {
+    if (m_estado.MODO == Navegacion::ModoLista::Abrir) {
         Elegido();
         return;
     }

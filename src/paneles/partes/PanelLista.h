@@ -7,8 +7,8 @@
 // handed over to) is given by each panel; the behaviour lives here once.
 //
 // The state object of each list outlives the panel, so that a list that comes back after a
-// side trip (ENTRADA "P") finds its order, criteria and selection again. Each reload goes back
-// to the store; the panel keeps nothing of its own between openings.
+// side trip (entered as Vuelta) finds its order, criteria and selection again. Each reload goes
+// back to the store; the panel keeps nothing of its own between openings.
 #include "catalogo/IdsCatalogo.h"
 #include "paneles/dialogos/PanelNavegado.h"
 #include "registros/partes/cListaParte.h"

@@ -8,12 +8,15 @@
 
 void cDecLista::IniciarLista()
 {
-    if (ENTRADA == QLatin1String("A") || ENTRADA == QLatin1String("E")) {
-        MODO = ENTRADA == QLatin1String("A") ? QStringLiteral("C") : QStringLiteral("E");
+    using Navegacion::EntradaLista;
+    using Navegacion::ModoLista;
+    const EntradaLista entrada = ENTRADA.entrada();
+    if (entrada == EntradaLista::Abrir || entrada == EntradaLista::Eliminar) {
+        MODO = entrada == EntradaLista::Abrir ? ModoLista::Abrir : ModoLista::Eliminar;
         Reiniciar();
         return;
     }
-    MODO = QStringLiteral("C");
+    MODO = ModoLista::Abrir;
     BUSQUEDA = QStringLiteral("N");
 }
 

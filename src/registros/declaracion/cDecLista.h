@@ -9,10 +9,10 @@
 
 class cDecLista : public cListaDeclaraciones {
 public:
-    QString MODO = QStringLiteral("C");  // "C" choose and open, "E" choose and delete
+    Navegacion::ModoLista MODO = Navegacion::ModoLista::Abrir;  // choose and open, or delete
 
-    // The start by ENTRADA: "A" and "E" a fresh list (open or delete mode); anything else
-    // keeps order, conditions and selection, in open mode and in the result state.
+    // The start by ENTRADA: Abrir and Eliminar a fresh list (open or delete mode); any other
+    // way in keeps order, conditions and selection, in open mode and in the result state.
     void IniciarLista();
     // The returns of the conditions in ORDEN and TIPOORDEN; NUMDECLASEL takes their count.
     QList<FilaDeclaracion> CargarDeclaraciones();

@@ -13,7 +13,7 @@
 void cConDeclaraciones::IniciarLista()
 {
     BUSQUEDA = QStringLiteral("N");
-    if (ENTRADA != QLatin1String("A"))
+    if (ENTRADA.entrada() != Navegacion::EntradaLista::Abrir)
         return;
     Reiniciar();
     CSCO = ConLista().CSCO;
@@ -22,7 +22,7 @@ void cConDeclaraciones::IniciarLista()
 void cPreDeclaraciones::IniciarLista()
 {
     BUSQUEDA = QStringLiteral("N");
-    if (ENTRADA != QLatin1String("A"))
+    if (ENTRADA.entrada() != Navegacion::EntradaLista::Abrir)
         return;
     Reiniciar();
     CSPR = PreLista().CSPR;

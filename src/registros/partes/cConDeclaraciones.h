@@ -2,8 +2,8 @@
 // The state of the lists of one party's returns: a contributor's (ConDeclaraciones()) and a
 // presenter's (PreDeclaraciones()). Each outlives its panel, so that order, direction,
 // conditions and the selected return are found again after a trip to the declaration form or
-// to the print; ENTRADA carries the trip ("D" or "I" appended) and the form, on closing, sets
-// it back to "P".
+// to the print; ENTRADA carries the trip (ViajeLista) and the panel that brings the list back
+// sets it to Vuelta.
 #include "valores/FilaDeclaracion.h"
 #include "valores/cListaDeclaraciones.h"
 
@@ -13,7 +13,7 @@
 #include <cstdint>
 #include <optional>
 
-// ENTRADA: "A" first entry, "P" coming back; with "D" or "I" appended during a trip.
+// ENTRADA: Abrir first entry, Vuelta coming back; with its trip while the panel is away.
 class cConDeclaraciones : public cListaDeclaraciones {
 public:
     QString LBLCONTRI;           // the contributor's name, shown above the grid
@@ -21,8 +21,8 @@ public:
     QString MODELO;              // kept for the interface; nothing reads or writes it
     int32_t CSCO = 0;            // the contributor
 
-    // The start by ENTRADA: "A" a fresh list of the contributor selected in ConLista(); any
-    // other entry keeps order, conditions and selection, in the result state.
+    // The start by ENTRADA: Abrir a fresh list of the contributor selected in ConLista(); any
+    // other way in keeps order, conditions and selection, in the result state.
     void IniciarLista();
 
     // The contributor's returns as subject and as transmitter, asked of the store each time.

@@ -14,8 +14,8 @@ bool cConSeleccion::ValidarTipoDniDomicilio() const
 
 void cConSeleccion::IniciarSeleccion()
 {
-    cListaParte::ENTRADA.clear();
-    MODO = QStringLiteral("C");
+    cListaParte::ENTRADA = Navegacion::EntradaLista::Ninguna;
+    MODO = Navegacion::ModoLista::Abrir;
     BUSQUEDA = QStringLiteral("N");
     if (CRITERIO.isEmpty()) {
         TABLASELECCION.reset();
@@ -64,8 +64,8 @@ void cConSeleccion::OlvidarSeleccion(bool cuenta)
 
 void cPreSeleccion::IniciarSeleccion()
 {
-    ENTRADA.clear();
-    MODO = QStringLiteral("C");
+    ENTRADA = Navegacion::EntradaLista::Ninguna;
+    MODO = Navegacion::ModoLista::Abrir;
     BUSQUEDA = QStringLiteral("N");
     TABLASELECCION.reset();
     SELECCIONACTUAL = QStringLiteral("0");

@@ -2,8 +2,9 @@
 // The states of the lists from which, while a return is being edited, a contributor is chosen
 // as subject or transmitter (ConSeleccion()) and a presenter is chosen (PreSeleccion()). They
 // are party lists (criteria, search, order) that only choose. The navigator sets
-// ConSeleccion's ENTRADA and CRITERIO before the list opens; the contributor's criteria of one
-// visit survive to the next while CRITERIO is "S", the presenter's never do.
+// ConSeleccion's ENTRADA (the subject or the transmitter) and CRITERIO before the list opens;
+// the contributor's criteria of one visit survive to the next while CRITERIO is "S", the
+// presenter's never do.
 #include "registros/partes/cListaParte.h"
 #include "valores/EstadoNavegacion.h"
 #include "valores/FilaContribuyente.h"

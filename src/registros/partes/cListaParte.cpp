@@ -4,9 +4,11 @@
 
 void cListaParte::IniciarLista()
 {
-    if (ENTRADA == QLatin1String("A") || ENTRADA == QLatin1String("E")) {
+    using Navegacion::EntradaLista;
+    using Navegacion::ModoLista;
+    if (ENTRADA == EntradaLista::Abrir || ENTRADA == EntradaLista::Eliminar) {
         ORDEN = 1;
-        MODO = ENTRADA == QLatin1String("A") ? QStringLiteral("C") : QStringLiteral("E");
+        MODO = ENTRADA == EntradaLista::Abrir ? ModoLista::Abrir : ModoLista::Eliminar;
         BUSQUEDA = QStringLiteral("N");
         TABLASELECCION.reset();
         SELECCIONACTUAL = QStringLiteral("0");
@@ -15,7 +17,7 @@ void cListaParte::IniciarLista()
     }
     // Coming back keeps order, criteria and selection; the delete mode opens nothing, so a
     // list that comes back is always in open mode.
-    MODO = QStringLiteral("C");
+    MODO = ModoLista::Abrir;
     BUSQUEDA = QStringLiteral("N");
 }
 
@@ -45,7 +47,7 @@ void cListaParte::CambiarBusqueda()
         BUSQUEDA = QStringLiteral("B");
         TABLASELECCION.reset();
         SELECCIONACTUAL = QStringLiteral("0");
-        ENTRADA.clear();
+        ENTRADA = Navegacion::EntradaLista::Ninguna;
         OlvidarSeleccion(true);
     } else {
         BUSQUEDA = QStringLiteral("N");
@@ -60,7 +62,7 @@ void cListaParte::Todos()
     SELECCIONACTUAL = QStringLiteral("0");
     ORDEN = 1;
     OlvidarSeleccion(false);
-    ENTRADA.clear();
+    ENTRADA = Navegacion::EntradaLista::Ninguna;
 }
 
 bool cListaParte::OrdenarPor(int columna)
@@ -69,7 +71,7 @@ bool cListaParte::OrdenarPor(int columna)
         return false;
     OlvidarSeleccion(false);
     ORDEN = static_cast<uint8_t>(columna);
-    ENTRADA.clear();
+    ENTRADA = Navegacion::EntradaLista::Ninguna;
     return true;
 }
 

@@ -8,6 +8,7 @@
 // store asked for the rows) is each list's own: the panel reads it through the virtual calls
 // below, while the party's own names (CSCO, NUMSP, ... / CSPR, ...) stay the record's fields.
 #include "valores/CriteriosParte.h"
+#include "valores/EstadoNavegacion.h"
 #include "valores/cCriterio.h"
 
 #include <QList>
@@ -19,16 +20,16 @@ class cListaParte {
 public:
     std::optional<TablaCriterios> TABLASELECCION;  // the criteria in force; absent: none
     QString SELECCIONACTUAL = QStringLiteral("0");  // search state: column under edit, "0" none
-    QString ENTRADA;             // next opening: "A" open list, "E" delete list, "P" come back
+    Navegacion::EntradaLista ENTRADA = Navegacion::EntradaLista::Ninguna;  // the next opening
     QString BUSQUEDA = QStringLiteral("N");  // "N" result state, "B" search state
-    QString MODO = QStringLiteral("C");      // "C" open mode, "E" delete mode
+    Navegacion::ModoLista MODO = Navegacion::ModoLista::Abrir;
     uint8_t ORDEN = 1;           // column of the order: 1 name, 2 number
 
     virtual ~cListaParte() = default;
 
-    // The start of the list by ENTRADA: "A" and "E" a fresh list (open or delete mode) ordered
-    // by name, with no criteria and nothing selected; anything else ("P") keeps order,
-    // criteria and selection, and comes back in open mode and in the result state.
+    // The start of the list by ENTRADA: Abrir and Eliminar a fresh list (open or delete mode)
+    // ordered by name, with no criteria and nothing selected; any other way in (Vuelta) keeps
+    // order, criteria and selection, and comes back in open mode and in the result state.
     void IniciarLista();
     bool HayCriterios() const;
     // The criteria handed to the store: the name's and the number's starts typed.

@@ -80,7 +80,7 @@ private slots:
         QCOMPARE(ConDeclaraciones().NUMDECLASEL, 2);
         // A new return from here: LISTA "C", and the counters go up when it comes back.
         Clic(b("cmdNuevo"));
-        QCOMPARE(ConDeclaraciones().ENTRADA, QStringLiteral("AD"));
+        QCOMPARE(ConDeclaraciones().ENTRADA.letras(), QStringLiteral("AD"));
         m_panel = m_prog->panel(QStringLiteral("FrmDeclaracion"));
         QVERIFY(m_panel);
         QCOMPARE(Navegacion::RutaDec().lista.letras(), QStringLiteral("C"));

@@ -538,7 +538,7 @@ private slots:
         QVERIFY(!m_prog->panel(QStringLiteral("FrmDeclaracion")));
         QVERIFY(DecDatos().CSDE > csde);
         QCOMPARE(ImOf().CSDE, DecDatos().CSDE);
-        QCOMPARE(ImOf().ENTRADA, QStringLiteral("D"));
+        QCOMPARE(Navegacion::Letras(ImOf().ENTRADA), QStringLiteral("D"));
         QCOMPARE(Navegacion::Letras(Navegacion::RutaDec().modo), QStringLiteral("C"));
         QVERIFY(!DecDatos().MODIFICADO);
     }

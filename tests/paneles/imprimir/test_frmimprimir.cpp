@@ -74,7 +74,7 @@ private:
 
     FrmImprimir* abrir()
     {
-        m_panel = new FrmImprimir;
+        m_panel = new FrmImprimir(DecDatos());
         m_panel->show();
         return m_panel;
     }

@@ -362,27 +362,27 @@ private slots:
         l.NUMCONTRISEL = 3;
         l.TABLASELECCION = TablaCriterios{cCriterio{"1", "GAR"}};
         l.BUSQUEDA = "B";
-        l.ENTRADA = "P";
-        l.MODO = "E";
+        l.ENTRADA = Navegacion::EntradaLista::Vuelta;
+        l.MODO = Navegacion::ModoLista::Eliminar;
         l.IniciarLista();
         // Coming back keeps order, criteria and selection, in open mode.
         QCOMPARE(l.ORDEN, uint8_t(2));
         QCOMPARE(l.CSCO, 7);
         QVERIFY(l.HayCriterios());
-        QCOMPARE(l.MODO, QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(l.MODO), QStringLiteral("C"));
         QCOMPARE(l.BUSQUEDA, QStringLiteral("N"));
-        l.ENTRADA = "E";
+        l.ENTRADA = Navegacion::EntradaLista::Eliminar;
         l.IniciarLista();
-        QCOMPARE(l.MODO, QStringLiteral("E"));
+        QCOMPARE(Navegacion::Letras(l.MODO), QStringLiteral("E"));
         QCOMPARE(l.ORDEN, uint8_t(1));
         QCOMPARE(l.CSCO, 0);
         QCOMPARE(l.NUMSP, 0);
         QCOMPARE(l.NUMCONTRISEL, 0);
         QVERIFY(!l.TABLASELECCION.has_value());
         QCOMPARE(l.SELECCIONACTUAL, QStringLiteral("0"));
-        l.ENTRADA = "A";
+        l.ENTRADA = Navegacion::EntradaLista::Abrir;
         l.IniciarLista();
-        QCOMPARE(l.MODO, QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(l.MODO), QStringLiteral("C"));
     }
 
     void criteriosDniYLuegoNombre()
@@ -390,7 +390,7 @@ private slots:
         // Typing a prefix under DNI and then under the name: two criteria, the order of the
         // second.
         cConLista l;
-        l.ENTRADA = "A";
+        l.ENTRADA = Navegacion::EntradaLista::Abrir;
         l.IniciarLista();
         QCOMPARE(l.CriteriosBusqueda(), CriteriosParte{});
         l.CambiarBusqueda();
@@ -428,7 +428,7 @@ private slots:
     void buscarYTodos()
     {
         cConLista l;
-        l.ENTRADA = "P";
+        l.ENTRADA = Navegacion::EntradaLista::Vuelta;
         l.CSCO = 5;
         l.NUMSP = 1;
         l.NUMTR = 2;
@@ -439,7 +439,7 @@ private slots:
         QCOMPARE(l.NUMCONTRISEL, 0);
         QCOMPARE(l.NUMSP, 0);
         QCOMPARE(l.NUMTR, 0);
-        QCOMPARE(l.ENTRADA, QString());
+        QCOMPARE(Navegacion::Letras(l.ENTRADA), QString());
         QVERIFY(!l.HayCriterios());
         l.SELECCIONACTUAL = "2";
         l.AnotarBusqueda("1");
@@ -473,7 +473,7 @@ private slots:
         s.GuardarContribuyente(ContribuyenteNacional(Dni(201), QStringLiteral("ABAD")));
         s.GuardarContribuyente(ContribuyenteNacional(Dni(202), QStringLiteral("ABELLA")));
         cConLista l;
-        l.ENTRADA = "A";
+        l.ENTRADA = Navegacion::EntradaLista::Abrir;
         l.IniciarLista();
         QList<FilaContribuyente> d = l.CargarContribuyentes();
         QCOMPARE(d.size(), 3);
@@ -517,7 +517,7 @@ private slots:
         p.TELEFONOP = "945000001";
         QVERIFY(p.GuardarPresentador());
         cPreLista l;
-        l.ENTRADA = "A";
+        l.ENTRADA = Navegacion::EntradaLista::Abrir;
         l.IniciarLista();
         const QList<FilaPresentador> d = l.CargarPresentadores();
         QCOMPARE(d.size(), 1);
@@ -538,9 +538,9 @@ private slots:
         QVERIFY(l.OrdenarPor(1));
         l.Todos();
         QVERIFY(!l.HayCriterios());
-        l.ENTRADA = "E";
+        l.ENTRADA = Navegacion::EntradaLista::Eliminar;
         l.IniciarLista();
-        QCOMPARE(l.MODO, QStringLiteral("E"));
+        QCOMPARE(Navegacion::Letras(l.MODO), QStringLiteral("E"));
     }
 };
 

@@ -14,6 +14,7 @@
 #include "paneles/partes/FrmConDatos.h"
 #include "registros/partes/cConDatos.h"
 #include "registros/partes/cConLista.h"
+#include "valores/EstadoNavegacion.h"
 
 #include <QCheckBox>
 #include <QAction>
@@ -78,7 +79,7 @@ private slots:
     void init()
     {
         m_prog = std::make_unique<ProgramaDePrueba>();
-        ConLista().ENTRADA = QStringLiteral("A");
+        ConLista().ENTRADA = Navegacion::EntradaLista::Abrir;
         ConLista().CSCO = 0;
     }
     void cleanup()
@@ -797,7 +798,7 @@ private slots:
             ValorAlmacenado(QStringLiteral("SELECT CSCO FROM CONTRIBUYENTES WHERE DNIC = '12345678Z'")).toInt();
         QVERIFY(nuevo > 0);
         QCOMPARE(ConLista().CSCO, nuevo);
-        QCOMPARE(ConLista().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(ConLista().ENTRADA), QStringLiteral("P"));
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConLista")});
     }
 
@@ -808,7 +809,7 @@ private slots:
         abrirExistente(cs, QStringLiteral("S"));
         Clic(b("cmdCancelar"));
         QVERIFY(!m_panel);
-        QCOMPARE(ConLista().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(ConLista().ENTRADA), QStringLiteral("P"));
         QCOMPARE(ConLista().CSCO, cs);
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmConLista")});
     }
@@ -949,4 +950,3 @@ private slots:
 
 QTEST_MAIN(TestFrmConDatos)
 #include "test_frmcondatos.moc"
-#include "valores/EstadoNavegacion.h"

@@ -13,6 +13,7 @@
 #include "paneles/partes/FrmPreDatos.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
+#include "valores/EstadoNavegacion.h"
 
 #include <QAction>
 #include <QFrame>
@@ -66,7 +67,7 @@ private slots:
     void init()
     {
         m_prog = std::make_unique<ProgramaDePrueba>();
-        PreLista().ENTRADA = QStringLiteral("A");
+        PreLista().ENTRADA = Navegacion::EntradaLista::Abrir;
         PreLista().CSPR = 0;
     }
     void cleanup()
@@ -408,7 +409,7 @@ private slots:
         QVERIFY(nuevo > 0);
         QCOMPARE(almacenado("CODMUNP", nuevo), QStringLiteral("001"));
         QCOMPARE(PreLista().CSPR, nuevo);
-        QCOMPARE(PreLista().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(PreLista().ENTRADA), QStringLiteral("P"));
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmPreLista")});
     }
 
@@ -421,7 +422,7 @@ private slots:
         Clic(b("cmdCancelar"));
         QVERIFY(!m_panel);
         QVERIFY(MensajeSeam::registro().isEmpty());
-        QCOMPARE(PreLista().ENTRADA, QStringLiteral("P"));
+        QCOMPARE(Navegacion::Letras(PreLista().ENTRADA), QStringLiteral("P"));
         QCOMPARE(PreLista().CSPR, cspr);
         QCOMPARE(m_prog->paneles(), QStringList{QStringLiteral("FrmPreLista")});
     }
@@ -480,4 +481,3 @@ private slots:
 
 QTEST_MAIN(TestFrmPreDatos)
 #include "test_frmpredatos.moc"
-#include "valores/EstadoNavegacion.h"

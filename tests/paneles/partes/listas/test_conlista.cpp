@@ -67,7 +67,7 @@ class TestConLista : public QObject {
         m_gil = NuevoContribuyente("12000000E", kGil);
     }
 
-    static FrmConLista* Abrir(const QString& entrada)
+    static FrmConLista* Abrir(Navegacion::EntradaLista entrada)
     {
         Navegacion::AbrirConLista(entrada);
         return Panel();
@@ -101,7 +101,7 @@ private slots:
     void aperturaEnModoAbrir()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QVERIFY(p);
         QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Contribuyente"));
         QCOMPARE(qobject_cast<QMdiSubWindow*>(p->parentWidget())->pos(), QPoint(0, 0));
@@ -129,7 +129,7 @@ private slots:
         QCOMPARE(FilasResaltadas(g), QList<int>{1});
         QCOMPARE(ConLista().CSCO, m_abad);
         QCOMPARE(ConLista().NUMCONTRISEL, 5);
-        QCOMPARE(ConLista().MODO, QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(ConLista().MODO), QStringLiteral("C"));
 
         QCOMPARE(TextoResultado(p), QStringLiteral("5 contribuyente(s) seleccionado(s) "));
         QCOMPARE(Etiqueta(p, "lblayuda")->text(), Texto(kIdAyudaOrdenarNombreDni));
@@ -178,7 +178,7 @@ private slots:
         v->findChild<QAction*>("mnuAbrirContribuyente")->trigger();
         FrmConLista* p = Panel();
         QVERIFY(p);
-        QCOMPARE(ConLista().MODO, QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(ConLista().MODO), QStringLiteral("C"));
         QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Contribuyente"));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
         QVERIFY(!Panel());
@@ -186,7 +186,7 @@ private slots:
         v->findChild<QAction*>("mnuEliminarContribuyente")->trigger();
         p = Panel();
         QVERIFY(p);
-        QCOMPARE(ConLista().MODO, QStringLiteral("E"));
+        QCOMPARE(Navegacion::Letras(ConLista().MODO), QStringLiteral("E"));
         QCOMPARE(p->windowTitle(), QStringLiteral("Eliminar Contribuyente"));
     }
 
@@ -194,7 +194,7 @@ private slots:
     void enterPulsaElBotonConFoco()
     {
         Poblar();
-        FrmConLista* p = Abrir(QStringLiteral("A"));
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QVERIFY(p);
         QPushButton* cancelar = Boton(p, "cmdCancelar");
         cancelar->setFocus(Qt::TabFocusReason);
@@ -208,13 +208,13 @@ private slots:
     {
         for (int i = 1; i <= 15; ++i)
             NuevoContribuyente(Dni(i), Nombre(i));
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QCOMPARE(Grid(p)->Rows(), 16);
         QCOMPARE(TextoResultado(p), QStringLiteral("15 contribuyente(s) seleccionado(s) "));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
 
         NuevoContribuyente(Dni(16), Nombre(16));
-        p = Abrir("A");
+        p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QCOMPARE(g->Rows(), 31);
         QCOMPARE(g->TextMatrix(16, 1), Nombre(16));
@@ -236,7 +236,7 @@ private slots:
         NuevoContribuyente("10000002B", "BETA");
         const int32_t gamma = NuevoContribuyente("10000003C", "GAMMA");
         ConLista().CSCO = gamma;
-        FrmConLista* p = Abrir("P");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Vuelta);
         cFlexGrid* g = Grid(p);
         // The single page grows by two rows so that row 3 can stand at the top.
         QCOMPARE(g->Rows(), 18);
@@ -250,7 +250,7 @@ private slots:
     void ordenarConUnClicEnLaCabecera()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         ClicCelda(g, 4, 2);
         QCOMPARE(ConLista().CSCO, m_gomez);
@@ -290,7 +290,7 @@ private slots:
     void elTecladoMueveLaSeleccion()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         g->setFocus();
         QTest::keyClick(g, Qt::Key_Down);
@@ -311,7 +311,7 @@ private slots:
     void dobleClicAbreLosDatos()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         // A double click on a heading is not a double click on a row.
         QTest::mouseDClick(Grid(p)->horizontalHeader()->viewport(), Qt::LeftButton, {},
                            QPoint(Grid(p)->horizontalHeader()->sectionViewportPosition(4) + 5, 5));
@@ -325,7 +325,7 @@ private slots:
     void estadoDeBusqueda()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         QCOMPARE(ConLista().BUSQUEDA, QStringLiteral("B"));
@@ -371,7 +371,7 @@ private slots:
     void dosCriteriosYElOrdenDelSegundo()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 2, "1");
@@ -413,7 +413,7 @@ private slots:
     void elOrdenEsElDeLaUltimaColumnaTecleada()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "G");
         Teclear(p, 2, "");
@@ -432,7 +432,7 @@ private slots:
     void laCajaVuelveConSuPrefijo()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "GO");
         ClicCabecera(Grid(p), 3);  // leaves the box, and column 3 takes none
@@ -455,7 +455,7 @@ private slots:
     void criteriosSinResultado()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "X");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
@@ -473,7 +473,7 @@ private slots:
 
     void listaVaciaSinCriterios()
     {
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QCOMPARE(Grid(p)->Rows(), 2);
         QCOMPARE(TextoResultado(p), QStringLiteral("0 contribuyente(s) seleccionado(s) "));
         QVERIFY(!Boton(p, "cmdAceptar")->isEnabled());
@@ -487,7 +487,7 @@ private slots:
     void todosVuelveALaListaEntera()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 2, "3");
@@ -520,7 +520,7 @@ private slots:
         Poblar();
         NuevaDeclaracion(m_gomez, m_garcia);
         NuevaDeclaracion(m_gomez, 0);
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QCOMPARE(Fila(g, 3).mid(5), (QStringList{"0", "0"}));   // GIL
         QCOMPARE(Fila(g, 4).mid(5), (QStringList{"2", "0"}));   // GOMEZ
@@ -550,7 +550,7 @@ private slots:
     void losIconosSonSusBotones()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         // The grey icon of a disabled button does nothing.
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         QVERIFY(!Etiqueta(p, "PicDatos")->isEnabled());
@@ -570,7 +570,7 @@ private slots:
 
     void elIconoAtrasCierra()
     {
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Etiqueta(p, "PicAtras"), Qt::LeftButton);
         QVERIFY(!Panel());
         QVERIFY(MenusActivos());
@@ -579,8 +579,8 @@ private slots:
     void modoEliminar()
     {
         Poblar();
-        FrmConLista* p = Abrir("E");
-        QCOMPARE(ConLista().MODO, QStringLiteral("E"));
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
+        QCOMPARE(Navegacion::Letras(ConLista().MODO), QStringLiteral("E"));
         QCOMPARE(p->windowTitle(), QStringLiteral("Eliminar Contribuyente"));
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Eliminar"));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(),
@@ -607,7 +607,7 @@ private slots:
     void eliminarPreguntaYBorra()
     {
         Poblar();
-        FrmConLista* p = Abrir("E");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
         cFlexGrid* g = Grid(p);
         ClicCelda(g, 3, 1);   // GIL
         MensajeSeam::setNextAnswer(vb::No);
@@ -642,7 +642,7 @@ private slots:
     void eliminarElUltimoCierraElPanel()
     {
         const int32_t unico = NuevoContribuyente("20000000B", kAbad);
-        FrmConLista* p = Abrir("E");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
         QVERIFY(!MenusActivos());
         MensajeSeam::setNextAnswer(vb::Yes);
         QTest::mouseClick(Boton(p, "cmdAceptar"), Qt::LeftButton);
@@ -656,7 +656,7 @@ private slots:
     {
         Poblar();
         NuevaDeclaracion(m_zubiri, m_abad);
-        FrmConLista* p = Abrir("E");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
         cFlexGrid* g = Grid(p);
         QCOMPARE(ConLista().CSCO, m_abad);
         QCOMPARE(ConLista().NUMTR, 1);
@@ -683,7 +683,7 @@ private slots:
     void idaYVueltaConservaOrdenCriteriosYSeleccion()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
         Teclear(p, 1, "G");
         QTest::mouseClick(Boton(p, "cmdBuscar"), Qt::LeftButton);
@@ -722,7 +722,7 @@ private slots:
     void unNuevoContribuyenteVuelveElegido()
     {
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QTest::mouseClick(Boton(p, "cmdNuevo"), Qt::LeftButton);
         QWidget* datos = PanelAbierto("FrmConDatos");
         QVERIFY(datos);
@@ -758,7 +758,7 @@ private slots:
         m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QVERIFY(m_entorno->activa());
         Poblar();
-        FrmConLista* p = Abrir("A");
+        FrmConLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QCOMPARE(Fila(g, 0), (QStringList{"Codigo", "Deiturak eta izena", "NA", "Helbidea",
                                           "Udalerria", "S.P.", "Tr."}));
@@ -782,7 +782,7 @@ private slots:
                  + TextoFila(kIdSinDatosCondicion + 10000));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
 
-        p = Abrir("E");
+        p = Abrir(Navegacion::EntradaLista::Eliminar);
         QCOMPARE(p->windowTitle(), QStringLiteral("Deuseztatu zergaduna"));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), QStringLiteral("Deuseztatu hautatutako zergaduna"));
         MensajeSeam::setNextAnswer(vb::No);

@@ -48,7 +48,7 @@ class TestPreLista : public QObject {
         m_alonso = NuevoPresentador("20000000C", kAlonso);
     }
 
-    static FrmPreLista* Abrir(const QString& entrada)
+    static FrmPreLista* Abrir(Navegacion::EntradaLista entrada)
     {
         Navegacion::AbrirPreLista(entrada);
         return Panel();
@@ -80,7 +80,7 @@ private slots:
     void aperturaEnModoAbrir()
     {
         Poblar();
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QVERIFY(p);
         QVERIFY(!MenusActivos());
         QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Presentador"));
@@ -121,13 +121,13 @@ private slots:
         v->findChild<QAction*>("mnuEliminarPresentador")->trigger();
         FrmPreLista* p = Panel();
         QVERIFY(p);
-        QCOMPARE(PreLista().MODO, QStringLiteral("E"));
+        QCOMPARE(Navegacion::Letras(PreLista().MODO), QStringLiteral("E"));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
         emit v->findChild<QMenu*>("mnuPresentador")->aboutToShow();
         v->findChild<QAction*>("mnuAbrirPresentador")->trigger();
         p = Panel();
         QVERIFY(p);
-        QCOMPARE(PreLista().MODO, QStringLiteral("C"));
+        QCOMPARE(Navegacion::Letras(PreLista().MODO), QStringLiteral("C"));
         QCOMPARE(p->windowTitle(), QStringLiteral("Abrir Presentador"));
     }
 
@@ -136,7 +136,7 @@ private slots:
         for (int i = 1; i <= 16; ++i)
             NuevoPresentador(QStringLiteral("%1P").arg(60000000 + i),
                              QStringLiteral("PRESENTADOR %1").arg(i, 2, 10, QLatin1Char('0')));
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QCOMPARE(Grid(p)->Rows(), 31);
         ClicCelda(Grid(p), 25, 1);
         QCOMPARE(PreLista().CSPR, 0);
@@ -148,7 +148,7 @@ private slots:
         m_entorno = std::make_unique<ProgramaDePrueba>();
         Poblar();
         PreLista().CSPR = m_urkia;
-        p = Abrir("P");
+        p = Abrir(Navegacion::EntradaLista::Vuelta);
         QCOMPARE(Grid(p)->Rows(), 18);
         QCOMPARE(Grid(p)->TopRow(), 3);
         QCOMPARE(FilasResaltadas(Grid(p)), QList<int>{3});
@@ -157,7 +157,7 @@ private slots:
     void ordenYBusqueda()
     {
         Poblar();
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         ClicCabecera(g, 4);
         QCOMPARE(PreLista().ORDEN, uint8_t(1));
@@ -194,7 +194,7 @@ private slots:
     {
         Poblar();
         NuevaDeclaracion(0, 0, m_goiri);
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         cFlexGrid* g = Grid(p);
         QCOMPARE(g->TextMatrix(2, 5), QStringLiteral("1"));
         QVERIFY(!Boton(p, "CmdDeclaraciones")->isEnabled());
@@ -213,7 +213,7 @@ private slots:
     {
         Poblar();
         NuevaDeclaracion(0, 0, m_alonso);
-        FrmPreLista* p = Abrir("E");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
         QCOMPARE(p->windowTitle(), QStringLiteral("Eliminar Presentador"));
         QCOMPARE(Boton(p, "cmdAceptar")->text(), QStringLiteral("  &Eliminar"));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(),
@@ -252,7 +252,7 @@ private slots:
     void eliminarElUltimoCierraElPanel()
     {
         const int32_t unico = NuevoPresentador("10000000A", kUrkia);
-        FrmPreLista* p = Abrir("E");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Eliminar);
         MensajeSeam::setNextAnswer(vb::Yes);
         QTest::mouseClick(Etiqueta(p, "PicEliminar"), Qt::LeftButton);
         QCOMPARE(MensajeSeam::registro().size(), 1);
@@ -264,7 +264,7 @@ private slots:
     void idaYVueltaConElPresentador()
     {
         Poblar();
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         ClicCabecera(Grid(p), 2);
         ClicCelda(Grid(p), 3, 1);
         QCOMPARE(PreLista().CSPR, m_goiri);
@@ -295,7 +295,7 @@ private slots:
         m_entorno = std::make_unique<ProgramaDePrueba>(QStringLiteral("E"));
         QVERIFY(m_entorno->activa());
         Poblar();
-        FrmPreLista* p = Abrir("A");
+        FrmPreLista* p = Abrir(Navegacion::EntradaLista::Abrir);
         QCOMPARE(Fila(Grid(p), 0), (QStringList{"Codigo", "Deiturak eta izena", "NA", "Helbidea",
                                                 "Udalerria", "Aitor.Zk."}));
         QCOMPARE(p->windowTitle(), QStringLiteral("Ireki aurkezlea"));
@@ -309,7 +309,7 @@ private slots:
         QCOMPARE(TextoResultado(p), QStringLiteral("Izzenaren hasierako letra 'G' , NAren hasierako "
                                               "zifra '3' 1 hautatutako aurkezlea(k) "));
         QTest::mouseClick(Boton(p, "cmdCancelar"), Qt::LeftButton);
-        p = Abrir("E");
+        p = Abrir(Navegacion::EntradaLista::Eliminar);
         QCOMPARE(p->windowTitle(), QStringLiteral("Deuseztatu aurkezlea"));
         QCOMPARE(Boton(p, "cmdAceptar")->toolTip(), QStringLiteral("Deuseztatu hautatutako aurkezlea"));
         MensajeSeam::setNextAnswer(vb::No);
