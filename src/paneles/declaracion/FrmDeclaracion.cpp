@@ -20,11 +20,9 @@
 #include "plataforma/General.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
-#include "registros/declaracion/cOperacion.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QStackedLayout>
 #include <QTabBar>
