@@ -10,7 +10,9 @@
 #include "comun/ProgramaPrueba.h"
 #include "paneles/controles/CajaNum.h"
 #include "paneles/declaracion/BloqueImportes.h"
+#include "paneles/declaracion/BloquePresentador.h"
 #include "paneles/declaracion/BloqueSujeto.h"
+#include "paneles/declaracion/BloqueTransmitente.h"
 #include "paneles/declaracion/BloqueVehiculo.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/partes/BloqueDomicilio.h"
@@ -21,6 +23,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QVBoxLayout>
@@ -258,6 +261,60 @@ private slots:
         p.Salir();
         QCOMPARE(DecDatos().DOMICILIOSP, QStringLiteral("NUEVA"));
         QCOMPARE(p.pedidos, (QStringList{"modificado", "espejoSp", "redibujar"}));
+    }
+
+    // --- The transmitter ---------------------------------------------------------------------
+
+    void transmitenteDomicilioExtranjeroYSalidaPorSuBoton()
+    {
+        PanelDePrueba p;
+        BloqueTransmitente b(p.panel.get(), p.marco, DecDatos());
+        b.Domicilio()->CrearSelectores({p.marco});
+        b.Domicilio()->CargarListas();
+        p.Montar(b);
+        QCOMPARE(b.txtdnitr->text(), DecDatos().DNITR);
+        QCOMPARE(b.txtnombretr->text(), QStringLiteral("AUTOS VELDO SA"));
+        QVERIFY(!b.chktipodomitr->isChecked());
+        QVERIFY(cerrado(b.txtpaistr));  // a national address has no country
+
+        clicCasilla(b.chktipodomitr);
+        const cDecDatos& d = DecDatos();
+        QCOMPARE(d.TIPODOMITR, QStringLiteral("E"));
+        QVERIFY(d.CODPROVTR.isEmpty());
+        QCOMPARE(p.pedidos, (QStringList{"modificado", "cargarNombres", "redibujar"}));
+        b.Presentar();
+        QVERIFY(abierto(b.txtpaistr));
+
+        // The press on the transmitter's button is a way out: the form's checks stand aside.
+        p.pedidos.clear();
+        Clic(b.cmdTransmitente);
+        QVERIFY(p.saltando);
+        QCOMPARE(p.pedidos, QStringList{"elegir"});
+    }
+
+    // --- The presenter -----------------------------------------------------------------------
+
+    void presentadorQuitadoConSuCasilla()
+    {
+        cDecDatos& d = DecDatos();
+        d.CSPR = 7;
+        d.DNIPR = Dni(11223344);
+        d.NOMBREPR = QStringLiteral("GESTORIA ARBELIA");
+        PanelDePrueba p;
+        BloquePresentador b(p.panel.get(), p.marco, d);
+        p.Montar(b);
+        QVERIFY(b.chkConPresentador->isChecked());
+        QVERIFY(b.chkConPresentador->isEnabled());
+        QCOMPARE(b.txtnombrepr->text(), QStringLiteral("GESTORIA ARBELIA"));
+
+        clicCasilla(b.chkConPresentador);
+        QCOMPARE(d.CSPR, 0);
+        QVERIFY(d.DNIPR.isEmpty());
+        QVERIFY(d.NOMBREPR.isEmpty());
+        QCOMPARE(p.pedidos, (QStringList{"modificado", "redibujar"}));
+        b.Presentar();
+        QVERIFY(!b.chkConPresentador->isEnabled());
+        QVERIFY(b.txtnombrepr->text().isEmpty());
     }
 };
 
