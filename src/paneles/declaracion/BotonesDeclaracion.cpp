@@ -5,19 +5,18 @@
 #include "paneles/declaracion/FrmDeclaracion.h"
 
 #include "catalogo/Catalogo.h"
-#include "paneles/controles/CajaNum.h"
+#include "paneles/declaracion/BloqueImportes.h"
+#include "paneles/declaracion/BloqueVehiculo.h"
 #include "paneles/declaracion/ComprobacionesDeclaracion.h"
 #include "paneles/dialogos/AvisoVigencia.h"
 #include "paneles/dialogos/Mensaje.h"
 #include "paneles/dialogos/MostrarVeredicto.h"
 #include "paneles/dialogos/Ventanas.h"
-#include "paneles/partes/BloqueDomicilio.h"
 #include "plataforma/Proceso.h"
 #include "registros/declaracion/cDecDatos.h"
 #include "registros/declaracion/cDecLista.h"
 #include "registros/partes/cConDeclaraciones.h"
 
-#include <QComboBox>
 #include <QFrame>
 #include <QPushButton>
 #include <QTimer>
@@ -25,7 +24,7 @@
 bool FrmDeclaracion::ValidarCampos()
 {
     const Veredicto v =
-        ::ValidarCampos(txttipoimp->locked(), windowTitle(), cmbOperacion->currentText());
+        ::ValidarCampos(m_importes->TipoBloqueado(), windowTitle(), m_vehiculo->TextoOperacion());
     if (v.vacio())
         return true;
     if (v.pestana != kPestanaNinguna)
@@ -93,7 +92,7 @@ void FrmDeclaracion::AnotarEnLista(int32_t codigo)
 
 void FrmDeclaracion::Aceptar()
 {
-    if (m_domSp->SelectorAbierto() || m_domTr->SelectorAbierto())
+    if (SelectorAbierto())
         return;
     // An unchanged return is not sent to the store.
     if (DecDatos().MODIFICADO) {

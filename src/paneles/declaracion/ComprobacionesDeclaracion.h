@@ -18,8 +18,8 @@ ResultadoTipo ValidarTipoImpositivo(double valor, bool bloqueada, bool saltarVal
 // is told (title id 131, exclamation). True when the date is good.
 bool ValidarFecha(const QString& texto);
 
-// ValidarFecha; when good, FECHAD takes the date and `trasCambio` runs (the form's
-// ActualizarOperacionPorFecha and PresentarDeclaracion). False leaves the record as it was.
+// ValidarFecha; when good, FECHAD takes the date and `trasCambio` runs (the operations of the
+// new date loaded by BloqueVehiculo, the form drawn again). False leaves the record as it was.
 bool ComprobarFecha(const QString& texto, const std::function<void()>& trasCambio);
 
 // The whole-return check (VeredictoCampos): for a rule from 1 to 40 its message with the
