@@ -255,6 +255,42 @@ private slots:
         QCOMPARE(borrada.veredicto().vigencia, Vigencia::Borrada);
         QVERIFY(!contribuyentes().CargarContribuyente(csco));
     }
+
+    // The same for a return: saved again or deleted by another connection after this one
+    // loaded it.
+    void vigenciaDeUnaDeclaracion()
+    {
+        Declaracion d;
+        d.REFERENCIA = QStringLiteral("VIG-1");
+        d.FECHAD = 20240105;
+        d.BASEI = Importe(100000);
+        const Resultado<Declaracion> guardada = declaraciones().GuardarDeclaracion(d, ComprobarVersion::No);
+        QVERIFY(guardada);
+        const int32_t csde = guardada->CSDE;
+        Declaracion mia = *declaraciones().CargarDeclaracion(csde);
+
+        QVERIFY(EnOtraConexion([csde] {
+            Declaracion suya = *declaraciones().CargarDeclaracion(csde);
+            suya.REFERENCIA = QStringLiteral("SUYA");
+            if (!declaraciones().GuardarDeclaracion(suya))
+                throw cFallo(1, QStringLiteral("prueba"), QStringLiteral("no guardada"));
+        }));
+        mia.REFERENCIA = QStringLiteral("MIA");
+        const Resultado<Declaracion> cambiada = declaraciones().GuardarDeclaracion(mia);
+        QVERIFY(!cambiada);
+        QCOMPARE(cambiada.veredicto().vigencia, Vigencia::Cambiada);
+        QCOMPARE(declaraciones().CargarDeclaracion(csde)->REFERENCIA, QStringLiteral("SUYA"));
+
+        mia = *declaraciones().CargarDeclaracion(csde);
+        QVERIFY(EnOtraConexion([csde] {
+            if (!declaraciones().BorrarDeclaracion(csde))
+                throw cFallo(1, QStringLiteral("prueba"), QStringLiteral("no borrada"));
+        }));
+        const Resultado<Declaracion> borrada = declaraciones().GuardarDeclaracion(mia);
+        QVERIFY(!borrada);
+        QCOMPARE(borrada.veredicto().vigencia, Vigencia::Borrada);
+        QVERIFY(!declaraciones().CargarDeclaracion(csde));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestMotores)
