@@ -43,10 +43,15 @@ QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, boo
     const Motor& motor = motorDe(lectura);
     const QString nombre = nombreConexion(ruta, lectura);
     if (QSqlDatabase::contains(nombre)) {
-        QSqlDatabase db = QSqlDatabase::database(nombre, false);
-        if (db.isOpen() && motor.Existe(ruta))
-            return db;
-        db.close();
+        {
+            QSqlDatabase db = QSqlDatabase::database(nombre, false);
+            if (db.isOpen() && motor.Existe(ruta))
+                return db;
+            db.close();
+        }
+        // Made anew, with a driver of its own: the statements kept on the former one
+        // (SentenciaPreparada) are compiled again, as a server forgets them with the session.
+        QSqlDatabase::removeDatabase(nombre);
     }
     if (!crear && !motor.Existe(ruta))
         throw cFallo(3024, origen, QStringLiteral("No se encuentra el archivo '%1'.").arg(ruta));

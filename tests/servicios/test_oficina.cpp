@@ -169,6 +169,34 @@ private slots:
         }
     }
 
+    // The server drops the seat's connection in the middle of work (a restart, a network cut):
+    // that operation fails with a message that names the server, nothing half-written stays,
+    // and the next operation connects again and works.
+    void servidorPerdidoYRecuperado()
+    {
+        QCOMPARE(Oficina::CrearEsquema(m_base.CadenaDuenno()), Oficina::Creacion::Creada);
+        mdbmod = m_base.CadenaPuesto();
+        const int32_t antes = NuevoContribuyente(Dni(701), QStringLiteral("ANTES DEL CORTE"));
+        QVERIFY(antes > 0);
+        QVERIFY(ServidorPostgres::Compartido()->Ejecutar(
+            QString(), QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
+                                      "WHERE usename = '%1'").arg(m_base.puesto)));
+        try {
+            Almacen<cContribSvr>().GuardarContribuyente(
+                ContribuyenteNacional(Dni(702), QStringLiteral("DURANTE EL CORTE")));
+            QFAIL("guardado sin servidor");
+        } catch (const cFallo& f) {
+            QCOMPARE(f.numero(), 3151);
+            QVERIFY2(f.descripcion().contains(QStringLiteral("127.0.0.1:%1/%2").arg(m_base.puerto).arg(m_base.nombre)),
+                     qPrintable(f.descripcion()));
+        }
+        const Resultado<Contribuyente> despues = Almacen<cContribSvr>().GuardarContribuyente(
+            ContribuyenteNacional(Dni(703), QStringLiteral("DESPUES DEL CORTE")));
+        QVERIFY(despues);
+        QCOMPARE(ValorDelPuesto(QStringLiteral("SELECT COUNT(*) FROM CONTRIBUYENTES")), 2);
+        QVERIFY(Almacen<cContribSvr>().CargarContribuyente(antes));
+    }
+
     // The codes come from sequences: connections that save at the same moment never get the
     // same one, and nothing is lost.
     void codigosDistintosDesdeVariasConexiones()

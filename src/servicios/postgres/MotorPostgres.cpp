@@ -104,7 +104,14 @@ bool MotorPostgres::Existe(const QString&) const
 cFallo MotorPostgres::FalloDe(const QSqlDatabase& db, const QSqlError& error,
                               const QString& contexto, const QString& origen) const
 {
-    return FalloPostgres(db, error, contexto, origen);
+    cFallo fallo = FalloPostgres(db, error, contexto, origen);
+    // A server that went away leaves the connection useless: it is closed, so that the next
+    // operation opens it again (Conexion reopens a closed connection) once the server is back.
+    if (EsServidorPerdido(error)) {
+        QSqlDatabase cerrada = db;
+        cerrada.close();
+    }
+    return fallo;
 }
 
 QSqlDatabase MotorPostgres::Definir(const QString& nombre, const QString& ubicacion, Acceso) const
