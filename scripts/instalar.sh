@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
 # Installs what building, running and testing Veldoria needs on Debian (as root or with sudo),
 # and what builds and checks its Debian package (dpkg-dev, file, lintian, the menu validators).
+# PostgreSQL's server programs and Qt's driver for it: the tests of an office's database start
+# a server of their own with them.
 set -euo pipefail
 paquetes=(build-essential cmake qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite libsqlite3-dev libgl-dev
           fonts-liberation2 xvfb xauth poppler-utils openbox qt6-translations-l10n
-          dpkg-dev file lintian appstream desktop-file-utils)
+          dpkg-dev file lintian appstream desktop-file-utils
+          postgresql libqt6sql6-psql)
 # The print server and its admin tool that the printing test runs a queue of its own on; the
 # services they recommend (discovery, colour management) are not wanted.
 sin_recomendados=(cups-daemon cups-client)

@@ -9,19 +9,25 @@
 #include <QThread>
 
 namespace {
+// The engine of a store: the reference data are always the embedded engine's file beside
+// the program.
+const Motor& motorDe(bool lectura)
+{
+    return lectura ? MotorEmbebido() : MotorDeLosAlmacenes();
+}
+
 QString nombreConexion(const QString& ruta, bool lectura)
 {
     const auto hilo = reinterpret_cast<quintptr>(QThread::currentThreadId());
     return QStringLiteral("%1|%2|%3").arg(lectura ? QStringLiteral("lec") : QStringLiteral("mod"),
-                                          QFileInfo(ruta).absoluteFilePath())
+                                          motorDe(lectura).Clave(ruta))
         .arg(hilo);
 }
 
-[[noreturn]] void fallar(const QString& origen, const QSqlError& error, const QString& contexto)
+[[noreturn]] void fallar(const QSqlDatabase& db, const QString& origen, const QSqlError& error,
+                         const QString& contexto)
 {
-    const int numero = error.nativeErrorCode().toInt();
-    throw cFallo(numero ? numero : 3001, origen,
-                 contexto.isEmpty() ? error.text() : contexto + QStringLiteral(": ") + error.text());
+    throw MotorDe(db).FalloDe(db, error, contexto, origen);
 }
 
 // The stores' own connections, read/write (`mod`) or reference (`lec`).
@@ -34,20 +40,25 @@ bool esDeLosAlmacenes(const QString& nombre)
 
 QSqlDatabase abrir(const QString& ruta, bool lectura, const QString& origen, bool crear)
 {
+    const Motor& motor = motorDe(lectura);
     const QString nombre = nombreConexion(ruta, lectura);
     if (QSqlDatabase::contains(nombre)) {
-        QSqlDatabase db = QSqlDatabase::database(nombre, false);
-        if (db.isOpen() && QFileInfo::exists(ruta))
-            return db;
-        db.close();
+        {
+            QSqlDatabase db = QSqlDatabase::database(nombre, false);
+            if (db.isOpen() && motor.Existe(ruta))
+                return db;
+            db.close();
+        }
+        // Made anew, with a driver of its own: the statements kept on the former one
+        // (SentenciaPreparada) are compiled again, as a server forgets them with the session.
+        QSqlDatabase::removeDatabase(nombre);
     }
-    if (!crear && !QFileInfo::exists(ruta))
+    if (!crear && !motor.Existe(ruta))
         throw cFallo(3024, origen, QStringLiteral("No se encuentra el archivo '%1'.").arg(ruta));
-    const Motor& motor = MotorDeLosAlmacenes();
     const Acceso acceso = lectura ? Acceso::Lectura : Acceso::Escritura;
     QSqlDatabase db = motor.Definir(nombre, ruta, acceso);
     if (!db.open())
-        fallar(origen, db.lastError(), ruta);
+        fallar(db, origen, db.lastError(), ruta);
     // The program ends without unwinding; its journal is folded back into the file first.
     static const bool alTerminar = [] {
         Proceso::AlTerminarBien(&Conexion::CerrarTodas);
@@ -82,7 +93,7 @@ void CerrarTodas()
         // What the engine keeps aside goes into the store first, without waiting for other
         // running copies: the program's end is never held up by another copy.
         if (nombre.startsWith(QLatin1String("mod|")))
-            MotorDeLosAlmacenes().AntesDeCerrar(db);
+            MotorDe(db).AntesDeCerrar(db);
         // Closing finalizes the statements the stores still hold.
         db.close();
     }
@@ -90,7 +101,7 @@ void CerrarTodas()
 
 void Cerrar(const QString& ruta)
 {
-    const QString absoluta = QFileInfo(ruta).absoluteFilePath();
+    const QString absoluta = MotorDeLosAlmacenes().Clave(ruta);
     for (const QString& nombre : QSqlDatabase::connectionNames()) {
         if (nombre.section(QLatin1Char('|'), 1, 1) == absoluta) {
             QSqlDatabase::database(nombre, false).close();
@@ -105,12 +116,19 @@ QSqlQuery Ejecutar(const QSqlDatabase& db, const QString& sql, const QVariantLis
 {
     QSqlQuery q(db);
     q.setForwardOnly(true);
+    // A statement without values is sent as it is: a server prepares only statements that
+    // read or write rows, not those that make tables.
+    if (valores.isEmpty()) {
+        if (!q.exec(sql))
+            fallar(db, origen, q.lastError(), sql);
+        return q;
+    }
     if (!q.prepare(sql))
-        fallar(origen, q.lastError(), sql);
+        fallar(db, origen, q.lastError(), sql);
     for (const QVariant& v : valores)
         q.addBindValue(v);
     if (!q.exec())
-        fallar(origen, q.lastError(), sql);
+        fallar(db, origen, q.lastError(), sql);
     return q;
 }
 
@@ -125,9 +143,7 @@ Transaccion::Transaccion(QSqlDatabase db, QString origen)
     : m_db(std::move(db)), m_origen(std::move(origen))
 {
     // The write lock is taken at once, so two instances never deadlock half-way.
-    QSqlQuery q(m_db);
-    if (!q.exec(MotorDeLosAlmacenes().InicioEscritura()))
-        fallar(m_origen, q.lastError(), QStringLiteral("BEGIN"));
+    MotorDe(m_db).EmpezarEscritura(m_db, m_origen);
     m_abierta = true;
 }
 
@@ -143,6 +159,6 @@ void Transaccion::confirmar()
 {
     QSqlQuery q(m_db);
     if (!q.exec(QStringLiteral("COMMIT")))
-        fallar(m_origen, q.lastError(), QStringLiteral("COMMIT"));
+        fallar(m_db, m_origen, q.lastError(), QStringLiteral("COMMIT"));
     m_abierta = false;
 }

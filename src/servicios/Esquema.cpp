@@ -48,17 +48,18 @@ void paso1(const QSqlDatabase& db, const QString& origen)
         Ejecutar(db, QStringLiteral("DROP TABLE CONFIGURACION_V0"), {}, origen);
     }
     Ejecutar(db,
-             QStringLiteral("INSERT OR IGNORE INTO CONFIGURACION (ID, IDIOMA, ACTONLINE) "
-                            "VALUES (1, 'C', -1)"),
+             QStringLiteral("INSERT INTO CONFIGURACION (ID, IDIOMA, ACTONLINE) "
+                            "VALUES (1, 'C', -1) ON CONFLICT DO NOTHING"),
              {}, origen);
-    ejecutarTodas(db, EsquemaPartesV1(), origen);
-    ejecutarTodas(db, EsquemaDeclaracionesV1(), origen);
+    const Dialecto dialecto = MotorDe(db).DialectoEsquema();
+    ejecutarTodas(db, EsquemaPartesV1(dialecto), origen);
+    ejecutarTodas(db, EsquemaDeclaracionesV1(dialecto), origen);
 }
 
 // Layout 1 -> 2: the version of every row of the parties and of the returns.
 void paso2(const QSqlDatabase& db, const QString& origen)
 {
-    ejecutarTodas(db, EsquemaVersionesV2(), origen);
+    ejecutarTodas(db, EsquemaVersionesV2(MotorDe(db).DialectoEsquema()), origen);
 }
 
 bool esCabeceraSqlite(const QString& ruta)
@@ -77,22 +78,18 @@ bool esNoBaseDeDatos(const QSqlError& error)
     return codigo == 26 /*SQLITE_NOTADB*/ || codigo == 11 /*SQLITE_CORRUPT*/;
 }
 
-// Table -> its column names, both in capitals, of the open database (SQLite's own left out).
+// Table -> its column names, both in capitals, of the open database (the engine's own left
+// out).
 QMap<QString, QStringList> disposicionDe(const QSqlDatabase& db, const QString& origen)
 {
+    const Motor& motor = MotorDe(db);
     QMap<QString, QStringList> tablas;
-    QSqlQuery q = Ejecutar(db,
-                           QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' "
-                                          "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"),
-                           {}, origen);
-    while (q.next())
-        tablas.insert(q.value(0).toString().toUpper(), {});
-    for (auto it = tablas.begin(); it != tablas.end(); ++it) {
-        QSqlQuery c = Ejecutar(db, QStringLiteral("SELECT name FROM pragma_table_info(?)"),
-                               {it.key()}, origen);
-        while (c.next())
-            it.value() << c.value(0).toString().toUpper();
-        it.value().sort();
+    for (const QString& tabla : motor.Tablas(db, origen)) {
+        QStringList columnas;
+        for (const QString& c : motor.Columnas(db, tabla, origen))
+            columnas << c.toUpper();
+        columnas.sort();
+        tablas.insert(tabla.toUpper(), columnas);
     }
     return tablas;
 }
@@ -121,11 +118,6 @@ QMap<QString, QStringList> disposicionDeReferencia(int version, const QString& o
     }
     QSqlDatabase::removeDatabase(nombre);
     return tablas;
-}
-
-int enteroDe(const QSqlDatabase& db, const QString& pragma, const QString& origen)
-{
-    return Escalar(db, pragma, {}, origen, 0).toInt();
 }
 
 }  // namespace
@@ -161,30 +153,22 @@ int VersionActual()
 
 int VersionDe(const QSqlDatabase& db, const QString& origen)
 {
-    return MotorDeLosAlmacenes().VersionDe(db, origen);
+    return MotorDe(db).VersionDe(db, origen);
 }
 
 qint32 MarcaDe(const QSqlDatabase& db, const QString& origen)
 {
-    return MotorDeLosAlmacenes().MarcaDe(db, origen);
+    return MotorDe(db).MarcaDe(db, origen);
 }
 
 int ObjetosDe(const QSqlDatabase& db, const QString& origen)
 {
-    return enteroDe(db,
-                    QStringLiteral("SELECT COUNT(*) FROM sqlite_master "
-                                   "WHERE name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"),
-                    origen);
+    return MotorDe(db).Objetos(db, origen);
 }
 
 bool ExisteTabla(const QSqlDatabase& db, const QString& tabla, const QString& origen)
 {
-    return Escalar(db,
-                   QStringLiteral("SELECT COUNT(*) FROM sqlite_master "
-                                  "WHERE type = 'table' AND name = ? COLLATE NOCASE"),
-                   {tabla}, origen, 0)
-               .toInt()
-        > 0;
+    return MotorDe(db).Tablas(db, origen).contains(tabla, Qt::CaseInsensitive);
 }
 
 Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marca)
@@ -217,7 +201,7 @@ Reconocimiento Reconocer(const QString& ruta, const QString& origen, qint32 marc
             return {Clase::Vacia, 0};
         return {Clase::Ajena, 0};
     } catch (const cFallo& f) {
-        // 26 and 11 are SQLite's "not a database" and "damaged"; anything else is a failure.
+        // 26 and 11 are the embedded engine's "not a database" and "damaged"; anything else is a failure.
         if (f.numero() == 26 || f.numero() == 11)
             return {Clase::NoEsBaseDeDatos, 0};
         throw;
@@ -231,11 +215,13 @@ bool TieneDisposicion(const QSqlDatabase& db, int version, const QString& origen
 
 void Migrar(const QSqlDatabase& db, int desde, const QString& origen)
 {
+    const Motor& motor = MotorDe(db);
+    motor.AntesDeDisponer(db, origen);
     for (const Paso& paso : Pasos()) {
         if (paso.version > desde)
             paso.aplicar(db, origen);
     }
-    const Motor& motor = MotorDeLosAlmacenes();
+    motor.TrasDisponer(db, origen);
     motor.Sellar(db, MarcaAplicacion, VersionActual(), origen);
     if (const auto rota = motor.PrimeraReferenciaRota(db, origen))
         throw cFallo(3201, origen,

@@ -2,11 +2,12 @@
 // The layout of the read/write database (VELDOMOD.mdb) and the ordered steps that bring a file
 // to it.
 //
-// A database of this program carries two numbers in its SQLite header:
-//  - application_id: the program's mark, MarcaAplicacion. A file without it is not ours. The
-//    reference database keeps the same number in T10_GENERAL.T10_BACKUP_TVC, which is how the
-//    restore recognises a backup of this program.
-//  - user_version: the number of its layout.
+// A database of this program carries two numbers, kept where its engine keeps them (Motor::
+// Sellar; an embedded file keeps them in its header):
+//  - the program's mark, MarcaAplicacion. A file without it is not ours. The reference
+//    database keeps the same number in T10_GENERAL.T10_BACKUP_TVC, which is how the restore
+//    recognises a backup of this program.
+//  - the number of its layout.
 //
 // Layouts:
 //  0  the file of the first release: the mark, user_version 0, and one table
@@ -20,9 +21,11 @@
 // A later layout is one more entry at the end of Pasos(): its number and the routine that
 // turns the previous layout into it. Migrar runs, in order, every step above the file's
 // layout; the caller holds one write transaction around it, so a failing step leaves the file
-// as it was. Foreign keys are off during a migration (SQLite ignores the switch inside a
+// as it was. Foreign keys are off during a migration (an engine may ignore the switch inside a
 // transaction, so the caller turns them off before it begins) and checked as a whole before
 // the commit, which lets a step rebuild a table that others reference.
+#include "servicios/motor/Motor.h"
+
 #include <QList>
 #include <QSqlDatabase>
 #include <QString>
@@ -31,11 +34,12 @@
 
 // The statements of layout 1 that create the tables of the parties and of the declarations.
 // Each module defines its own (EsquemaPartes.cpp, EsquemaDeclaraciones.cpp); they run in this
-// order, after CONFIGURACION, on an empty database or one of layout 0.
-QStringList EsquemaPartesV1();
-QStringList EsquemaDeclaracionesV1();
+// order, after CONFIGURACION, on an empty database or one of layout 0, in the words of the
+// connection's engine.
+QStringList EsquemaPartesV1(const Dialecto& d);
+QStringList EsquemaDeclaracionesV1(const Dialecto& d);
 // The statements of layout 2 (EsquemaVersiones.cpp), run on a database of layout 1.
-QStringList EsquemaVersionesV2();
+QStringList EsquemaVersionesV2(const Dialecto& d);
 
 namespace Esquema {
 
@@ -75,7 +79,7 @@ Reconocimiento Reconocer(const QString& ruta, const QString& origen,
 // The header numbers of an open database.
 int VersionDe(const QSqlDatabase& db, const QString& origen);
 qint32 MarcaDe(const QSqlDatabase& db, const QString& origen);
-// How many tables, views, indexes and triggers the file holds (SQLite's own not counted).
+// How many tables, views, indexes and triggers the store holds (the engine's own not counted).
 int ObjetosDe(const QSqlDatabase& db, const QString& origen);
 bool ExisteTabla(const QSqlDatabase& db, const QString& tabla, const QString& origen);
 

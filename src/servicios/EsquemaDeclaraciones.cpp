@@ -9,13 +9,13 @@
 // sort and match without regard to the case of ASCII letters, as the lists search them.
 #include "servicios/Esquema.h"
 
-QStringList EsquemaDeclaracionesV1()
+QStringList EsquemaDeclaracionesV1(const Dialecto& d)
 {
     return {
         QStringLiteral(
             "CREATE TABLE DECLARACIONES ("
-            "CSDE INTEGER PRIMARY KEY AUTOINCREMENT, "
-            "REFERENCIA TEXT NOT NULL DEFAULT '' COLLATE NOCASE, "
+            "CSDE %1, "
+            "REFERENCIA TEXT NOT NULL DEFAULT '' %2, "
             "CSPR INTEGER REFERENCES PRESENTADORES (CSPR), "
             "CSSU INTEGER REFERENCES CONTRIBUYENTES (CSCO), "
             "CSTRA INTEGER REFERENCES CONTRIBUYENTES (CSCO), "
@@ -28,16 +28,16 @@ QStringList EsquemaDeclaracionesV1()
             "CLASIFICACION INTEGER NOT NULL DEFAULT 0, "
             "MOTOR TEXT NOT NULL DEFAULT 'G', "
             "CILINDRADA INTEGER NOT NULL DEFAULT 0, "
-            "OPERACION TEXT NOT NULL DEFAULT '' COLLATE NOCASE, "
+            "OPERACION TEXT NOT NULL DEFAULT '' %2, "
             "NOSUJETO TEXT NOT NULL DEFAULT '', "
             "EXENTO TEXT NOT NULL DEFAULT '', "
             "REDUCCION TEXT NOT NULL DEFAULT '', "
-            "BASEI REAL NOT NULL DEFAULT 0, "
-            "BASEIREDUCIDA REAL NOT NULL DEFAULT 0, "
-            "TIPOIMP REAL NOT NULL DEFAULT 0, "
-            "CUOTA REAL NOT NULL DEFAULT 0, "
-            "DEDUCCION REAL NOT NULL DEFAULT 0, "
-            "TOTAL REAL NOT NULL DEFAULT 0, "
+            "BASEI %3 NOT NULL DEFAULT 0, "
+            "BASEIREDUCIDA %3 NOT NULL DEFAULT 0, "
+            "TIPOIMP %3 NOT NULL DEFAULT 0, "
+            "CUOTA %3 NOT NULL DEFAULT 0, "
+            "DEDUCCION %3 NOT NULL DEFAULT 0, "
+            "TOTAL %3 NOT NULL DEFAULT 0, "
             "DNISP TEXT NOT NULL DEFAULT '', "
             "NOMBRESP TEXT NOT NULL DEFAULT '', "
             "VIASP TEXT NOT NULL DEFAULT '', "
@@ -69,7 +69,8 @@ QStringList EsquemaDeclaracionesV1()
             "CODPOSTR TEXT NOT NULL DEFAULT '', "
             "CODMUNTR TEXT NOT NULL DEFAULT '', "
             "NOMMUNTR TEXT NOT NULL DEFAULT '', "
-            "GRABACION INTEGER NOT NULL DEFAULT 0)"),
+            "GRABACION INTEGER NOT NULL DEFAULT 0)")
+            .arg(d.claveCreciente, d.sinMayusculas, d.real),
         // The list reads code, reference, date, total and operation of many rows at once:
         // each order has an index that holds all five (the code is every index's last
         // column), so that a long list is read from the index alone, in its order.

@@ -5,16 +5,16 @@
 #include "servicios/Esquema.h"
 #include "servicios/VersionFila.h"
 
-QStringList EsquemaVersionesV2()
+QStringList EsquemaVersionesV2(const Dialecto& d)
 {
     QStringList sentencias;
     for (const char* tabla : {"CONTRIBUYENTES", "PRESENTADORES", "DECLARACIONES"}) {
         const QString t = QLatin1String(tabla);
-        // SQLite adds a NOT NULL column only with a default; every save writes its own.
-        sentencias << QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 INTEGER NOT NULL DEFAULT 0")
-                          .arg(t, VersionFila::kColumna)
+        // A NOT NULL column is added only with a default; every save writes its own.
+        sentencias << QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3 NOT NULL DEFAULT 0")
+                          .arg(t, VersionFila::kColumna, d.entero64)
                    << QStringLiteral("UPDATE %1 SET %2 = %3")
-                          .arg(t, VersionFila::kColumna, VersionFila::SqlAleatoria());
+                          .arg(t, VersionFila::kColumna, d.aleatorio);
     }
     return sentencias;
 }

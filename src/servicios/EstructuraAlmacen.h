@@ -1,6 +1,7 @@
 #pragma once
-// The shape of a read/write database as SQLite describes it, to tell whether a file is made
-// of this program's objects and of nothing else.
+// The shape of a read/write database in the embedded engine's file (a backup, a file offered
+// for a restore), as that engine describes it (EstructuraSqlite), to tell whether a file is
+// made of this program's objects and of nothing else.
 //
 // The shape of a schema is a sorted list of lines: each table with each column (name, declared
 // type, NOT NULL, place in the key, hidden or generated), its indexes (name when explicit,

@@ -1,6 +1,7 @@
 #include "servicios/SentenciaPreparada.h"
 
 #include "plataforma/Fallo.h"
+#include "servicios/MotorAlmacenes.h"
 
 #include <QHash>
 #include <QSqlDriver>
@@ -23,17 +24,18 @@ Cache& cache()
     return c;
 }
 
-[[noreturn]] void fallar(const QString& origen, const QSqlError& error, const QString& sql)
+// The engine's fault: a server's names the server and leaves the driver's text to the log.
+[[noreturn]] void fallar(const QSqlDatabase& db, const QString& origen, const QSqlError& error,
+                         const QString& sql)
 {
-    const int numero = error.nativeErrorCode().toInt();
-    throw cFallo(numero ? numero : 3001, origen, sql + QStringLiteral(": ") + error.text());
+    throw MotorDe(db).FalloDe(db, error, sql, origen);
 }
 
 }  // namespace
 
 SentenciaPreparada::SentenciaPreparada(const QSqlDatabase& db, const QString& sql,
                                        const QString& origen)
-    : m_origen(origen)
+    : m_db(db), m_origen(origen)
 {
     std::shared_ptr<SentenciaGuardada>& g = cache()[db.connectionName()][sql];
     // A statement compiled on a connection that has since been closed has lost its driver
@@ -45,7 +47,7 @@ SentenciaPreparada::SentenciaPreparada(const QSqlDatabase& db, const QString& sq
         m_propia = QSqlQuery(db);
         m_propia.setForwardOnly(true);
         if (!m_propia.prepare(sql))
-            fallar(origen, m_propia.lastError(), sql);
+            fallar(db, origen, m_propia.lastError(), sql);
         m_q = &m_propia;
         return;
     }
@@ -56,7 +58,7 @@ SentenciaPreparada::SentenciaPreparada(const QSqlDatabase& db, const QString& sq
         if (!g->consulta.prepare(sql)) {
             const QSqlError error = g->consulta.lastError();
             g.reset();
-            fallar(origen, error, sql);
+            fallar(db, origen, error, sql);
         }
     }
     g->enUso = true;
@@ -77,7 +79,7 @@ QSqlQuery& SentenciaPreparada::ejecutar(const QVariantList& valores)
     for (qsizetype i = 0; i < valores.size(); ++i)
         m_q->bindValue(int(i), valores[i]);
     if (!m_q->exec())
-        fallar(m_origen, m_q->lastError(), m_q->lastQuery());
+        fallar(m_db, m_origen, m_q->lastError(), m_q->lastQuery());
     return *m_q;
 }
 

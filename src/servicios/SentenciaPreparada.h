@@ -33,6 +33,7 @@ private:
     std::shared_ptr<SentenciaGuardada> m_guardada;  // the kept statement, when this use has it
     QSqlQuery m_propia;  // when the kept one is already in use further up
     QSqlQuery* m_q = nullptr;
+    QSqlDatabase m_db;
     QString m_origen;
 };
 

@@ -17,13 +17,6 @@ int64_t Nueva()
     }
 }
 
-QString SqlAleatoria()
-{
-    // random() spans the whole 64 bits: its sign bit is dropped, and the value moved into
-    // 1 .. 2^63 - 1 (abs() would fail on the lowest number, and 0 must not come out).
-    return QStringLiteral("((random() & 9223372036854775807) % 9223372036854775807 + 1)");
-}
-
 QString SqlActualizarVigente(const QString& tabla, const QStringList& columnas,
                              const QString& columnaCodigo)
 {

@@ -24,10 +24,6 @@ inline const QString kColumna = QStringLiteral("VERSION");
 // A fresh version for a save: random, 63 bits, never 0 (0 stands for "none loaded").
 int64_t Nueva();
 
-// An SQL expression that gives each row a fresh version of its own (the migration of a store
-// made before versions).
-QString SqlAleatoria();
-
 // "UPDATE tabla SET a = ?, b = ?, ..., VERSION = ? WHERE codigo = ? AND VERSION = ?": the
 // values of `columnas`, the new version, the code and the version loaded, in that order.
 QString SqlActualizarVigente(const QString& tabla, const QStringList& columnas,

@@ -343,12 +343,14 @@ Resultado<Declaracion> cDeclaSvr::GuardarDeclaracion(const Declaracion& declarac
         QStringList marcas;
         for (qsizetype i = 0; i < valores.size(); ++i)
             marcas << QStringLiteral("?");
+        // The code the store gave comes back with the insert, on any engine.
         QSqlQuery q = Ejecutar(db,
-                               QStringLiteral("INSERT INTO DECLARACIONES (%1, %2) VALUES (%3)")
+                               QStringLiteral("INSERT INTO DECLARACIONES (%1, %2) VALUES (%3) "
+                                              "RETURNING CSDE")
                                    .arg(columnas.join(QStringLiteral(", ")), VersionFila::kColumna,
                                         marcas.join(QStringLiteral(", "))),
                                valores, o);
-        resultado = q.lastInsertId().toInt();
+        resultado = q.next() ? q.value(0).toInt() : 0;
     }
     transaccion.confirmar();
     Declaracion guardada = declaracion;

@@ -6,6 +6,7 @@
 #include "servicios/Esquema.h"
 #include "servicios/EstructuraAlmacen.h"
 #include "servicios/MotorAlmacenes.h"
+#include "servicios/sqlite/ArchivoSqlite.h"
 #include "servicios/sqlite/ConexionPropia.h"
 
 #include <QDateTime>
@@ -94,7 +95,7 @@ private:
 // The target must not exist.
 void copiar(const QSqlDatabase& db, const QString& destino)
 {
-    MotorDeLosAlmacenes().CopiarEnArchivo(db, destino, kOrigen);
+    MotorDe(db).CopiarEnArchivo(db, destino, kOrigen);
 }
 
 bool esIdentificador(const QString& nombre)
@@ -103,7 +104,6 @@ bool esIdentificador(const QString& nombre)
     return patron.match(nombre).hasMatch();
 }
 
-using EstructuraAlmacen::Citado;
 using Examen = cSaveAsRestore::Examen;
 
 // The file by itself, read-only: its mark and layout number, then its shape (the program's
@@ -122,8 +122,7 @@ Examen examinar(const QString& ruta, qint32 marca)
         if (EstructuraAlmacen::De(lectura.db(), QStringLiteral("main"), kOrigen)
             != EstructuraAlmacen::DeReferencia(r.version, kOrigen))
             return Examen::Ajena;
-        QSqlQuery q = Ejecutar(lectura.db(), QStringLiteral("PRAGMA integrity_check"), {}, kOrigen);
-        if (!q.next() || q.value(0).toString() != QLatin1String("ok") || q.next())
+        if (!ArchivoSqlite::Entero(lectura.db(), QStringLiteral("main"), kOrigen))
             return Examen::Ajena;
         return Examen::Valida;
     } catch (const cFallo&) {
@@ -150,61 +149,6 @@ QString guardarCopiaPrevia(const QString& viva, const QString& carpeta)
     copiar(lectura.db(), temporal.ruta());
     temporal.colocar(nombre);
     return nombre;
-}
-
-QStringList nombres(const QSqlDatabase& db, const QString& sql)
-{
-    QStringList lista;
-    QSqlQuery q = Ejecutar(db, sql, {}, kOrigen);
-    while (q.next())
-        lista << q.value(0).toString();
-    return lista;
-}
-
-// Inside the caller's transaction: the live file's objects go, the clean copy's tables are
-// made again from its statements (the program's own: CopiaSaneada wrote them), the rows are
-// carried over, then the indexes and the header numbers follow.
-void sustituirContenido(const QSqlDatabase& db)
-{
-    const QString propias = QStringLiteral(" AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
-    for (const QString& v : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
-                                                       "WHERE type = 'view'") + propias))
-        Ejecutar(db, QStringLiteral("DROP VIEW main.") + Citado(v), {}, kOrigen);
-    for (const QString& t : nombres(db, QStringLiteral("SELECT name FROM main.sqlite_master "
-                                                       "WHERE type = 'table'") + propias))
-        Ejecutar(db, QStringLiteral("DROP TABLE main.") + Citado(t), {}, kOrigen);
-
-    const QStringList tablas = EstructuraAlmacen::Tablas(db, QStringLiteral("copia"), kOrigen);
-    for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
-                                                         "WHERE type = 'table'") + propias
-                                              + QStringLiteral(" ORDER BY rowid")))
-        Ejecutar(db, sql, {}, kOrigen);
-    for (const QString& t : tablas)
-        Ejecutar(db, QStringLiteral("INSERT INTO main.%1 SELECT * FROM copia.%1").arg(Citado(t)),
-                 {}, kOrigen);
-    // The live file keeps its table of counters even when the copy (of the first layout, which
-    // has no AUTOINCREMENT key) has none: its rows go, the copy's come in when it has some.
-    const auto tieneContadores = [&db](const char* esquema) {
-        return Escalar(db, QStringLiteral("SELECT COUNT(*) FROM %1.sqlite_master "
-                                          "WHERE name = 'sqlite_sequence'").arg(QLatin1String(esquema)),
-                       {}, kOrigen).toInt() > 0;
-    };
-    if (tieneContadores("main")) {
-        Ejecutar(db, QStringLiteral("DELETE FROM main.sqlite_sequence"), {}, kOrigen);
-        if (tieneContadores("copia"))
-            Ejecutar(db, QStringLiteral("INSERT INTO main.sqlite_sequence SELECT * FROM copia.sqlite_sequence"),
-                     {}, kOrigen);
-    }
-    for (const QString& sql : nombres(db, QStringLiteral("SELECT sql FROM copia.sqlite_master "
-                                                         "WHERE type = 'index' "
-                                                         "AND sql IS NOT NULL") + propias
-                                              + QStringLiteral(" ORDER BY rowid")))
-        Ejecutar(db, sql, {}, kOrigen);
-    // PRAGMA takes no bound parameters; both values are integers the clean copy carries.
-    const int version = Escalar(db, QStringLiteral("PRAGMA copia.user_version"), {}, kOrigen).toInt();
-    Ejecutar(db, QStringLiteral("PRAGMA main.user_version = %1").arg(version), {}, kOrigen);
-    Ejecutar(db, QStringLiteral("PRAGMA main.application_id = %1").arg(Esquema::MarcaAplicacion),
-             {}, kOrigen);
 }
 
 // A backup of an older layout is brought to the current one in its checked copy, before that
@@ -234,25 +178,20 @@ QString restaurarEnVivo(const QString& viva, const QString& copia, const QString
     ConexionPropia conexion(viva, ConexionPropia::Modo::Escritura);
     conexion.ExigirAbierta(kOrigen);
     const QSqlDatabase db = conexion.db();
-    // The switch is ignored inside a transaction, so it goes off before; the clean copy's
-    // references have been checked.
-    MotorDeLosAlmacenes().ExigirReferencias(db, false, kOrigen);
-    Ejecutar(db, QStringLiteral("ATTACH DATABASE ? AS copia"), {copia}, kOrigen);
     QString previa;
     try {
-        Transaccion transaccion(db, kOrigen);
-        if (conPrevia)
-            previa = guardarCopiaPrevia(viva, carpetaCopias);
-        sustituirContenido(db);
-        transaccion.confirmar();
+        MotorDe(db).SustituirContenido(
+            db, copia,
+            [&] {
+                if (conPrevia)
+                    previa = guardarCopiaPrevia(viva, carpetaCopias);
+            },
+            kOrigen);
     } catch (const cFallo&) {
         if (!previa.isEmpty())
             QFile::remove(previa);
-        QSqlQuery q(db);
-        q.exec(QStringLiteral("DETACH DATABASE copia"));
         throw;
     }
-    Ejecutar(db, QStringLiteral("DETACH DATABASE copia"), {}, kOrigen);
     return previa;
 }
 }  // namespace

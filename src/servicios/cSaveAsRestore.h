@@ -8,7 +8,7 @@
 // A failure leaves the database and the former backup as they were.
 //
 // Examinar judges a file offered for a restore by itself, read-only: a database of this
-// program, of a layout it can migrate, whole (PRAGMA integrity_check), made of exactly the
+// program, of a layout it can migrate, whole (every page and index checked), made of exactly the
 // objects of the layout its header claims (EstructuraAlmacen: no trigger, view, extra table or
 // index, the same keys and column types).
 //
@@ -16,7 +16,7 @@
 // of a file. Nothing the file defines is run or kept: its rows are carried into the program's
 // own tables in a clean copy beside the live database, and checked there against the
 // program's own constraints and references (CopiaSaneada). Then, under one write lock of the
-// live file (one SQLite transaction), the live database is kept as a dated safety copy in
+// live file (one transaction: Motor::SustituirContenido), the live database is kept as a dated safety copy in
 // RutaOrigen (the folder of the backups) and its content is replaced by the clean copy's. A
 // second running copy of the program that saves meanwhile waits for the lock, so each of its
 // saves is either in the safety copy or in the restored data. The live file itself is never
@@ -29,7 +29,7 @@
 // gone (a copy of the program killed half-way).
 //
 // BDLectura, BDTabla and BDCampo point at the mark of this program's databases in the
-// reference database (the SQLite application_id a restored file must carry).
+// reference database (the program's mark a restored file must carry).
 #include <QString>
 #include <QtGlobal>
 

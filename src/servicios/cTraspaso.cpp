@@ -18,12 +18,12 @@ class SinClavesAjenas {
 public:
     explicit SinClavesAjenas(QSqlDatabase db) : m_db(std::move(db))
     {
-        MotorDeLosAlmacenes().ExigirReferencias(m_db, false, kOrigen);
+        MotorDe(m_db).ExigirReferencias(m_db, false, kOrigen);
     }
     ~SinClavesAjenas()
     {
         try {
-            MotorDeLosAlmacenes().ExigirReferencias(m_db, true, kOrigen);
+            MotorDe(m_db).ExigirReferencias(m_db, true, kOrigen);
         } catch (const cFallo&) {
             // A connection that fails here fails at its next use, with its own message.
         }

@@ -49,7 +49,8 @@ bool esDeMotor(const QString& cabecera)
     while (c.startsWith(QLatin1String("../")))
         c = c.mid(3);
     return c.startsWith(QLatin1String("servicios/motor/"))
-        || c.startsWith(QLatin1String("servicios/sqlite/")) || esDeSqlite(c);
+        || c.startsWith(QLatin1String("servicios/sqlite/"))
+        || c.startsWith(QLatin1String("servicios/postgres/")) || esDeSqlite(c);
 }
 
 // A name of SQLite's C interface on a line: a function or type (sqlite3_...) or the
@@ -57,6 +58,17 @@ bool esDeMotor(const QString& cabecera)
 QString nombreSqlite(const QString& linea)
 {
     static const QRegularExpression patron(QStringLiteral(R"(\bsqlite3(_\w+|\s*\*))"));
+    const QRegularExpressionMatch m = patron.match(linea);
+    return m.hasMatch() ? m.captured(0) : QString();
+}
+
+// A word of SQLite's own dialect on a line: its catalogue and counters, its pragmas, its keys
+// that never give a code twice, its files beside a connection's own, its caseless collation.
+// Written in capitals as SQL is written here, so that prose ("attached") does not count.
+QString palabraSqlite(const QString& linea)
+{
+    static const QRegularExpression patron(QStringLiteral(
+        R"(\b(sqlite_master|sqlite_sequence|PRAGMA|AUTOINCREMENT|ATTACH|DETACH|NOCASE)\b)"));
     const QRegularExpressionMatch m = patron.match(linea);
     return m.hasMatch() ? m.captured(0) : QString();
 }
@@ -97,10 +109,14 @@ QList<Falta> ComprobarMotor(const QString& src, const QString& tests, Recuento* 
         if (esDeSqlite(cabecera))
             return QStringLiteral("a store outside %1 includes <%2>").arg(kCarpetaSqlite, cabecera);
         const QString nombre = nombreSqlite(linea);
-        return nombre.isEmpty()
+        if (!nombre.isEmpty())
+            return QStringLiteral("a store outside %1 names %2 of SQLite's C interface")
+                .arg(kCarpetaSqlite, nombre);
+        const QString palabra = palabraSqlite(linea);
+        return palabra.isEmpty()
             ? QString()
-            : QStringLiteral("a store outside %1 names %2 of SQLite's C interface")
-                  .arg(kCarpetaSqlite, nombre);
+            : QStringLiteral("a store outside %1 writes %2 of SQLite's own dialect")
+                  .arg(kCarpetaSqlite, palabra);
     };
 
     for (const QString& fichero : ficherosDe(src)) {

@@ -316,6 +316,33 @@ private slots:
                                 "includes <sqlite3.h>"));
     }
 
+    void dialectoSqliteFueraDeSuCarpetaFalla()
+    {
+        Carpeta src;
+        Carpeta pruebas;
+        src.escribir("servicios/Esquema.cpp",
+                     "const char* t = \"SELECT name FROM sqlite_master\";\n");
+        src.escribir("servicios/CopiaSaneada.cpp",
+                     "// the file is attached read-only\nq.exec(\"ATTACH DATABASE ? AS copia\");\n");
+        src.escribir("servicios/EsquemaPartes.cpp", "\"CSCO INTEGER PRIMARY KEY AUTOINCREMENT\"\n");
+        src.escribir("servicios/cTraspaso.h", "// PRAGMA foreign_keys goes off first\n");
+        // The engine's own folder may, and prose that merely attaches or detaches does not count.
+        src.escribir("servicios/sqlite/MotorSqlite.cpp", "\"PRAGMA user_version\" NOCASE ATTACH\n");
+        src.escribir("servicios/cSaveAsRestore.cpp", "// nothing attached stays; a pragma of old\n");
+        const QList<Falta> faltas = ComprobarMotor(src.ruta(), pruebas.ruta());
+        QCOMPARE(faltas.size(), 4);
+        QCOMPARE(faltas[0].texto(),
+                 QStringLiteral("servicios/CopiaSaneada.cpp:2: a store outside servicios/sqlite "
+                                "writes ATTACH of SQLite's own dialect"));
+        QCOMPARE(faltas[1].fichero, QStringLiteral("servicios/Esquema.cpp"));
+        QVERIFY(faltas[1].motivo.contains(QLatin1String("sqlite_master")));
+        QCOMPARE(faltas[2].fichero, QStringLiteral("servicios/EsquemaPartes.cpp"));
+        QVERIFY(faltas[2].motivo.contains(QLatin1String("AUTOINCREMENT")));
+        QCOMPARE(faltas[3].texto(),
+                 QStringLiteral("servicios/cTraspaso.h:1: a store outside servicios/sqlite "
+                                "writes PRAGMA of SQLite's own dialect"));
+    }
+
     void carpetaSinModuloFalla()
     {
         Arbol arbol;

@@ -8,10 +8,15 @@
 // engine is one more implementation of this class and not a change of the stores above it.
 //
 // Faults are cFallo with the caller's source (`origen`), as everywhere in the stores.
+#include "plataforma/Fallo.h"
+
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QString>
+#include <QStringList>
 #include <QVariantList>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -39,6 +44,23 @@ public:
     virtual bool Enteros(const QVariantList& valores, int64_t* columnas, int n) = 0;
 };
 
+// The words of a table's definition that engines spell each their own way; the rest of the
+// stores' tables is plain SQL that every engine reads alike.
+struct Dialecto {
+    // A whole-number key that the store gives to a row inserted without one.
+    QString claveDada;
+    // The same, never giving again the key of a row that was deleted.
+    QString claveCreciente;
+    // Follows a column of texts that compares, sorts and is unique without regard to case.
+    QString sinMayusculas;
+    // A floating-point number of 64 bits.
+    QString real;
+    // A whole number of 64 bits.
+    QString entero64;
+    // An expression that gives each row a random whole number of its own from 1 to 2^63 - 1.
+    QString aleatorio;
+};
+
 class Motor {
 public:
     virtual ~Motor();
@@ -46,9 +68,25 @@ public:
     // The engine's name, as a fault text gives it.
     virtual QString Nombre() const = 0;
 
+    // The name of Qt's driver that reaches this engine ("QSQLITE", "QPSQL").
+    virtual QString Controlador() const = 0;
+
     // The message that stops the program at start-up when the engine cannot be used safely
     // (its libraries do not match, it cannot be reached); empty when it can.
     virtual QString AvisoArranque() const = 0;
+
+    // The place of a store as the connections of one run name it (a file's absolute path, a
+    // server's connection string), and whether there is a store there to open (a server is
+    // taken to be there: opening it says whether it answers).
+    virtual QString Clave(const QString& ubicacion) const = 0;
+    virtual bool Existe(const QString& ubicacion) const = 0;
+
+    // The fault of a statement or a connection that failed, with the caller's source: what
+    // `contexto` was doing and why, in words a user can be shown. The driver's own text goes
+    // there only where it is the engine's short message (the embedded engine's); a server's is
+    // left to the log, and the message names the server instead.
+    virtual cFallo FalloDe(const QSqlDatabase& db, const QSqlError& error, const QString& contexto,
+                           const QString& origen) const = 0;
 
     // The driver's connection `nombre` (made when there is none) aimed at the store at
     // `ubicacion` with this access, not opened yet.
@@ -61,9 +99,9 @@ public:
     // Just before a connection that writes is closed at a clean end: what the engine keeps
     // aside for the store goes into it, without waiting for other running copies.
     virtual void AntesDeCerrar(const QSqlDatabase& db) const = 0;
-    // The statement that begins a write transaction holding the write lock from its start, so
-    // that two copies never stop each other half-way.
-    virtual QString InicioEscritura() const = 0;
+    // Begins a write transaction holding the store's write lock from its start, so that two
+    // copies never stop each other half-way and one write follows the other.
+    virtual void EmpezarEscritura(const QSqlDatabase& db, const QString& origen) const = 0;
 
     // The two numbers a store of this program carries: the program's mark and the number of
     // its layout (0 when never set).
@@ -71,6 +109,22 @@ public:
     virtual int VersionDe(const QSqlDatabase& db, const QString& origen) const = 0;
     virtual void Sellar(const QSqlDatabase& db, qint32 marca, int version,
                         const QString& origen) const = 0;
+
+    // How this engine spells the words of Dialecto.
+    virtual Dialecto DialectoEsquema() const = 0;
+    // What the engine adds to the program's own layout of a store, inside the layout's write
+    // transaction: before the first step on an empty store (what the tables' definitions name),
+    // and after the last step (what serves the searches).
+    virtual void AntesDeDisponer(const QSqlDatabase& db, const QString& origen) const = 0;
+    virtual void TrasDisponer(const QSqlDatabase& db, const QString& origen) const = 0;
+
+    // The tables of the store, in the order they were made, and the columns of one of them in
+    // their order (the engine's own tables left out).
+    virtual QStringList Tablas(const QSqlDatabase& db, const QString& origen) const = 0;
+    virtual QStringList Columnas(const QSqlDatabase& db, const QString& tabla,
+                                 const QString& origen) const = 0;
+    // How many tables, views, indexes and triggers the store holds (the engine's own left out).
+    virtual int Objetos(const QSqlDatabase& db, const QString& origen) const = 0;
 
     // Whether the connection enforces the references between tables as each row is written.
     // Switched outside a transaction: an engine may ignore the switch inside one.
@@ -101,6 +155,15 @@ public:
     // exist): the backup of any engine is a file any copy of the program can open.
     virtual void CopiarEnArchivo(const QSqlDatabase& db, const QString& destino,
                                  const QString& origen) const = 0;
+
+    // Replaces everything the store that `db` reaches holds with the content of `copia`, an
+    // embedded store file of the current layout whose rows the program has checked, in one
+    // write transaction: other connections see the old content or the new, never half of it.
+    // `antes` runs inside that transaction before anything changes (the safety copy of the
+    // content as it was). A failure leaves the store as it was.
+    virtual void SustituirContenido(const QSqlDatabase& db, const QString& copia,
+                                    const std::function<void()>& antes,
+                                    const QString& origen) const = 0;
 
     // Whether the pages of the store at `ubicacion` are whole (the quick check, or the full one
     // when `completa`). Rows that merely break a CHECK or a NOT NULL are no damage of the

@@ -4,9 +4,12 @@
 #include "servicios/sqlite/BibliotecaSqlite.h"
 #include "servicios/sqlite/BusquedaSqlite.h"
 #include "servicios/sqlite/ConexionPropia.h"
+#include "servicios/sqlite/EstructuraSqlite.h"
 #include "servicios/sqlite/PaginasSqlite.h"
 #include "servicios/sqlite/SentenciaSqlite.h"
+#include "servicios/sqlite/SustitucionSqlite.h"
 
+#include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
 
@@ -40,10 +43,34 @@ QString MotorSqlite::Nombre() const
     return QStringLiteral("SQLite");
 }
 
+QString MotorSqlite::Controlador() const
+{
+    return QStringLiteral("QSQLITE");
+}
+
 QString MotorSqlite::AvisoArranque() const
 {
     // The stores call SQLite directly and through Qt's driver: both must be one library.
     return AvisoBibliotecaSqlite(LeerFuentesSqlite());
+}
+
+QString MotorSqlite::Clave(const QString& ubicacion) const
+{
+    return QFileInfo(ubicacion).absoluteFilePath();
+}
+
+bool MotorSqlite::Existe(const QString& ubicacion) const
+{
+    return QFileInfo::exists(ubicacion);
+}
+
+cFallo MotorSqlite::FalloDe(const QSqlDatabase&, const QSqlError& error, const QString& contexto,
+                            const QString& origen) const
+{
+    // SQLite's number of the error when it gives one, and its short message.
+    const int numero = error.nativeErrorCode().toInt();
+    return cFallo(numero ? numero : 3001, origen,
+                  contexto.isEmpty() ? error.text() : contexto + QStringLiteral(": ") + error.text());
 }
 
 QSqlDatabase MotorSqlite::Definir(const QString& nombre, const QString& ubicacion,
@@ -76,10 +103,12 @@ void MotorSqlite::AntesDeCerrar(const QSqlDatabase& db) const
     q.exec(QStringLiteral("PRAGMA wal_checkpoint(PASSIVE)"));
 }
 
-QString MotorSqlite::InicioEscritura() const
+void MotorSqlite::EmpezarEscritura(const QSqlDatabase& db, const QString& origen) const
 {
     // BEGIN IMMEDIATE takes the write lock at once, so two instances never deadlock half-way.
-    return QStringLiteral("BEGIN IMMEDIATE");
+    QSqlQuery q(db);
+    if (!q.exec(QStringLiteral("BEGIN IMMEDIATE")))
+        throw FalloDe(db, q.lastError(), QStringLiteral("BEGIN"), origen);
 }
 
 // SQLite keeps both numbers in the file's header.
@@ -99,6 +128,46 @@ void MotorSqlite::Sellar(const QSqlDatabase& db, qint32 marca, int version,
     // PRAGMA takes no bound parameters; both values are integers.
     pragma(db, QStringLiteral("PRAGMA application_id = %1").arg(marca), origen);
     pragma(db, QStringLiteral("PRAGMA user_version = %1").arg(version), origen);
+}
+
+Dialecto MotorSqlite::DialectoEsquema() const
+{
+    // A plain INTEGER PRIMARY KEY is the row's own id: the next one above the greatest, so
+    // the code of the last row deleted can come back. AUTOINCREMENT keeps a counter that
+    // never goes down, at the cost of one more page written by every insert.
+    return {QStringLiteral("INTEGER PRIMARY KEY"),
+            QStringLiteral("INTEGER PRIMARY KEY AUTOINCREMENT"),
+            QStringLiteral("COLLATE NOCASE"), QStringLiteral("REAL"), QStringLiteral("INTEGER"),
+            // random() spans the whole 64 bits: its sign bit is dropped, and the value moved
+            // into 1 .. 2^63 - 1 (abs() would fail on the lowest number, and 0 must not come
+            // out).
+            QStringLiteral("((random() & 9223372036854775807) % 9223372036854775807 + 1)")};
+}
+
+void MotorSqlite::AntesDeDisponer(const QSqlDatabase&, const QString&) const
+{
+    // The tables name nothing but SQLite's own types and collations.
+}
+
+void MotorSqlite::TrasDisponer(const QSqlDatabase&, const QString&) const
+{
+    // The searches use the tables' own indexes (BusquedaSqlite.h).
+}
+
+QStringList MotorSqlite::Tablas(const QSqlDatabase& db, const QString& origen) const
+{
+    return EstructuraSqlite::Tablas(db, QStringLiteral("main"), origen);
+}
+
+QStringList MotorSqlite::Columnas(const QSqlDatabase& db, const QString& tabla,
+                                  const QString& origen) const
+{
+    return EstructuraSqlite::Columnas(db, QStringLiteral("main"), tabla, origen);
+}
+
+int MotorSqlite::Objetos(const QSqlDatabase& db, const QString& origen) const
+{
+    return EstructuraSqlite::Objetos(db, QStringLiteral("main"), origen);
 }
 
 void MotorSqlite::ExigirReferencias(const QSqlDatabase& db, bool exigir,
@@ -149,6 +218,14 @@ void MotorSqlite::CopiarEnArchivo(const QSqlDatabase& db, const QString& destino
     q.addBindValue(destino);
     if (!q.exec())
         fallar(q, sql, origen);
+}
+
+void MotorSqlite::SustituirContenido(const QSqlDatabase& db, const QString& copia,
+                                     const std::function<void()>& antes,
+                                     const QString& origen) const
+{
+    SustituirContenidoSqlite(db, copia, [this, &db, &origen] { EmpezarEscritura(db, origen); },
+                             antes, origen);
 }
 
 bool MotorSqlite::Sana(const QString& ubicacion, bool completa) const
