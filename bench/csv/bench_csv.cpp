@@ -58,8 +58,7 @@ int main(int argc, char** argv)
         reloj.start();
         QFile f(csv);
         f.open(QIODevice::ReadOnly);
-        AvisoIntercambio fallo;
-        auto fuente = CsvContribuyentes::AbrirFuente(f, fallo);
+        auto fuente = CsvContribuyentes::AbrirFuente(f).valor();
         LineaLeida leida;
         QString motivo;
         filas = 0;

@@ -7,6 +7,7 @@
 #include "ApoyoIntercambio.h"
 #include "comun/AlmacenNuevo.h"
 
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/General.h"
 
 #include "paneles/intercambio/FrmExportar.h"
@@ -58,10 +59,10 @@ double Importacion(const QString& fichero)
     QElapsedTimer t;
     const double cpu = CpuMs();
     t.start();
-    const AvisoIntercambio aviso = Importar().Ejecutar({});
+    const Veredicto aviso = Importar().Ejecutar({});
     const double ms = t.nsecsElapsed() / 1e6;
     gCpuImportar = std::min(gCpuImportar, CpuMs() - cpu);
-    if (Importar().NUMEROIMP != kLineas || aviso.motivo != MotivoAviso::Importados)
+    if (Importar().NUMEROIMP != kLineas || aviso.id != kIdImportadosCorrectamente)
         qFatal("import: %d of %d", Importar().NUMEROIMP, kLineas);
     return ms;
 }
@@ -206,11 +207,11 @@ int main(int argc, char** argv)
     Exportar().SeleccionarTodos();
     const double seleccionar = t.nsecsElapsed() / 1e6;
     t.restart();
-    if (Exportar().ComprobarIdentidades())
+    if (!Exportar().ComprobarIdentidades())
         qFatal("identity check refused");
     const double comprobar = t.nsecsElapsed() / 1e6;
     t.restart();
-    if (Exportar().EscribirFichero())
+    if (!Exportar().EscribirFichero())
         qFatal("write failed");
     const double escribir = t.nsecsElapsed() / 1e6;
     std::printf("export of %d: store's answer %.1f ms, select all %.1f ms, check %.1f ms, "

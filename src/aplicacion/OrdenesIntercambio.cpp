@@ -71,9 +71,9 @@ int HacerImportacion(const LineaDeOrdenes::Llamada& llamada)
         ? Absoluta(llamada.linea.value(QStringLiteral("errores")))
         : QFileInfo(i.FICHEROAIMPORTAR).absoluteDir().filePath(QStringLiteral("Erorres.txt"));
     i.AUTOMATICO = QStringLiteral("X");
-    const AvisoIntercambio aviso = i.Ejecutar({});
+    const Veredicto aviso = i.Ejecutar({});
     if (i.TERMINADA != QLatin1String("S")) {
-        errores << aviso.texto() << Qt::endl;
+        errores << aviso.mensaje << Qt::endl;
         return Imposible;
     }
     salida << Texto(kIdEtiquetaTotal) << ' ' << i.LineasLeidas << '\n'
@@ -81,8 +81,8 @@ int HacerImportacion(const LineaDeOrdenes::Llamada& llamada)
            << Texto(kIdEtiquetaIncorrectos) << ' ' << i.NUMEROINC << '\n'
            << Texto(kIdEtiquetaSustituidos) << ' ' << i.NUMEROSUS << '\n'
            << Texto(kIdEtiquetaIgnorados) << ' ' << i.NUMEROIGN << '\n';
-    if (aviso)
-        salida << aviso.texto() << '\n';
+    if (!aviso.vacio())
+        salida << aviso.mensaje << '\n';
     if (i.NUMEROINC > 0) {
         salida << Texto(kIdConsulteFicheroErrores) << i.FICHEROERRORES << Qt::endl;
         return Refusado;
@@ -131,15 +131,17 @@ int HacerExportacion(const LineaDeOrdenes::Llamada& llamada)
         e.SeleccionarTodos();
     else if (!SeleccionarDnis(e, llamada.linea.positionalArguments(), errores))
         return Imposible;
-    if (const AvisoIntercambio aviso = e.ComprobarIdentidades()) {
-        errores << aviso.texto() << Qt::endl;
+    if (const Resultado<void> r = e.ComprobarIdentidades(); !r) {
+        errores << r.veredicto().mensaje << Qt::endl;
         return Refusado;
     }
-    for (const AvisoIntercambio& aviso : {e.ComprobarDestino(), e.EscribirFichero()}) {
-        if (aviso) {
-            errores << aviso.texto().trimmed() << Qt::endl;
-            return Imposible;
-        }
+    // The destination is checked first; a file that cannot be named is not written.
+    Resultado<void> r = e.ComprobarDestino();
+    if (r)
+        r = e.EscribirFichero();
+    if (!r) {
+        errores << r.veredicto().mensaje.trimmed() << Qt::endl;
+        return Imposible;
     }
     llamada.salida << e.NUMCONTRIEXP
                    << Texto(kIdContribuyentesParaExportar).trimmed().prepend(QLatin1Char(' '))

@@ -50,30 +50,26 @@ void BuscarEnCombo(const QString& texto, QComboBox* combo)
     VaciarTexto(combo);
 }
 
-void CargarCombo(QComboBox* combo, const Arreglo& arreglo)
+void CargarCombo(QComboBox* combo, const QStringList& textos)
 {
     if (!combo)
         return;
     combo->clear();
-    if (arreglo.isEmpty()) {
+    if (textos.isEmpty()) {
         combo->setEnabled(false);
         ColorearCampo(combo, false);
         return;
     }
-    for (const QVariant& elemento : arreglo)
-        combo->addItem(elemento.toString());
+    combo->addItems(textos);
 }
 
-void CargarListaPares(cListaClaves* lista, const Arreglo2D& arreglo, const QString& prefijoClave)
+void CargarListaPares(cListaClaves* lista, const QList<FilaReferencia>& filas,
+                      const QString& prefijoClave)
 {
-    if (!lista || arreglo.size() < 2)
+    if (!lista)
         return;
-    const QVariantList& claves = arreglo[0];
-    const QVariantList& textos = arreglo[1];
-    for (qsizetype i = 0; i < claves.size(); ++i) {
-        const QString codigo = claves[i].toString();
-        lista->Agregar(prefijoClave + codigo, textos.value(i).toString(), codigo);
-    }
+    for (const FilaReferencia& f : filas)
+        lista->Agregar(prefijoClave + f.codigo, f.nombre, f.codigo);
 }
 
 void DesplegarCombo(QComboBox* combo)

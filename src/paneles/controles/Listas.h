@@ -1,8 +1,9 @@
 #pragma once
 // Filling and searching the lists and combos of the panels.
-#include "servicios/Arreglos.h"
+#include "servicios/cDatosGeneral.h"
 
 #include <QString>
+#include <QStringList>
 
 class QComboBox;
 class cListaClaves;
@@ -13,11 +14,11 @@ QString TextoDeClave(const cListaClaves* lista, const QString& clave);
 // items the combo just takes the text; an empty text or no match leaves nothing selected and
 // the combo's text empty.
 void BuscarEnCombo(const QString& texto, QComboBox* combo);
-// Empties the combo and adds each element in order; an empty array leaves it locked, grey.
-void CargarCombo(QComboBox* combo, const Arreglo& arreglo);
-// One item per row of a two-column array: element (0, i) the key, (1, i) the text. A prefix,
-// when given, goes in front of each key (the code column shows the code without it).
-void CargarListaPares(cListaClaves* lista, const Arreglo2D& arreglo,
+// Empties the combo and adds each text in order; no texts leave it locked, grey.
+void CargarCombo(QComboBox* combo, const QStringList& textos);
+// One item per row of a reference list: its code the key, its name the text. A prefix, when
+// given, goes in front of each key (the code column shows the code without it).
+void CargarListaPares(cListaClaves* lista, const QList<FilaReferencia>& filas,
                       const QString& prefijoClave = QString());
 // Opens the combo's drop-down list.
 void DesplegarCombo(QComboBox* combo);

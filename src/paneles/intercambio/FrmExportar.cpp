@@ -537,12 +537,12 @@ void FrmExportar::Aceptar()
 {
     cExportar& e = Exportar();
     const QString titulo = windowTitle();
-    if (const AvisoIntercambio aviso = e.ComprobarIdentidades()) {
-        Mensaje(aviso.texto(), vb::Exclamation, titulo);
+    if (const Resultado<void> r = e.ComprobarIdentidades(); !r) {
+        Mensaje(r.veredicto().mensaje, vb::Exclamation, titulo);
         return;
     }
-    if (const AvisoIntercambio aviso = e.ComprobarDestino()) {
-        Mensaje(aviso.texto(), vb::OKOnly, titulo);
+    if (const Resultado<void> r = e.ComprobarDestino(); !r) {
+        Mensaje(r.veredicto().mensaje, vb::OKOnly, titulo);
         return;
     }
     // The answer is not looked at: the file is replaced after either.

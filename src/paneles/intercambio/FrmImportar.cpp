@@ -226,15 +226,15 @@ void FrmImportar::Aceptar()
     interlocutor.avance = [this](int lineas, double estimado, bool fin) {
         Avance(lineas, estimado, fin);
     };
-    const AvisoIntercambio aviso = Importar().Ejecutar(interlocutor);
+    const Veredicto aviso = Importar().Ejecutar(interlocutor);
     if (Importar().TERMINADA != QLatin1String("S")) {
         // The run failed: its message, and the panel stays ready as it was.
-        Mensaje(aviso.texto(), vb::Critical, titulo);
+        Mensaje(aviso.mensaje, vb::Critical, titulo);
         return;
     }
     progreso->hide();
-    if (aviso)
-        Mensaje(aviso.texto(), vb::Information, titulo);
+    if (!aviso.vacio())
+        Mensaje(aviso.mensaje, vb::Information, titulo);
     MostrarDatos();
     MostrarBotones();
 }

@@ -2,7 +2,9 @@
 
 #include "catalogo/Catalogo.h"
 #include "catalogo/IdsCatalogo.h"
+#include "plataforma/Fallo.h"
 #include "registros/intercambio/Cp1252.h"
+#include "registros/intercambio/FalloIntercambio.h"
 #include "valores/Csv.h"
 
 #include <QStringDecoder>
@@ -87,7 +89,7 @@ public:
     }
 
     // Reads the first row; the failure of a heading, or nothing.
-    std::optional<AvisoIntercambio> LeerCabecera()
+    std::optional<Veredicto> LeerCabecera()
     {
         QStringList nombres;
         Csv::Fallo fallo = Csv::Fallo::Ninguno;
@@ -144,9 +146,13 @@ public:
     bool Error() const override { return false; }
 
 private:
-    static AvisoIntercambio Cabecera(int id, const QString& columna)
+    // The message of a heading that is wrong: what is wrong, then the column it is about.
+    static Veredicto Cabecera(int id, const QString& columna)
     {
-        return {MotivoAviso::CabeceraCsv, {QString::number(id), columna}};
+        Veredicto v;
+        v.id = id;
+        v.mensaje = Texto(id) + columna;
+        return v;
     }
     static Resultado Ilegible(int id, QString& motivo)
     {
@@ -193,22 +199,19 @@ QString NombreColumna(CampoIntercambio campo)
     return QLatin1String(kNombres[Indice(campo)]);
 }
 
-std::unique_ptr<FuenteLineas> AbrirFuente(QFile& entrada, AvisoIntercambio& fallo)
+::Resultado<std::unique_ptr<FuenteLineas>> AbrirFuente(QFile& entrada)
 {
     const QByteArray bytes = entrada.readAll();
-    if (entrada.error() != QFileDevice::NoError) {
-        fallo = FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
-        return nullptr;
-    }
+    if (entrada.error() != QFileDevice::NoError)
+        throw cFallo(FalloIntercambio::kAccesoDenegado, entrada.fileName(),
+                     FalloIntercambio::Descripcion(FalloIntercambio::kAccesoDenegado));
     const QString texto = Decodificar(bytes);
     // One row a line, less the first: enough for the progress.
     const double estimado = std::max<qsizetype>(0, bytes.count('\n') - 1);
     auto fuente = std::make_unique<FuenteCsv>(texto, Csv::DetectarSeparador(texto), estimado);
-    if (const std::optional<AvisoIntercambio> mala = fuente->LeerCabecera()) {
-        fallo = *mala;
-        return nullptr;
-    }
-    return fuente;
+    if (std::optional<Veredicto> mala = fuente->LeerCabecera())
+        return std::move(*mala);
+    return std::unique_ptr<FuenteLineas>(std::move(fuente));
 }
 
 QByteArray Cabecera()

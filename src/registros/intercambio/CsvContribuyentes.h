@@ -27,7 +27,8 @@ namespace CsvContribuyentes {
 // The name of a field's column.
 QString NombreColumna(CampoIntercambio campo);
 
-std::unique_ptr<FuenteLineas> AbrirFuente(QFile& entrada, AvisoIntercambio& fallo);
+// As ::AbrirFuente, for a CSV file.
+::Resultado<std::unique_ptr<FuenteLineas>> AbrirFuente(QFile& entrada);
 
 // The byte-order mark and the first row; then one row for each contributor.
 QByteArray Cabecera();

@@ -40,9 +40,9 @@ bool EsFicheroCsv(const QString& fichero)
     return fichero.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
 }
 
-std::unique_ptr<FuenteLineas> AbrirFuente(QFile& entrada, AvisoIntercambio& fallo)
+::Resultado<std::unique_ptr<FuenteLineas>> AbrirFuente(QFile& entrada)
 {
     if (!EsFicheroCsv(entrada.fileName()))
-        return std::make_unique<FuenteFija>(entrada);
-    return CsvContribuyentes::AbrirFuente(entrada, fallo);
+        return std::unique_ptr<FuenteLineas>(std::make_unique<FuenteFija>(entrada));
+    return CsvContribuyentes::AbrirFuente(entrada);
 }

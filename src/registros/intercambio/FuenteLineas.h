@@ -3,8 +3,8 @@
 // fields of the exchange line: the fixed-width exchange file, or a CSV file saved by a
 // spreadsheet (CsvContribuyentes.h), chosen by the file's extension. Whatever the source, the
 // import validates, counts and saves each line the same way.
-#include "registros/intercambio/AvisoIntercambio.h"
 #include "registros/intercambio/LineaIntercambio.h"
+#include "valores/Resultado.h"
 
 #include <QFile>
 #include <QString>
@@ -33,5 +33,6 @@ public:
 bool EsFicheroCsv(const QString& fichero);
 
 // The source over the open file `entrada`. A CSV file whose first row does not name its
-// columns as the exchange line does answers no source, and `fallo` says why.
-std::unique_ptr<FuenteLineas> AbrirFuente(QFile& entrada, AvisoIntercambio& fallo);
+// columns as the exchange line does is refused with the reason; one that cannot be read is a
+// failure (cFallo, with the number FalloIntercambio gives it).
+::Resultado<std::unique_ptr<FuenteLineas>> AbrirFuente(QFile& entrada);

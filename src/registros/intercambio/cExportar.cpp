@@ -1,11 +1,14 @@
 #include "registros/intercambio/cExportar.h"
 
+#include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "valores/Val.h"
 #include "registros/partes/CriteriosLista.h"
 #include "registros/intercambio/Cp1252.h"
 #include "registros/intercambio/CsvContribuyentes.h"
+#include "registros/intercambio/FalloIntercambio.h"
 #include "servicios/Almacen.h"
 #include "servicios/cContribSvr.h"
 
@@ -16,6 +19,35 @@
 namespace {
 
 using C = CampoIntercambio;
+
+// The refusal of the contributors whose numbers are wrong, or lack their check character.
+Veredicto NifErroneos(const QStringList& dnis)
+{
+    const QString lista = dnis.join(QStringLiteral(", "));
+    Veredicto v;
+    v.mensaje = TextoSegunIdioma(
+        QStringLiteral("El/Los Interviniente/s con NIF: ") + lista
+            + QStringLiteral(" tiene/n un NIF erróneo o necesita/n llevar el dígito de control"),
+        lista
+            + QStringLiteral(" IFZ duten esku hartzailea(e)k IFZ okerra du(te) edo kontrol "
+                             "digitua eraman behar du(te)."));
+    return v;
+}
+
+// The refusal of the contributors with characters the exchange file cannot hold.
+Veredicto NoRepresentables(const QStringList& dnis)
+{
+    const QString lista = dnis.join(QStringLiteral(", "));
+    Veredicto v;
+    v.mensaje = TextoSegunIdioma(
+        QStringLiteral("El/Los Interviniente/s con NIF: ") + lista
+            + QStringLiteral(" tiene/n datos con caracteres que no caben en el fichero de "
+                             "intercambio"),
+        lista
+            + QStringLiteral(" IFZ duten esku hartzailea(e)k trukerako fitxategian sartzen "
+                             "ez diren karaktereak ditu(zte)."));
+    return v;
+}
 
 // A stored number as the file writes it; blank is 0, and a value that is no whole number
 // gives -1, which the line refuses rather than writing a wrong number.
@@ -256,7 +288,7 @@ void cExportar::DeseleccionarTodos()
     CSCOEXP = 0;
 }
 
-AvisoIntercambio cExportar::ComprobarIdentidades() const
+Resultado<void> cExportar::ComprobarIdentidades() const
 {
     cContribSvr svr;
     QStringList erroneos;
@@ -272,18 +304,18 @@ AvisoIntercambio cExportar::ComprobarIdentidades() const
             noRepresentables << dni;
     }
     if (!erroneos.isEmpty())
-        return {MotivoAviso::NifErroneos, erroneos};
+        return NifErroneos(erroneos);
     if (!noRepresentables.isEmpty())
-        return {MotivoAviso::NoRepresentables, noRepresentables};
+        return NoRepresentables(noRepresentables);
     return {};
 }
 
-AvisoIntercambio cExportar::ComprobarDestino() const
+Resultado<void> cExportar::ComprobarDestino() const
 {
     const QFileInfo info(FICHEROAEXPORTAR);
     if (FICHEROAEXPORTAR.trimmed().isEmpty() || info.fileName().isEmpty() || info.isDir()
         || !info.absoluteDir().exists())
-        return {MotivoAviso::NoHayDisquete, {}};
+        return VeredictoIntercambio(kIdNoHayDisquete);
     return {};
 }
 
@@ -292,11 +324,11 @@ bool cExportar::DestinoExiste() const
     return QFileInfo::exists(FICHEROAEXPORTAR);
 }
 
-AvisoIntercambio cExportar::EscribirFichero() const
+Resultado<void> cExportar::EscribirFichero() const
 {
     QSaveFile fichero(FICHEROAEXPORTAR);
     if (!fichero.open(QIODevice::WriteOnly))
-        return FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
+        return FalloIntercambio::VeredictoFallo(FalloIntercambio::kAccesoDenegado);
     QByteArray bloque;
     bloque.reserve(1 << 20);
     const bool csv = EsFicheroCsv(FICHEROAEXPORTAR);
@@ -309,7 +341,7 @@ AvisoIntercambio cExportar::EscribirFichero() const
             const std::optional<QByteArray> linea = ComponerLinea(r.valores);
             if (!linea) {
                 fichero.cancelWriting();
-                return {MotivoAviso::NoRepresentables, {r.texto(C::DNI).trimmed()}};
+                return NoRepresentables({r.texto(C::DNI).trimmed()});
             }
             bloque += *linea;
             bloque += "\r\n";
@@ -321,9 +353,9 @@ AvisoIntercambio cExportar::EscribirFichero() const
     }
     fichero.write(bloque);
     if (!fichero.commit())
-        return FalloIntercambio::Aviso(fichero.error() == QFileDevice::ResourceError
-                                           ? FalloIntercambio::kDiscoLleno
-                                           : FalloIntercambio::kAccesoDenegado);
+        return FalloIntercambio::VeredictoFallo(fichero.error() == QFileDevice::ResourceError
+                                                    ? FalloIntercambio::kDiscoLleno
+                                                    : FalloIntercambio::kAccesoDenegado);
     return {};
 }
 

@@ -4,9 +4,9 @@
 // itself. The tables count from 1. The export table keeps the order in which contributors were
 // selected, which is the order of the lines, and never holds one contributor twice.
 #include "valores/cCriterio.h"
-#include "registros/intercambio/AvisoIntercambio.h"
 #include "registros/intercambio/LineaIntercambio.h"
 #include "valores/Contribuyente.h"
+#include "valores/Resultado.h"
 
 #include <QString>
 #include <cstdint>
@@ -73,16 +73,18 @@ public:
     void DeseleccionarTodos();
 
     // --- The export.
-    // The contributors that cannot go into the file: an official number that is not valid, a
-    // non-official one of value 0 (NifErroneos); a value the code page cannot hold
-    // (NoRepresentables). Nothing when all can.
-    AvisoIntercambio ComprobarIdentidades() const;
-    // NoHayDisquete when FICHEROAEXPORTAR cannot name a file (no name, or no such folder).
-    AvisoIntercambio ComprobarDestino() const;
+    // Refuses the contributors that cannot go into the file, naming their numbers: first
+    // those with an official number that is not valid or a non-official one of value 0; else
+    // those with a value the code page cannot hold. Accepted when all can.
+    Resultado<void> ComprobarIdentidades() const;
+    // Refused (message 249) when FICHEROAEXPORTAR cannot name a file (no name, or no such
+    // folder).
+    Resultado<void> ComprobarDestino() const;
     bool DestinoExiste() const;
     // Writes the lines of the export table, in its order, replacing the file whole: the file
-    // is either the new one or the old one, never half of each. Answers a failure (277).
-    AvisoIntercambio EscribirFichero() const;
+    // is either the new one or the old one, never half of each. Refused for a value the code
+    // page cannot hold; a failure of the disk answers message 277.
+    Resultado<void> EscribirFichero() const;
 
 private:
     std::vector<RegistroContri> m_contri;

@@ -5,6 +5,7 @@
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
+#include "registros/intercambio/FalloIntercambio.h"
 #include "registros/intercambio/FicheroErrores.h"
 #include "registros/intercambio/FuenteLineas.h"
 #include "registros/intercambio/LineaIntercambio.h"
@@ -20,10 +21,19 @@ namespace {
 
 using C = CampoIntercambio;
 
-// A failure of the run, with the message that reports it.
+// A run that cannot go on for a reason that is not a failure of the disk (a file already
+// open, a CSV heading that is wrong), with the message that says so.
 struct FalloEjecucion {
-    AvisoIntercambio aviso;
+    Veredicto motivo;
 };
+
+// A failure that the run reports by its number (the disk, or the line counter's overflow),
+// raised as the failures of the stores are, and shown as message 277 when the run stops.
+[[noreturn]] void FalloNumerado(int numero)
+{
+    throw cFallo(numero, QStringLiteral("cImportar.Ejecutar"),
+                 FalloIntercambio::Descripcion(numero));
+}
 
 QString Ruta(const QString& fichero)
 {
@@ -91,9 +101,9 @@ struct cImportar::Ejecucion {
     void Escribir(const QByteArray& bytes)
     {
         if (errores->write(bytes) != bytes.size())
-            throw FalloEjecucion{FalloIntercambio::Aviso(errores->error() == QFileDevice::ResourceError
-                                                             ? FalloIntercambio::kDiscoLleno
-                                                             : FalloIntercambio::kAccesoDenegado)};
+            FalloNumerado(errores->error() == QFileDevice::ResourceError
+                              ? FalloIntercambio::kDiscoLleno
+                              : FalloIntercambio::kAccesoDenegado);
     }
 
     // A short line, or one that fails validation, is refused: its contributor otherwise.
@@ -205,10 +215,10 @@ struct cImportar::Ejecucion {
 
     void Leer()
     {
-        AvisoIntercambio malo;
-        fuente = AbrirFuente(*entrada, malo);
-        if (!fuente)
-            throw FalloEjecucion{malo};
+        ::Resultado<std::unique_ptr<FuenteLineas>> abierta = AbrirFuente(*entrada);
+        if (!abierta)
+            throw FalloEjecucion{abierta.veredicto()};
+        fuente = std::move(abierta).valor();
         const double estimado = fuente->Estimado();
         QString motivo;
         for (;;) {
@@ -216,7 +226,7 @@ struct cImportar::Ejecucion {
             if (r == FuenteLineas::Resultado::Fin)
                 break;
             if (estado.LineasLeidas == std::numeric_limits<int16_t>::max())
-                throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kDesbordamiento)};
+                FalloNumerado(FalloIntercambio::kDesbordamiento);
             ++estado.LineasLeidas;
             numero = fuente->Numero();
             if (r == FuenteLineas::Resultado::Ilegible)
@@ -227,7 +237,7 @@ struct cImportar::Ejecucion {
                 interlocutor.avance(estado.LineasLeidas, estimado, false);
         }
         if (fuente->Error())
-            throw FalloEjecucion{FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado)};
+            FalloNumerado(FalloIntercambio::kAccesoDenegado);
         if (interlocutor.avance)
             interlocutor.avance(estado.LineasLeidas, estimado, true);
     }
@@ -262,28 +272,27 @@ bool cImportar::Abierto(const QString& ruta) const
     return false;
 }
 
-AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
+Veredicto cImportar::Ejecutar(const Interlocutor& interlocutor)
 {
     Ejecucion run{*this, interlocutor, nullptr, nullptr, nullptr, nullptr, {}, 0};
     const QString rutaEntrada = Ruta(FICHEROAIMPORTAR);
     const QString rutaErrores = Ruta(FICHEROERRORES);
     try {
         if (Abierto(rutaEntrada))
-            return {MotivoAviso::FicheroAbierto, {}};
+            return VeredictoIntercambio(kIdFicheroYaAbierto);
         run.entrada = std::make_unique<QFile>(FICHEROAIMPORTAR);
         if (FICHEROAIMPORTAR.isEmpty() || !QFileInfo::exists(FICHEROAIMPORTAR))
-            return {MotivoAviso::NoExisteFichero, {}};
+            return VeredictoIntercambio(kIdNoExisteFicheroImportar);
         if (QFileInfo(FICHEROAIMPORTAR).isDir() || !run.entrada->open(QIODevice::ReadOnly))
-            return FalloIntercambio::Aviso(FalloIntercambio::kAccesoDenegado);
+            return FalloIntercambio::VeredictoFallo(FalloIntercambio::kAccesoDenegado);
         // The error file is the exchange file itself, or one a failed run left open.
         if (rutaErrores == rutaEntrada || Abierto(rutaErrores))
-            throw FalloEjecucion{{MotivoAviso::FicheroAbierto, {}}};
+            throw FalloEjecucion{VeredictoIntercambio(kIdFicheroYaAbierto)};
         run.errores = std::make_unique<QFile>(FICHEROERRORES);
         if (!run.errores->open(QIODevice::WriteOnly | QIODevice::Truncate))
-            throw FalloEjecucion{FalloIntercambio::Aviso(
-                QFileInfo(FICHEROERRORES).absoluteDir().exists()
-                    ? FalloIntercambio::kAccesoDenegado
-                    : FalloIntercambio::kRutaNoEncontrada)};
+            FalloNumerado(QFileInfo(FICHEROERRORES).absoluteDir().exists()
+                              ? FalloIntercambio::kAccesoDenegado
+                              : FalloIntercambio::kRutaNoEncontrada);
         run.lote = std::make_unique<cLoteContribuyentes>(mdbmod, mdblec);
         LineasLeidas = 0;
         run.Leer();
@@ -298,15 +307,15 @@ AvisoIntercambio cImportar::Ejecutar(const Interlocutor& interlocutor)
             run.errores->remove();
         }
     } catch (const FalloEjecucion& f) {
-        return Fallar(run, f.aviso);
+        return Fallar(run, f.motivo);
     } catch (const cFallo& f) {
-        return Fallar(run, FalloIntercambio::Aviso(f.numero(), f.descripcion()));
+        return Fallar(run, FalloIntercambio::VeredictoFallo(f.numero(), f.descripcion()));
     }
     TERMINADA = QStringLiteral("S");
     return Cierre();
 }
 
-AvisoIntercambio cImportar::Fallar(Ejecucion& run, const AvisoIntercambio& aviso)
+Veredicto cImportar::Fallar(Ejecucion& run, const Veredicto& motivo)
 {
     // What was saved before the failure stays saved: the statement that failed changed
     // nothing, and the saves before it are whole. A store that cannot commit them any more
@@ -325,19 +334,23 @@ AvisoIntercambio cImportar::Fallar(Ejecucion& run, const AvisoIntercambio& aviso
     for (auto* f : {&run.entrada, &run.errores})
         if (*f && (*f)->isOpen())
             m_dejadosAbiertos.push_back(std::move(*f));
-    return aviso;
+    return motivo;
 }
 
-AvisoIntercambio cImportar::Cierre() const
+Veredicto cImportar::Cierre() const
 {
     if (NUMEROINC != 0 && NUMEROINC == LineasLeidas)
-        return {MotivoAviso::TodosErroneos, {}};
-    if (NUMEROINC == 1)
-        return {MotivoAviso::UnErroneo, {QStringLiteral("1")}};
-    if (NUMEROINC > 1)
-        return {MotivoAviso::VariosErroneos, {QString::number(NUMEROINC)}};
+        return VeredictoIntercambio(kIdTodosErroneos);
+    if (NUMEROINC > 0) {
+        // "Hay " the number of refused lines, then one or several contributors.
+        Veredicto v;
+        v.id = kIdHay;
+        v.mensaje = Texto(kIdHay) + QString::number(NUMEROINC)
+            + Texto(NUMEROINC == 1 ? kIdUnContribuyenteErroneo : kIdContribuyentesErroneos);
+        return v;
+    }
     if (NUMEROIMP > 0)
-        return {MotivoAviso::Importados, {}};
+        return VeredictoIntercambio(kIdImportadosCorrectamente);
     return {};
 }
 

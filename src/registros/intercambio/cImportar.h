@@ -6,7 +6,7 @@
 // file. The run asks nothing and shows nothing itself: the question of the manual mode and the
 // progress go through the Interlocutor that the caller gives, and the run answers the message
 // that ends it.
-#include "registros/intercambio/AvisoIntercambio.h"
+#include "valores/Veredicto.h"
 
 #include <QFile>
 #include <QString>
@@ -40,11 +40,13 @@ public:
         std::function<void(int lineas, double estimado, bool fin)> avance;
     };
     // Runs the import of FICHEROAIMPORTAR into the store. A finished run sets TERMINADA "S"
-    // and answers its closing message (none when every line was ignored, or for an empty
-    // file). A failure answers its message and leaves TERMINADA as it was; what was saved
-    // before it stays saved, and the files it had open stay open until the program ends, so
-    // that a second run on them answers that the file is already open.
-    AvisoIntercambio Ejecutar(const Interlocutor& interlocutor);
+    // and answers its closing message (an empty verdict when every line was ignored, or for an
+    // empty file). A run that cannot go on answers why (no such file, a file already open, a
+    // CSV heading that is wrong, or a failure of the disk as message 277) and leaves TERMINADA
+    // as it was; what was saved before it stays saved, and the files it had open stay open
+    // until the program ends, so that a second run on them answers that the file is already
+    // open.
+    Veredicto Ejecutar(const Interlocutor& interlocutor);
 
     // The question of the manual mode for the number `dni` as read.
     static QString TextoPreguntaSustituir(const QString& dni);
@@ -52,8 +54,8 @@ public:
 private:
     struct Ejecucion;
     bool Abierto(const QString& ruta) const;
-    AvisoIntercambio Fallar(Ejecucion& run, const AvisoIntercambio& aviso);
-    AvisoIntercambio Cierre() const;
+    Veredicto Fallar(Ejecucion& run, const Veredicto& motivo);
+    Veredicto Cierre() const;
 
     std::vector<std::unique_ptr<QFile>> m_dejadosAbiertos;
 };

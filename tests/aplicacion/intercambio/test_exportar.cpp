@@ -11,6 +11,8 @@
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cContribSvr.h"
 
+#include "catalogo/IdsCatalogo.h"
+
 #include <QFile>
 #include <QTest>
 
@@ -120,9 +122,9 @@ private slots:
         e.SeleccionarTodos();          // both there already
         QCOMPARE(e.NUMCONTRIEXP, 2);
         QCOMPARE(e.CSCOEXP, a);
-        QVERIFY(!e.ComprobarIdentidades());
-        QVERIFY(!e.ComprobarDestino());
-        QVERIFY(!e.EscribirFichero());
+        QVERIFY(e.ComprobarIdentidades());
+        QVERIFY(e.ComprobarDestino());
+        QVERIFY(e.EscribirFichero());
         QCOMPARE(Leer(e.FICHEROAEXPORTAR),
                  LineaValida(2, "BETA") + "\r\n" + LineaValida(1, "ALFA") + "\r\n");
     }
@@ -133,7 +135,7 @@ private slots:
         cExportar& e = Exportar();
         e.CargarFlxDeclaraciones();
         e.SeleccionarTodos();
-        QVERIFY(!e.EscribirFichero());
+        QVERIFY(e.EscribirFichero());
         QCOMPARE(Leer(e.FICHEROAEXPORTAR),
                  Linea({"N", "X1234567L", "MU\xD1OZ \xC7" "ELIK \xBA\xAA \xC9", "AV",
                         "RUE \xC7\xC0 ET L\xC0", "0", "", "", "", "", "E", "FRANCIA", "0",
@@ -153,13 +155,13 @@ private slots:
         cExportar& e = Exportar();
         e.CargarFlxDeclaraciones();
         e.SeleccionarTodos();
-        const AvisoIntercambio aviso = e.ComprobarIdentidades();
-        QCOMPARE(aviso.motivo, MotivoAviso::NifErroneos);
-        QCOMPARE(aviso.texto(),
+        const Resultado<void> aviso = e.ComprobarIdentidades();
+        QVERIFY(!aviso);
+        QCOMPARE(aviso.veredicto().mensaje,
                  QStringLiteral("El/Los Interviniente/s con NIF: 000000000, 12345678 tiene/n un "
                                 "NIF erróneo o necesita/n llevar el dígito de control"));
         EstablecerIdiomaPrograma(Idioma::Euskera);
-        QCOMPARE(aviso.texto(),
+        QCOMPARE(e.ComprobarIdentidades().veredicto().mensaje,
                  QStringLiteral("000000000, 12345678 IFZ duten esku hartzailea(e)k IFZ okerra "
                                 "du(te) edo kontrol digitua eraman behar du(te)."));
         EstablecerIdiomaPrograma(Idioma::Castellano);
@@ -172,12 +174,16 @@ private slots:
         cExportar& e = Exportar();
         e.CargarFlxDeclaraciones();
         e.SeleccionarTodos();
-        const AvisoIntercambio aviso = e.ComprobarIdentidades();
-        QCOMPARE(aviso.motivo, MotivoAviso::NoRepresentables);
-        QCOMPARE(aviso.argumentos, QStringList{QString::fromLatin1(DniDe(1))});
-        QVERIFY(aviso.texto().contains(QString::fromLatin1(DniDe(1))));
+        const Resultado<void> aviso = e.ComprobarIdentidades();
+        QVERIFY(!aviso);
+        const QString noCaben = QStringLiteral("con caracteres que no caben en el fichero");
+        QCOMPARE(aviso.veredicto().mensaje,
+                 QStringLiteral("El/Los Interviniente/s con NIF: ") + QString::fromLatin1(DniDe(1))
+                     + QStringLiteral(" tiene/n datos ") + noCaben + QStringLiteral(" de intercambio"));
         // Written all the same, it is refused whole: nothing lands in the file.
-        QCOMPARE(e.EscribirFichero().motivo, MotivoAviso::NoRepresentables);
+        const Resultado<void> escrito = e.EscribirFichero();
+        QVERIFY(!escrito);
+        QVERIFY(escrito.veredicto().mensaje.contains(noCaben));
         QVERIFY(!QFile::exists(e.FICHEROAEXPORTAR));
     }
 
@@ -185,20 +191,20 @@ private slots:
     {
         cExportar& e = Exportar();
         e.FICHEROAEXPORTAR = m_carpeta->ruta() + QStringLiteral("/no/existe/F.txt");
-        QCOMPARE(e.ComprobarDestino().texto(), QStringLiteral("         No hay disquete en la unidad"));
+        QCOMPARE(e.ComprobarDestino().veredicto().mensaje, QStringLiteral("         No hay disquete en la unidad"));
         e.FICHEROAEXPORTAR.clear();
-        QCOMPARE(e.ComprobarDestino().motivo, MotivoAviso::NoHayDisquete);
+        QCOMPARE(e.ComprobarDestino().veredicto().id, kIdNoHayDisquete);
         e.FICHEROAEXPORTAR = m_carpeta->ruta();
-        QCOMPARE(e.ComprobarDestino().motivo, MotivoAviso::NoHayDisquete);
+        QCOMPARE(e.ComprobarDestino().veredicto().id, kIdNoHayDisquete);
         // A file is replaced whole.
         e.FICHEROAEXPORTAR = m_carpeta->ruta() + QStringLiteral("/F.txt");
         Escribir(e.FICHEROAEXPORTAR, "ANTES");
         QVERIFY(e.DestinoExiste());
-        QVERIFY(!e.EscribirFichero());
+        QVERIFY(e.EscribirFichero());
         QCOMPARE(Leer(e.FICHEROAEXPORTAR), QByteArray());
         // A target that cannot be written answers its failure.
         e.FICHEROAEXPORTAR = QStringLiteral("/proc/veldoria-export.txt");
-        QCOMPARE(e.EscribirFichero().motivo, MotivoAviso::ErrorEjecucion);
+        QCOMPARE(e.EscribirFichero().veredicto().id, kIdErrorNumero);
     }
 
     void deseleccionar()
@@ -256,8 +262,8 @@ private slots:
         cExportar& e = Exportar();
         e.CargarFlxDeclaraciones();
         e.SeleccionarTodos();
-        QVERIFY(!e.ComprobarIdentidades());
-        QVERIFY(!e.EscribirFichero());
+        QVERIFY(e.ComprobarIdentidades());
+        QVERIFY(e.EscribirFichero());
         const QByteArray fichero = Leer(e.FICHEROAEXPORTAR);
         QCOMPARE(fichero.size(), 42 * 178);
 
@@ -266,7 +272,7 @@ private slots:
         Importar().Iniciar();
         Escribir(Importar().FICHEROAIMPORTAR, fichero);
         Importar().AUTOMATICO = QStringLiteral("X");
-        QCOMPARE(Importar().Ejecutar({}).motivo, MotivoAviso::Importados);
+        QCOMPARE(Importar().Ejecutar({}).id, kIdImportadosCorrectamente);
         QCOMPARE(Todo(), antes);
     }
 };

@@ -48,7 +48,7 @@ class TestImportar : public QObject {
 
     // A run of the file `bytes` in the mode given; the questions are answered from
     // m_respuestas (No when none is left).
-    AvisoIntercambio Importa(const QByteArray& bytes, bool automatico)
+    Veredicto Importa(const QByteArray& bytes, bool automatico)
     {
         PrepararImportacion(bytes, automatico);
         cImportar::Interlocutor i = Respondiendo(m_preguntas, m_respuestas);
@@ -93,11 +93,11 @@ private slots:
 
     void todoCorrecto()
     {
-        const AvisoIntercambio a =
+        const Veredicto a =
             Importa(LineaValida(1, "GARC\xCD" "A \xD1" "O\xD1" "O") + "\r\n" + LineaValida(2) + "\r\n",
                     false);
-        QCOMPARE(a.motivo, MotivoAviso::Importados);
-        QCOMPARE(a.texto(), QStringLiteral("Sus datos han sido importados correctamente"));
+        QCOMPARE(a.id, kIdImportadosCorrectamente);
+        QCOMPARE(a.mensaje, QStringLiteral("Sus datos han sido importados correctamente"));
         Contadores(2, 2, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
@@ -116,10 +116,10 @@ private slots:
         malos[5] = "1A";  // code 14
         const QByteArray fichero = LineaValida(1) + "\r\n" + LineaValida(2).left(100) + "\r\n"
             + Linea(malos) + "\r\n" + LineaValida(4);
-        const AvisoIntercambio a = Importa(fichero, true);
+        const Veredicto a = Importa(fichero, true);
         Contadores(4, 2, 2, 0, 0);
-        QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
-        QCOMPARE(a.texto(), QStringLiteral("Hay 2 contibuyentes erróneos"));
+        QVERIFY(a.id == kIdHay && a.mensaje.endsWith(Texto(kIdContribuyentesErroneos)));
+        QCOMPARE(a.mensaje, QStringLiteral("Hay 2 contibuyentes erróneos"));
         QByteArray esperado = "Linea 2No se han importado todos los datos\r\n";
         const QByteArray cabeza = "Linea 3 - DNI-CIF " + DniDe(3) + ": ";
         esperado += cabeza + "El n\xFAmero de portal debe ser un n\xFAmero\r\n";
@@ -177,9 +177,9 @@ private slots:
         QByteArray f;
         for (quint32 n = 1; n <= 10; ++n)
             f += (n == 5 ? QByteArray("O") : LineaValida(n)) + "\r\n";
-        const AvisoIntercambio a = Importa(f, true);
-        QCOMPARE(a.motivo, MotivoAviso::UnErroneo);
-        QCOMPARE(a.texto(), QStringLiteral("Hay 1 un contibuyente erróneo"));
+        const Veredicto a = Importa(f, true);
+        QVERIFY(a.id == kIdHay && a.mensaje.endsWith(Texto(kIdUnContribuyenteErroneo)));
+        QCOMPARE(a.mensaje, QStringLiteral("Hay 1 un contibuyente erróneo"));
         Contadores(10, 9, 1, 0, 0);
         QVERIFY(QFile::exists(Importar().FICHEROERRORES));
     }
@@ -189,15 +189,15 @@ private slots:
         QByteArray f;
         for (int n = 1; n <= 10; ++n)
             f += "corta\r\n";
-        QCOMPARE(Importa(f, true).motivo, MotivoAviso::TodosErroneos);
+        QCOMPARE(Importa(f, true).id, kIdTodosErroneos);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
         Contadores(10, 0, 10, 0, 0);
     }
 
     void ficheroVacio()
     {
-        const AvisoIntercambio a = Importa(QByteArray(), false);
-        QVERIFY(!a);
+        const Veredicto a = Importa(QByteArray(), false);
+        QVERIFY(a.vacio());
         Contadores(0, 0, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
@@ -223,7 +223,7 @@ private slots:
         Importa(LineaValida(1, "VIEJO") + "\r\n" + LineaValida(2, "OTRO") + "\r\n", false);
         Importar().Iniciar();
         m_respuestas = {false, true};
-        const AvisoIntercambio a = Importa(
+        const Veredicto a = Importa(
             LineaValida(1, "NUEVO UNO") + "\r\n" + LineaValida(2, "NUEVO DOS") + "\r\n"
                 + LineaValida(3) + "\r\n",
             false);
@@ -232,7 +232,7 @@ private slots:
         Contadores(3, 2, 0, 1, 1);
         QCOMPARE(NombreGuardado(1), QStringLiteral("VIEJO"));
         QCOMPARE(NombreGuardado(2), QStringLiteral("NUEVO DOS"));
-        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        QCOMPARE(a.id, kIdImportadosCorrectamente);
         QCOMPARE(cImportar::TextoPreguntaSustituir(QStringLiteral("12345678Z")),
                  QStringLiteral("El contribuyente con DNI 12345678Z ya existe.\n"
                                 "¿Está seguro que desea sustituirlo?"));
@@ -343,11 +343,11 @@ private slots:
         c1[6] = "\x01";
         QList<QByteArray> c2 = CamposValidos(2);
         c2[6] = "\x01";
-        const AvisoIntercambio a = Importa(Linea(c1) + "\r\n" + Linea(c2) + "\r\n"
+        const Veredicto a = Importa(Linea(c1) + "\r\n" + Linea(c2) + "\r\n"
                                                + LineaValida(3) + "\r\n",
                                            automatico);
         Contadores(3, 1, 2, 0, 0);
-        QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
+        QVERIFY(a.id == kIdHay && a.mensaje.endsWith(Texto(kIdContribuyentesErroneos)));
         QCOMPARE(NombreGuardado(1), QStringLiteral("BUENO"));
         QCOMPARE(Codigo(2), 0);
         QCOMPARE(Contribuyentes(), 2);
@@ -369,9 +369,9 @@ private slots:
     void ficheroQueNoExiste()
     {
         Importar().FICHEROAIMPORTAR = Ruta(QStringLiteral("NOESTA.txt"));
-        const AvisoIntercambio a = Importar().Ejecutar({});
-        QCOMPARE(a.motivo, MotivoAviso::NoExisteFichero);
-        QCOMPARE(a.texto(), QStringLiteral("No existe el fichero que desea importar"));
+        const Veredicto a = Importar().Ejecutar({});
+        QCOMPARE(a.id, kIdNoExisteFicheroImportar);
+        QCOMPARE(a.mensaje, QStringLiteral("No existe el fichero que desea importar"));
         QCOMPARE(Importar().TERMINADA, QString());
     }
 
@@ -380,12 +380,12 @@ private slots:
         // The error file is the exchange file itself.
         Escribir(Importar().FICHEROAIMPORTAR, LineaValida(1) + "\r\n");
         Importar().FICHEROERRORES = Importar().FICHEROAIMPORTAR;
-        QCOMPARE(Importar().Ejecutar({}).texto(), QStringLiteral("El fichero ya está abierto"));
+        QCOMPARE(Importar().Ejecutar({}).mensaje, QStringLiteral("El fichero ya está abierto"));
         QCOMPARE(Importar().TERMINADA, QString());
         QCOMPARE(Leer(Importar().FICHEROAIMPORTAR), LineaValida(1) + "\r\n");
         // The failed run left the exchange file open: a second run says so.
         Importar().FICHEROERRORES = Ruta(QStringLiteral("Erorres.txt"));
-        QCOMPARE(Importar().Ejecutar({}).motivo, MotivoAviso::FicheroAbierto);
+        QCOMPARE(Importar().Ejecutar({}).id, kIdFicheroYaAbierto);
         QCOMPARE(Contribuyentes(), 0);
     }
 
@@ -393,9 +393,9 @@ private slots:
     {
         Escribir(Importar().FICHEROAIMPORTAR, LineaValida(1) + "\r\n");
         Importar().FICHEROERRORES = Ruta(QStringLiteral("no/hay/carpeta/E.txt"));
-        const AvisoIntercambio a = Importar().Ejecutar({});
-        QCOMPARE(a.motivo, MotivoAviso::ErrorEjecucion);
-        QCOMPARE(a.texto(),
+        const Veredicto a = Importar().Ejecutar({});
+        QCOMPARE(a.id, kIdErrorNumero);
+        QCOMPARE(a.mensaje,
                  QStringLiteral("ERROR Nº: 76 : No se ha encontrado la ruta de acceso"));
         QCOMPARE(Importar().TERMINADA, QString());
     }
@@ -406,8 +406,8 @@ private slots:
         f.reserve(32768 * 178);
         for (quint32 n = 1; n <= 32768; ++n)
             f += LineaValida(n) + "\r\n";
-        const AvisoIntercambio a = Importa(f, true);
-        QCOMPARE(a.texto(), QStringLiteral("ERROR Nº: 6 : Desbordamiento"));
+        const Veredicto a = Importa(f, true);
+        QCOMPARE(a.mensaje, QStringLiteral("ERROR Nº: 6 : Desbordamiento"));
         QCOMPARE(Importar().TERMINADA, QString());
         QCOMPARE(int(Importar().LineasLeidas), 32767);
         // Every line read before the failure stays saved.
@@ -420,15 +420,15 @@ private slots:
         QByteArray f;
         for (quint32 n = 1; n <= 32767; ++n)
             f += LineaValida(n) + "\r\n";
-        QCOMPARE(Importa(f, true).motivo, MotivoAviso::Importados);
+        QCOMPARE(Importa(f, true).id, kIdImportadosCorrectamente);
         Contadores(32767, 32767, 0, 0, 0);
     }
 
     void enEuskera()
     {
         EstablecerIdiomaPrograma(Idioma::Euskera);
-        const AvisoIntercambio a = Importa(LineaValida(1) + "\r\ncorta\r\n", true);
-        QCOMPARE(a.texto(), TextoFila(kIdHay + 10000) + QStringLiteral("1")
+        const Veredicto a = Importa(LineaValida(1) + "\r\ncorta\r\n", true);
+        QCOMPARE(a.mensaje, TextoFila(kIdHay + 10000) + QStringLiteral("1")
                  + TextoFila(kIdUnContribuyenteErroneo + 10000));
         const QByteArray corta = (TextoFila(kIdLinea + 10000) + QStringLiteral("2")
                                   + TextoFila(kIdNoImportados + 10000)).toLatin1() + "\r\n";

@@ -12,6 +12,9 @@
 #include "registros/intercambio/cImportar.h"
 #include "servicios/cContribSvr.h"
 
+#include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
+
 #include <QFile>
 #include <QTest>
 
@@ -92,7 +95,7 @@ class TestImportarCsv : public QObject {
 
     QString Ruta(const QString& nombre) const { return m_carpeta->ruta() + QLatin1Char('/') + nombre; }
 
-    AvisoIntercambio Importa(const QByteArray& bytes, bool automatico = true,
+    Veredicto Importa(const QByteArray& bytes, bool automatico = true,
                              const QString& nombre = QStringLiteral("clientes.csv"))
     {
         Importar().FICHEROAIMPORTAR = Ruta(nombre);
@@ -157,8 +160,8 @@ private slots:
         QByteArray bytes = utf8 ? texto.toUtf8() : *Cp1252::Codificar(texto);
         if (marca)
             bytes.prepend("\xEF\xBB\xBF");
-        const AvisoIntercambio a = Importa(bytes);
-        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        const Veredicto a = Importa(bytes);
+        QCOMPARE(a.id, kIdImportadosCorrectamente);
         ComprobarContadores(3, 3, 0, 0, 0);
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
         QCOMPARE(Guardado(Dni(1)).NOMBREC, QStringLiteral("GARCÍA ÑOÑO"));
@@ -205,8 +208,8 @@ private slots:
         abierta[1] = Dni(8);
         abierta[2] = QStringLiteral("\"SIN CERRAR");
         texto += abierta.join(QLatin1Char(';')) + QStringLiteral("\r\n");         // row 10
-        const AvisoIntercambio a = Importa(texto.toUtf8());
-        QCOMPARE(a.motivo, MotivoAviso::VariosErroneos);
+        const Veredicto a = Importa(texto.toUtf8());
+        QVERIFY(a.id == kIdHay && a.mensaje.endsWith(Texto(kIdContribuyentesErroneos)));
         ComprobarContadores(8, 3, 5, 0, 0);
         QVERIFY(Svr().ExisteContribuyente(Dni(1)) != 0);
         QVERIFY(Svr().ExisteContribuyente(Dni(2)) == 0);
@@ -235,8 +238,8 @@ private slots:
         h.filas[1][3] = "ZZ";  // code 22
         h.filas[1][5] = "1A";  // code 14
         h.Anadir(4);
-        const AvisoIntercambio a = Importa(h.Texto().toUtf8());
-        QCOMPARE(a.motivo, MotivoAviso::UnErroneo);
+        const Veredicto a = Importa(h.Texto().toUtf8());
+        QVERIFY(a.id == kIdHay && a.mensaje.endsWith(Texto(kIdUnContribuyenteErroneo)));
         ComprobarContadores(3, 2, 1, 0, 0);
         const QString cabeza = QStringLiteral("Linea 3 - DNI-CIF ") + Dni(3) + QStringLiteral(": ");
         const QStringList errores = LineasDeErrores();
@@ -258,8 +261,8 @@ private slots:
         h.Anadir(2);
         m_respuestas << true;
         Importar().Iniciar();
-        const AvisoIntercambio a = Importa(h.Texto().toUtf8(), false);
-        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        const Veredicto a = Importa(h.Texto().toUtf8(), false);
+        QCOMPARE(a.id, kIdImportadosCorrectamente);
         QCOMPARE(m_preguntas.size(), 1);
         QCOMPARE(m_preguntas.first().trimmed(), Dni(1));
         ComprobarContadores(2, 2, 0, 1, 0);
@@ -268,14 +271,14 @@ private slots:
 
     void ficheroVacioYSoloCabecera()
     {
-        AvisoIntercambio a = Importa(QByteArray());
-        QVERIFY(!a);
+        Veredicto a = Importa(QByteArray());
+        QVERIFY(a.vacio());
         ComprobarContadores(0, 0, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
         QVERIFY(!QFile::exists(Importar().FICHEROERRORES));
         Importar().Iniciar();
         a = Importa(kNombres.join(QLatin1Char(';')).toUtf8() + "\r\n");
-        QVERIFY(!a);
+        QVERIFY(a.vacio());
         ComprobarContadores(0, 0, 0, 0, 0);
         QCOMPARE(Importar().TERMINADA, QStringLiteral("S"));
     }
@@ -300,8 +303,8 @@ private slots:
         QFETCH(QString, mensaje);
         const QByteArray bytes = (cabecera + QStringLiteral("\r\nO;") + Dni(1)
                                   + QStringLiteral(";GARCIA;X\r\n")).toUtf8();
-        const AvisoIntercambio a = Importa(bytes);
-        QCOMPARE(a.texto(), mensaje);
+        const Veredicto a = Importa(bytes);
+        QCOMPARE(a.mensaje, mensaje);
         QCOMPARE(Importar().TERMINADA, QString());
         QCOMPARE(Contribuyentes(), 0);
     }
@@ -329,8 +332,8 @@ private slots:
         e.FICHEROAEXPORTAR = csv;
         e.CargarFlxDeclaraciones();
         e.SeleccionarTodos();
-        QVERIFY(!e.ComprobarIdentidades());
-        QVERIFY(!e.EscribirFichero());
+        QVERIFY(e.ComprobarIdentidades());
+        QVERIFY(e.EscribirFichero());
         const QByteArray escrito = Leer(csv);
         QVERIFY(escrito.startsWith("\xEF\xBB\xBFTIPODNI;DNI;NOMBRE;"));
         QVERIFY(escrito.contains("\"D'ARTAGNAN; \"\"MOSQUETERO\"\", SÁNCHEZ\""));
@@ -341,8 +344,8 @@ private slots:
         m_carpeta = AlmacenNuevo();
         Importar().Iniciar();
         QCOMPARE(Contribuyentes(), 0);
-        const AvisoIntercambio a = Importa(copia, true, QStringLiteral("vuelta.csv"));
-        QCOMPARE(a.motivo, MotivoAviso::Importados);
+        const Veredicto a = Importa(copia, true, QStringLiteral("vuelta.csv"));
+        QCOMPARE(a.id, kIdImportadosCorrectamente);
         ComprobarContadores(31, 31, 0, 0, 0);
         for (quint32 n = 1; n <= 31; ++n) {
             Contribuyente despues = Guardado(Dni(n == 31 ? 99 : n));

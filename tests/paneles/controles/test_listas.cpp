@@ -9,11 +9,13 @@
 
 namespace {
 
-Arreglo2D Provincias()
+QList<FilaReferencia> Provincias()
 {
-    // As the reference service answers: a[0] codes, a[1] names, row by row.
-    return {QVariantList{1, 20, 77, 48}, QVariantList{QStringLiteral("ALAVA"), QStringLiteral("GIPUZKOA"),
-                                                      QStringLiteral("TERRITORIO"), QStringLiteral("BIZKAIA")}};
+    // As the reference store answers: code and name, row by row.
+    return {{QStringLiteral("1"), QStringLiteral("ALAVA")},
+            {QStringLiteral("20"), QStringLiteral("GIPUZKOA")},
+            {QStringLiteral("77"), QStringLiteral("TERRITORIO")},
+            {QStringLiteral("48"), QStringLiteral("BIZKAIA")}};
 }
 
 }  // namespace
@@ -49,9 +51,7 @@ private slots:
     void cargarListaParesVacia()
     {
         cListaClaves lista;
-        CargarListaPares(&lista, Arreglo2D{QVariantList{}, QVariantList{}});
-        QCOMPARE(lista.Count(), 0);
-        CargarListaPares(&lista, Arreglo2D{});
+        CargarListaPares(&lista, QList<FilaReferencia>{});
         QCOMPARE(lista.Count(), 0);
         CargarListaPares(nullptr, Provincias());
     }
@@ -160,7 +160,7 @@ private slots:
     {
         QComboBox combo;
         combo.addItem(QStringLiteral("viejo"));
-        CargarCombo(&combo, Arreglo{QStringLiteral("UNO"), QStringLiteral("DOS"), 3});
+        CargarCombo(&combo, QStringList{QStringLiteral("UNO"), QStringLiteral("DOS"), QStringLiteral("3")});
         QCOMPARE(combo.count(), 3);
         QCOMPARE(combo.itemText(0), QStringLiteral("UNO"));
         QCOMPARE(combo.itemText(1), QStringLiteral("DOS"));
@@ -172,7 +172,7 @@ private slots:
     {
         QComboBox combo;
         combo.addItem(QStringLiteral("viejo"));
-        CargarCombo(&combo, Arreglo{});
+        CargarCombo(&combo, QStringList{});
         QCOMPARE(combo.count(), 0);
         QVERIFY(!combo.isEnabled());
         QCOMPARE(ColorFondo(&combo).rgb() & 0xFFFFFF, kColorBloqueado);
