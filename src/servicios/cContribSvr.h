@@ -13,8 +13,8 @@
 // declaration always shows it, and is never deleted.
 #include "servicios/Arreglos.h"
 #include "servicios/GuardadoContribuyente.h"
+#include "servicios/LineaContribuyente.h"
 #include "servicios/Sobrescritura.h"
-#include "servicios/ValidacionPartes.h"
 #include "valores/Contribuyente.h"
 #include "valores/Resultado.h"
 
