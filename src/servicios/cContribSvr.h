@@ -12,8 +12,8 @@
 // and what a saved value carries in their place is ignored; so a contributor named in a
 // declaration always shows it, and is never deleted.
 #include "servicios/GuardadoContribuyente.h"
+#include "servicios/LineaContribuyente.h"
 #include "servicios/Sobrescritura.h"
-#include "servicios/ValidacionPartes.h"
 #include "valores/Contribuyente.h"
 #include "valores/CriteriosParte.h"
 #include "valores/FilaContribuyente.h"
