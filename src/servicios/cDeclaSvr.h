@@ -14,7 +14,6 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
-#include <QVariant>
 #include <cstdint>
 #include <optional>
 
@@ -126,7 +125,7 @@ public:
     std::optional<DatosOperacion> ObtenerDatosOperacion(const QString& operacion, int32_t fechad,
                                                         Idioma idioma) const;
     // The code of the operation with this description on the date; empty when none.
-    QString DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
+    QString DameOperacionporDescripcion(const QString& descripcion, int32_t fechad,
                                         Idioma idioma) const;
     // The print key of the operation on the date; empty when the code does not apply then.
     QString ObtenImpresion(int32_t fechad, const QString& codigo) const;

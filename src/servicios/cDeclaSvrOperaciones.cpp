@@ -88,7 +88,7 @@ std::optional<DatosOperacion> cDeclaSvr::ObtenerDatosOperacion(const QString& op
     return d;
 }
 
-QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int32_t fechad,
+QString cDeclaSvr::DameOperacionporDescripcion(const QString& descripcion, int32_t fechad,
                                                Idioma idioma) const
 {
     const QString o = origen("DameOperacionporDescripcion");
@@ -98,7 +98,7 @@ QString cDeclaSvr::DameOperacionporDescripcion(const QVariant& descripcion, int3
                                   "WHERE %1 = ? AND T11_FECINI <= ? AND T11_FECFIN >= ? "
                                   "ORDER BY T11_ID LIMIT 1")
                        .arg(QLatin1String(columnaDescripcion(idioma))),
-                   {descripcion.toString(), fechad, fechad}, o, QString())
+                   {descripcion, fechad, fechad}, o, QString())
         .toString();
 }
 

@@ -31,14 +31,18 @@ cContribSvr contribuyentes() { return Almacen<cContribSvr>(); }
 cPresenSvr presentadores() { return Almacen<cPresenSvr>(); }
 cDeclaSvr declaraciones() { return Almacen<cDeclaSvr>(); }
 
-// The names of the list of contributors (its second column), in its order.
-QStringList nombresDeLaLista(const QString& prefijoNombre, const QVariant& prefijoDni = 0)
+// The names of the list of contributors, in its order.
+QStringList nombresDeLaLista(const QString& prefijoNombre, const QString& prefijoDni = QString())
 {
-    Arreglo2D datos;
-    contribuyentes().dameResultadoBusqueda({0, prefijoNombre, prefijoDni}, datos, 1);
+    CriteriosParte criterios;
+    if (!prefijoNombre.isEmpty())
+        criterios.NOMBRE = prefijoNombre;
+    if (!prefijoDni.isEmpty())
+        criterios.DNI = prefijoDni;
     QStringList nombres;
-    for (const QVariant& v : datos.value(1))
-        nombres << v.toString();
+    for (const FilaContribuyente& f :
+         contribuyentes().dameResultadoBusqueda(criterios, OrdenParte::Nombre))
+        nombres << f.NOMBREC;
     return nombres;
 }
 
@@ -176,9 +180,12 @@ private slots:
         QCOMPARE(cargado->NOMBREP, QStringLiteral("GESTORIA ÑOÑO SL"));
         QCOMPARE(presentadores().ObtenerCodigoPresentador(Dni(201)), nuevo->CSPR);
 
-        Arreglo2D datos;
-        QCOMPARE(presentadores().dameResultadoBusqueda({0, QStringLiteral("gestoria ño"), 0}, datos, 1), 1);
-        QCOMPARE(datos[1][0].toString(), QStringLiteral("GESTORIA ÑOÑO SL"));
+        CriteriosParte criterios;
+        criterios.NOMBRE = QStringLiteral("gestoria ño");
+        const QList<FilaPresentador> filas =
+            presentadores().dameResultadoBusqueda(criterios, OrdenParte::Nombre);
+        QCOMPARE(filas.size(), 1);
+        QCOMPARE(filas[0].NOMBREP, QStringLiteral("GESTORIA ÑOÑO SL"));
 
         QVERIFY(presentadores().BorrarPresentador(nuevo->CSPR));
         QVERIFY(!presentadores().CargarPresentador(nuevo->CSPR));
@@ -217,7 +224,8 @@ private slots:
         // The list by the start of the reference, whatever its case.
         CondicionesDeclaracion condiciones;
         condiciones.REFERENCIA = QStringLiteral("REF-Ñ");
-        const QList<FilaDeclaracion> filas = declaraciones().dameResultadoBusqueda(condiciones, 1, QStringLiteral("ASC"), 0);
+        const QList<FilaDeclaracion> filas = declaraciones().dameResultadoBusqueda(
+            condiciones, 1, QStringLiteral("ASC"), Idioma::Castellano);
         QCOMPARE(filas.size(), 1);
         QCOMPARE(filas[0].CSDE, guardada->CSDE);
 
