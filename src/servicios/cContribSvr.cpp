@@ -13,7 +13,6 @@
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
-#include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
 #include <QStringList>
@@ -97,9 +96,7 @@ Contribuyente leido(const QSqlQuery& q, int primera)
 
 Resultado<void> cContribSvr::ValidarDatosContribuyentes(const Contribuyente& c) const
 {
-    if (const int16_t regla = ReglasContribuyente(c); regla != VeredictoContribuyente::Valido)
-        return VeredictosPartes::ValidacionContribuyente(regla);
-    return {};
+    return ReglasContribuyente(c);
 }
 
 bool cContribSvr::ValidarDniOficial(const QString& dni) const

@@ -109,9 +109,7 @@ const TablaParte& tabla()
 
 Resultado<void> cPresenSvr::ValidarDatosPresentador(const Presentador& p) const
 {
-    if (const int16_t regla = ReglasPresentador(p); regla != VeredictoPresentador::Valido)
-        return VeredictosPartes::ValidacionPresentador(regla);
-    return {};
+    return ReglasPresentador(p);
 }
 
 Resultado<Presentador> cPresenSvr::GuardarPresentador(const Presentador& p,
