@@ -91,12 +91,14 @@ Cifras medir()
     c.listaEntera = 1e9;
     c.busqueda = 1e9;
     for (int r = 0; r < 3; ++r) {
-        Arreglo2D datos;
         c.listaEntera = std::min(c.listaEntera, ms([&] {
-            c.filasLista = contribuyentes.dameResultadoBusqueda({0, 0, 0}, datos, 1);
+            c.filasLista = int(
+                contribuyentes.dameResultadoBusqueda(CriteriosParte{}, OrdenParte::Nombre).size());
         }));
         c.busqueda = std::min(c.busqueda, ms([&] {
-            c.filasBusqueda = contribuyentes.dameResultadoBusqueda({0, QStringLiteral("muñoz 12"), 0}, datos, 1);
+            const CriteriosParte nombre{QStringLiteral("muñoz 12"), std::nullopt};
+            c.filasBusqueda =
+                int(contribuyentes.dameResultadoBusqueda(nombre, OrdenParte::Nombre).size());
         }));
     }
     return c;

@@ -2,12 +2,12 @@
 
 #include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
-#include "servicios/ArreglosPartes.h"
+#include "servicios/ValorGuardado.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
-using namespace ArreglosPartes;
+using namespace ValorGuardado;
 
 namespace {
 
@@ -20,20 +20,20 @@ struct TextoContribuyente {
 };
 
 const TextoContribuyente kTextos[] = {
-    {&Contribuyente::DNIC, {0, 9, kIdDniCif, "txtdnic", kIdDniVacio}},
-    {&Contribuyente::NOMBREC, {0, 40, kIdEtiquetaApellidosNombre, "txtnombrec", kIdNombreVacio}},
-    {&Contribuyente::VIAC, {0, 2, kIdVia, "txtviac"}},
-    {&Contribuyente::DOMICILIOC, {0, 20, kIdDomicilio, "txtdomicilioc"}},
-    {&Contribuyente::LETRAC, {0, 2, kIdLetra, "txtletrac"}},
-    {&Contribuyente::ESCALERAC, {0, 2, kIdEscalera, "txtescalerac"}},
-    {&Contribuyente::PISOC, {0, 2, kIdPiso, "txtpisoc"}},
-    {&Contribuyente::MANOC, {0, 3, kIdMano, "txtmanoc"}},
-    {&Contribuyente::PAIS, {0, 20, kIdEtiquetaPais, "txtpais"}},
-    {&Contribuyente::CODPROVC, {0, kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovc"}},
-    {&Contribuyente::NOMPROVC, {0, 20, kIdEtiquetaNombreProvincia, "txtnomprovc"}},
-    {&Contribuyente::CODPOSC, {0, kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposc"}},
-    {&Contribuyente::CODMUNC, {0, kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunc"}},
-    {&Contribuyente::NOMMUNC, {0, 25, kIdEtiquetaNombreMunicipio, "txtnommunc"}},
+    {&Contribuyente::DNIC, {9, kIdDniCif, "txtdnic", kIdDniVacio}},
+    {&Contribuyente::NOMBREC, {40, kIdEtiquetaApellidosNombre, "txtnombrec", kIdNombreVacio}},
+    {&Contribuyente::VIAC, {2, kIdVia, "txtviac"}},
+    {&Contribuyente::DOMICILIOC, {20, kIdDomicilio, "txtdomicilioc"}},
+    {&Contribuyente::LETRAC, {2, kIdLetra, "txtletrac"}},
+    {&Contribuyente::ESCALERAC, {2, kIdEscalera, "txtescalerac"}},
+    {&Contribuyente::PISOC, {2, kIdPiso, "txtpisoc"}},
+    {&Contribuyente::MANOC, {3, kIdMano, "txtmanoc"}},
+    {&Contribuyente::PAIS, {20, kIdEtiquetaPais, "txtpais"}},
+    {&Contribuyente::CODPROVC, {kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovc"}},
+    {&Contribuyente::NOMPROVC, {20, kIdEtiquetaNombreProvincia, "txtnomprovc"}},
+    {&Contribuyente::CODPOSC, {kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposc"}},
+    {&Contribuyente::CODMUNC, {kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunc"}},
+    {&Contribuyente::NOMMUNC, {25, kIdEtiquetaNombreMunicipio, "txtnommunc"}},
 };
 
 // The store's door for the texts of a contributor: the verdict on the first text the store

@@ -103,18 +103,6 @@ Veredicto ComprobarTexto(const QString& texto, const ColumnaTexto& c, Blancos bl
     return {};
 }
 
-Veredicto ComprobarTextos(const Arreglo& datos, std::span<const ColumnaTexto> columnas,
-                          Blancos blancos)
-{
-    for (const ColumnaTexto& c : columnas) {
-        const QString texto = c.posicion < datos.size() ? datos[c.posicion].toString() : QString();
-        Veredicto v = ComprobarTexto(texto, c, blancos);
-        if (!v.vacio())
-            return v;
-    }
-    return {};
-}
-
 QString NombreDeCampo(int idEtiqueta)
 {
     QString nombre = Texto(idEtiqueta);

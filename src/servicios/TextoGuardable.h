@@ -1,5 +1,5 @@
 #pragma once
-// The stores' door for texts. Every text of a save array is looked at here, once, before any
+// The stores' door for texts. Every text of a value to save is looked at here, once, before any
 // statement sees it, so that what a column cannot keep as given is refused with the program's
 // own words instead of reaching SQLite: there a name of blanks or one that begins with NUL
 // breaks a constraint (SQLite measures a text up to its first NUL), and half of a surrogate
@@ -13,11 +13,9 @@
 //    noncharacter (U+FFFE, U+FFFF...), which comes back as U+FFFD;
 //  - longer, in characters, than the column holds.
 // Nothing is ever changed silently: a text passes as it stands or is refused.
-#include "servicios/Arreglos.h"
 #include "valores/Veredicto.h"
 
 #include <QString>
-#include <span>
 
 // What keeps a text out of its column.
 enum class DefectoTexto {
@@ -27,9 +25,8 @@ enum class DefectoTexto {
     Largo,       // more characters than the column holds
 };
 
-// One text column of a store, as its save array brings it.
+// One text column of a store.
 struct ColumnaTexto {
-    int posicion;              // the value's position in the save array
     int ancho;                 // the characters the column holds, or kAnchoDeCifras
     int idEtiqueta;            // catalogue id of the field's label, which names it in a message
     const char* control;       // objectName of the field that shows the value
@@ -53,16 +50,10 @@ qsizetype Caracteres(QStringView texto);
 
 DefectoTexto ExaminarTexto(const QString& texto, int ancho, bool obligatorio, Blancos blancos);
 
-// The verdict on one text of column `columna` (its `posicion` is not read): the message in the
+// The verdict on one text of column `columna`: the message in the
 // current language, with the field's name and width in place, and the field to focus. An empty
 // verdict when the column can keep the text.
 Veredicto ComprobarTexto(const QString& texto, const ColumnaTexto& columna, Blancos blancos);
-
-// The verdict on the first of `columnas` whose value in `datos` its column cannot keep: the
-// message in the current language, with the field's name and width in place, and the field to
-// focus. An empty verdict when every text can be kept.
-Veredicto ComprobarTextos(const Arreglo& datos, std::span<const ColumnaTexto> columnas,
-                          Blancos blancos);
 
 // The name of a field in messages: its label without the access key, the colon and the dots
 // ("Apellidos y Nombre:" -> "Apellidos y Nombre").

@@ -3,6 +3,7 @@
 #include "catalogo/IdsCatalogo.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/ValidarDniOficial.h"
+#include "servicios/VeredictosPartes.h"
 
 
 namespace {
@@ -25,19 +26,28 @@ bool numerico(QStringView t)
     return true;
 }
 
-// Postal code of a national address, judged against its province.
-int16_t reglaCodigoPostal(const QString& cp, const QString& provincia)
+// A broken rule: its message in an information box, and the field that takes the focus.
+Veredicto rechazo(int id, const char* control)
 {
-    using namespace VeredictoContribuyente;
+    Veredicto v = VeredictosPartes::Informacion(id);
+    v.control = QLatin1String(control);
+    return v;
+}
+
+// Postal code of a national address, judged against its province. The four rules exclude one
+// another, so their order among themselves does not matter.
+Resultado<void> reglaCodigoPostal(const QString& cp, const QString& provincia)
+{
+    const char* const campo = "txtcodposc";
     if (CodigoPostal::EsCero(cp))
-        return CodigoPostalCero;
+        return rechazo(kIdCodigoPostalCero, campo);
     if (!CodigoPostal::TieneCincoCifras(cp))
-        return CodigoPostalNoDeCincoCifras;
+        return rechazo(kIdCodigoPostalCincoCifras, campo);
     if (!provincia.isEmpty() && !CodigoPostal::EsDeProvincia(cp, provincia))
-        return CodigoPostalDeOtraProvincia;
+        return rechazo(kIdProvinciaYCodigoPostalNoCoinciden, campo);
     if (CodigoPostal::TerminaEnCeros(cp))
-        return CodigoPostalTerminaEnCeros;
-    return Valido;
+        return rechazo(kIdCodigoPostalTresUltimosCero, campo);
+    return {};
 }
 
 // The rules of a postal code that an import line breaks, each judged apart: blanks alone
@@ -73,9 +83,8 @@ QString cincoCifras(const QString& cp)
 
 }  // namespace
 
-int16_t ReglasContribuyente(const Contribuyente& c)
+Resultado<void> ReglasContribuyente(const Contribuyente& c)
 {
-    using namespace VeredictoContribuyente;
     const QString& tipoDni = c.TIPODNI;
     const QString& dni = c.DNIC;
     const QString& nombre = c.NOMBREC;
@@ -90,35 +99,32 @@ int16_t ReglasContribuyente(const Contribuyente& c)
 
     const EstadoNif nif = ExaminarDni(tipoDni, dni);
     if (nif == EstadoNif::MalFormado)
-        return DniMalFormado;
+        return rechazo(kIdDniCifErroneoODigitoControl, "txtdnic");
     if (nif == EstadoNif::Vacio)
-        return DniVacio;
+        return rechazo(kIdDniVacio, "txtdnic");
     if (vacio(nombre))
-        return NombreVacio;
+        return rechazo(kIdNombreVacio, "txtnombrec");
     if (vacio(domicilio))
-        return DomicilioVacio;
+        return rechazo(kIdDomicilioVacio, "txtdomicilioc");
     if (extranjero && vacio(pais))
-        return PaisVacio;
+        return rechazo(kIdPaisVacio, "txtpais");
     if (!extranjero) {
-        // The four rules of the postal code exclude one another, so their order among
-        // themselves does not matter; the table numbers them 6 to 9.
-        const int16_t r = reglaCodigoPostal(cp, provincia);
-        if (r != Valido)
+        if (Resultado<void> r = reglaCodigoPostal(cp, provincia); !r)
             return r;
     }
     if (extranjero && vacio(nomProvincia))
-        return ProvinciaVacia;
+        return rechazo(kIdProvinciaVacia, "txtnomprovc");
     const bool nombreMunicipioDebido =
         extranjero || (!provincia.isEmpty() && provincia != kProvinciaTesoreria);
     if (nombreMunicipioDebido && vacio(nomMunicipio))
-        return MunicipioVacio;
+        return rechazo(kIdMunicipioVacio, "txtnommunc");
     if (!extranjero && provincia.isEmpty())
-        return CodigoProvinciaVacio;
+        return rechazo(kIdCodigoProvinciaVacio, "txtcodprovc");
     if (!extranjero && provincia == kProvinciaTesoreria && municipio.isEmpty())
-        return CodigoMunicipioVacio;
+        return rechazo(kIdCodigoMunicipioVacio, "txtcodmunc");
     if (nif == EstadoNif::ControlErroneo)
-        return DniControlErroneo;
-    return Valido;
+        return rechazo(kIdNifSinDigitoControl, "txtdnic");
+    return {};
 }
 
 QList<HallazgoImportacion> ErroresImportacion(const LineaContribuyente& l,
@@ -209,9 +215,8 @@ QList<HallazgoImportacion> ErroresImportacion(const LineaContribuyente& l,
     return errores;
 }
 
-int16_t ReglasPresentador(const Presentador& p)
+Resultado<void> ReglasPresentador(const Presentador& p)
 {
-    using namespace VeredictoPresentador;
     const QString& dni = p.DNIP;
     const QString& nombre = p.NOMBREP;
     const QString& domicilio = p.DOMICILIOP;
@@ -225,28 +230,28 @@ int16_t ReglasPresentador(const Presentador& p)
     // badly formed one.
     const EstadoNif nif = ExaminarNifOficial(dni);
     if (nif == EstadoNif::Vacio || nif == EstadoNif::MalFormado)
-        return DniErroneo;
+        return rechazo(kIdDniCifErroneoODigitoControl, "txtdnip");
     if (vacio(nombre))
-        return NombreVacio;
+        return rechazo(kIdNombreVacio, "txtnombrep");
     if (vacio(domicilio))
-        return DomicilioVacio;
+        return rechazo(kIdDomicilioVacio, "txtdomiciliop");
     if (provincia == kProvinciaTesoreria && municipio.isEmpty())
-        return CodigoMunicipioVacio;
+        return rechazo(kIdCodigoMunicipioVacio, "txtcodmunp");
     if (provincia != kProvinciaTesoreria && vacio(nomMunicipio))
-        return MunicipioVacio;
+        return rechazo(kIdMunicipioVacio, "txtnommunp");
     if (CodigoPostal::EsCero(cp))
-        return CodigoPostalCero;
+        return rechazo(kIdCodigoPostalCero, "txtcodposp");
     if (!CodigoPostal::EsDeProvincia(cp, provincia))
-        return CodigoPostalDeOtraProvincia;
+        return rechazo(kIdProvinciaYCodigoPostalNoCoinciden, "txtcodposp");
     if (CodigoPostal::TerminaEnCeros(cp))
-        return CodigoPostalTerminaEnCeros;
+        return rechazo(kIdCodigoPostalTresUltimosCero, "txtcodposp");
     // A telephone of value 0 is shown empty, and so it is none.
     const bool sinTelefono = CodigoPostal::EsCero(telefono);
     if (!sinTelefono && !(telefono.size() == 9 && SoloCifras(telefono)))
-        return TelefonoNoDeNueveCifras;
+        return rechazo(kIdTelefonoNueveCifras, "txttelefonop");
     if (sinTelefono)
-        return TelefonoVacio;
+        return rechazo(kIdTelefonoVacio, "txttelefonop");
     if (nif == EstadoNif::ControlErroneo)
-        return DniControlErroneo;
-    return Valido;
+        return rechazo(kIdNifSinDigitoControl, "txtdnip");
+    return {};
 }

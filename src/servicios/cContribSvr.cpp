@@ -2,8 +2,6 @@
 
 #include "catalogo/IdsCatalogo.h"
 #include "plataforma/Fallo.h"
-#include "servicios/ArreglosPartes.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/CodigoPostal.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
@@ -13,14 +11,11 @@
 #include "servicios/TablaParte.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/ValidarDniOficial.h"
-#include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
 #include <QStringList>
 #include <limits>
 
-using namespace ArreglosPartes;
-namespace P = PosContribuyente;
 
 namespace {
 
@@ -30,8 +25,6 @@ QString origen(const char* metodo)
 }
 
 const QStringList& kColumnas = GuardadoContribuyente::Columnas();
-// A stored row lacks the code: its value of position p stands at p - kPrimera.
-constexpr int kPrimera = P::TIPODNI;
 
 const TablaParte& tabla()
 {
@@ -63,43 +56,66 @@ void ordenar(QList<Fila>& filas, OrdenParte orden)
                               codigo);
 }
 
+// The place of each value in a row that holds the stored columns (those of kColumnas, in their
+// order), then the two counters and the version: found by the columns' names once, so that a
+// row is read without looking a name up.
+struct ColumnasLeidas {
+    int TIPODNI, DNIC, NOMBREC, VIAC, DOMICILIOC, NUMEROC, LETRAC, ESCALERAC, PISOC, MANOC,
+        TIPODOMI, PAIS, CODPROVC, NOMPROVC, CODPOSC, CODMUNC, NOMMUNC, NUMSP, NUMTR, VERSION;
+};
+
+const ColumnasLeidas& columnasLeidas()
+{
+    static const ColumnasLeidas c = [] {
+        const auto en = [](const char* columna) {
+            const qsizetype i = kColumnas.indexOf(QLatin1String(columna));
+            Q_ASSERT(i >= 0);
+            return int(i);
+        };
+        const int contadores = int(kColumnas.size());
+        return ColumnasLeidas{en("TIPODNI"),  en("DNIC"),      en("NOMBREC"), en("VIAC"),
+                              en("DOMICILIOC"), en("NUMEROC"), en("LETRAC"),  en("ESCALERAC"),
+                              en("PISOC"),    en("MANOC"),     en("TIPODOMI"), en("PAIS"),
+                              en("CODPROVC"), en("NOMPROVC"),  en("CODPOSC"), en("CODMUNC"),
+                              en("NOMMUNC"),  contadores,      contadores + 1, contadores + 2};
+    }();
+    return c;
+}
+
 // A contributor from a row that holds, from column `primera` on, the stored columns (those of
 // kColumnas) and the two counters.
 Contribuyente leido(const QSqlQuery& q, int primera)
 {
-    // The value of position p of the contributor's layout stands at column p - P::TIPODNI.
-    const auto valor = [&q, primera](int p) { return q.value(primera + p - P::TIPODNI); };
+    const ColumnasLeidas& k = columnasLeidas();
+    const auto valor = [&q, primera](int columna) { return q.value(primera + columna); };
     Contribuyente c;
-    c.TIPODNI = valor(P::TIPODNI).toString();
-    c.DNIC = valor(P::DNIC).toString();
-    c.NOMBREC = valor(P::NOMBREC).toString();
-    c.VIAC = valor(P::VIAC).toString();
-    c.DOMICILIOC = valor(P::DOMICILIOC).toString();
-    c.NUMEROC = valor(P::NUMEROC).toInt();
-    c.LETRAC = valor(P::LETRAC).toString();
-    c.ESCALERAC = valor(P::ESCALERAC).toString();
-    c.PISOC = valor(P::PISOC).toString();
-    c.MANOC = valor(P::MANOC).toString();
-    c.TIPODOMI = valor(P::TIPODOMI).toString();
-    c.PAIS = valor(P::PAIS).toString();
-    c.CODPROVC = valor(P::CODPROVC).toString();
-    c.NOMPROVC = valor(P::NOMPROVC).toString();
-    c.CODPOSC = valor(P::CODPOSC).toString();
-    c.CODMUNC = valor(P::CODMUNC).toString();
-    c.NOMMUNC = valor(P::NOMMUNC).toString();
-    c.NUMSP = valor(P::NUMSP).toDouble();
-    c.NUMTR = valor(P::NUMTR).toDouble();
+    c.TIPODNI = valor(k.TIPODNI).toString();
+    c.DNIC = valor(k.DNIC).toString();
+    c.NOMBREC = valor(k.NOMBREC).toString();
+    c.VIAC = valor(k.VIAC).toString();
+    c.DOMICILIOC = valor(k.DOMICILIOC).toString();
+    c.NUMEROC = valor(k.NUMEROC).toInt();
+    c.LETRAC = valor(k.LETRAC).toString();
+    c.ESCALERAC = valor(k.ESCALERAC).toString();
+    c.PISOC = valor(k.PISOC).toString();
+    c.MANOC = valor(k.MANOC).toString();
+    c.TIPODOMI = valor(k.TIPODOMI).toString();
+    c.PAIS = valor(k.PAIS).toString();
+    c.CODPROVC = valor(k.CODPROVC).toString();
+    c.NOMPROVC = valor(k.NOMPROVC).toString();
+    c.CODPOSC = valor(k.CODPOSC).toString();
+    c.CODMUNC = valor(k.CODMUNC).toString();
+    c.NOMMUNC = valor(k.NOMMUNC).toString();
+    c.NUMSP = valor(k.NUMSP).toDouble();
+    c.NUMTR = valor(k.NUMTR).toDouble();
     return c;
 }
-
 
 }  // namespace
 
 Resultado<void> cContribSvr::ValidarDatosContribuyentes(const Contribuyente& c) const
 {
-    if (const int16_t regla = ReglasContribuyente(c); regla != VeredictoContribuyente::Valido)
-        return VeredictosPartes::ValidacionContribuyente(regla);
-    return {};
+    return ReglasContribuyente(c);
 }
 
 bool cContribSvr::ValidarDniOficial(const QString& dni) const
@@ -152,7 +168,7 @@ std::optional<Contribuyente> cContribSvr::CargarContribuyente(int32_t csco) cons
     // The query's columns: those of the stored row, then the two counters and the version.
     Contribuyente c = leido(q, 0);
     c.CSCO = csco;
-    c.VERSION = q.value(P::NUMTR - kPrimera + 1).toLongLong();
+    c.VERSION = q.value(columnasLeidas().VERSION).toLongLong();
     return c;
 }
 

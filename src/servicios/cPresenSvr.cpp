@@ -1,8 +1,6 @@
 #include "servicios/cPresenSvr.h"
 
 #include "catalogo/IdsCatalogo.h"
-#include "servicios/ArreglosPartes.h"
-#include "servicios/PosicionesPresentador.h"
 #include "servicios/Conexion.h"
 #include "servicios/ContadoresPartes.h"
 #include "servicios/ListasPartes.h"
@@ -10,6 +8,7 @@
 #include "servicios/TablaParte.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/ValidacionPartes.h"
+#include "servicios/ValorGuardado.h"
 #include "servicios/VeredictosPartes.h"
 #include "servicios/VersionFila.h"
 
@@ -17,8 +16,7 @@
 #include <algorithm>
 #include <limits>
 
-using namespace ArreglosPartes;
-namespace P = PosPresentador;
+using namespace ValorGuardado;
 
 namespace {
 
@@ -27,7 +25,7 @@ QString origen(const char* metodo)
     return QStringLiteral("svrveldoV1.cPresenSvr.") + QLatin1String(metodo);
 }
 
-// The stored columns in the order of the save array, from P::DNIP to P::TELEFONOP.
+// The stored columns, in the order of the stored row (filaGuardada).
 const QStringList kColumnas = {
     QStringLiteral("DNIP"),      QStringLiteral("NOMBREP"),   QStringLiteral("VIAP"),
     QStringLiteral("DOMICILIOP"), QStringLiteral("NUMEROP"),  QStringLiteral("LETRAP"),
@@ -35,67 +33,62 @@ const QStringList kColumnas = {
     QStringLiteral("CODPROVP"),  QStringLiteral("CODPOSP"),   QStringLiteral("CODMUNP"),
     QStringLiteral("NOMMUNP"),   QStringLiteral("TELEFONOP"),
 };
-// A stored row lacks the code: its value of position p stands at p - kPrimera.
-constexpr int kPrimera = P::DNIP;
+// The number's place in a stored row.
+constexpr int kColumnaDni = 0;
 
-QVariantList filaGuardada(const Arreglo& a, const QString& org)
+QVariantList filaGuardada(const Presentador& p, const QString& org)
 {
     return {
-        TextoGuardado(a, P::DNIP, 9, "DNIP", org),
-        TextoGuardado(a, P::NOMBREP, 40, "NOMBREP", org),
-        TextoGuardado(a, P::VIAP, 2, "VIAP", org),
-        TextoGuardado(a, P::DOMICILIOP, 20, "DOMICILIOP", org),
-        EnteroGuardado(a, P::NUMEROP, 99999, "NUMEROP", org),
-        TextoGuardado(a, P::LETRAP, 2, "LETRAP", org),
-        TextoGuardado(a, P::ESCALERAP, 2, "ESCALERAP", org),
-        TextoGuardado(a, P::PISOP, 2, "PISOP", org),
-        TextoGuardado(a, P::MANOP, 3, "MANOP", org),
-        CodigoGuardado(a, P::CODPROVP, 2, "CODPROVP", org),
-        CodigoGuardado(a, P::CODPOSP, 5, "CODPOSP", org),
-        CodigoGuardado(a, P::CODMUNP, 3, "CODMUNP", org),
-        TextoGuardado(a, P::NOMMUNP, 25, "NOMMUNP", org),
-        CifrasGuardadas(a, P::TELEFONOP, 9, "TELEFONOP", org),
+        TextoGuardado(p.DNIP, 9, "DNIP", org),
+        TextoGuardado(p.NOMBREP, 40, "NOMBREP", org),
+        TextoGuardado(p.VIAP, 2, "VIAP", org),
+        TextoGuardado(p.DOMICILIOP, 20, "DOMICILIOP", org),
+        EnteroGuardado(p.NUMEROP, 99999, "NUMEROP", org),
+        TextoGuardado(p.LETRAP, 2, "LETRAP", org),
+        TextoGuardado(p.ESCALERAP, 2, "ESCALERAP", org),
+        TextoGuardado(p.PISOP, 2, "PISOP", org),
+        TextoGuardado(p.MANOP, 3, "MANOP", org),
+        CodigoGuardado(p.CODPROVP, 2, "CODPROVP", org),
+        CodigoGuardado(p.CODPOSP, 5, "CODPOSP", org),
+        CodigoGuardado(p.CODMUNP, 3, "CODMUNP", org),
+        TextoGuardado(p.NOMMUNP, 25, "NOMMUNP", org),
+        CifrasGuardadas(p.TELEFONOP, 9, "TELEFONOP", org),
     };
 }
 
-// The texts of a save array, as the store keeps them (see the contributor's store). An empty
+// A text of the presenter as the store keeps it (see the contributor's store). An empty
 // number is, for a presenter, a wrong one.
-constexpr ColumnaTexto kTextos[] = {
-    {P::DNIP, 9, kIdDniCif, "txtdnip", kIdDniCifErroneoODigitoControl},
-    {P::NOMBREP, 40, kIdEtiquetaApellidosNombre, "txtnombrep", kIdNombreVacio},
-    {P::VIAP, 2, kIdVia, "txtviap"},
-    {P::DOMICILIOP, 20, kIdDomicilio, "txtdomiciliop"},
-    {P::LETRAP, 2, kIdLetra, "txtletrap"},
-    {P::ESCALERAP, 2, kIdEscalera, "txtescalerap"},
-    {P::PISOP, 2, kIdPiso, "txtpisop"},
-    {P::MANOP, 3, kIdMano, "txtmanop"},
-    {P::CODPROVP, kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovp"},
-    {P::CODPOSP, kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposp"},
-    {P::CODMUNP, kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunp"},
-    {P::NOMMUNP, 25, kIdEtiquetaNombreMunicipio, "txtnommunp"},
-    {P::TELEFONOP, 9, kIdEtiquetaTelefono, "txttelefonop"},
+struct TextoPresentador {
+    QString Presentador::*campo;
+    ColumnaTexto columna;
 };
 
-// The save array of a value, in the order of PosPresentador.
-Arreglo arregloDe(const Presentador& p)
+const TextoPresentador kTextos[] = {
+    {&Presentador::DNIP, {9, kIdDniCif, "txtdnip", kIdDniCifErroneoODigitoControl}},
+    {&Presentador::NOMBREP, {40, kIdEtiquetaApellidosNombre, "txtnombrep", kIdNombreVacio}},
+    {&Presentador::VIAP, {2, kIdVia, "txtviap"}},
+    {&Presentador::DOMICILIOP, {20, kIdDomicilio, "txtdomiciliop"}},
+    {&Presentador::LETRAP, {2, kIdLetra, "txtletrap"}},
+    {&Presentador::ESCALERAP, {2, kIdEscalera, "txtescalerap"}},
+    {&Presentador::PISOP, {2, kIdPiso, "txtpisop"}},
+    {&Presentador::MANOP, {3, kIdMano, "txtmanop"}},
+    {&Presentador::CODPROVP, {kAnchoDeCifras, kIdProvinciaPuntos, "txtcodprovp"}},
+    {&Presentador::CODPOSP, {kAnchoDeCifras, kIdEtiquetaCodigoPostal, "txtcodposp"}},
+    {&Presentador::CODMUNP, {kAnchoDeCifras, kIdMunicipioPuntos, "txtcodmunp"}},
+    {&Presentador::NOMMUNP, {25, kIdEtiquetaNombreMunicipio, "txtnommunp"}},
+    {&Presentador::TELEFONOP, {9, kIdEtiquetaTelefono, "txttelefonop"}},
+};
+
+// The store's door for the texts of a presenter: the verdict on the first text the store
+// cannot keep as given; an empty verdict when every text can be kept.
+Veredicto puerta(const Presentador& p)
 {
-    Arreglo a(P::Tamano);
-    a[P::CSPR] = p.CSPR;
-    a[P::DNIP] = p.DNIP;
-    a[P::NOMBREP] = p.NOMBREP;
-    a[P::VIAP] = p.VIAP;
-    a[P::DOMICILIOP] = p.DOMICILIOP;
-    a[P::NUMEROP] = p.NUMEROP;
-    a[P::LETRAP] = p.LETRAP;
-    a[P::ESCALERAP] = p.ESCALERAP;
-    a[P::PISOP] = p.PISOP;
-    a[P::MANOP] = p.MANOP;
-    a[P::CODPROVP] = p.CODPROVP;
-    a[P::CODPOSP] = p.CODPOSP;
-    a[P::CODMUNP] = p.CODMUNP;
-    a[P::NOMMUNP] = p.NOMMUNP;
-    a[P::TELEFONOP] = p.TELEFONOP;
-    return a;
+    for (const TextoPresentador& t : kTextos) {
+        Veredicto v = ComprobarTexto(p.*t.campo, t.columna, Blancos::Recortados);
+        if (!v.vacio())
+            return v;
+    }
+    return {};
 }
 
 const TablaParte& tabla()
@@ -109,22 +102,19 @@ const TablaParte& tabla()
 
 Resultado<void> cPresenSvr::ValidarDatosPresentador(const Presentador& p) const
 {
-    if (const int16_t regla = ReglasPresentador(p); regla != VeredictoPresentador::Valido)
-        return VeredictosPartes::ValidacionPresentador(regla);
-    return {};
+    return ReglasPresentador(p);
 }
 
 Resultado<Presentador> cPresenSvr::GuardarPresentador(const Presentador& p,
                                                       Sobrescritura sobre) const
 {
     const QString org = origen("GuardarPresentador");
-    const Arreglo datos = arregloDe(p);
-    if (Veredicto v = ComprobarTextos(datos, kTextos, Blancos::Recortados); !v.vacio())
+    if (Veredicto v = puerta(p); !v.vacio())
         return v;
-    const QVariantList fila = filaGuardada(datos, org);
+    const QVariantList fila = filaGuardada(p, org);
     const int32_t cspr = p.CSPR;
     const bool vigilada = sobre == Sobrescritura::VersionCargada;
-    const QString dni = fila[P::DNIP - kPrimera].toString();
+    const QString dni = fila[kColumnaDni].toString();
 
     const QSqlDatabase db = Conexion::Modificable(mdbmod, org);
     Transaccion transaccion(db, org);
@@ -177,24 +167,27 @@ std::optional<Presentador> cPresenSvr::CargarPresentador(int32_t cspr) const
                            {cspr}, org);
     if (!q.next())
         return std::nullopt;
-    // The query's columns: those of the stored row, then the version.
-    const auto texto = [&q](int p) { return q.value(p - kPrimera).toString(); };
+    // The query's columns: those of the stored row, each read by its name, then the version.
+    const auto valor = [&q](const char* columna) {
+        return q.value(int(kColumnas.indexOf(QLatin1String(columna))));
+    };
+    const auto texto = [&valor](const char* columna) { return valor(columna).toString(); };
     Presentador p;
     p.CSPR = cspr;
-    p.DNIP = texto(P::DNIP);
-    p.NOMBREP = texto(P::NOMBREP);
-    p.VIAP = texto(P::VIAP);
-    p.DOMICILIOP = texto(P::DOMICILIOP);
-    p.NUMEROP = q.value(P::NUMEROP - kPrimera).toInt();
-    p.LETRAP = texto(P::LETRAP);
-    p.ESCALERAP = texto(P::ESCALERAP);
-    p.PISOP = texto(P::PISOP);
-    p.MANOP = texto(P::MANOP);
-    p.CODPROVP = texto(P::CODPROVP);
-    p.CODPOSP = texto(P::CODPOSP);
-    p.CODMUNP = texto(P::CODMUNP);
-    p.NOMMUNP = texto(P::NOMMUNP);
-    p.TELEFONOP = texto(P::TELEFONOP);
+    p.DNIP = texto("DNIP");
+    p.NOMBREP = texto("NOMBREP");
+    p.VIAP = texto("VIAP");
+    p.DOMICILIOP = texto("DOMICILIOP");
+    p.NUMEROP = valor("NUMEROP").toInt();
+    p.LETRAP = texto("LETRAP");
+    p.ESCALERAP = texto("ESCALERAP");
+    p.PISOP = texto("PISOP");
+    p.MANOP = texto("MANOP");
+    p.CODPROVP = texto("CODPROVP");
+    p.CODPOSP = texto("CODPOSP");
+    p.CODMUNP = texto("CODMUNP");
+    p.NOMMUNP = texto("NOMMUNP");
+    p.TELEFONOP = texto("TELEFONOP");
     p.VERSION = q.value(int(kColumnas.size())).toLongLong();
     return p;
 }

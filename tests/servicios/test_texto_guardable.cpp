@@ -10,15 +10,12 @@
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "servicios/BusquedaTexto.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/TextoGuardable.h"
 #include "servicios/cContribSvr.h"
 #include "servicios/cPresenSvr.h"
 
 #include <QSqlQuery>
 #include <QtTest>
-
-namespace P = PosContribuyente;
 
 namespace {
 
@@ -37,17 +34,20 @@ Veredicto Rechazo(const Resultado<T>& r)
     return r ? Veredicto{} : r.veredicto();
 }
 
-// The text field of a contributor at a position of the contributor's columns.
-QString& Campo(Contribuyente& c, int posicion)
+// The text field of a contributor by its name.
+QString& Campo(Contribuyente& c, const QString& nombre)
 {
-    switch (posicion) {
-    case P::DNIC: return c.DNIC;
-    case P::DOMICILIOC: return c.DOMICILIOC;
-    case P::MANOC: return c.MANOC;
-    case P::NOMMUNC: return c.NOMMUNC;
-    case P::CODPOSC: return c.CODPOSC;
-    default: qFatal("Campo sin caso: %d", posicion);
-    }
+    if (nombre == QLatin1String("DNIC"))
+        return c.DNIC;
+    if (nombre == QLatin1String("DOMICILIOC"))
+        return c.DOMICILIOC;
+    if (nombre == QLatin1String("MANOC"))
+        return c.MANOC;
+    if (nombre == QLatin1String("NOMMUNC"))
+        return c.NOMMUNC;
+    if (nombre == QLatin1String("CODPOSC"))
+        return c.CODPOSC;
+    qFatal("Campo sin caso: %s", qPrintable(nombre));
 }
 
 cPresenSvr Presentadores()
@@ -215,10 +215,8 @@ private slots:
     void mensajeEnEuskera()
     {
         EstablecerIdiomaPrograma(Idioma::Euskera);
-        const ColumnaTexto c[] = {{P::NOMBREC, 40, kIdEtiquetaApellidosNombre, "txtnombrec"}};
-        Arreglo datos(P::Tamano);
-        datos[P::NOMBREC] = QString(41, QLatin1Char('N'));
-        const Veredicto v = ComprobarTextos(datos, c, Blancos::Recortados);
+        const ColumnaTexto c = {40, kIdEtiquetaApellidosNombre, "txtnombrec"};
+        const Veredicto v = ComprobarTexto(QString(41, QLatin1Char('N')), c, Blancos::Recortados);
         QCOMPARE(v.id, kIdCasillaDemasiadoLarga);
         QCOMPARE(v.mensaje,
                  QStringLiteral("Deiturak eta izena laukiak ezin ditu 40 karaktere baino gehiago izan"));
@@ -272,38 +270,38 @@ private slots:
 
     void contribuyenteOtrosCampos_data()
     {
-        QTest::addColumn<int>("posicion");
+        QTest::addColumn<QString>("campo");
         QTest::addColumn<QString>("valor");
         QTest::addColumn<QString>("control");
         QTest::addColumn<QString>("mensaje");
-        QTest::newRow("DNI de blancos") << int(P::DNIC) << QStringLiteral("   ")
+        QTest::newRow("DNI de blancos") << QStringLiteral("DNIC") << QStringLiteral("   ")
                                         << QStringLiteral("txtdnic")
                                         << QStringLiteral("La casilla DNI debe tener algún valor");
-        QTest::newRow("DNI con NUL") << int(P::DNIC) << QString(kNul) << QStringLiteral("txtdnic")
+        QTest::newRow("DNI con NUL") << QStringLiteral("DNIC") << QString(kNul) << QStringLiteral("txtdnic")
                                      << QStringLiteral("La casilla DNI-CIF contiene caracteres que no se pueden guardar");
-        QTest::newRow("calle larga") << int(P::DOMICILIOC) << QString(21, QLatin1Char('C'))
+        QTest::newRow("calle larga") << QStringLiteral("DOMICILIOC") << QString(21, QLatin1Char('C'))
                                      << QStringLiteral("txtdomicilioc")
                                      << QStringLiteral("La casilla Domicilio no puede tener más de 20 caracteres");
-        QTest::newRow("mano larga") << int(P::MANOC) << QStringLiteral("DCHA")
+        QTest::newRow("mano larga") << QStringLiteral("MANOC") << QStringLiteral("DCHA")
                                     << QStringLiteral("txtmanoc")
                                     << QStringLiteral("La casilla Mano no puede tener más de 3 caracteres");
-        QTest::newRow("municipio con salto") << int(P::NOMMUNC) << QStringLiteral("BIL\nBAO")
+        QTest::newRow("municipio con salto") << QStringLiteral("NOMMUNC") << QStringLiteral("BIL\nBAO")
                                              << QStringLiteral("txtnommunc")
                                              << QStringLiteral("La casilla Nombre del municipio contiene caracteres que no se pueden guardar");
-        QTest::newRow("código con NUL") << int(P::CODPOSC) << QStringLiteral("77001") + kNul
+        QTest::newRow("código con NUL") << QStringLiteral("CODPOSC") << QStringLiteral("77001") + kNul
                                         << QStringLiteral("txtcodposc")
                                         << QStringLiteral("La casilla Cód. Postal contiene caracteres que no se pueden guardar");
     }
 
     void contribuyenteOtrosCampos()
     {
-        QFETCH(int, posicion);
+        QFETCH(QString, campo);
         QFETCH(QString, valor);
         QFETCH(QString, control);
         QFETCH(QString, mensaje);
         AlmacenDePrueba almacen;
         Contribuyente a = ContribuyenteNacional(Dni(4), QStringLiteral("ETXEBERRIA OTXOA ANE"));
-        Campo(a, posicion) = valor;
+        Campo(a, campo) = valor;
         const Veredicto rechazo =
             Rechazo(Contribuyentes().GuardarContribuyente(a, Sobrescritura::CualquierVersion));
         QVERIFY(!rechazo.vacio());

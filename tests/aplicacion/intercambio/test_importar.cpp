@@ -11,7 +11,6 @@
 #include "plataforma/Idioma.h"
 #include "catalogo/Catalogo.h"
 #include "registros/intercambio/cImportar.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/cContribSvr.h"
 
 #include <QDir>

@@ -6,10 +6,8 @@
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
-#include "comun/ArregloPrueba.h"
 #include "servicios/Conexion.h"
 #include "servicios/GuardadoContribuyente.h"
-#include "servicios/PosicionesContribuyente.h"
 #include "servicios/ValidacionPartes.h"
 #include "servicios/cContribSvr.h"
 #include "catalogo/Catalogo.h"
@@ -17,8 +15,6 @@
 
 #include <QtTest>
 #include <iterator>
-
-namespace P = PosContribuyente;
 
 namespace {
 

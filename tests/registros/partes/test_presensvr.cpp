@@ -7,7 +7,6 @@
 
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
-#include "comun/ArregloPrueba.h"
 #include "catalogo/Catalogo.h"
 #include "valores/BotonesMensaje.h"
 #include "servicios/cPresenSvr.h"

@@ -2,7 +2,6 @@
 
 #include "aplicacion/MDIVeldo.h"
 #include "comun/AlmacenPrueba.h"
-#include "comun/ArregloPrueba.h"
 #include "paneles/controles/Colores.h"
 #include "plataforma/General.h"
 #include "servicios/cContribSvr.h"

@@ -1,4 +1,4 @@
-#include "servicios/ArreglosPartes.h"
+#include "servicios/ValorGuardado.h"
 
 #include "plataforma/Fallo.h"
 #include "servicios/CodigoPostal.h"
@@ -10,16 +10,10 @@ namespace {
 
 [[noreturn]] void noCoincide(const char* campo, const QVariant& valor, const QString& origen)
 {
-    // Failure 13, "type mismatch": a value of the array cannot become its field's type.
+    // Failure 13, "type mismatch": a value cannot become its field's type.
     throw cFallo(13, origen,
                  QStringLiteral("No coinciden los tipos: %1 = '%2'")
                      .arg(QLatin1String(campo), valor.toString()));
-}
-
-const QVariant& valor(const Arreglo& a, int i)
-{
-    static const QVariant kNada;
-    return i < a.size() ? a[i] : kNada;
 }
 
 bool esNumero(const QVariant& v)
@@ -73,18 +67,8 @@ bool cero(const QString& digitos)
 
 }  // namespace
 
-namespace ArreglosPartes {
+namespace ValorGuardado {
 
-QString Texto(const Arreglo& a, int i)
-{
-    return valor(a, i).toString();
-}
-
-QString TextoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
-                      const QString& origen)
-{
-    return TextoGuardado(valor(a, i), ancho, campo, origen);
-}
 
 QString TextoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen)
 {
@@ -101,11 +85,6 @@ QString TextoGuardado(const QVariant& v, int ancho, const char* campo, const QSt
     return t;
 }
 
-int32_t EnteroGuardado(const Arreglo& a, int i, int32_t maximo, const char* campo,
-                       const QString& origen)
-{
-    return EnteroGuardado(valor(a, i), maximo, campo, origen);
-}
 
 int32_t EnteroGuardado(const QVariant& v, int32_t maximo, const char* campo,
                        const QString& origen)
@@ -122,11 +101,6 @@ int32_t EnteroGuardado(const QVariant& v, int32_t maximo, const char* campo,
     return static_cast<int32_t>(n);
 }
 
-QString CodigoGuardado(const Arreglo& a, int i, int ancho, const char* campo,
-                       const QString& origen)
-{
-    return CodigoGuardado(valor(a, i), ancho, campo, origen);
-}
 
 QString CodigoGuardado(const QVariant& v, int ancho, const char* campo, const QString& origen)
 {
@@ -147,11 +121,6 @@ QString CodigoGuardado(const QVariant& v, int ancho, const char* campo, const QS
     return d->rightJustified(ancho, QLatin1Char('0'));
 }
 
-QString CifrasGuardadas(const Arreglo& a, int i, int ancho, const char* campo,
-                        const QString& origen)
-{
-    return CifrasGuardadas(valor(a, i), ancho, campo, origen);
-}
 
 QString CifrasGuardadas(const QVariant& v, int ancho, const char* campo, const QString& origen)
 {
@@ -161,4 +130,4 @@ QString CifrasGuardadas(const QVariant& v, int ancho, const char* campo, const Q
     return noNulo(cero(*d) ? QString() : *d);
 }
 
-}  // namespace ArreglosPartes
+}  // namespace ValorGuardado
