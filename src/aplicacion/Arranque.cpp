@@ -1,6 +1,7 @@
 #include "aplicacion/Arranque.h"
 
 #include "aplicacion/AvisoAlmacen.h"
+#include "aplicacion/PreferenciaOficina.h"
 #include "paneles/dialogos/Mensaje.h"
 
 #include "paneles/actualizacion/ActualizacionOnline.h"
@@ -116,8 +117,9 @@ void ConfigurarRutas(const QString& carpetaPrograma, const QString& carpetaDatos
     mdbPath = carpetaDatos == carpetaPrograma ? tablasPrograma
                                                : carpetaDatos + QStringLiteral("/Tablas/");
     mdbmod = mdbPath + QStringLiteral("VELDOMOD.mdb");
-    // An office's store is its server, named by the seat; the backups and exchange files stay in
-    // the data folder.
+    // An office's store is its server, named on the command line or kept as this user's choice;
+    // the backups and exchange files stay in the data folder.
+    PreferenciaOficina::Aplicar();
     if (const QString oficina = OficinaElegida(); !oficina.isEmpty())
         mdbmod = oficina;
     mdblec = tablasPrograma + QStringLiteral("VELDOLEC.mdb");

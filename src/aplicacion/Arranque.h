@@ -11,6 +11,8 @@ void ConfigurarRutas(const QString& carpetaPrograma);
 // The same when the data folder may be elsewhere: the reference database stays under the
 // program's base folder, while the read/write one (and mdbPath, its folder) goes under the
 // Tablas/ of the data folder, unless that is the program's folder itself.
+// On an office's server (chosen on the command line, or kept as the user's choice:
+// PreferenciaOficina) the read/write store is the server's service or connection string.
 void ConfigurarRutas(const QString& carpetaPrograma, const QString& carpetaDatos);
 // Brings the read/write database to the current layout; answers false when the program ended
 // because the database cannot be brought to it. On an office's server it only checks that the

@@ -1188,11 +1188,11 @@ constexpr FilaCatalogo kFilas[kUltimoId] = {
               "La base de datos de la oficina %1 es de una versión posterior del programa: no se ha cambiado nada. Actualice el programa.",
               "Bulegoko %1 datu-basea programaren ondorengo bertsio batekoa da: ez da ezer aldatu. Eguneratu programa."},
     /* 394 */ {kIdOficinaSinCrear,
-              "La base de datos de la oficina %1 aún no está creada. El administrador de la oficina la crea con: Veldo --crear-oficina %1",
-              "Bulegoko %1 datu-basea ez dago oraindik sortuta. Bulegoko administratzaileak honela sortzen du: Veldo --crear-oficina %1"},
+              "La base de datos de la oficina %1 aún no está creada. El administrador de la oficina la crea con: Veldo --crear-oficina SERVICIO",
+              "Bulegoko %1 datu-basea ez dago oraindik sortuta. Bulegoko administratzaileak honela sortzen du: Veldo --crear-oficina ZERBITZUA"},
     /* 395 */ {kIdOficinaAnterior,
-              "La base de datos de la oficina %1 es de una versión anterior del programa. El administrador de la oficina la pone al día con: Veldo --crear-oficina %1",
-              "Bulegoko %1 datu-basea programaren aurreko bertsio batekoa da. Bulegoko administratzaileak honela eguneratzen du: Veldo --crear-oficina %1"},
+              "La base de datos de la oficina %1 es de una versión anterior del programa. El administrador de la oficina la pone al día con: Veldo --crear-oficina SERVICIO",
+              "Bulegoko %1 datu-basea programaren aurreko bertsio batekoa da. Bulegoko administratzaileak honela eguneratzen du: Veldo --crear-oficina ZERBITZUA"},
 };
 
 // Every name stands for the row it heads: the generated numbering and the table agree.

@@ -9,6 +9,7 @@
 #include "comun/ServidorPostgres.h"
 
 #include "aplicacion/LineaDeOrdenes.h"
+#include "aplicacion/PreferenciaOficina.h"
 #include "plataforma/Estado.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
@@ -18,6 +19,8 @@
 #include "servicios/postgres/ConexionPostgres.h"
 
 #include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
 #include <memory>
@@ -56,6 +59,8 @@ class TestOrdenesOficina : public QObject {
 
     std::unique_ptr<CarpetaDePrueba> m_carpeta;
     ServidorPostgres::Base m_base;
+    // The user's configuration folder of the test, so that no real setting is read or written.
+    QTemporaryDir m_configuracion;
 
     QString lugar() const
     {
@@ -71,6 +76,7 @@ private slots:
         m_carpeta = std::make_unique<CarpetaDePrueba>();
         GrabarSeams();
         qputenv("LC_ALL", "C.UTF-8");
+        qputenv("XDG_CONFIG_HOME", m_configuracion.path().toLocal8Bit());
         m_base = servidor->NuevaBase();
         ConexionPostgres::RecordarClave(m_base.CadenaDuenno(), m_base.claveDuenno);
         ConexionPostgres::RecordarClave(m_base.CadenaPuesto(), m_base.clavePuesto);
@@ -147,6 +153,47 @@ private slots:
         QVERIFY(!QFile::exists(m_carpeta->tablas() + QStringLiteral("VELDOMOD.mdb")));
     }
 
+    // The office kept as the user's choice holds for every run without --oficina, until the
+    // user goes back to the embedded store.
+    void oficinaGuardadaPorElUsuario()
+    {
+        ElegirMotorDeLosAlmacenes(MotorElegido::Servidor);
+        QCOMPARE(Oficina::CrearEsquema(m_base.CadenaDuenno()), Oficina::Creacion::Creada);
+        mdbmod = m_base.CadenaPuesto();
+        QVERIFY(NuevoContribuyente(Dni(802), QStringLiteral("ASESORIA DEL MUELLE")) > 0);
+        Conexion::CerrarTodas();
+        ElegirMotorDeLosAlmacenes(MotorElegido::Embebido);
+
+        QVERIFY(PreferenciaOficina::Guardar(m_base.CadenaPuesto()));
+        QCOMPARE(PreferenciaOficina::Leer(), m_base.CadenaPuesto());
+        // In the program's settings file of the user's configuration folder, never the password.
+        QFile ajustes(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)
+                      + QStringLiteral("/veldoria.conf"));
+        QVERIFY2(ajustes.fileName().startsWith(m_configuracion.path()), qPrintable(ajustes.fileName()));
+        QVERIFY(ajustes.open(QIODevice::ReadOnly));
+        QVERIFY(!ajustes.readAll().contains(m_base.clavePuesto.toUtf8()));
+
+        const QString fichero = m_carpeta->ruta() + QStringLiteral("/todos.csv");
+        const Resultado r = Llamar({QStringLiteral("--exportar"), fichero, QStringLiteral("--todos")});
+        QVERIFY2(r.estado == std::optional<int>(0), qPrintable(r.errores));
+        QFile csv(fichero);
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        QVERIFY(QString::fromUtf8(csv.readAll()).contains(QStringLiteral("ASESORIA DEL MUELLE")));
+        QVERIFY(!QFile::exists(m_carpeta->tablas() + QStringLiteral("VELDOMOD.mdb")));
+        csv.close();
+        Conexion::CerrarTodas();
+
+        // Back to the embedded store: the folder's own store, which knows nothing of it.
+        QVERIFY(PreferenciaOficina::Guardar(QString()));
+        QVERIFY(PreferenciaOficina::Leer().isEmpty());
+        ElegirMotorDeLosAlmacenes(MotorElegido::Embebido);
+        const Resultado local = Llamar({QStringLiteral("--exportar"), fichero, QStringLiteral("--todos")});
+        QVERIFY2(local.estado == std::optional<int>(0), qPrintable(local.errores));
+        QVERIFY(QFile::exists(m_carpeta->tablas() + QStringLiteral("VELDOMOD.mdb")));
+        QVERIFY(csv.open(QIODevice::ReadOnly));
+        QVERIFY(!QString::fromUtf8(csv.readAll()).contains(QStringLiteral("ASESORIA DEL MUELLE")));
+    }
+
     // A database the administrator has not made yet: the seat is told who makes it and how.
     void oficinaSinCrear()
     {
@@ -156,7 +203,7 @@ private slots:
         QCOMPARE(r.estado, std::optional<int>(kSinAlmacen));
         QVERIFY2(r.errores.contains(QStringLiteral("La base de datos de la oficina %1 aún no está "
                                                    "creada. El administrador de la oficina la crea "
-                                                   "con: Veldo --crear-oficina %1").arg(lugar())),
+                                                   "con: Veldo --crear-oficina SERVICIO").arg(lugar())),
                  qPrintable(r.errores));
         QVERIFY(!QFile::exists(fichero));
     }
