@@ -1,6 +1,7 @@
 #include "aplicacion/Arranque.h"
 
 #include "aplicacion/AvisoAlmacen.h"
+#include "aplicacion/PreferenciaOficina.h"
 #include "paneles/dialogos/Mensaje.h"
 
 #include "paneles/actualizacion/ActualizacionOnline.h"
@@ -15,6 +16,7 @@
 #include "valores/cFecha.h"
 #include "servicios/Almacen.h"
 #include "servicios/MotorAlmacenes.h"
+#include "servicios/Oficina.h"
 #include "servicios/RevisionAlmacen.h"
 #include "servicios/cSaveAsRestore.h"
 #include "servicios/cTraspaso.h"
@@ -71,14 +73,25 @@ QString PrepararAlmacenes()
         return aviso;
     if (!RevisionAlmacen::ReferenciaLegible(mdblec))
         return TextoReferencia(mdblec);
+    if (EnOficina())
+        return Oficina::Comprobar(mdbmod).mensaje;
     const auto traspaso = Almacen<cTraspaso>();
     if (traspaso.Traspaso())
         return TextoImpedimento(traspaso.Comprobar(), traspaso.Ruta());
     return {};
 }
 
+bool EnOficina()
+{
+    return MotorDeLosAlmacenesElegido() == MotorElegido::Servidor;
+}
+
 void AbrirSesionAlmacen()
 {
+    // The marks of an unclean end are files beside the store's file; a server has no such
+    // file, and keeps its own data whole.
+    if (EnOficina())
+        return;
     if (sesion() && rutaDeSesion() == mdbmod)
         return;
     static const bool registrada = [] {
@@ -104,11 +117,28 @@ void ConfigurarRutas(const QString& carpetaPrograma, const QString& carpetaDatos
     mdbPath = carpetaDatos == carpetaPrograma ? tablasPrograma
                                                : carpetaDatos + QStringLiteral("/Tablas/");
     mdbmod = mdbPath + QStringLiteral("VELDOMOD.mdb");
+    // An office's store is its server, named on the command line or kept as this user's choice;
+    // the backups and exchange files stay in the data folder.
+    PreferenciaOficina::Aplicar();
+    if (const QString oficina = OficinaElegida(); !oficina.isEmpty())
+        mdbmod = oficina;
     mdblec = tablasPrograma + QStringLiteral("VELDOLEC.mdb");
 }
 
 bool Traspaso()
 {
+    // On an office's server the seat checks the layout and changes nothing: the office's
+    // administrator makes and updates it (--crear-oficina).
+    if (EnOficina()) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const Veredicto aviso = Oficina::Comprobar(mdbmod);
+        QApplication::restoreOverrideCursor();
+        if (!aviso.vacio()) {
+            terminarSinAlmacen(aviso.mensaje);
+            return false;
+        }
+        return true;
+    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     auto traspaso = Almacen<cTraspaso>();
     bool parar = false;

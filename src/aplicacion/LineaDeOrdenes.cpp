@@ -4,6 +4,7 @@
 #include "aplicacion/OrdenesImprimir.h"
 #include "aplicacion/OrdenesIntercambio.h"
 #include "aplicacion/OrdenesListar.h"
+#include "aplicacion/OrdenesOficina.h"
 #include "catalogo/IdsCatalogo.h"
 #include "registros/actualizacion/LectorRegistroVersion.h"
 #include "plataforma/General.h"
@@ -153,6 +154,21 @@ const std::vector<Opcion>& Opciones()
         {{QStringLiteral("todos")},
          {"Con --exportar, todos los contribuyentes.", "--exportar-ekin, zergadun guztiak."},
          {}},
+        {{QStringLiteral("crear-oficina")},
+         {"Crea las tablas del programa en la base de datos vacía de la oficina SERVICIO (un "
+          "servicio de pg_service.conf o una cadena de conexión de PostgreSQL); si ya están, no "
+          "cambia nada y lo dice.",
+          "Programaren taulak sortzen ditu ZERBITZUA bulegoko datu-base hutsean (pg_service.conf "
+          "fitxategiko zerbitzu bat edo PostgreSQL konexio-kate bat); jada badaude, ez du ezer "
+          "aldatzen eta hala dio."},
+         {"SERVICIO", "ZERBITZUA"},
+         OrdenesOficina::CrearOficina},
+        {{QStringLiteral("oficina")},
+         {"Trabaja en esta ejecución con la base de datos de la oficina SERVICIO, con o sin "
+          "otra opción.",
+          "Exekuzio honetan bulegoko ZERBITZUA datu-basearekin lan egiten du, beste aukera "
+          "batekin edo gabe."},
+         {"SERVICIO", "ZERBITZUA"}},
     };
     return opciones;
 }
@@ -305,6 +321,8 @@ public:
 
     // A line without work for the command line: the program starts as usual.
     bool arrancaSinMas() const { return m_valida && !m_opcion; }
+    // The choices of the line that hold for the window's run too (--oficina).
+    void elegir() const { OrdenesOficina::ElegirDeLaLinea(m_linea); }
     bool pinta() const { return m_opcion && m_opcion->pinta; }
 
     // Does the work (or refuses the line) with `argumentos`, the line as the application
@@ -312,8 +330,10 @@ public:
     int atender(const QStringList& argumentos, QTextStream& salida, QTextStream& errores) const
     {
         EstablecerIdiomaPrograma(IdiomaDelEntorno());
-        if (m_valida)
+        if (m_valida) {
+            OrdenesOficina::ElegirDeLaLinea(m_linea);
             return m_opcion->trabajo(Llamada{m_programa, argumentos, m_linea, salida, errores});
+        }
         errores << Rechazo(m_linea) << '\n' << Pista(m_programa) << Qt::endl;
         return 2;
     }
@@ -430,8 +450,10 @@ std::optional<int> Atender(const QStringList& argumentos, QTextStream& salida,
                            QTextStream& errores)
 {
     const Lectura lectura(argumentos);
-    if (lectura.arrancaSinMas())
+    if (lectura.arrancaSinMas()) {
+        lectura.elegir();
         return std::nullopt;
+    }
     return lectura.atender(argumentos, salida, errores);
 }
 
@@ -441,8 +463,10 @@ std::optional<int> Atender(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         argumentos.append(QString::fromLocal8Bit(argv[i]));
     const Lectura lectura(argumentos);
-    if (lectura.arrancaSinMas())
+    if (lectura.arrancaSinMas()) {
+        lectura.elegir();
         return std::nullopt;
+    }
     const std::unique_ptr<QCoreApplication> aplicacion = Aplicacion(lectura.pinta(), argc, argv);
     QTextStream salida(stdout);
     QTextStream errores(stderr);

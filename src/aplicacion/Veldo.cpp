@@ -49,6 +49,8 @@ bool sinPantalla(int argc, char** argv)
 std::optional<int> almacenesSinPantalla(int argc, char** argv)
 {
     QCoreApplication nucleo(argc, argv);
+    // The program's name, as the window's run has it: the user's settings are found under it.
+    QCoreApplication::setApplicationName(QStringLiteral("Veldoria"));
     ConfigurarRutas(CarpetaPrograma(), CarpetaDatos());
     QString aviso;
     try {

@@ -1,6 +1,6 @@
 #pragma once
-// Every text the program shows comes from this numbered catalogue, in Spanish (rows 1 to 378)
-// and in Basque (rows 10001 to 10378). Texts are fetched when they are shown.
+// Every text the program shows comes from this numbered catalogue, in Spanish (rows 1 to 395)
+// and in Basque (rows 10001 to 10395). Texts are fetched when they are shown.
 #include "plataforma/Idioma.h"
 
 #include <QString>

@@ -7,6 +7,6 @@ struct FilaCatalogo {
     const char* castellano;
     const char* euskera;
 };
-inline constexpr int kUltimoId = 378;
+inline constexpr int kUltimoId = 395;
 extern const FilaCatalogo kFilas[kUltimoId];  // kFilas[n - 1] is base id n
 }

@@ -3,13 +3,21 @@
 // the interface they answer; this is the one place that chooses it.
 #include "servicios/motor/Motor.h"
 
+#include <QString>
+
 // The embedded engine (one file per store, the default) or an office's server.
 enum class MotorElegido { Embebido, Servidor };
 
 // The engine of the read/write store from now on (the start-up sets it from the settings or the
 // command line; the embedded one until then). The place of the store (mdbmod) is then a file or
 // the server's service name or connection string.
+// The choice belongs to the program's state: Estado().Reiniciar() brings back the embedded one.
 void ElegirMotorDeLosAlmacenes(MotorElegido motor);
+// The office's server at `oficina` (a service name of pg_service.conf or a connection string)
+// for the rest of the run: the start-up takes it as the place of the read/write store.
+void ElegirOficina(const QString& oficina);
+// The office chosen by name (ElegirOficina); empty on the embedded store.
+QString OficinaElegida();
 MotorElegido MotorDeLosAlmacenesElegido();
 
 const Motor& MotorDeLosAlmacenes();

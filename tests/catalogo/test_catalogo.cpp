@@ -26,7 +26,7 @@ private slots:
             const int tab = linea.indexOf(QLatin1Char('\t'));
             m_filas.append({linea.left(tab).toInt(), linea.mid(tab + 1)});
         }
-        QCOMPARE(m_filas.size(), 756);
+        QCOMPARE(m_filas.size(), 790);
     }
 
     void cadaFilaTalCual()

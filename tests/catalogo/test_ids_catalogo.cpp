@@ -54,7 +54,7 @@ static_assert(NombresCorrectos());
 static_assert(kIdErrorClaseFecha == 1);
 static_assert(kIdBotonCancelar == 4);
 static_assert(kIdMarcadorD1 == 226);
-static_assert(kIdBibliotecaSqliteDistinta == Catalogo::kUltimoId);
+static_assert(kIdOficinaAnterior == Catalogo::kUltimoId);
 
 // A table of three rows as the generator reads them, the second row's first line given.
 QByteArray TablaDePrueba(const QByteArray& segundaFila)

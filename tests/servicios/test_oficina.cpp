@@ -9,6 +9,9 @@
 #include "comun/PartesPrueba.h"
 #include "comun/ServidorPostgres.h"
 
+#include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
+
 #include "plataforma/Fallo.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
@@ -107,6 +110,30 @@ private slots:
         QCOMPARE(Oficina::CrearEsquema(m_base.CadenaPuesto()), Oficina::Creacion::YaCreada);
     }
 
+    // What the administrator is told names the server and says whether anything changed, in
+    // the program's language; the faults of the server too.
+    void avisosEnElIdiomaDelPrograma()
+    {
+        const QString lugar = QStringLiteral("127.0.0.1:%1/%2").arg(m_base.puerto).arg(m_base.nombre);
+        const Veredicto creada = Oficina::Aviso(Oficina::CrearEsquema(m_base.CadenaDuenno()), m_base.CadenaDuenno());
+        QCOMPARE(creada.id, kIdOficinaCreada);
+        QCOMPARE(creada.mensaje, QStringLiteral("La base de datos de la oficina %1 se ha creado.").arg(lugar));
+        EstablecerIdiomaPrograma(Idioma::Euskera);
+        const Veredicto otra = Oficina::Aviso(Oficina::CrearEsquema(m_base.CadenaDuenno()), m_base.CadenaDuenno());
+        QCOMPARE(otra.id, kIdOficinaYaCreada);
+        QCOMPARE(otra.mensaje, QStringLiteral("Bulegoko %1 datu-basea sortuta zegoen jada: ez da ezer aldatu.").arg(lugar));
+        try {
+            Conexion::Modificable(QStringLiteral("host=127.0.0.1 port=1 dbname=veldo user=nadie "
+                                                 "connect_timeout=2"), kOrigen);
+            QFAIL("abierto");
+        } catch (const cFallo& f) {
+            QCOMPARE(f.numero(), kIdServidorNoResponde);
+            QVERIFY2(f.descripcion().startsWith(QStringLiteral("Ezin da bulegoko 127.0.0.1:1/veldo zerbitzariarekin")),
+                     qPrintable(f.descripcion()));
+        }
+        EstablecerIdiomaPrograma(Idioma::Castellano);
+    }
+
     void baseAjenaNoSeToca()
     {
         const QString duenno = m_base.CadenaDuenno();
@@ -152,7 +179,7 @@ private slots:
             Conexion::Modificable(lejos, kOrigen);
             QFAIL("abierto");
         } catch (const cFallo& f) {
-            QCOMPARE(f.numero(), 3151);
+            QCOMPARE(f.numero(), kIdServidorNoResponde);
             QVERIFY2(f.descripcion().contains(QLatin1String("127.0.0.1:1/veldo")), qPrintable(f.descripcion()));
             QVERIFY2(f.descripcion().contains(QLatin1String("no responde")), qPrintable(f.descripcion()));
             QVERIFY2(!f.descripcion().contains(QLatin1String("Connection refused")),
@@ -164,7 +191,7 @@ private slots:
             Conexion::Modificable(m_base.CadenaPuesto(), kOrigen);
             QFAIL("abierto");
         } catch (const cFallo& f) {
-            QCOMPARE(f.numero(), 3152);
+            QCOMPARE(f.numero(), kIdServidorRechazaUsuario);
             QVERIFY2(f.descripcion().contains(QStringLiteral("contraseña")), qPrintable(f.descripcion()));
         }
     }
@@ -186,7 +213,7 @@ private slots:
                 ContribuyenteNacional(Dni(702), QStringLiteral("DURANTE EL CORTE")));
             QFAIL("guardado sin servidor");
         } catch (const cFallo& f) {
-            QCOMPARE(f.numero(), 3151);
+            QCOMPARE(f.numero(), kIdServidorNoResponde);
             QVERIFY2(f.descripcion().contains(QStringLiteral("127.0.0.1:%1/%2").arg(m_base.puerto).arg(m_base.nombre)),
                      qPrintable(f.descripcion()));
         }

@@ -1,8 +1,8 @@
 #pragma once
 // The fault of a statement or a connection on an office's server, as a user can be shown it:
 // the server named, what failed and what to do, never the driver's own text, which goes to the
-// log. The number is the server's SQLSTATE where it is one (23505 a duplicate key), 3151 where
-// the server could not be reached or went away.
+// log. The number is the catalogue id of the message (kIdServidorNoResponde where the server
+// could not be reached or went away, kIdServidorRechazaUsuario for a refused login, ...).
 #include "plataforma/Fallo.h"
 
 #include <QSqlDatabase>

@@ -1,5 +1,7 @@
 #include "servicios/postgres/MotorPostgres.h"
 
+#include "catalogo/Catalogo.h"
+#include "catalogo/IdsCatalogo.h"
 #include "servicios/motor/Plegado.h"
 #include "servicios/postgres/ConexionPostgres.h"
 #include "servicios/postgres/FalloPostgres.h"
@@ -86,8 +88,7 @@ QString MotorPostgres::AvisoArranque() const
 {
     if (QSqlDatabase::isDriverAvailable(Controlador()))
         return QString();
-    return QStringLiteral("El programa no puede usar el servidor de la oficina: falta el "
-                          "controlador de PostgreSQL de Qt (QPSQL). Vuelva a instalar el programa.");
+    return Texto(kIdServidorSinControlador);
 }
 
 QString MotorPostgres::Clave(const QString& ubicacion) const
@@ -281,19 +282,15 @@ QString MotorPostgres::CondicionPrefijo(const QString& columna, const QString& p
 void MotorPostgres::CopiarEnArchivo(const QSqlDatabase& db, const QString&,
                                     const QString& origen) const
 {
-    throw cFallo(3153, origen,
-                 QStringLiteral("La copia de seguridad del servidor de la oficina %1 aún no se "
-                                "puede hacer desde el programa.")
-                     .arg(ConexionPostgres::NombreServidor(db.connectOptions())));
+    throw cFallo(kIdServidorCopiaNoDisponible, origen,
+                 Texto(kIdServidorCopiaNoDisponible).arg(ConexionPostgres::NombreServidor(db.connectOptions())));
 }
 
 void MotorPostgres::SustituirContenido(const QSqlDatabase& db, const QString&,
                                        const std::function<void()>&, const QString& origen) const
 {
-    throw cFallo(3153, origen,
-                 QStringLiteral("La restauración en el servidor de la oficina %1 aún no se "
-                                "puede hacer desde el programa.")
-                     .arg(ConexionPostgres::NombreServidor(db.connectOptions())));
+    throw cFallo(kIdServidorRestauracionNoDisponible, origen,
+                 Texto(kIdServidorRestauracionNoDisponible).arg(ConexionPostgres::NombreServidor(db.connectOptions())));
 }
 
 bool MotorPostgres::Sana(const QString&, bool) const
