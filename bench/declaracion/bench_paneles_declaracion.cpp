@@ -218,11 +218,10 @@ int main(int argc, char** argv)
     }
 
     bien &= informe("FrmConDeclaraciones: 1 000 declaraciones", repetir(5, [] {
-        ConLista().CSCO = 1;
         QElapsedTimer r;
         r.start();
         FrmConDeclaraciones* panel = Navegacion::AbrirConDeclaraciones(
-            Navegacion::EntradaLista::Abrir, QStringLiteral("CONTRIBUYENTE 1"),
+            Navegacion::EntradaLista::Abrir, 1, QStringLiteral("CONTRIBUYENTE 1"),
             QStringLiteral("C00000001"));
         dibujar(panel);
         const double t = ms(r);

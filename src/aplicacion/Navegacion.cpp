@@ -89,7 +89,7 @@ FrmConLista* AbrirConLista(EntradaLista entrada)
             RutaCon() = {{modo, OrigenParte::Lista}};
         },
         &AbrirConDatos, [](const QString& nombre, const QString& dni) {
-            AbrirConDeclaraciones(EntradaLista::Abrir, nombre, dni);
+            AbrirConDeclaraciones(EntradaLista::Abrir, ConLista().CSCO, nombre, dni);
         });
     return lista;
 }
@@ -109,7 +109,7 @@ FrmPreLista* AbrirPreLista(EntradaLista entrada)
             RutaPre() = {{modo, OrigenParte::Lista}};
         },
         &AbrirPreDatos, [](const QString& nombre, const QString& dni) {
-            AbrirPreDeclaraciones(EntradaLista::Abrir, nombre, dni);
+            AbrirPreDeclaraciones(EntradaLista::Abrir, PreLista().CSPR, nombre, dni);
         });
     return lista;
 }
@@ -312,15 +312,16 @@ FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde)
     return AbrirDeclaracion();
 }
 
-// The returns of a party: the panel, its state and its doorways. `origen` is the form's origin
-// from it, `impresion` the print's way back, `volver` the party's list on closing. The state is
-// asked for each time (`estado`), never held across a signal.
+// The returns of a party: the panel, its state and its doorways. `codigo` is the party whose
+// returns a fresh list shows, `origen` the form's origin from it, `impresion` the print's way
+// back, `volver` the party's list on closing. The state is asked for each time (`estado`),
+// never held across a signal.
 template <typename Panel, typename Estado>
-Panel* abrirDeclaracionesDeParte(Estado& (*estado)(), Origen origen, OrigenImpresion impresion,
-                                 void (*volver)())
+Panel* abrirDeclaracionesDeParte(int32_t codigo, Estado& (*estado)(), Origen origen,
+                                 OrigenImpresion impresion, void (*volver)())
 {
     alAbrir();
-    auto* panel = new Panel;
+    auto* panel = new Panel(codigo);
     AbrirPanel(panel);
     // On a side trip the form or the print brings the panel back, not the party's list.
     QObject::connect(panel, &PanelDeclaraciones::cerrado, panel, [estado, volver] {
@@ -353,8 +354,8 @@ Panel* abrirDeclaracionesDeParte(Estado& (*estado)(), Origen origen, OrigenImpre
     return panel;
 }
 
-FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, const QString& nombre,
-                                           const QString& dni)
+FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, int32_t csco,
+                                           const QString& nombre, const QString& dni)
 {
     cConDeclaraciones& e = ConDeclaraciones();
     e.ENTRADA = entrada;
@@ -363,12 +364,12 @@ FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, const QString& 
         e.lbldni = dni;
     }
     return abrirDeclaracionesDeParte<FrmConDeclaraciones>(
-        &ConDeclaraciones, Origen::DeclaracionesContribuyente,
+        csco, &ConDeclaraciones, Origen::DeclaracionesContribuyente,
         OrigenImpresion::DeclaracionesContribuyente, [] { AbrirConLista(EntradaLista::Vuelta); });
 }
 
-FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, const QString& nombre,
-                                           const QString& dni)
+FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, int32_t cspr,
+                                           const QString& nombre, const QString& dni)
 {
     cPreDeclaraciones& e = PreDeclaraciones();
     e.ENTRADA = entrada;
@@ -377,7 +378,7 @@ FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, const QString& 
         e.lbldni = dni;
     }
     return abrirDeclaracionesDeParte<FrmPreDeclaraciones>(
-        &PreDeclaraciones, Origen::DeclaracionesPresentador,
+        cspr, &PreDeclaraciones, Origen::DeclaracionesPresentador,
         OrigenImpresion::DeclaracionesPresentador, [] { AbrirPreLista(EntradaLista::Vuelta); });
 }
 

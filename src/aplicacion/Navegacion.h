@@ -84,11 +84,13 @@ FrmDeclaracion* NuevaDeclaracion();
 FrmDeclaracion* AbrirDeclaracionReciente(int32_t csde);
 
 // The returns of a party, as a party list's CmdDeclaraciones asks (Abrir, with the party's
-// name and number) or as the form or the print hands back (Vuelta). On closing without a side
-// trip they go back to the party's list.
-FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, const QString& nombre = QString(),
+// code, name and number) or as the form or the print hands back (Vuelta). On closing without a
+// side trip they go back to the party's list.
+FrmConDeclaraciones* AbrirConDeclaraciones(EntradaLista entrada, int32_t csco = 0,
+                                           const QString& nombre = QString(),
                                            const QString& dni = QString());
-FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, const QString& nombre = QString(),
+FrmPreDeclaraciones* AbrirPreDeclaraciones(EntradaLista entrada, int32_t cspr = 0,
+                                           const QString& nombre = QString(),
                                            const QString& dni = QString());
 
 // The print panel for the stored return `csde`, already loaded in DecDatos() and Operacion()

@@ -84,8 +84,9 @@ QString TextoCriterioDeParte(int campo, const QString& valor)
 
 // ----- A contributor's returns -----
 
-FrmConDeclaraciones::FrmConDeclaraciones(QWidget* parent)
-    : PanelDeclaraciones(QStringLiteral("FrmConDeclaraciones"), Columnas(true), parent)
+FrmConDeclaraciones::FrmConDeclaraciones(int32_t csco, QWidget* parent)
+    : PanelDeclaraciones(QStringLiteral("FrmConDeclaraciones"), Columnas(true), parent),
+      m_csco(csco)
 {
     cmdEliminar->show();
     PicBorrar->show();
@@ -117,7 +118,7 @@ cListaDeclaraciones& FrmConDeclaraciones::estado() const
 
 void FrmConDeclaraciones::IniciarEstado()
 {
-    ConDeclaraciones().IniciarLista();
+    ConDeclaraciones().IniciarLista(m_csco);
 }
 
 QList<FilaDeclaracion> FrmConDeclaraciones::CargarDatos()
@@ -160,8 +161,9 @@ void FrmConDeclaraciones::Eliminar()
 
 // ----- A presenter's returns -----
 
-FrmPreDeclaraciones::FrmPreDeclaraciones(QWidget* parent)
-    : PanelDeclaraciones(QStringLiteral("FrmPreDeclaraciones"), Columnas(false), parent)
+FrmPreDeclaraciones::FrmPreDeclaraciones(int32_t cspr, QWidget* parent)
+    : PanelDeclaraciones(QStringLiteral("FrmPreDeclaraciones"), Columnas(false), parent),
+      m_cspr(cspr)
 {
     cmdEliminar->show();
     PicBorrar->show();
@@ -191,7 +193,7 @@ cListaDeclaraciones& FrmPreDeclaraciones::estado() const
 
 void FrmPreDeclaraciones::IniciarEstado()
 {
-    PreDeclaraciones().IniciarLista();
+    PreDeclaraciones().IniciarLista(m_cspr);
 }
 
 QList<FilaDeclaracion> FrmPreDeclaraciones::CargarDatos()

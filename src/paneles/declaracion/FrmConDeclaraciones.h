@@ -12,7 +12,8 @@ class QLabel;
 class FrmConDeclaraciones final : public PanelDeclaraciones {
     Q_OBJECT
 public:
-    explicit FrmConDeclaraciones(QWidget* parent = nullptr);
+    // `csco`: the contributor whose returns a fresh list shows (a list coming back keeps its own).
+    explicit FrmConDeclaraciones(int32_t csco = 0, QWidget* parent = nullptr);
     void Anadir_captions() override;
 
 protected:
@@ -31,12 +32,14 @@ private:
     QLabel* lblnumsp = nullptr;
     QLabel* lblnumtr = nullptr;
     QList<QPair<QLabel*, int>> m_rotulos;
+    int32_t m_csco = 0;
 };
 
 class FrmPreDeclaraciones final : public PanelDeclaraciones {
     Q_OBJECT
 public:
-    explicit FrmPreDeclaraciones(QWidget* parent = nullptr);
+    // `cspr`: the presenter whose returns a fresh list shows (a list coming back keeps its own).
+    explicit FrmPreDeclaraciones(int32_t cspr = 0, QWidget* parent = nullptr);
     void Anadir_captions() override;
 
 protected:
@@ -54,6 +57,7 @@ private:
     QLabel* lblddni = nullptr;
     QLabel* lblnumdecla = nullptr;
     QList<QPair<QLabel*, int>> m_rotulos;
+    int32_t m_cspr = 0;
 };
 
 // The words of a condition on a party's lists (their wording differs from the list of all

@@ -1,8 +1,6 @@
 #include "registros/partes/cConDeclaraciones.h"
 
 #include "plataforma/Estado.h"
-#include "registros/partes/cConLista.h"
-#include "registros/partes/cPreLista.h"
 #include "plataforma/General.h"
 #include "plataforma/Idioma.h"
 #include "servicios/Almacen.h"
@@ -10,22 +8,22 @@
 #include "servicios/cDeclaSvr.h"
 #include "servicios/cPresenSvr.h"
 
-void cConDeclaraciones::IniciarLista()
+void cConDeclaraciones::IniciarLista(int32_t csco)
 {
     BUSQUEDA = QStringLiteral("N");
     if (ENTRADA.entrada() != Navegacion::EntradaLista::Abrir)
         return;
     Reiniciar();
-    CSCO = ConLista().CSCO;
+    CSCO = csco;
 }
 
-void cPreDeclaraciones::IniciarLista()
+void cPreDeclaraciones::IniciarLista(int32_t cspr)
 {
     BUSQUEDA = QStringLiteral("N");
     if (ENTRADA.entrada() != Navegacion::EntradaLista::Abrir)
         return;
     Reiniciar();
-    CSPR = PreLista().CSPR;
+    CSPR = cspr;
 }
 
 cConDeclaraciones::Contadores cConDeclaraciones::ObtenerContadores() const

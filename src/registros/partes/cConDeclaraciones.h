@@ -21,9 +21,9 @@ public:
     QString MODELO;              // kept for the interface; nothing reads or writes it
     int32_t CSCO = 0;            // the contributor
 
-    // The start by ENTRADA: Abrir a fresh list of the contributor selected in ConLista(); any
-    // other way in keeps order, conditions and selection, in the result state.
-    void IniciarLista();
+    // The start by ENTRADA: Abrir a fresh list of the contributor `csco`; any other way in
+    // keeps the contributor, order, conditions and selection, in the result state.
+    void IniciarLista(int32_t csco);
 
     // The contributor's returns as subject and as transmitter, asked of the store each time.
     struct Contadores {
@@ -42,8 +42,8 @@ public:
     QString MODELO;
     int32_t CSPR = 0;            // the presenter
 
-    // The same with the presenter selected in PreLista().
-    void IniciarLista();
+    // The same with the presenter `cspr`.
+    void IniciarLista(int32_t cspr);
 
     // The presenter's returns, asked of the store each time.
     int32_t ObtenerContador() const;

@@ -7,6 +7,7 @@
 #include "plataforma/General.h"
 #include "catalogo/Catalogo.h"
 #include "registros/partes/cConDatos.h"
+#include "registros/partes/cConDeclaraciones.h"
 #include "registros/partes/cConLista.h"
 #include "registros/partes/cPreDatos.h"
 #include "registros/partes/cPreLista.h"
@@ -353,6 +354,32 @@ private slots:
     }
 
     // --- cConLista, cPreLista ------------------------------------------------------------
+    // --- cConDeclaraciones, cPreDeclaraciones --------------------------------------------
+    void declaracionesDeLaParteDada()
+    {
+        // A fresh list shows the party it is given; one coming back keeps its own party,
+        // order and selection.
+        cConDeclaraciones c;
+        c.CSCO = 3;
+        c.ORDEN = 2;
+        c.ENTRADA = Navegacion::EntradaLista::Abrir;
+        c.IniciarLista(9);
+        QCOMPARE(c.CSCO, 9);
+        QCOMPARE(c.ORDEN, uint8_t(1));
+        c.ORDEN = 2;
+        c.ENTRADA = Navegacion::EntradaLista::Vuelta;
+        c.IniciarLista(4);
+        QCOMPARE(c.CSCO, 9);
+        QCOMPARE(c.ORDEN, uint8_t(2));
+        cPreDeclaraciones p;
+        p.ENTRADA = Navegacion::EntradaLista::Abrir;
+        p.IniciarLista(7);
+        QCOMPARE(p.CSPR, 7);
+        p.ENTRADA = Navegacion::EntradaLista::Vuelta;
+        p.IniciarLista(5);
+        QCOMPARE(p.CSPR, 7);
+    }
+
     void iniciarListaPorEntrada()
     {
         cConLista l;
