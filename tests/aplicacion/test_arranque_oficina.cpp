@@ -14,7 +14,6 @@
 #include "plataforma/Proceso.h"
 #include "servicios/Conexion.h"
 #include "servicios/MotorAlmacenes.h"
-#include "servicios/postgres/ConexionPostgres.h"
 
 #include <QApplication>
 #include <QFile>
@@ -72,7 +71,7 @@ private slots:
         GrabarSeams();
         EstablecerIdiomaPrograma(Idioma::Castellano);
         m_base = servidor->NuevaBase();
-        ConexionPostgres::RecordarClave(m_base.CadenaPuesto(), m_base.clavePuesto);
+        m_base.RecordarClaves();
     }
 
     void cleanup()
@@ -93,7 +92,10 @@ private slots:
 
     void claveEquivocada()
     {
-        ConexionPostgres::RecordarClave(m_base.CadenaPuesto(), QStringLiteral("otra"));
+        // The seat's role with a password that is not its own.
+        ServidorPostgres::Base otra = m_base;
+        otra.clavePuesto = QStringLiteral("otra");
+        otra.RecordarClaves();
         ElegirOficina(m_base.CadenaPuesto());
         terminadoCon(QStringLiteral("El servidor de la oficina %1 no acepta el usuario o la "
                                     "contraseña.").arg(lugar()));

@@ -16,7 +16,6 @@
 #include "servicios/Conexion.h"
 #include "servicios/MotorAlmacenes.h"
 #include "servicios/Oficina.h"
-#include "servicios/postgres/ConexionPostgres.h"
 
 #include <QFile>
 #include <QStandardPaths>
@@ -78,8 +77,7 @@ private slots:
         qputenv("LC_ALL", "C.UTF-8");
         qputenv("XDG_CONFIG_HOME", m_configuracion.path().toLocal8Bit());
         m_base = servidor->NuevaBase();
-        ConexionPostgres::RecordarClave(m_base.CadenaDuenno(), m_base.claveDuenno);
-        ConexionPostgres::RecordarClave(m_base.CadenaPuesto(), m_base.clavePuesto);
+        m_base.RecordarClaves();
     }
 
     void cleanup()
@@ -235,7 +233,10 @@ private slots:
         QCOMPARE(Oficina::CrearEsquema(m_base.CadenaDuenno()), Oficina::Creacion::Creada);
         Conexion::CerrarTodas();
         Conexion::Cerrar(m_base.CadenaPuesto());
-        ConexionPostgres::RecordarClave(m_base.CadenaPuesto(), QStringLiteral("otra"));
+        // The seat's role with a password that is not its own.
+        ServidorPostgres::Base otra = m_base;
+        otra.clavePuesto = QStringLiteral("otra");
+        otra.RecordarClaves();
         const Resultado r = Llamar({QStringLiteral("--oficina"), m_base.CadenaPuesto(),
                                     QStringLiteral("--exportar"),
                                     m_carpeta->ruta() + QStringLiteral("/todos.csv"),

@@ -338,3 +338,20 @@ QString ServidorPostgres::Base::CadenaPuesto() const
 {
     return QStringLiteral("host=127.0.0.1 port=%1 dbname=%2 user=%3").arg(puerto).arg(nombre, puesto);
 }
+
+void ServidorPostgres::Base::RecordarClaves() const
+{
+    // The client library's own password file (PGPASSFILE), as a seat's ~/.pgpass: the program
+    // passes no password, and the library finds it there.
+    const QString ruta = QDir::tempPath()
+        + QStringLiteral("/veldo_pgpass_%1").arg(QCoreApplication::applicationPid());
+    QFile fichero(ruta);
+    if (!fichero.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return;
+    fichero.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    for (const auto& [usuario, clave] : {std::pair{duenno, claveDuenno}, std::pair{puesto, clavePuesto}})
+        fichero.write(QStringLiteral("127.0.0.1:%1:%2:%3:%4\n")
+                          .arg(puerto).arg(nombre, usuario, clave).toUtf8());
+    fichero.close();
+    qputenv("PGPASSFILE", QFile::encodeName(ruta));
+}

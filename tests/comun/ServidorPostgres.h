@@ -41,6 +41,9 @@ public:
         // password, of the owner or of the seats.
         QString CadenaDuenno() const;
         QString CadenaPuesto() const;
+        // The passwords of both roles in the client library's password file of this test
+        // (PGPASSFILE), as a seat keeps them in ~/.pgpass.
+        void RecordarClaves() const;
     };
     Base NuevaBase();
 
