@@ -130,13 +130,20 @@ enum class OrigenImpresion : char {
     DeclaracionesPresentador = 'P',    // FrmPreDeclaraciones
 };
 
+// Whether the contributor's search criteria of a selection survive the trip back to the form
+// (CRITERIO of a contributor's selection).
+enum class Criterio : char {
+    Olvidado = 0,       // the next selection starts without criteria
+    Conservado = 'S',   // the criteria of the last visit are kept for the next
+};
+
 // The route of the declaration form.
 struct RutaDeclaracion {
     Entrada entrada = Entrada::Vuelta;
     Modo modo = Modo::Abrir;
     ListaOrigen lista;
-    // "S" while the contributor's search criteria are to survive the trip back to the form.
-    QString criterio;
+    // Whether the contributor's search criteria survive the trip back to the form.
+    Criterio criterio = Criterio::Olvidado;
 };
 
 // The route of a party's data panel: a contributor's or a presenter's.

@@ -226,7 +226,7 @@ void FrmDeclaracion::CargarDatosFormulario()
     using Navegacion::Modo;
     if (m_ruta.entrada == Entrada::Inicio) {
         d.MODIFICADO = false;
-        m_ruta.criterio.clear();
+        m_ruta.criterio = Navegacion::Criterio::Olvidado;
         if (m_ruta.modo == Modo::Nuevo) {
             // A clean new return: the operations wait for a date.
             CargarNombres();

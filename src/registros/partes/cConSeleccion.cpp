@@ -17,7 +17,7 @@ void cConSeleccion::IniciarSeleccion()
     cListaParte::ENTRADA = Navegacion::EntradaLista::Ninguna;
     MODO = Navegacion::ModoLista::Abrir;
     BUSQUEDA = QStringLiteral("N");
-    if (CRITERIO.isEmpty()) {
+    if (CRITERIO == Navegacion::Criterio::Olvidado) {
         TABLASELECCION.reset();
         SELECCIONACTUAL = QStringLiteral("0");
         ORDEN = 1;
@@ -28,7 +28,7 @@ void cConSeleccion::IniciarSeleccion()
 void cConSeleccion::AnotarBusqueda(const QString& texto)
 {
     cListaParte::AnotarBusqueda(texto);
-    CRITERIO = QStringLiteral("S");
+    CRITERIO = Navegacion::Criterio::Conservado;
 }
 
 void cConSeleccion::CambiarBusqueda()
@@ -36,13 +36,13 @@ void cConSeleccion::CambiarBusqueda()
     const bool aResultado = BUSQUEDA == QLatin1String("B");
     cListaParte::CambiarBusqueda();
     if (aResultado)
-        CRITERIO = QStringLiteral("S");
+        CRITERIO = Navegacion::Criterio::Conservado;
 }
 
 void cConSeleccion::Todos()
 {
     cListaParte::Todos();
-    CRITERIO.clear();
+    CRITERIO = Navegacion::Criterio::Olvidado;
 }
 
 QList<FilaContribuyente> cConSeleccion::CargarContribuyentes()

@@ -3,7 +3,7 @@
 // as subject or transmitter (ConSeleccion()) and a presenter is chosen (PreSeleccion()). They
 // are party lists (criteria, search, order) that only choose. The navigator sets
 // ConSeleccion's ENTRADA (the subject or the transmitter) and CRITERIO before the list opens;
-// the contributor's criteria of one visit survive to the next while CRITERIO is "S", the
+// the contributor's criteria of one visit survive to the next while CRITERIO is Conservado ("S"), the
 // presenter's never do.
 #include "registros/partes/cListaParte.h"
 #include "valores/EstadoNavegacion.h"
@@ -17,14 +17,15 @@ public:
 
     int32_t CSCO = 0;            // the selected contributor
     int32_t NUMCONTRISEL = 0;    // contributors found
-    QString CRITERIO;            // "S" the criteria survive the trip back to the form
+    // Conservado (the letter "S"): the criteria survive the trip back to the form.
+    Navegacion::Criterio CRITERIO = Navegacion::Criterio::Olvidado;
     // Sujeto choosing the subject, Transmitente the transmitter: the way the form is entered
     // again after a choice. Kept apart from the list's own way in (cListaParte::ENTRADA),
     // which the list's moves empty.
     Navegacion::Entrada ENTRADA = Navegacion::Entrada::Transmitente;
 
     // The start: the result state with nothing selected; the criteria and order of the last
-    // visit only while CRITERIO is "S".
+    // visit only while CRITERIO is Conservado.
     void IniciarSeleccion();
 
     // The search box was left, or the search ran: the criteria now survive the trip back.
